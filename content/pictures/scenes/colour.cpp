@@ -1,0 +1,21 @@
+#include "content/pictures/scenes/colour.h"
+
+#include <cmath>
+
+namespace orvane::paint::scene {
+
+Colour OnRamp(Ramp ramp, float t) {
+  const float place = Clamp(t) * static_cast<float>(ramp.size() - 1);
+  const size_t below = std::min(static_cast<size_t>(place), ramp.size() - 1);
+  const size_t above = std::min(below + 1, ramp.size() - 1);
+  return Mix(Hex(ramp[below]), Hex(ramp[above]), place - static_cast<float>(below));
+}
+
+uint32_t ToPixel(Colour colour) {
+  const auto level = [](float value) {
+    return static_cast<uint32_t>(std::lround(Clamp(value) * 255));
+  };
+  return level(colour.r) << 16 | level(colour.g) << 8 | level(colour.b);
+}
+
+}  // namespace orvane::paint::scene

@@ -1,0 +1,61 @@
+// Colours in floating point, and the ramps that light indexes.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+
+namespace orvane::paint::scene {
+
+// Red, green and blue, 0 to 1 each; values outside are cut when the colour becomes a pixel.
+struct Colour {
+  float r = 0;
+  float g = 0;
+  float b = 0;
+};
+
+constexpr Colour operator+(Colour a, Colour b) {
+  return {a.r + b.r, a.g + b.g, a.b + b.b};
+}
+constexpr Colour operator-(Colour a, Colour b) {
+  return {a.r - b.r, a.g - b.g, a.b - b.b};
+}
+constexpr Colour operator*(Colour a, float k) {
+  return {a.r * k, a.g * k, a.b * k};
+}
+
+// A run of colours from dark to light, each 0xRRGGBB; never empty.
+using Ramp = std::span<const uint32_t>;
+
+constexpr float Clamp(float value, float low = 0, float high = 1) {
+  return std::min(std::max(value, low), high);
+}
+
+constexpr float Lerp(float from, float to, float t) {
+  return from + (to - from) * t;
+}
+
+// 0 below `low`, 1 above `high`, smooth between; `low` must differ from `high`.
+constexpr float SmoothStep(float low, float high, float value) {
+  const float t = Clamp((value - low) / (high - low));
+  return t * t * (3 - 2 * t);
+}
+
+// The colour 0xRRGGBB.
+constexpr Colour Hex(uint32_t rgb) {
+  return {static_cast<float>(rgb >> 16 & 0xFF) / 255, static_cast<float>(rgb >> 8 & 0xFF) / 255,
+          static_cast<float>(rgb & 0xFF) / 255};
+}
+
+// From `from` at t = 0 to `to` at t = 1; t is cut to that range.
+constexpr Colour Mix(Colour from, Colour to, float t) {
+  return from + (to - from) * Clamp(t);
+}
+
+// The ramp's colour at t, 0 the darkest and 1 the lightest, blended between neighbours.
+Colour OnRamp(Ramp ramp, float t);
+
+// The nearest 24-bit pixel.
+uint32_t ToPixel(Colour colour);
+
+}  // namespace orvane::paint::scene

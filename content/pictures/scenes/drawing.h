@@ -1,0 +1,100 @@
+// Vector drawing with paths written as text, for faces, letters, icons and silhouettes.
+#pragma once
+
+#include <cairo.h>
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "content/pictures/scenes/canvas.h"
+
+namespace orvane::paint::scene {
+
+// One colour stop of a gradient: its place, 0 to 1, and its colour 0xRRGGBB.
+struct Stop {
+  double at;
+  uint32_t colour;
+};
+
+// What fills a shape: one colour, or stops along the line from (x0, y0) to (x1, y1).
+struct Fill {
+  Fill(uint32_t colour) : stops{{0, colour}} {}  // NOLINT(google-explicit-constructor)
+  Fill(double from_x, double from_y, double to_x, double to_y, std::vector<Stop> colours)
+      : x0(from_x), y0(from_y), x1(to_x), y1(to_y), stops(std::move(colours)) {}
+
+  double x0 = 0;
+  double y0 = 0;
+  double x1 = 0;
+  double y1 = 0;
+  std::vector<Stop> stops;
+};
+
+// The cover of every pixel, 0 to 1.
+struct Cover {
+  Cover(int wide, int high)
+      : width(wide), height(high), values(static_cast<size_t>(wide) * static_cast<size_t>(high)) {}
+  float& At(int x, int y) {
+    return values[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+  }
+  float At(int x, int y) const {
+    return values[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+  }
+
+  int width;
+  int height;
+  std::vector<float> values;
+};
+
+// A transparent sheet to draw on in units that are pixels of the result; inside it is kept `fine`
+// times larger. A path is text of the commands M L H V Q C Z with absolute numbers, as in vector
+// files; anything else in it throws std::invalid_argument.
+class Drawing {
+ public:
+  Drawing(int width, int height, int fine = 8);
+
+  void Shape(std::string_view path, const Fill& fill, double opacity = 1);
+  void Line(std::string_view path, uint32_t colour, double width, double opacity = 1);
+  // A shape with a border of the given width around it, half of it inside.
+  void Outlined(std::string_view path, const Fill& fill, uint32_t border, double width);
+  void Ellipse(double x, double y, double across, double down, const Fill& fill,
+               double opacity = 1);
+
+  // Shapes drawn from now on show only inside the path, until Unclip.
+  void Clip(std::string_view path);
+  void Unclip();
+  // Everything drawn from now on is moved, turned (radians) and scaled about its own origin.
+  void Place(double x, double y, double scale_x, double scale_y, double turn = 0);
+  void Replace();
+
+  // For what the calls above do not offer; the units are the drawing's.
+  cairo_t* Context() { return context_.get(); }
+
+  // Lays the drawing over the canvas with its upper left corner at (left, top).
+  void LayOn(Canvas& canvas, int left = 0, int top = 0) const;
+  // How much of each pixel is drawn on.
+  Cover Coverage() const;
+
+ private:
+  struct Free {
+    void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+    void operator()(cairo_t* context) const { cairo_destroy(context); }
+  };
+  struct Mean {
+    Colour colour;
+    float cover;
+  };
+
+  void Trace(std::string_view path);
+  void Use(const Fill& fill, double opacity);
+  Mean PixelMean(int x, int y) const;
+
+  int width_;
+  int height_;
+  int fine_;
+  std::unique_ptr<cairo_surface_t, Free> surface_;
+  std::unique_ptr<cairo_t, Free> context_;
+};
+
+}  // namespace orvane::paint::scene

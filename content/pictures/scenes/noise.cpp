@@ -1,0 +1,75 @@
+#include "content/pictures/scenes/noise.h"
+
+#include <cmath>
+#include <cstdint>
+
+#include "content/pictures/scenes/colour.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+// Turning each octave by some 37 degrees hides the lattice.
+struct Turned {
+  float x;
+  float y;
+};
+
+Turned NextOctave(float x, float y) {
+  return {x * 1.6F - y * 1.2F + 3.1F, x * 1.2F + y * 1.6F + 1.7F};
+}
+
+}  // namespace
+
+float Hash(int x, int y, int seed) {
+  uint32_t bits = static_cast<uint32_t>(x) * 0x8DA6B343U ^ static_cast<uint32_t>(y) * 0xD8163841U ^
+                  static_cast<uint32_t>(seed) * 0xCB1AB31FU;
+  bits = (bits ^ bits >> 15) * 0x2C1B3C6DU;
+  bits = (bits ^ bits >> 12) * 0x297A2D39U;
+  bits ^= bits >> 15;
+  return static_cast<float>(bits >> 8) / 16777216.0F;
+}
+
+float Noise(float x, float y, int seed) {
+  const float floor_x = std::floor(x);
+  const float floor_y = std::floor(y);
+  const int cell_x = static_cast<int>(floor_x);
+  const int cell_y = static_cast<int>(floor_y);
+  const float in_x = SmoothStep(0, 1, x - floor_x);
+  const float in_y = SmoothStep(0, 1, y - floor_y);
+  const float upper = Lerp(Hash(cell_x, cell_y, seed), Hash(cell_x + 1, cell_y, seed), in_x);
+  const float lower =
+      Lerp(Hash(cell_x, cell_y + 1, seed), Hash(cell_x + 1, cell_y + 1, seed), in_x);
+  return Lerp(upper, lower, in_y);
+}
+
+float Fbm(float x, float y, int octaves, int seed) {
+  float sum = 0;
+  float strength = 0.5F;
+  for (int octave = 0; octave < octaves; ++octave) {
+    sum += strength * Noise(x, y, seed);
+    const Turned next = NextOctave(x, y);
+    x = next.x;
+    y = next.y;
+    strength *= 0.5F;
+  }
+  // The octaves left out would have added their mean.
+  return sum + strength;
+}
+
+float Ridges(float x, float y, int octaves, int seed) {
+  float sum = 0;
+  float strength = 0.5F;
+  float above = 1;
+  for (int octave = 0; octave < octaves; ++octave) {
+    const float crest = 1 - std::fabs(2 * Noise(x, y, seed) - 1);
+    sum += strength * crest * crest * above;
+    above = crest * crest;
+    const Turned next = NextOctave(x, y);
+    x = next.x;
+    y = next.y;
+    strength *= 0.5F;
+  }
+  return sum;
+}
+
+}  // namespace orvane::paint::scene

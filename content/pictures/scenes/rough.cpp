@@ -1,0 +1,49 @@
+#include <array>
+
+#include "content/pictures/scenes/canvas.h"
+#include "content/pictures/scenes/noise.h"
+#include "content/pictures/scenes/scenes.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+Image Rough(int width, int height, int horizon, Ramp sky, Ramp ground) {
+  Canvas canvas(width, height);
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const auto fx = static_cast<float>(x);
+      const auto fy = static_cast<float>(y);
+      const float depth = (fy - static_cast<float>(horizon)) / static_cast<float>(height - horizon);
+      const float grain = Fbm(fx * 0.02F, fy * 0.1F, 5, 3) - 0.5F;
+      canvas.At(x, y) = y < horizon ? OnRamp(sky, fy / static_cast<float>(horizon) + grain * 0.5F)
+                                    : OnRamp(ground, 0.3F + depth * 0.5F + grain);
+    }
+  }
+  return ToSheet(Painted(canvas, 2, 0.75F), 200, 7);
+}
+
+constexpr std::array<uint32_t, 3> day{0x2C74CC, 0x7CB0E0, 0xD4ECF4};
+constexpr std::array<uint32_t, 4> grass{0x1C5C24, 0x308030, 0x58A438, 0x8CC44C};
+constexpr std::array<uint32_t, 4> dust{0x6A5438, 0x947648, 0xB8985C, 0xD4B878};
+constexpr std::array<uint32_t, 3> dusk{0x1C1848, 0x783C7C, 0xF49058};
+constexpr std::array<uint32_t, 4> dark{0x0C0818, 0x1C1028, 0x34182C, 0x5C2C34};
+
+}  // namespace
+
+Image PaintTitle() {
+  return Rough(320, 160, 118, dusk, dark);
+}
+Image PaintGroundOpen() {
+  return Rough(480, 288, 112, day, grass);
+}
+Image PaintGroundWaste() {
+  return Rough(480, 288, 108, day, dust);
+}
+Image PaintGroundLair() {
+  return Rough(480, 288, 110, dark, dark);
+}
+Image PaintEndingStill() {
+  return Rough(454, 300, 205, dusk, dark);
+}
+
+}  // namespace orvane::paint::scene

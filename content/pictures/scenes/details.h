@@ -1,0 +1,47 @@
+// Small things that stand on a landscape: trees, stones, grass.
+#pragma once
+
+#include "content/pictures/scenes/terrain.h"
+
+namespace orvane::paint::scene {
+
+// Where a thing stands, how large it is and what chance it is drawn from.
+struct Standing {
+  float x = 0;
+  float z = 0;
+  float size = 1;  // in units of the scene
+  int seed = 0;
+};
+
+// Draws things on a painted landscape, hidden by what is nearer and veiled by the same air.
+class Dresser {
+ public:
+  Dresser(const Terrain& terrain, const View& view, Painting& painting)
+      : terrain_(terrain), view_(view), painting_(painting) {}
+
+  // A round crown of lit leaf clusters over a shadow; `size` is its radius.
+  void Tree(const Standing& at, Ramp leaves);
+  // A fir of hanging tiers; `size` is a third of its height.
+  void Fir(const Standing& at, Ramp needles);
+  // A stone that throws its shadow away from the light; `size` is its radius.
+  void Stone(const Standing& at, Ramp rock, Colour shadow);
+  // Some blades that lean apart; `size` is their length.
+  void Tuft(const Standing& at, Ramp blades);
+  // A few blossoms on short stems.
+  void Flowers(const Standing& at, Colour petal, Ramp blades);
+
+ private:
+  struct Foot {
+    float column;
+    float row;
+    float scale;
+  };
+  Foot FootOf(const Standing& at) const;
+  void Put(float column, float row, float z, Colour colour, float cover = 1);
+
+  const Terrain& terrain_;
+  const View& view_;
+  Painting& painting_;
+};
+
+}  // namespace orvane::paint::scene

@@ -1,0 +1,137 @@
+// Open grass land: a brook and trees in the middle distance, snow mountains behind.
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "content/pictures/scenes/details.h"
+#include "content/pictures/scenes/noise.h"
+#include "content/pictures/scenes/scenes.h"
+#include "content/pictures/scenes/sky.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+constexpr std::array<uint32_t, 6> grass{0x12402C, 0x1C5C34, 0x34803A, 0x5CA444, 0x90C454, 0xC8E078};
+constexpr std::array<uint32_t, 5> earth{0x5C4430, 0x8C6C44, 0xB4945C, 0xD8BC80, 0xF0DCA8};
+constexpr std::array<uint32_t, 6> rock{0x303450, 0x4C5470, 0x748090, 0xA4ACB0, 0xD8DCD4, 0xFFFFF4};
+constexpr std::array<uint32_t, 4> snow{0x7C8CC0, 0xACC0E0, 0xECF4FC, 0xFFFFFF};
+constexpr std::array<uint32_t, 3> forest{0x1C4048, 0x306054, 0x5C8C60};
+constexpr std::array<uint32_t, 4> water{0x2C6CA8, 0x5CA0D0, 0xA8D8F0, 0xF0FCFF};
+constexpr std::array<uint32_t, 6> leaves{0x0C2C30, 0x144430, 0x246434,
+                                         0x448C38, 0x7CB848, 0xBCE064};
+constexpr std::array<uint32_t, 5> blades{0x1C5830, 0x307C34, 0x60AC40, 0xA0D454, 0xE0F098};
+constexpr std::array<uint32_t, 4> stone{0x383C54, 0x646C80, 0x98A0A4, 0xCCD0C4};
+constexpr float water_level = -2.2F;
+
+class OpenLand : public Terrain {
+ public:
+  float Height(float x, float z, int octaves) const override {
+    const float floor = 0.8F * (Fbm(x * 0.05F, z * 0.05F, 3, 1) - 0.5F);
+    const float hills = SmoothStep(50, 190, z) *
+                        (34 * Fbm(x * 0.011F + 9, z * 0.011F, std::max(3, octaves - 3), 2) - 13.5F);
+    const float valley = SmoothStep(20, 60, std::fabs(x - Meander(z))) * 0.6F + 0.4F;
+    const float range = SmoothStep(380, 760, z);
+    const float mountains =
+        range * (230 * Ridges(x * 0.0034F + 8.1F, z * 0.0034F, octaves, 5) - 22);
+    return floor + hills * valley + mountains;
+  }
+
+  Colour Ground(const Spot& spot) const override {
+    const Vec p = spot.place;
+    const float big = Fbm(p.x * 0.035F + 11, p.z * 0.035F, 4, 7);
+    float fine = Fbm(p.x * 0.7F, p.z * 0.7F, 4, 8);
+    fine = Lerp(fine, 0.5F, SmoothStep(60, 170, spot.distance));
+    const float light = 0.30F + 0.16F * spot.normal.y + 0.72F * spot.sun;
+    if (p.z > 90 && p.z < 420 && p.y < water_level) {
+      const float ripple = Noise(p.x * 0.3F, p.z * 0.05F, 12);
+      return OnRamp(water, 0.35F + 0.5F * (ripple - 0.3F));
+    }
+    // Bands of cloud shadow lie across the land.
+    const float cloud = SmoothStep(0.50F, 0.64F, Fbm(p.x * 0.006F + 3, p.z * 0.012F, 3, 9));
+    const float lit = light * (1 - 0.22F * cloud);
+    Colour ground = OnRamp(grass, lit * 0.62F + (big - 0.5F) * 0.42F + (fine - 0.5F) * 0.26F);
+    const float track = std::fabs(p.x - Track(p.z)) + 1.6F * (fine - 0.5F) + 2 * (big - 0.5F);
+    const float bare = SmoothStep(2.6F, 1.5F, track) * SmoothStep(330, 200, p.z);
+    ground = Mix(ground, OnRamp(earth, lit * 0.62F + (fine - 0.5F) * 0.4F), bare * 0.85F);
+    if (p.z > 420) ground = Mix(ground, OnRamp(forest, light), 0.75F);
+    const float steep = SmoothStep(0.30F, 0.5F, 1 - spot.normal.y);
+    Colour result = Mix(ground, OnRamp(rock, light * 0.9F + (fine - 0.5F) * 0.2F), steep);
+    const float snow_line = SmoothStep(68, 96, p.y + 26 * (big - 0.5F));
+    const float holds = 1 - SmoothStep(0.5F, 0.75F, 1 - spot.normal.y);
+    return Mix(result, OnRamp(snow, light * 1.05F), snow_line * holds);
+  }
+
+  Colour Sky(Vec direction) const override {
+    const Colour clear = GradientSky(direction, Hex(0x1C60C0), Hex(0xC8E8F4));
+    return Clouds(clear, direction, {Hex(0x90A8D0), Hex(0xFFFFFF), 0.49F, 0.17F, 1.15F, 31},
+                  Light());
+  }
+  Colour Haze(Vec direction) const override {
+    return Mix(Hex(0xA8C8E4), Hex(0xD8ECF4), Clamp(direction.y * 3));
+  }
+  float HazeCover(float distance) const override {
+    return 1 - std::exp(-std::pow(distance / 760, 1.3F));
+  }
+  Vec Light() const override { return Unit({-0.66F, 0.56F, -0.28F}); }
+
+ private:
+  static float Meander(float z) { return 30 * std::sin(z * 0.011F + 0.8F) + 12; }
+  // The footpath, from the lower right past the middle into the hills.
+  static float Track(float z) { return 26 - 0.16F * z + 16 * std::sin(z * 0.021F + 0.5F); }
+};
+
+void Dress(Dresser& dresser, const OpenLand& land) {
+  std::vector<Standing> things;
+  for (int k = 0; k < 1500; ++k) {
+    const float z = 95 + Hash(k, 5, 40) * 330;
+    const float x = (Hash(k, 8, 40) - 0.5F) * 1.7F * z;
+    if (Fbm(x * 0.017F + 40, z * 0.03F, 3, 41) < 0.53F) continue;
+    if (land.Height(x, z, 6) < water_level + 1.5F) continue;
+    things.push_back({x, z, 2.6F + 2.4F * Hash(k, 2, 40), k});
+  }
+  std::sort(things.begin(), things.end(),
+            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+  for (const Standing& at : things) {
+    if (Hash(at.seed, 3, 40) < 0.3F)
+      dresser.Fir({at.x, at.z, at.size * 1.4F, at.seed}, leaves);
+    else
+      dresser.Tree(at, leaves);
+  }
+  things.clear();
+  for (int k = 0; k < 1500; ++k) {
+    const float chance = Hash(k, 3, 50);
+    const float z = 13 + chance * std::sqrt(chance) * 150;
+    const float x = (Hash(k, 7, 50) - 0.5F) * 1.6F * z;
+    things.push_back({x, z, 0.22F + 0.36F * Hash(k, 9, 50), k});
+  }
+  std::sort(things.begin(), things.end(),
+            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+  for (const Standing& at : things) {
+    const int kind = static_cast<int>(Hash(at.seed, 11, 50) * 100);
+    if (land.Height(at.x, at.z, 6) > 4) continue;
+    if (kind < 4) {
+      dresser.Stone({at.x, at.z, at.size * 0.5F, at.seed}, stone, Hex(0x143C30));
+    } else if (kind < 10) {
+      dresser.Flowers(at,
+                      kind < 6   ? Hex(0xFFF4A0)
+                      : kind < 8 ? Hex(0xFFFFFF)
+                                 : Hex(0xF4A8C8),
+                      blades);
+    } else {
+      dresser.Tuft(at, blades);
+    }
+  }
+}
+
+}  // namespace
+
+Image PaintGroundOpen() {
+  const View view{960, 576, 224, 660};
+  const OpenLand land;
+  Painting painting = PaintTerrain(land, view);
+  Dresser dresser(land, view, painting);
+  Dress(dresser, land);
+  return ToSheet(Painted(Shrink(painting.canvas, 2, 2), 2, 0.72F), 208, 7);
+}
+
+}  // namespace orvane::paint::scene

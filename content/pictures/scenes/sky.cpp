@@ -1,0 +1,32 @@
+#include "content/pictures/scenes/sky.h"
+
+#include "content/pictures/scenes/noise.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+// Two scales laid together: banks, and the billows that they are made of.
+float Density(float x, float y, int seed) {
+  const float bank = Fbm(x * 0.55F, y * 0.55F, 3, seed);
+  return 0.45F * bank + 0.55F * Fbm(x, y, 6, seed + 1);
+}
+
+}  // namespace
+
+Colour GradientSky(Vec direction, Colour high, Colour low) {
+  return Mix(low, high, std::pow(Clamp(direction.y * 3.2F), 0.75F));
+}
+
+Colour Clouds(Colour sky, Vec direction, const CloudLayer& layer, Vec light) {
+  const float lift = 1 / (std::max(direction.y, 0.0F) + 0.09F);
+  const float x = direction.x * lift * layer.fineness + 3.7F;
+  const float y = direction.z * lift * layer.fineness;
+  const float here = Density(x, y, layer.seed);
+  const float there = Density(x + light.x * 0.14F, y - 0.12F, layer.seed);
+  const float cover = SmoothStep(layer.free, layer.free + layer.border, here);
+  const float bright = Clamp(0.6F + (here - there) * 5.5F);
+  return Mix(sky, Mix(layer.shade, layer.lit, bright),
+             cover * SmoothStep(-0.02F, 0.10F, direction.y) * 0.94F);
+}
+
+}  // namespace orvane::paint::scene

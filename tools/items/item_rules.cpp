@@ -1,0 +1,109 @@
+// The rules that a table of items keeps.
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tools/items/cp932.h"
+#include "tools/items/item_table.h"
+
+namespace orvane::items {
+namespace {
+
+struct Line {
+  int first;
+  int last;
+  Kind kind;
+  const char* what;
+};
+
+constexpr Line kLines[] = {
+    {1, 12, Kind::HisWeapon, "his weapon"},
+    {13, 20, Kind::HisArmour, "his armour"},
+    {21, 28, Kind::HerWeapon, "her weapon"},
+    {29, 36, Kind::HerArmour, "her armour"},
+    {37, 46, Kind::Book, "book"},
+    {47, 49, Kind::Recovery, "recovery item"},
+};
+
+// What the three recovery items give in a battle; their values in the bag must agree.
+constexpr int32_t kRecovered[] = {200, 500, 9999};
+
+// The bag compares this many characters when it protects what is worn.
+constexpr size_t kCompared = 5;
+
+// The two draughts that a bag may take for each other: both are "回復の…" and neither can be worn.
+bool MayCountAsAlike(const Item& one, const Item& other) {
+  return one.kind == Kind::Recovery && other.kind == Kind::Recovery;
+}
+
+size_t Characters(const std::string& utf8) {
+  size_t count = 0;
+  for (const char each : utf8) count += (static_cast<unsigned char>(each) & 0xC0) != 0x80;
+  return count;
+}
+
+std::string FirstCharacters(const std::string& utf8, size_t wanted) {
+  size_t end = 0;
+  for (size_t count = 0; end < utf8.size(); ++end) {
+    if ((static_cast<unsigned char>(utf8[end]) & 0xC0) != 0x80 && count++ == wanted) break;
+  }
+  return utf8.substr(0, end);
+}
+
+std::string Named(int number, const Item& item) {
+  return "item " + std::to_string(number) + " \"" + item.name + "\"";
+}
+
+void CheckLine(const Line& line, const std::vector<Item>& items, std::vector<std::string>& faults) {
+  for (int number = line.first; number <= line.last; ++number) {
+    const Item& item = items[static_cast<size_t>(number - 1)];
+    if (item.kind != line.kind) faults.push_back(Named(number, item) + " must be a " + line.what);
+    const int place = number - line.first;
+    if (line.kind == Kind::Book) {
+      if (item.value != place + 1) {
+        faults.push_back(Named(number, item) + " must train skill " + std::to_string(place + 1));
+      }
+    } else if (line.kind == Kind::Recovery) {
+      if (item.value != kRecovered[place]) {
+        faults.push_back(Named(number, item) + " must give " + std::to_string(kRecovered[place]));
+      }
+    } else if (item.value < 1 || item.value > 999) {
+      faults.push_back(Named(number, item) + " has a strength outside of 1 to 999");
+    } else if (place > 0 && item.value <= items[static_cast<size_t>(number - 2)].value) {
+      faults.push_back(Named(number, item) + " is no stronger than the one before");
+    }
+  }
+}
+
+void CheckName(int number, const Item& item, std::vector<std::string>& faults) {
+  if (item.name.empty() || item.name == "なし") {
+    faults.push_back(Named(number, item) + " needs a name of its own");
+  }
+  const size_t characters = Characters(item.name);
+  if (characters > 10) faults.push_back(Named(number, item) + " has more than 10 characters");
+  if (Cp932Of(item.name).size() != characters * 2) {
+    faults.push_back(Named(number, item) + " has characters that are not full-width");
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> Faults(const std::vector<Item>& items) {
+  std::vector<std::string> faults;
+  if (items.size() != kItems) return {"the table must hold 50 items"};
+  for (const Line& line : kLines) CheckLine(line, items, faults);
+  std::map<std::string, int> seen;
+  for (int number = 1; number <= kItems; ++number) {
+    const Item& item = items[static_cast<size_t>(number - 1)];
+    CheckName(number, item, faults);
+    const auto [found, is_new] = seen.emplace(FirstCharacters(item.name, kCompared), number);
+    if (is_new) continue;
+    const Item& other = items[static_cast<size_t>(found->second - 1)];
+    if (!MayCountAsAlike(other, item)) {
+      faults.push_back(Named(number, item) + " begins like " + Named(found->second, other));
+    }
+  }
+  return faults;
+}
+
+}  // namespace orvane::items

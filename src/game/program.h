@@ -1,0 +1,91 @@
+// The whole game as one object. Everything enters here: what the player does and the ticks of the
+// timers.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "src/core/state.h"
+#include "src/platform/controls.h"
+#include "src/platform/error.h"
+#include "src/platform/services.h"
+#include "src/platform/stage.h"
+
+namespace orvane {
+
+enum class Key { Left, Up, Right, Down };
+
+// What an event came to: empty when it was carried out, otherwise why a player cannot do it now.
+using Refusal = std::string;
+
+class Program {
+ public:
+  // Starts the program in a game folder, up to the title and the first activation of Main. An error
+  // on the way shows its box and leaves a program that has ended. The services must outlive the
+  // program.
+  Program(const std::filesystem::path& folder, const Services& services);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  Stage& TheStage();
+  State& TheState();
+
+  // True after quit, game over, the ending or an error. No event does anything from then on.
+  bool HasEnded();
+  // 0 after quit, game over and the ending, 1 after an error.
+  int ExitStatus();
+  // The error that ended the program, if one did, and the text of its box.
+  const std::optional<RunError>& Error() const { return error_; }
+  std::string TextOfError() const;
+
+  // What a player can do. Each brings the screen to the front first, if it is visible but not
+  // active, and does nothing but say why when a player could not do it.
+
+  // A click on a button, a picture (where nothing on it is in the way), a menu, or an item of a
+  // menu, which opens its menu first and so runs the menu's own click.
+  Refusal Click(Control& control);
+  // The same for an item whose menu is open already.
+  Refusal ClickItem(MenuItem& item);
+  // A click at a point inside the control's border: the frontmost control there takes it.
+  Refusal ClickAt(Control& control, double x, double y);
+  // A click on a row of a list or a file list, from 0, also on the selected one.
+  Refusal Choose(Control& list, int row);
+  // A click on the header of a tab.
+  Refusal SelectTab(TabStrip& tabs, int tab);
+  // Replaces the text of a field.
+  Refusal EnterText(TextBox& field, const std::string& text);
+  // Moves a slider; values outside its range are refused.
+  Refusal Slide(Slider& slider, int value);
+  // A mouse press on the bare surface of a screen.
+  Refusal Press(Screen& screen);
+  // The window's own close control.
+  Refusal Close(Screen& screen);
+  // Brings a visible screen to the front.
+  Refusal Activate(Screen& screen);
+  // Arrow keys go to Main while it is the active screen, and are lost otherwise.
+  void KeyDown(Key key);
+  void KeyUp(Key key);
+
+  // One tick of a timer; nothing when it is off, its tick is running, or the program has ended. A
+  // front end asks a TimerQueue which timer is due.
+  void Tick(Timer& timer);
+
+ private:
+  struct Parts;
+
+  // Runs a handler; a run-time error in it shows its box and ends the program.
+  void Enter(const Handler& handler);
+  // Brings the screen to the front; says why not.
+  Refusal Reach(Screen& screen);
+  // The same, and the control can be used.
+  Refusal Reach(Control& control);
+
+  Services services_;
+  std::optional<RunError> error_;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace orvane

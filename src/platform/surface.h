@@ -1,0 +1,96 @@
+// Rectangles of pixels and the few operations that everything on the screen is drawn with.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace orvane {
+
+// A colour as 0xRRGGBB.
+using Colour = uint32_t;
+
+constexpr Colour Rgb(int red, int green, int blue) {
+  return static_cast<Colour>(red) << 16 | static_cast<Colour>(green) << 8 |
+         static_cast<Colour>(blue);
+}
+
+// How a blit joins source and destination, bit by bit.
+enum class RasterOp {
+  SRCCOPY,   // destination = source
+  SRCPAINT,  // destination = destination OR source
+  SRCAND,    // destination = destination AND source
+};
+
+// A rectangle: left and top edge, width and height, in pixels.
+struct Rect {
+  int X = 0;
+  int Y = 0;
+  int Width = 0;
+  int Height = 0;
+};
+
+// A width x height picture with a backing store that is drawn on and a published copy that is
+// shown. Copies of a Surface share their pixels until one of them is drawn on.
+class Surface {
+ public:
+  using Pixels = std::vector<Colour>;
+
+  Surface() : Surface(0, 0) {}
+  // Negative sizes count as 0.
+  Surface(int width, int height, Colour colour = 0);
+  // `pixels` holds width * height colours, row by row.
+  Surface(int width, int height, Pixels pixels);
+
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+  bool Contains(int x, int y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
+
+  // Colour of a pixel of the backing store, or of what is shown; throws RunError(Subscript)
+  // outside.
+  Colour At(int x, int y) const;
+  Colour ShownAt(int x, int y) const;
+
+  // The rows of the backing store, Width() colours each.
+  const Colour* Row(int y) const { return pixels_->data() + Offset(y); }
+
+  // Publishes what has been drawn since the last time: from now on it is what the player sees.
+  void Refresh();
+
+  // The published pixels; they stay in place while the surface lives, and change only in Refresh.
+  const Pixels& Shown() const { return shown_; }
+  // Grows with every Refresh that changed something.
+  uint64_t Revision() const { return revision_; }
+
+ private:
+  friend class SurfaceWriter;
+
+  size_t Offset(int y) const { return static_cast<size_t>(y) * static_cast<size_t>(width_); }
+
+  int width_ = 0;
+  int height_ = 0;
+  std::shared_ptr<Pixels> pixels_;
+  Pixels shown_;
+  int dirty_top_ = 0;  // rows from here to before dirty_bottom_ differ from what is shown
+  int dirty_bottom_ = 0;
+  uint64_t revision_ = 0;
+};
+
+// Copies `area` of the source, its left top corner at (x, y) of the destination, at scale 1. What
+// lies outside either surface is left out. Source and destination may be the same surface.
+void BitBlt(Surface& destination, int x, int y, int width, int height, const Surface& source,
+            int source_x, int source_y, RasterOp operation);
+
+// The same with scaling: destination pixel i reads source pixel floor(i * source size / destination
+// size). A size of 0 or less draws nothing. Within one surface, a copy of the source is read.
+void StretchBlt(Surface& destination, const Rect& target, const Surface& source, const Rect& area,
+                RasterOp operation);
+
+// Fills the rectangle that has these two pixels as opposite corners, both included; clipped.
+void FillBox(Surface& surface, int x1, int y1, int x2, int y2, Colour colour);
+
+// Draws a circle's outline, one pixel wide; clipped. A negative radius draws nothing.
+void DrawCircle(Surface& surface, int centre_x, int centre_y, int radius, Colour colour);
+
+}  // namespace orvane

@@ -1,7 +1,7 @@
 // The list of all figure sheets: heroes and enemies.
 #include <cstdio>
 
-#include "tools/paint/recipe.h"
+#include "content/pictures/figures/figures.h"
 
 namespace orvane::paint {
 namespace {
@@ -29,23 +29,11 @@ Image BallSheet(int width, int height, int cell, uint32_t colour) {
   return sheet;
 }
 
-Image HeroBalls(uint32_t colour) {
-  Image sheet(144, 128);
-  for (int y = 0; y < 128; ++y) {
-    for (int x = 72; x < 144; ++x) sheet.At(x, y) = 0;
-  }
-  for (int i = 0; i < 12; ++i) {
-    const int x = i % 3 * 24;
-    PaintBall(sheet, x, i / 3 * 32, 72 + x, 24, 32, colour);
-  }
-  return sheet;
-}
-
 }  // namespace
 
 void AddFigureRecipes(std::vector<Recipe>& recipes) {
-  recipes.push_back({"hero_man", [] { return HeroBalls(0x2C64B4); }});
-  recipes.push_back({"hero_woman", [] { return HeroBalls(0xCC3C60); }});
+  recipes.push_back({"hero_man", PaintHeroMan});
+  recipes.push_back({"hero_woman", PaintHeroWoman});
   for (int i = 0; i <= 19; ++i) {
     const int row = i == 19 ? 100 : i;
     char name[16];

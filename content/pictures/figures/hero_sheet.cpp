@@ -1,0 +1,79 @@
+// The heroes' sheets: three frames of the walk in four directions, and the faces by hand.
+#include <array>
+
+#include "content/pictures/figures/figures.h"
+#include "content/pictures/figures/hero.h"
+#include "content/pictures/figures/sheet.h"
+
+namespace orvane::paint {
+namespace {
+
+constexpr int kCellWidth = 24;
+constexpr int kCellHeight = 32;
+constexpr int kMaskFrom = 72;
+constexpr float kQuarter = 1.5707963F;
+constexpr std::array<float, 3> kSteps{0, 1, -1};
+// Rows of the sheet: up, right, down, left.
+constexpr std::array<float, 4> kYaws{2 * kQuarter, kQuarter, 0, -kQuarter};
+
+struct Look {
+  uint32_t Lash;
+  uint32_t White;
+  uint32_t Iris;
+  uint32_t Mouth;
+};
+
+void DrawFace(Sprite& sprite, int row, const Look& look) {
+  const std::vector<uint32_t> colours{look.Lash, look.White, look.Iris, look.Mouth};
+  const Vec eyes = sprite.Eye.Project({0, 5.2F, 5.2F});
+  const int y = static_cast<int>(std::floor(eyes.Y));
+  if (row == 2) {
+    Stamp(sprite, 8, y - 1, {"LL....LL", "WL....LW", "WI....IW"}, "LWIM", colours);
+    Stamp(sprite, 11, y + 4, {"MM"}, "LWIM", colours);
+  } else if (row == 1) {
+    Stamp(sprite, 14, y - 1, {"LL", "LW", "IW"}, "LWIM", colours);
+  } else if (row == 3) {
+    Stamp(sprite, 8, y - 1, {"LL", "WL", "WI"}, "LWIM", colours);
+  }
+}
+
+template <typename Builder>
+Image HeroSheet(const Builder& build, const std::vector<Material>& materials, const Look& look) {
+  Image sheet = EmptySheet(kMaskFrom * 2, kCellHeight * 4, kMaskFrom);
+  for (int row = 0; row < 4; ++row) {
+    for (int frame = 0; frame < 3; ++frame) {
+      const float step = kSteps[static_cast<size_t>(frame)];
+      View view;
+      view.Width = kCellWidth;
+      view.Height = kCellHeight;
+      view.Yaw = kYaws[static_cast<size_t>(row)];
+      view.Pitch = 0.12F;
+      view.Samples = 8;
+      view.Scale = 0.97F;
+      view.Middle = {0, step == 0 ? 0.1F : 0.3F, 0};  // a stride lowers the body
+      view.Contour = 2.3F;
+      view.Dither = 0;
+      view.Folds = 4;
+      Sprite sprite = Render(build(step), materials, view);
+      DrawFace(sprite, row, look);
+      PutPair(sheet, sprite, frame * kCellWidth, row * kCellHeight, kMaskFrom);
+    }
+  }
+  return sheet;
+}
+
+}  // namespace
+
+Texture EvenSkin() {
+  return [](Touch&, float light) { return Mix(light, 0.72F, 0.4F); };
+}
+
+Image PaintHeroMan() {
+  return HeroSheet(ManModel, ManMaterials(), {0x241420, 0xF8F8F8, 0x2058B0, 0xC06C58});
+}
+
+Image PaintHeroWoman() {
+  return HeroSheet(WomanModel, WomanMaterials(), {0x3C1C20, 0xF8F8F8, 0x208858, 0xD06868});
+}
+
+}  // namespace orvane::paint

@@ -162,4 +162,31 @@ void Dresser::Flowers(const Standing& at, Colour petal, Ramp blades) {
   }
 }
 
+void Dresser::Limb(std::span<const Joint> joints, Ramp tones) {
+  const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
+  for (size_t k = 0; k + 1 < joints.size(); ++k) {
+    const Joint& from = joints[k];
+    const Joint& to = joints[k + 1];
+    const float x0 = view_.ColumnOf(from.place.x, from.place.z);
+    const float y0 = view_.RowOf(from.place.y, from.place.z);
+    const float x1 = view_.ColumnOf(to.place.x, to.place.z);
+    const float y1 = view_.RowOf(to.place.y, to.place.z);
+    const float r0 = from.radius / from.place.z * view_.focal;
+    const float r1 = to.radius / to.place.z * view_.focal;
+    const float length = (x1 - x0) * (x1 - x0) + (y1 - y0) * (y1 - y0) + 1e-4F;
+    const float wide = std::max(r0, r1) + 1;
+    for (float y = std::floor(std::min(y0, y1) - wide); y <= std::max(y0, y1) + wide; ++y) {
+      for (float x = std::floor(std::min(x0, x1) - wide); x <= std::max(x0, x1) + wide; ++x) {
+        const float along = Clamp(((x - x0) * (x1 - x0) + (y - y0) * (y1 - y0)) / length);
+        const float off_x = x - Lerp(x0, x1, along);
+        const float off_y = y - Lerp(y0, y1, along);
+        const float radius = Lerp(r0, r1, along);
+        if (off_x * off_x + off_y * off_y > radius * radius) continue;
+        const float light = 0.48F - (0.42F * side * off_x + 0.36F * off_y) / (radius + 0.3F);
+        Put(x, y, Lerp(from.place.z, to.place.z, along), OnRamp(tones, light));
+      }
+    }
+  }
+}
+
 }  // namespace orvane::paint::scene

@@ -1,6 +1,8 @@
 // Small things that stand on a landscape: trees, stones, grass.
 #pragma once
 
+#include <span>
+
 #include "content/pictures/scenes/terrain.h"
 
 namespace orvane::paint::scene {
@@ -11,6 +13,12 @@ struct Standing {
   float z = 0;
   float size = 1;  // in units of the scene
   int seed = 0;
+};
+
+// One joint of a limb: a place in the scene and how thick the limb is there.
+struct Joint {
+  Vec place;
+  float radius = 1;
 };
 
 // Draws things on a painted landscape, hidden by what is nearer and veiled by the same air.
@@ -29,6 +37,10 @@ class Dresser {
   void Tuft(const Standing& at, Ramp blades);
   // A few blossoms on short stems.
   void Flowers(const Standing& at, Colour petal, Ramp blades);
+
+  // A round rod through the joints: a bone, a bough. `height` of the places is above the ground's
+  // 0.
+  void Limb(std::span<const Joint> joints, Ramp tones);
 
  private:
   struct Foot {

@@ -72,4 +72,21 @@ float Ridges(float x, float y, int octaves, int seed) {
   return sum;
 }
 
+float CellBorder(float x, float y, int seed) {
+  const int cell_x = static_cast<int>(std::floor(x));
+  const int cell_y = static_cast<int>(std::floor(y));
+  float first = 9;
+  float second = 9;
+  for (int j = cell_y - 1; j <= cell_y + 1; ++j) {
+    for (int i = cell_x - 1; i <= cell_x + 1; ++i) {
+      const float across = static_cast<float>(i) + Hash(i, j, seed) - x;
+      const float down = static_cast<float>(j) + Hash(i, j, seed + 1) - y;
+      const float distance = std::sqrt(across * across + down * down);
+      second = std::min(second, std::max(first, distance));
+      first = std::min(first, distance);
+    }
+  }
+  return second - first;
+}
+
 }  // namespace orvane::paint::scene

@@ -16,4 +16,8 @@ float Fbm(float x, float y, int octaves, int seed);
 // Like Fbm, but with sharp crests: mountain ridges. About 0 to 1.
 float Ridges(float x, float y, int octaves, int seed);
 
+// The distance to the nearest border between scattered cells, 0 on the border, about 0.5 in a
+// cell's middle: cracks in mud and stone. One cell a unit.
+float CellBorder(float x, float y, int seed);
+
 }  // namespace orvane::paint::scene

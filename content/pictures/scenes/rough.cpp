@@ -22,8 +22,6 @@ Image Rough(int width, int height, int horizon, Ramp sky, Ramp ground) {
   return ToSheet(Painted(canvas, 2, 0.75F), 200, 7);
 }
 
-constexpr std::array<uint32_t, 3> day{0x2C74CC, 0x7CB0E0, 0xD4ECF4};
-constexpr std::array<uint32_t, 4> dust{0x6A5438, 0x947648, 0xB8985C, 0xD4B878};
 constexpr std::array<uint32_t, 3> dusk{0x1C1848, 0x783C7C, 0xF49058};
 constexpr std::array<uint32_t, 4> dark{0x0C0818, 0x1C1028, 0x34182C, 0x5C2C34};
 
@@ -32,12 +30,11 @@ constexpr std::array<uint32_t, 4> dark{0x0C0818, 0x1C1028, 0x34182C, 0x5C2C34};
 Image PaintTitle() {
   return Rough(320, 160, 118, dusk, dark);
 }
-Image PaintGroundWaste() {
-  return Rough(480, 288, 108, day, dust);
-}
+
 Image PaintGroundLair() {
   return Rough(480, 288, 110, dark, dark);
 }
+
 Image PaintEndingStill() {
   return Rough(454, 300, 205, dusk, dark);
 }

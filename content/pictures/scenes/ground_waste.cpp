@@ -1,0 +1,169 @@
+// Barren land: a cracked floor between eroded walls, mesas in the dust, and old bones.
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "content/pictures/scenes/details.h"
+#include "content/pictures/scenes/noise.h"
+#include "content/pictures/scenes/scenes.h"
+#include "content/pictures/scenes/sky.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+constexpr std::array<uint32_t, 6> rock{0x2C2038, 0x543848, 0x8C5850, 0xBC8460, 0xDCB07C, 0xF4DCA8};
+constexpr std::array<uint32_t, 6> soil{0x3C2C38, 0x644844, 0x906850, 0xB48C64, 0xD0AC80, 0xE8CCA0};
+constexpr std::array<uint32_t, 4> scrub{0x343028, 0x5C5838, 0x8C8450, 0xB8AC70};
+constexpr std::array<uint32_t, 5> bone{0x4C3C48, 0x847070, 0xBCA890, 0xE4D8B8, 0xFCF8E4};
+constexpr std::array<uint32_t, 4> wood{0x241C2C, 0x44343C, 0x6C5450, 0xA08470};
+constexpr std::array<uint32_t, 5> stone{0x38283C, 0x60484C, 0x907060, 0xC09C7C, 0xE8CCA0};
+constexpr std::array<uint32_t, 4> blades{0x3C3428, 0x645C38, 0x988C4C, 0xCCC078};
+
+class Waste : public Terrain {
+ public:
+  float Height(float x, float z, int octaves) const override {
+    const float floor = 0.7F * (Fbm(x * 0.05F, z * 0.05F, 3, 1) - 0.5F);
+    const float off = x - 14 * std::sin(z * 0.012F + 0.6F) - 8;
+    const float open = 27 + z * 0.15F;
+    const float side = SmoothStep(open * 0.8F, open * 1.9F,
+                                  std::fabs(off) + 12 * (Fbm(x * 0.04F, z * 0.04F, 3, 2) - 0.5F));
+    const float walls = side * SmoothStep(8, 60, z) *
+                        (10 + 40 * Ridges(x * 0.012F + 2, z * 0.012F + 7, octaves, 3) +
+                         26 * Fbm(x * 0.022F + 5, z * 0.022F, octaves, 4));
+    // Flat-topped mesas, then a broken range at the edge of sight.
+    const float block = Fbm(x * 0.0075F + 4.4F, z * 0.0075F + 1, 4, 5);
+    const float mesas = SmoothStep(230, 330, z) * SmoothStep(0.54F, 0.60F, block) *
+                        (52 + 40 * Fbm(x * 0.05F, z * 0.05F, octaves, 6));
+    const float range =
+        SmoothStep(420, 800, z) * (150 * Ridges(x * 0.0042F + 3.3F, z * 0.0042F, octaves, 7) + 6);
+    return floor + Terraced(walls, 6.5F) + Terraced(mesas, 17) + range;
+  }
+
+  Colour Ground(const Spot& spot) const override {
+    const Vec p = spot.place;
+    const float big = Fbm(p.x * 0.035F + 11, p.z * 0.035F, 4, 8);
+    float fine = Fbm(p.x * 0.7F, p.z * 0.7F, 4, 9);
+    fine = Lerp(fine, 0.5F, SmoothStep(60, 170, spot.distance));
+    const float light = 0.26F + 0.16F * spot.normal.y + 0.72F * spot.sun;
+    const float cloud = SmoothStep(0.50F, 0.62F, Fbm(p.x * 0.007F + 5, p.z * 0.013F, 3, 10));
+    const float lit = light * (1 - 0.2F * cloud);
+    Colour ground = OnRamp(soil, lit * 0.66F + (big - 0.5F) * 0.4F + (fine - 0.5F) * 0.28F);
+    // Mud plates: dark gaps that fade with the distance and lie in patches.
+    const float gap = CellBorder(p.x * 0.22F + 0.35F * fine, p.z * 0.22F + 0.3F * fine, 11);
+    const float patch = SmoothStep(0.44F, 0.56F, big) * SmoothStep(95, 25, spot.distance);
+    ground = Mix(ground, OnRamp(soil, 0.12F), SmoothStep(0.085F, 0.02F, gap) * patch * 0.8F);
+    const float green = SmoothStep(0.54F, 0.62F, Fbm(p.x * 0.03F + 31, p.z * 0.03F, 4, 12));
+    ground = Mix(ground, OnRamp(scrub, lit * 0.75F + (fine - 0.5F) * 0.5F), green * 0.6F);
+    // Strata follow the height, a little warped.
+    const float strata = Fbm(p.y * 0.34F + p.x * 0.01F, p.y * 0.02F + 3, 3, 13);
+    const float tone = light * 0.84F + (strata - 0.5F) * 0.4F + (fine - 0.5F) * 0.2F;
+    return Mix(ground, OnRamp(rock, tone), SmoothStep(0.10F, 0.26F, 1 - spot.normal.y));
+  }
+
+  Colour Sky(Vec direction) const override {
+    const Colour clear = GradientSky(direction, Hex(0x485890), Hex(0xF4D0A4));
+    return Clouds(clear, direction, {Hex(0x8C7898), Hex(0xFCE8C8), 0.48F, 0.2F, 0.9F, 47}, Light());
+  }
+  Colour Haze(Vec direction) const override {
+    return Mix(Hex(0xC8A49C), Hex(0xE8C8A8), Clamp(direction.y * 4));
+  }
+  float HazeCover(float distance) const override {
+    return 1 - std::exp(-std::pow(distance / 560, 1.3F));
+  }
+  Vec Light() const override { return Unit({-0.7F, 0.58F, -0.16F}); }
+
+ private:
+  // Steps of the given height, softly rounded, mixed into the slope.
+  static float Terraced(float height, float step) {
+    const float level = height / step;
+    const float whole = std::floor(level);
+    return Lerp(height, (whole + SmoothStep(0.55F, 1, level - whole)) * step, 0.62F);
+  }
+};
+
+// The ribs of something huge, half sunk in the ground, seen from the side.
+void Skeleton(Dresser& dresser) {
+  constexpr float z = 118;
+  for (int row = 0; row < 2; ++row) {  // the far side first
+    const float depth = row == 0 ? 7.0F : -3.0F;
+    for (int rib = 0; rib < 7; ++rib) {
+      const auto number = static_cast<float>(rib);
+      const float x = 10 + number * 4.6F;
+      const float tall = 13 - 0.55F * (number - 2.2F) * (number - 2.2F) - 2 * Hash(rib, row, 70);
+      const float lean = 1.5F + 0.3F * number;
+      std::vector<Joint> joints;
+      for (int k = 0; k <= 8; ++k) {
+        const float t = static_cast<float>(k) / 8;
+        const float bow = std::sin(t * 2.6F);
+        joints.push_back({{x + lean * t * t * 1.6F - 1.2F * bow, -0.6F + tall * std::sin(t * 1.75F),
+                           z + depth * (1 - t * 0.9F) * (0.4F + 0.6F * bow)},
+                          0.62F - 0.34F * (row == 0 ? t : std::fabs(t - 0.5F))});
+      }
+      dresser.Limb(joints, bone);
+    }
+  }
+  std::vector<Joint> spine;
+  for (int k = 0; k <= 22; ++k) {
+    const auto number = static_cast<float>(k);
+    const float arch = 12.4F - 0.021F * (number * 2 - 17) * (number * 2 - 17);
+    spine.push_back({{4 + number * 2.1F, arch, z}, (k % 2 == 0 ? 1.15F : 0.7F) - 0.025F * number});
+  }
+  dresser.Limb(spine, bone);
+}
+
+void DeadTree(Dresser& dresser, float x, float z, float size, int seed) {
+  const auto bough = [&](Vec from, float lean, float length, float radius, int chance) {
+    std::vector<Joint> joints;
+    for (int k = 0; k <= 6; ++k) {
+      const float t = static_cast<float>(k) / 6;
+      const float bend = (Hash(k, chance, seed) - 0.5F) * 0.18F * length;
+      joints.push_back({{from.x + lean * length * t * (0.6F + 0.5F * t) + bend * t,
+                         from.y + length * t * (1 - 0.25F * t * std::fabs(lean)), z},
+                        radius * (1 - 0.8F * t)});
+    }
+    dresser.Limb(joints, wood);
+    return joints[4].place;
+  };
+  const Vec fork = bough({x, -0.5F, z}, 0.15F, 6 * size, 0.55F * size, 1);
+  bough(fork, -0.9F, 3.6F * size, 0.28F * size, 2);
+  bough(fork, 0.8F, 3.2F * size, 0.3F * size, 3);
+  bough({fork.x - 0.2F * size, fork.y - 1.3F * size, z}, 1.2F, 2.6F * size, 0.22F * size, 4);
+  bough({fork.x - 0.3F * size, fork.y - 1.9F * size, z}, -1.3F, 2.2F * size, 0.2F * size, 5);
+}
+
+void Dress(Dresser& dresser, const Waste& land) {
+  DeadTree(dresser, -72, 190, 2.2F, 80);
+  Skeleton(dresser);
+  DeadTree(dresser, -34, 112, 1.7F, 81);
+  DeadTree(dresser, 57, 92, 1.5F, 82);
+  std::vector<Standing> things;
+  for (int k = 0; k < 800; ++k) {
+    const float chance = Hash(k, 3, 60);
+    const float z = 13 + chance * std::sqrt(chance) * 150;
+    things.push_back({(Hash(k, 7, 60) - 0.5F) * 1.6F * z, z, 0.2F + 0.4F * Hash(k, 9, 60), k});
+  }
+  std::sort(things.begin(), things.end(),
+            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+  for (const Standing& at : things) {
+    if (land.Height(at.x, at.z, 6) > 4) continue;
+    if (Hash(at.seed, 11, 60) < 0.3F) {
+      const float size = Hash(at.seed, 12, 60) * Hash(at.seed, 13, 60);
+      dresser.Stone({at.x, at.z, 0.1F + 0.42F * size, at.seed}, stone, Hex(0x4C3440));
+    } else if (Fbm(at.x * 0.03F + 31, at.z * 0.03F, 4, 12) > 0.53F) {
+      dresser.Tuft(at, blades);
+    }
+  }
+}
+
+}  // namespace
+
+Image PaintGroundWaste() {
+  const View view{960, 576, 216, 660};
+  const Waste land;
+  Painting painting = PaintTerrain(land, view);
+  Dresser dresser(land, view, painting);
+  Dress(dresser, land);
+  return ToSheet(Painted(Shrink(painting.canvas, 2, 2), 2, 0.72F), 208, 7);
+}
+
+}  // namespace orvane::paint::scene

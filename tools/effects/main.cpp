@@ -1,0 +1,38 @@
+// orvane-effects: makes a WAV file of a recipe.
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#include "tools/effects/synth.h"
+#include "tools/effects/wav_file.h"
+
+int main(int count, char** words) {
+  if (count != 3) {
+    std::cerr << "usage: orvane-effects RECIPE WAV\n";
+    return 2;
+  }
+  std::ifstream in(words[1], std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  if (!in) {
+    std::cerr << words[1] << ": cannot be read\n";
+    return 1;
+  }
+  try {
+    orvane::effects::Wav wav;
+    wav.samples =
+        orvane::effects::Finish(orvane::effects::Mix(orvane::effects::ReadRecipe(text.str())));
+    std::ofstream out(words[2], std::ios::binary);
+    out << orvane::effects::WriteWav(wav);
+    out.close();
+    if (!out) {
+      std::cerr << words[2] << ": cannot be written\n";
+      return 1;
+    }
+  } catch (const std::exception& problem) {
+    std::cerr << words[1] << ": " << problem.what() << "\n";
+    return 1;
+  }
+  return 0;
+}

@@ -1,0 +1,215 @@
+#include "tools/effects/synth.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+#include "tools/effects/filter.h"
+#include "tools/effects/loudness.h"
+
+namespace orvane::effects {
+namespace {
+
+constexpr double Pi = 3.14159265358979;
+
+// White noise, -1 to 1, from a seed.
+class Noise {
+ public:
+  explicit Noise(uint32_t seed) : state_(seed * 2654435761U + 1) {}
+  double Next() {
+    state_ ^= state_ << 13;
+    state_ ^= state_ >> 17;
+    state_ ^= state_ << 5;
+    return static_cast<double>(state_) / 2147483647.5 - 1;
+  }
+
+ private:
+  uint32_t state_;
+};
+
+double Wave(Source source, double phase) {
+  const double turn = phase - std::floor(phase);
+  switch (source) {
+    case Source::Sine:
+      return std::sin(2 * Pi * turn);
+    case Source::Triangle:
+      return 1 - 4 * std::abs(turn - 0.5);
+    case Source::Square:
+      // Corners a little rounded: less of the harsh overtones that fold back.
+      return std::tanh(6 * std::sin(2 * Pi * turn));
+    case Source::Saw:
+      return 2 * turn - 1;
+    case Source::Noise:
+    case Source::Crackle:
+      break;
+  }
+  return 0;
+}
+
+double Envelope(const Layer& layer, double time, double length) {
+  if (time < layer.attack) return 0.5 - 0.5 * std::cos(Pi * time / layer.attack);
+  const double falling = time - layer.attack - layer.hold;
+  if (falling < 0) return 1;
+  const double whole = length - layer.attack - layer.hold;
+  return whole <= 0 ? 0 : std::pow(std::max(0.0, 1 - falling / whole), layer.fall);
+}
+
+// One sounding of a layer: from a moment, over a time, at a level, its pitch multiplied.
+struct Sounding {
+  double at;
+  double length;
+  double level;
+  double pitch;
+};
+
+void Render(const Layer& layer, const Sounding& sounding, uint32_t seed, std::vector<double>& mix) {
+  Noise noise(seed);
+  std::vector<Biquad> filters(layer.filters.size());
+  double phase = 0;
+  double second = 0.37;
+  double modulator = 0;
+  double pop = 0;
+  const auto start = static_cast<size_t>(sounding.at * Rate);
+  const auto count = static_cast<size_t>(sounding.length * Rate);
+  const double ratio = std::pow(2.0, layer.detune / 12);
+  for (size_t i = 0; i < count && start + i < mix.size(); ++i) {
+    const double time = static_cast<double>(i) / Rate;
+    const double share = time / sounding.length;
+    double pitch = layer.pitch.At(share) * sounding.pitch;
+    pitch *= std::pow(2.0, layer.vibrato_depth / 12 * std::sin(2 * Pi * layer.vibrato_rate * time));
+    double bend = 0;
+    if (layer.fm_ratio > 0) {
+      modulator += pitch * layer.fm_ratio / Rate;
+      bend = layer.fm_depth.At(share) * std::sin(2 * Pi * modulator);
+    }
+    double sample = 0;
+    if (layer.source == Source::Noise) {
+      sample = noise.Next();
+    } else if (layer.source == Source::Crackle) {
+      // A pop is a burst of noise that dies within a millisecond or two.
+      if (noise.Next() * 0.5 + 0.5 < layer.density / Rate) pop = 0.4 + 0.6 * std::abs(noise.Next());
+      sample = pop * noise.Next();
+      pop *= 0.985;
+    } else {
+      phase += pitch / Rate;
+      sample = Wave(layer.source, phase + bend);
+      if (layer.detune != 0) {
+        second += pitch * ratio / Rate;
+        sample = 0.5 * (sample + Wave(layer.source, second + bend));
+      }
+    }
+    for (size_t f = 0; f < filters.size(); ++f) {
+      const FilterSetting& setting = layer.filters[f];
+      if (i % 16 == 0) filters[f].Set(setting.kind, setting.frequency.At(share), setting.q);
+      sample = filters[f].Next(sample);
+    }
+    if (layer.drive > 0) sample = std::tanh(sample * layer.drive);
+    const double tremolo =
+        1 - layer.tremolo_depth * (0.5 - 0.5 * std::cos(2 * Pi * layer.tremolo_rate * time));
+    mix[start + i] += sample * Envelope(layer, time, sounding.length) * tremolo * sounding.level;
+  }
+}
+
+void RenderAll(const Layer& layer, uint32_t seed, std::vector<double>& mix) {
+  double level = layer.level;
+  for (int n = 0; n < layer.repeats; ++n) {
+    const double at = layer.at + n * layer.every;
+    const double pitch = std::pow(2.0, n * layer.rise / 12);
+    const uint32_t own_seed = seed * 1000 + static_cast<uint32_t>(n) + 1;
+    if (layer.tune.empty()) {
+      Render(layer, {at, layer.length, level, pitch}, own_seed, mix);
+    }
+    double moment = at;
+    for (const TuneNote& note : layer.tune) {
+      // The notes ring over into each other by the length of the layer, which counts from each.
+      const double ring = std::max(note.seconds, layer.length);
+      if (note.frequency > 0) {
+        Render(layer, {moment, ring, level, note.frequency / 440 * pitch}, own_seed, mix);
+      }
+      moment += note.seconds;
+    }
+    level *= layer.fade;
+  }
+}
+
+// Four combs and two all-passes: the plainest reverberation that does not ring.
+std::vector<double> Room(const std::vector<double>& dry, double seconds) {
+  std::vector<double> wet(dry.size(), 0);
+  for (const size_t delay : {1557U, 1617U, 1491U, 1422U}) {
+    const double feedback = std::pow(0.001, static_cast<double>(delay) / Rate / seconds);
+    std::vector<double> line(delay, 0);
+    double damped = 0;
+    for (size_t i = 0; i < dry.size(); ++i) {
+      double& cell = line[i % delay];
+      wet[i] += 0.25 * cell;
+      damped = cell * 0.7 + damped * 0.3;
+      cell = dry[i] + damped * feedback;
+    }
+  }
+  for (const size_t delay : {225U, 556U}) {
+    std::vector<double> line(delay, 0);
+    for (size_t i = 0; i < wet.size(); ++i) {
+      double& cell = line[i % delay];
+      const double out = cell - 0.5 * wet[i];
+      cell = wet[i] + 0.5 * out;
+      wet[i] = out;
+    }
+  }
+  return wet;
+}
+
+// Bends what exceeds two thirds of the ceiling so that nothing goes beyond the ceiling.
+double Bend(double sample) {
+  const double knee = Ceiling * 0.66;
+  const double size = std::abs(sample);
+  if (size <= knee) return sample;
+  const double over = (size - knee) / (Ceiling - knee);
+  return std::copysign(knee + (Ceiling - knee) * std::tanh(over), sample);
+}
+
+}  // namespace
+
+std::vector<float> Mix(const Recipe& recipe) {
+  std::vector<double> mix(static_cast<size_t>(recipe.length * Rate), 0);
+  uint32_t seed = 1;
+  for (const Layer& layer : recipe.layers) RenderAll(layer, seed++, mix);
+  if (recipe.echo_seconds > 0) {
+    const auto delay = static_cast<size_t>(recipe.echo_seconds * Rate);
+    for (size_t i = delay; i < mix.size(); ++i) mix[i] += recipe.echo_level * mix[i - delay];
+  }
+  if (recipe.room > 0) {
+    const std::vector<double> wet = Room(mix, recipe.room_seconds);
+    for (size_t i = 0; i < mix.size(); ++i) mix[i] += recipe.room * wet[i];
+  }
+  Biquad rumble;  // what no loudspeaker gives back only eats the headroom
+  rumble.Set(FilterKind::Highpass, 28, 0.7);
+  std::vector<float> out;
+  out.reserve(mix.size());
+  for (const double sample : mix) out.push_back(static_cast<float>(rumble.Next(sample)));
+  return out;
+}
+
+std::vector<float> Finish(const std::vector<float>& mix) {
+  std::vector<float> out = mix;
+  double gain = 1;
+  // Bending takes loudness away, so the gain is sought in a few rounds.
+  for (int round = 0; round < 12; ++round) {
+    for (size_t i = 0; i < mix.size(); ++i) {
+      out[i] = static_cast<float>(Bend(static_cast<double>(mix[i]) * gain));
+    }
+    gain *= std::pow(10.0, (TargetLoudness - PeakLoudness(out, 0.2)) / 20);
+  }
+  const size_t in = std::min<size_t>(Rate / 500, out.size());
+  for (size_t i = 0; i < in; ++i) {
+    out[i] *= static_cast<float>(
+        0.5 - 0.5 * std::cos(Pi * static_cast<double>(i) / static_cast<double>(in)));
+  }
+  const size_t rest = std::min<size_t>(Rate / 50, out.size());
+  for (size_t i = 0; i < rest; ++i) {
+    out[out.size() - 1 - i] *= static_cast<float>(
+        0.5 - 0.5 * std::cos(Pi * static_cast<double>(i) / static_cast<double>(rest)));
+  }
+  return out;
+}
+
+}  // namespace orvane::effects

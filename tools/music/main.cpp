@@ -1,0 +1,44 @@
+// orvane-music: makes a standard MIDI file of a score.
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#include "tools/music/performance.h"
+
+namespace {
+
+int Run(const std::string& score_file, const std::string& midi_file) {
+  std::ifstream in(score_file, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  if (!in) {
+    std::cerr << score_file << ": cannot be read\n";
+    return 1;
+  }
+  try {
+    const orvane::music::Score score = orvane::music::ReadScore(text.str());
+    const orvane::music::Sheet sheet = orvane::music::WriteOut(score);
+    std::ofstream out(midi_file, std::ios::binary);
+    out << orvane::music::WriteMidi(orvane::music::Perform(sheet));
+    out.close();
+    if (!out) {
+      std::cerr << midi_file << ": cannot be written\n";
+      return 1;
+    }
+  } catch (const std::exception& problem) {
+    std::cerr << score_file << ": " << problem.what() << "\n";
+    return 1;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  if (count != 3) {
+    std::cerr << "usage: orvane-music SCORE MIDI\n";
+    return 2;
+  }
+  return Run(words[1], words[2]);
+}

@@ -1,0 +1,48 @@
+// Standard MIDI files, format 1.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orvane::music {
+
+// One event at a tick: a channel message (`status` 0x80 to 0xEF with its data bytes), or a meta
+// event (`status` 0xFF with its `type` and `text` as the bytes).
+struct MidiEvent {
+  int tick = 0;
+  uint8_t status = 0;
+  uint8_t data1 = 0;  // of a meta event: its type
+  uint8_t data2 = 0;
+  std::string text;
+};
+
+// A track; the end-of-track event is not among the events but stands at `end`.
+struct MidiTrack {
+  std::vector<MidiEvent> events;
+  int end = 0;
+};
+
+struct MidiFile {
+  int format = 1;
+  int ticks_per_quarter = 480;
+  std::vector<MidiTrack> tracks;
+};
+
+// Types of the meta events that we use.
+constexpr uint8_t MetaText = 0x01;
+constexpr uint8_t MetaName = 0x03;
+constexpr uint8_t MetaMarker = 0x06;
+constexpr uint8_t MetaEnd = 0x2F;
+constexpr uint8_t MetaTempo = 0x51;
+constexpr uint8_t MetaMeter = 0x58;
+constexpr uint8_t MetaKey = 0x59;
+
+// The file's bytes. Events of a track are put in the order of their ticks, and at one tick meta
+// events first, then note-offs, controllers and programs, and note-ons.
+std::string WriteMidi(const MidiFile& file);
+
+// Reads a file; throws std::runtime_error for anything that is not a whole and well-formed file.
+MidiFile ReadMidi(const std::string& bytes);
+
+}  // namespace orvane::music

@@ -1,0 +1,285 @@
+#include "tools/music/performance.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace orvane::music {
+namespace {
+
+constexpr int Step = Whole / 16;           // between two values of a controller that moves
+constexpr double RestingExpression = 104;  // leaves room above for the middle of a phrase
+constexpr uint8_t Modulation = 1;
+constexpr uint8_t Volume = 7;
+constexpr uint8_t Pan = 10;
+constexpr uint8_t Expression = 11;
+constexpr uint8_t Reverb = 91;
+constexpr uint8_t Chorus = 93;
+
+uint8_t Seven(double value) {
+  return static_cast<uint8_t>(std::lround(std::clamp(value, 0.0, 127.0)));
+}
+
+// A well-mixed number for a place in the score, -1 to 1: the freedom of the players.
+double Freedom(uint32_t part, uint32_t note, uint32_t what) {
+  uint32_t x = part * 0x9E3779B1U ^ note * 0x85EBCA77U ^ what * 0xC2B2AE3DU;
+  x ^= x >> 15;
+  x *= 0x2C1B3C6DU;
+  x ^= x >> 12;
+  x *= 0x297A2D39U;
+  x ^= x >> 15;
+  return static_cast<double>(x) / 2147483647.5 - 1;
+}
+
+MidiEvent Meta(int tick, uint8_t type, const std::string& text) {
+  return {tick, 0xFF, type, 0, text};
+}
+
+MidiEvent TempoEvent(int tick, double tempo) {
+  const auto micros = static_cast<uint32_t>(std::lround(60000000.0 / tempo));
+  return Meta(tick, MetaTempo,
+              {static_cast<char>(micros >> 16), static_cast<char>((micros >> 8) & 0xFF),
+               static_cast<char>(micros & 0xFF)});
+}
+
+char Log2(int unit) {
+  char power = 0;
+  while (unit > 1) {
+    unit /= 2;
+    ++power;
+  }
+  return power;
+}
+
+// What the end loses so that a player who notices it late still repeats in time, on the average.
+int CutAtEnd(const Sheet& sheet) {
+  const double beats = sheet.score->poll / 2.0 / 60000.0 * sheet.sections.back().section->tempo_end;
+  return static_cast<int>(beats * Quarter);
+}
+
+MidiTrack Conductor(const Sheet& sheet, int end) {
+  MidiTrack track;
+  track.end = end;
+  track.events.push_back(Meta(0, MetaName, sheet.score->name));
+  track.events.push_back(Meta(0, MetaText, sheet.score->title));
+  const Section* before = nullptr;
+  for (const PlacedSection& placed : sheet.sections) {
+    const Section& now = *placed.section;
+    track.events.push_back(Meta(placed.start, MetaMarker, now.name));
+    if (before == nullptr || before->key.name != now.key.name) {
+      track.events.push_back(
+          Meta(placed.start, MetaKey,
+               {static_cast<char>(now.key.sharps), static_cast<char>(now.key.minor ? 1 : 0)}));
+    }
+    if (before == nullptr || before->meter.beats != now.meter.beats ||
+        before->meter.unit != now.meter.unit) {
+      track.events.push_back(
+          Meta(placed.start, MetaMeter,
+               {static_cast<char>(now.meter.beats), Log2(now.meter.unit), 24, 8}));
+    }
+    if (before == nullptr || before->tempo_end != now.tempo) {
+      track.events.push_back(TempoEvent(placed.start, now.tempo));
+    }
+    if (now.tempo != now.tempo_end) {
+      const int step = Quarter / 2;
+      for (int tick = placed.start + step; tick < std::min(placed.end, end); tick += step) {
+        const double share = static_cast<double>(tick - placed.start) /
+                             static_cast<double>(placed.end - placed.start);
+        track.events.push_back(TempoEvent(tick, now.tempo + (now.tempo_end - now.tempo) * share));
+      }
+    }
+    before = &now;
+  }
+  return track;
+}
+
+// A note as it will sound.
+struct Sounding {
+  int start = 0;
+  int end = 0;
+  int pitch = 0;
+  int velocity = 64;
+};
+
+class Player {
+ public:
+  Player(const Sheet& sheet, size_t index, int end)
+      : sheet_(sheet),
+        part_(sheet.score->parts[index]),
+        own_(sheet.parts[index]),
+        index_(static_cast<uint32_t>(index)),
+        end_(end) {}
+
+  MidiTrack Play() {
+    track_.end = end_;
+    SetUp();
+    std::vector<Sounding> notes = Soundings();
+    PartSamePitches(notes);
+    for (const Sounding& note : notes) {
+      Send(note.start, 0x90, static_cast<uint8_t>(note.pitch), static_cast<uint8_t>(note.velocity));
+      Send(note.end, 0x80, static_cast<uint8_t>(note.pitch), 0);
+    }
+    Breathe();
+    if (part_.vibrato > 0) Vibrate();
+    return track_;
+  }
+
+ private:
+  void Send(int tick, int kind, uint8_t data1, uint8_t data2) {
+    track_.events.push_back({tick, static_cast<uint8_t>(kind | part_.channel), data1, data2, {}});
+  }
+
+  void SetUp() {
+    track_.events.push_back(Meta(0, MetaName, part_.name));
+    Send(0, 0xC0, static_cast<uint8_t>(part_.instrument->program), 0);
+    Send(0, 0xB0, Volume, Seven(part_.volume + sheet_.score->level));
+    Send(0, 0xB0, Pan, Seven(64 + part_.pan));
+    Send(0, 0xB0, Expression, Seven(RestingExpression));
+    Send(0, 0xB0, Reverb, Seven(part_.reverb));
+    Send(0, 0xB0, Chorus, Seven(part_.chorus));
+    Send(0, 0xB0, Modulation, 0);
+  }
+
+  // How much the place in the bar weighs: the first beat leads, off-beats are lighter.
+  int Weight(int tick) const {
+    for (const PlacedSection& placed : sheet_.sections) {
+      if (tick < placed.start || tick >= placed.end) continue;
+      const Meter& meter = placed.section->meter;
+      const int in_bar = (tick - placed.start) % meter.BarTicks();
+      if (in_bar == 0) return 4;
+      if (in_bar % meter.BeatTicks() != 0) return -3;
+      return meter.beats % 2 == 0 && in_bar == meter.BarTicks() / 2 ? 2 : 0;
+    }
+    return 0;
+  }
+
+  static double Sounds(const Note& note, int gate) {
+    switch (note.touch) {
+      case Touch::Staccato:
+        return 0.5 * note.length;
+      case Touch::Tenuto:
+      case Touch::Slurred:
+        return note.length;
+      case Touch::Plain:
+        break;
+    }
+    return note.length * gate / 100.0;
+  }
+
+  std::vector<Sounding> Soundings() const {
+    std::vector<Sounding> notes;
+    int in_chord = 0;
+    for (size_t i = 0; i < own_.notes.size(); ++i) {
+      const Note& written = own_.notes[i];
+      in_chord = i > 0 && own_.notes[i - 1].start == written.start ? in_chord + 1 : 0;
+      // The tones of a chord are struck together, so their freedom hangs on the place, not the
+      // tone.
+      const auto place = static_cast<uint32_t>(written.start);
+      const auto number = static_cast<uint32_t>(i);
+      const double early = Freedom(index_, place, 1) * part_.feel;
+      Sounding note;
+      note.pitch = written.pitch;
+      note.start = written.start + static_cast<int>(early) + in_chord * part_.roll;
+      note.start = std::clamp(note.start, written.start == 0 ? 0 : 1, end_ - 2);
+      note.end = written.start + static_cast<int>(Sounds(written, part_.gate));
+      note.end = std::clamp(note.end, note.start + 1, end_ - 1);
+      const double velocity = written.loudness + written.stress + part_.touch +
+                              Weight(written.start) + Freedom(index_, number, 2) * 3;
+      note.velocity = std::max<int>(1, Seven(velocity));
+      if (written.start < end_ - 2) notes.push_back(note);
+    }
+    return notes;
+  }
+
+  // A pitch that is struck again ends first; one struck twice at once sounds once.
+  static void PartSamePitches(std::vector<Sounding>& notes) {
+    std::stable_sort(notes.begin(), notes.end(), [](const Sounding& a, const Sounding& b) {
+      return a.pitch != b.pitch ? a.pitch < b.pitch : a.start < b.start;
+    });
+    const auto twice = [](const Sounding& a, const Sounding& b) {
+      return a.pitch == b.pitch && b.start - a.start < 2;
+    };
+    notes.erase(std::unique(notes.begin(), notes.end(), twice), notes.end());
+    for (size_t i = 0; i + 1 < notes.size(); ++i) {
+      if (notes[i].pitch == notes[i + 1].pitch) {
+        notes[i].end = std::min(notes[i].end, notes[i + 1].start - 1);
+      }
+    }
+  }
+
+  double LoudnessAt(int tick) const {
+    for (const Dynamic& dynamic : own_.dynamics) {
+      if (tick < dynamic.start || tick >= dynamic.end) continue;
+      return dynamic.from +
+             (dynamic.to - dynamic.from) * (tick - dynamic.start) / (dynamic.end - dynamic.start);
+    }
+    return 75;
+  }
+
+  // A slur swells a little to its middle and falls to its end.
+  double Arc(int tick) const {
+    for (const Phrase& phrase : own_.phrases) {
+      if (tick < phrase.start || tick >= phrase.end) continue;
+      const double share =
+          static_cast<double>(tick - phrase.start) / static_cast<double>(phrase.end - phrase.start);
+      return 0.92 + 0.14 * std::sin(3.14159265 * std::pow(share, 0.8));
+    }
+    return 1;
+  }
+
+  // Expression follows slurs, and carries a growing dynamic on inside of held notes.
+  void Breathe() {
+    if (part_.instrument->drums) return;
+    size_t next = 0;
+    const Note* held = nullptr;
+    int last = static_cast<int>(RestingExpression);
+    for (int tick = 0; tick < end_ - 1; tick += Step) {
+      while (next < own_.notes.size() && own_.notes[next].start <= tick) held = &own_.notes[next++];
+      if (held == nullptr) continue;
+      double ratio = 1;
+      if (held->length >= Quarter && tick < held->start + held->length) {
+        ratio = LoudnessAt(tick) / std::max(1.0, held->loudness);
+      }
+      const int value = Seven(RestingExpression * Arc(tick) * ratio);
+      if (std::abs(value - last) < 2) continue;
+      Send(tick, 0xB0, Expression, static_cast<uint8_t>(value));
+      last = value;
+    }
+  }
+
+  // Long notes begin straight and grow a vibrato.
+  void Vibrate() {
+    for (const Note& note : own_.notes) {
+      if (note.length < Quarter * 3 / 2) continue;
+      const int from = note.start + note.length / 3;
+      for (int i = 1; i <= 4; ++i) {
+        const int tick = from + (i - 1) * Step / 2;
+        if (tick < end_ - 1) Send(tick, 0xB0, Modulation, Seven(part_.vibrato * i / 4.0));
+      }
+      const int stop = note.start + note.length - 8;
+      if (stop < end_ - 1) Send(stop, 0xB0, Modulation, 0);
+    }
+  }
+
+  const Sheet& sheet_;
+  const Part& part_;
+  const PartSheet& own_;
+  uint32_t index_;
+  int end_;
+  MidiTrack track_;
+};
+
+}  // namespace
+
+MidiFile Perform(const Sheet& sheet) {
+  MidiFile file;
+  file.ticks_per_quarter = Quarter;
+  const int end = sheet.end - CutAtEnd(sheet);
+  file.tracks.push_back(Conductor(sheet, end));
+  for (size_t i = 0; i < sheet.parts.size(); ++i) {
+    file.tracks.push_back(Player(sheet, i, end).Play());
+  }
+  return file;
+}
+
+}  // namespace orvane::music

@@ -1,0 +1,95 @@
+// A score as it stands in its file: parts, drum patterns, sections and the form; docs/music.md
+// describes the notation.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/music/chord.h"
+#include "tools/music/instruments.h"
+#include "tools/music/pitch.h"
+
+namespace orvane::music {
+
+// Ticks of a quarter note and of a whole note.
+constexpr int Quarter = 480;
+constexpr int Whole = 4 * Quarter;
+
+struct Meter {
+  int beats = 4;
+  int unit = 4;  // 2, 4, 8 or 16
+
+  int BarTicks() const { return Whole / unit * beats; }
+  int BeatTicks() const { return Whole / unit; }
+};
+
+// One voice of the score on one channel.
+struct Part {
+  std::string name;
+  const Instrument* instrument = nullptr;
+  int channel = 0;   // 0 to 15, drums on 9
+  int home = 4;      // octave of a pitch without octave marks
+  int volume = 100;  // 0 to 127
+  int pan = 0;       // -63 left to 63 right
+  int reverb = 40;   // 0 to 127
+  int chorus = 0;    // 0 to 127
+  int feel = 4;      // most ticks that a note comes early or late
+  int vibrato = 0;   // modulation that long notes grow into, 0 to 127
+  int gate = 92;     // percent of its length that a plain note sounds
+  int roll = 0;      // ticks between the notes of a chord
+  int touch = 0;     // added to every velocity
+  int floor = 55;    // lowest pitch of a chord voicing, and of a bass token
+  int voices = 4;    // most tones of a chord voicing
+};
+
+// One bar of a line: its tokens, and where it stands.
+struct Bar {
+  std::vector<std::string> tokens;
+  int line = 0;
+};
+
+// What a section holds for one part or for the chords.
+struct Line {
+  std::vector<Bar> bars;
+  bool repeats = false;  // "..." at the end: repeated until the section is full
+};
+
+// Some bars of music with a name, that the form can use any number of times.
+struct Section {
+  std::string name;
+  int bars = 0;
+  Meter meter;
+  Key key;
+  double tempo = 100;                 // quarters in a minute at the start
+  double tempo_end = 100;             // and at the end
+  int transpose = 0;                  // semitones, drums left alone
+  std::map<std::string, Line> lines;  // by the part's name; "chords" for the chords
+  int line = 0;
+};
+
+// One drum of a pattern: a cell is ' ' for nothing or one of o (soft), x, X (accent).
+struct DrumRow {
+  int key = 0;
+  std::string cells;
+};
+
+struct Score {
+  std::string name;
+  std::string title;
+  Key key;
+  double tempo = 100;
+  Meter meter;
+  int level = 0;  // added to the volume of every part: brings the pieces to one loudness
+  int poll = 0;   // milliseconds within which the player notices the end; half is cut off the end
+  std::vector<Part> parts;
+  std::map<std::string, std::vector<DrumRow>> patterns;
+  std::map<std::string, Section> sections;
+  std::vector<std::string> form;
+};
+
+// Reads a score; throws ScoreError for whatever the notation does not allow.
+Score ReadScore(std::string_view text);
+
+}  // namespace orvane::music

@@ -1,0 +1,248 @@
+#include "tools/music/sheet.h"
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+
+#include "tools/music/token.h"
+
+namespace orvane::music {
+namespace {
+
+// Ticks of a chord in a bar are given behind a colon ("G:2"), or the bar is shared out evenly.
+void PlaceChords(const PlacedSection& placed, std::vector<PlacedChord>& chords) {
+  const Section& section = *placed.section;
+  const auto line = section.lines.find("chords");
+  if (line == section.lines.end()) return;
+  int start = placed.start;
+  for (const Bar& bar : line->second.bars) {
+    const int bar_end = start + section.meter.BarTicks();
+    const int share = section.meter.BarTicks() / static_cast<int>(bar.tokens.size());
+    for (const std::string& token : bar.tokens) {
+      int length = share;
+      const size_t colon = token.find(':');
+      PlacedChord chord;
+      try {
+        if (colon != std::string::npos) length = ReadToken("r" + token.substr(colon + 1)).length;
+        chord.chord = Transposed(ReadChord(token.substr(0, colon)), section.transpose);
+      } catch (const std::invalid_argument& problem) {
+        throw ScoreError(bar.line, problem.what());
+      }
+      chord.start = start;
+      chord.end = start += length;
+      chords.push_back(chord);
+    }
+    if (start != bar_end) throw ScoreError(bar.line, "the chords do not fill the bar");
+  }
+}
+
+int AtOrAbove(int floor, int pitch_class) {
+  return floor + ((pitch_class - floor) % 12 + 12) % 12;
+}
+
+// Reads the lines of one part through the whole form.
+class LineReader {
+ public:
+  LineReader(const Sheet& sheet, const Part& part) : sheet_(sheet), part_(part) {}
+
+  PartSheet Read() {
+    for (const PlacedSection& placed : sheet_.sections) {
+      section_ = placed.section;
+      const auto line = section_->lines.find(part_.name);
+      if (line == section_->lines.end()) continue;
+      now_ = placed.start;
+      length_ = Quarter;
+      octave_ = part_.home;
+      SetDynamic(ReadDynamic("mf"), ReadDynamic("mf"));
+      for (const Bar& bar : line->second.bars) ReadBar(bar);
+      if (!tied_.empty()) throw ScoreError(line->second.bars.back().line, "a tie leads nowhere");
+      if (!out_.dynamics.empty()) out_.dynamics.back().end = placed.end;
+    }
+    SetLoudness();
+    return out_;
+  }
+
+ private:
+  void SetDynamic(double from, double to) {
+    if (!out_.dynamics.empty() && out_.dynamics.back().end > now_) out_.dynamics.back().end = now_;
+    out_.dynamics.push_back({now_, sheet_.end, from, to});
+  }
+
+  void ReadBar(const Bar& bar) {
+    const int end = now_ + section_->meter.BarTicks();
+    try {
+      for (const std::string& token : Unfolded(bar.tokens)) {
+        if (token.front() == '\\') {
+          const size_t dots = token.find("..");
+          const double from = ReadDynamic(token.substr(1, dots - 1));
+          SetDynamic(from, dots == std::string::npos ? from : ReadDynamic(token.substr(dots + 2)));
+        } else if (token.front() == 'o' && token.size() == 2) {
+          octave_ = token[1] - '0';
+        } else if (part_.instrument->drums) {
+          Drum(token, bar.line, end);
+        } else {
+          Play(ReadToken(token), bar.line);
+        }
+      }
+    } catch (const std::invalid_argument& problem) {
+      throw ScoreError(bar.line, part_.name + ": " + problem.what());
+    }
+    if (part_.instrument->drums) now_ = end;
+    if (now_ != end) {
+      throw ScoreError(bar.line, part_.name + ": the bar is " + std::to_string(now_ - end) +
+                                     " ticks too long in section " + section_->name);
+    }
+  }
+
+  const Chord& ChordNow() const {
+    for (const PlacedChord& placed : sheet_.chords) {
+      if (placed.start <= now_ && now_ < placed.end) return placed.chord;
+    }
+    throw std::invalid_argument("no chord stands here");
+  }
+
+  // The voicing under the part at this moment; it moves on only where the chord changes.
+  const std::vector<int>& VoicingNow() {
+    for (const PlacedChord& placed : sheet_.chords) {
+      if (placed.start > now_ || now_ >= placed.end) continue;
+      if (placed.start != voiced_) {
+        voicing_ = Voice(placed.chord, part_.floor, part_.voices, voicing_);
+        voiced_ = placed.start;
+      }
+      return voicing_;
+    }
+    throw std::invalid_argument("no chord stands here");
+  }
+
+  int PitchOf(const Tone& tone) {
+    if (tone.kind == ToneKind::Voice) {
+      const std::vector<int>& voicing = VoicingNow();
+      const auto index = static_cast<size_t>(tone.voice - 1);
+      const auto turns = static_cast<int>(index / voicing.size());
+      return voicing[index % voicing.size()] + 12 * (turns + tone.octaves);
+    }
+    if (tone.kind == ToneKind::Bass) {
+      const Chord& chord = ChordNow();
+      const int root = AtOrAbove(part_.floor, chord.root);
+      int pitch = AtOrAbove(part_.floor, chord.bass);
+      if (tone.degree == 'T') pitch = root + chord.Third();
+      if (tone.degree == 'F') pitch = root + chord.Fifth();
+      if (tone.degree == 'S') pitch = root + chord.Seventh();
+      return pitch + 12 * tone.octaves;
+    }
+    return 12 * (octave_ + 1 + tone.octaves) + tone.semitone + section_->transpose;
+  }
+
+  void Play(const Token& token, int line) {
+    if (token.length > 0) length_ = token.length;
+    std::vector<int> pitches;
+    if (token.whole_chord) pitches = VoicingNow();
+    for (const Tone& tone : token.tones) pitches.push_back(PitchOf(tone));
+    if (token.opens_slur) slur_ = now_;
+    std::map<int, size_t> next_tied;
+    for (const int pitch : pitches) {
+      const auto tie = tied_.find(pitch);
+      size_t index = out_.notes.size();
+      if (tie != tied_.end()) {
+        index = tie->second;
+        out_.notes[index].length += length_;
+        tied_.erase(tie);
+      } else {
+        if (pitch < 0 || pitch > 127) throw std::invalid_argument("a pitch out of MIDI");
+        Note note;
+        note.start = now_;
+        note.length = length_;
+        note.pitch = pitch;
+        note.stress = token.stress;
+        note.touch = slur_ >= 0 && token.touch == Touch::Plain ? Touch::Slurred : token.touch;
+        note.line = line;
+        out_.notes.push_back(note);
+      }
+      if (token.tied) next_tied[pitch] = index;
+    }
+    if (!tied_.empty()) throw std::invalid_argument("a tie to another pitch");
+    tied_ = next_tied;
+    now_ += length_;
+    if (token.closes_slur && slur_ >= 0) {
+      out_.phrases.push_back({slur_, now_});
+      slur_ = -1;
+    }
+  }
+
+  void Drum(const std::string& token, int line, int bar_end) {
+    if (token == "rest") return;
+    size_t at = 0;
+    while (at <= token.size()) {
+      const size_t plus = std::min(token.find('+', at), token.size());
+      const std::string name = token.substr(at, plus - at);
+      at = plus + 1;
+      const auto pattern = sheet_.score->patterns.find(name);
+      if (pattern == sheet_.score->patterns.end()) {
+        throw std::invalid_argument("no pattern " + name);
+      }
+      for (const DrumRow& row : pattern->second) DrumHits(row, line, bar_end);
+    }
+  }
+
+  void DrumHits(const DrumRow& row, int line, int bar_end) {
+    const auto cells = static_cast<int>(row.cells.size());
+    const int bar_ticks = bar_end - now_;
+    if (bar_ticks % cells != 0)
+      throw std::invalid_argument("drum cells do not fill the bar evenly");
+    for (int i = 0; i < cells; ++i) {
+      const char cell = row.cells[static_cast<size_t>(i)];
+      if (cell == ' ') continue;
+      Note note;
+      note.start = now_ + bar_ticks / cells * i;
+      note.length = Whole / 16;
+      note.pitch = row.key;
+      note.stress = cell == 'X' ? 12 : cell == 'o' ? -22 : 0;
+      note.touch = Touch::Tenuto;
+      note.line = line;
+      out_.notes.push_back(note);
+    }
+  }
+
+  void SetLoudness() {
+    std::stable_sort(out_.notes.begin(), out_.notes.end(),
+                     [](const Note& a, const Note& b) { return a.start < b.start; });
+    for (Note& note : out_.notes) {
+      for (const Dynamic& dynamic : out_.dynamics) {
+        if (note.start < dynamic.start || note.start >= dynamic.end) continue;
+        const double share = static_cast<double>(note.start - dynamic.start) /
+                             static_cast<double>(dynamic.end - dynamic.start);
+        note.loudness = dynamic.from + (dynamic.to - dynamic.from) * share;
+      }
+    }
+  }
+
+  const Sheet& sheet_;
+  const Part& part_;
+  const Section* section_ = nullptr;
+  PartSheet out_;
+  int now_ = 0;
+  int length_ = Quarter;
+  int octave_ = 4;
+  int slur_ = -1;
+  std::map<int, size_t> tied_;  // pitch to its note
+  std::vector<int> voicing_;
+  int voiced_ = -1;
+};
+
+}  // namespace
+
+Sheet WriteOut(const Score& score) {
+  Sheet sheet;
+  sheet.score = &score;
+  for (const std::string& name : score.form) {
+    const Section& section = score.sections.at(name);
+    const int end = sheet.end + section.bars * section.meter.BarTicks();
+    sheet.sections.push_back({&section, sheet.end, end});
+    sheet.end = end;
+    PlaceChords(sheet.sections.back(), sheet.chords);
+  }
+  for (const Part& part : score.parts) sheet.parts.push_back(LineReader(sheet, part).Read());
+  return sheet;
+}
+
+}  // namespace orvane::music

@@ -1,0 +1,70 @@
+// The score written out in the order of its form: every note with its place, pitch and loudness.
+#pragma once
+
+#include <vector>
+
+#include "tools/music/score.h"
+
+namespace orvane::music {
+
+enum class Touch { Plain, Staccato, Tenuto, Slurred };
+
+// One note as written, before the player's freedom. Ticks count from the start of the piece.
+struct Note {
+  int start = 0;
+  int length = 0;
+  int pitch = 0;
+  double loudness = 74;  // the dynamic as a velocity, 1 to 127
+  int stress = 0;        // added for an accent
+  Touch touch = Touch::Plain;
+  int line = 0;  // of the score, for messages
+};
+
+// A dynamic that holds, or grows from `from` to `to`, over [start, end).
+struct Dynamic {
+  int start = 0;
+  int end = 0;
+  double from = 74;
+  double to = 74;
+};
+
+// A slur: one breath over [start, end).
+struct Phrase {
+  int start = 0;
+  int end = 0;
+};
+
+// All that one part plays, in the order of time.
+struct PartSheet {
+  std::vector<Note> notes;
+  std::vector<Dynamic> dynamics;
+  std::vector<Phrase> phrases;
+};
+
+// A section at its place.
+struct PlacedSection {
+  const Section* section = nullptr;
+  int start = 0;
+  int end = 0;
+};
+
+struct PlacedChord {
+  int start = 0;
+  int end = 0;
+  Chord chord;
+};
+
+// `parts` goes with the score's parts; `score` must outlive the sheet.
+struct Sheet {
+  const Score* score = nullptr;
+  std::vector<PlacedSection> sections;
+  std::vector<PlacedChord> chords;
+  std::vector<PartSheet> parts;
+  int end = 0;
+};
+
+// Writes the score out; throws ScoreError for bars of a wrong length and for tokens that are not
+// of the notation.
+Sheet WriteOut(const Score& score);
+
+}  // namespace orvane::music

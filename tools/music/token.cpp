@@ -1,0 +1,167 @@
+#include "tools/music/token.h"
+
+#include <array>
+#include <cctype>
+#include <sstream>
+#include <stdexcept>
+
+namespace orvane::music {
+namespace {
+
+class TokenReader {
+ public:
+  explicit TokenReader(std::string_view text) : text_(text) {}
+
+  Token Read() {
+    while (Take('(')) token_.opens_slur = true;
+    if (Take('[')) {
+      while (!Take(']')) {
+        if (!Take(' ')) token_.tones.push_back(ReadTone());
+      }
+    } else if (Take('*')) {
+      token_.whole_chord = true;
+    } else if (!Take('r')) {
+      token_.tones.push_back(ReadTone());
+    }
+    ReadLength();
+    while (at_ < text_.size()) ReadMark();
+    return token_;
+  }
+
+ private:
+  [[noreturn]] void Fail() const { throw std::invalid_argument("no note: " + std::string(text_)); }
+
+  bool Take(char c) {
+    if (at_ >= text_.size()) {
+      if (c == ']') Fail();
+      return false;
+    }
+    if (text_[at_] != c) return false;
+    ++at_;
+    return true;
+  }
+
+  bool Digit() const {
+    return at_ < text_.size() && std::isdigit(static_cast<unsigned char>(text_[at_])) != 0;
+  }
+
+  int ReadDigits() {
+    int value = 0;
+    while (Digit() && value < 1000) value = value * 10 + (text_[at_++] - '0');
+    return value;
+  }
+
+  Tone ReadTone() {
+    Tone tone;
+    if (Take('@')) {
+      // One digit only, so that a length can follow after a colon-free "@1" in a chord: @1:8.
+      if (!Digit()) Fail();
+      tone.kind = ToneKind::Voice;
+      tone.voice = text_[at_++] - '0';
+      if (tone.voice < 1) Fail();
+      Take(':');
+    } else if (Take('R') || Take('T') || Take('F') || Take('S')) {
+      tone.kind = ToneKind::Bass;
+      tone.degree = text_[at_ - 1];
+    } else {
+      if (at_ >= text_.size() || std::islower(static_cast<unsigned char>(text_[at_])) == 0) Fail();
+      tone.semitone = ReadSemitone(text_, at_);
+    }
+    for (;;) {
+      if (Take('\'')) {
+        ++tone.octaves;
+      } else if (Take(',')) {
+        --tone.octaves;
+      } else {
+        return tone;
+      }
+    }
+  }
+
+  void ReadLength() {
+    if (!Digit()) return;
+    const int divisor = ReadDigits();
+    if (divisor == 0 || Whole % divisor != 0) Fail();
+    token_.length = Whole / divisor;
+    if (Take('.')) token_.length += token_.length / 2;
+  }
+
+  void ReadMark() {
+    if (Take('!')) {
+      token_.touch = Touch::Staccato;
+    } else if (Take('_')) {
+      token_.touch = Touch::Tenuto;
+    } else if (Take('>')) {
+      token_.stress += 10;
+    } else if (Take('^')) {
+      token_.stress += 20;
+    } else if (Take('?')) {
+      token_.stress -= 14;
+    } else if (Take(')')) {
+      token_.closes_slur = true;
+    } else if (Take('~')) {
+      token_.tied = true;
+    } else {
+      Fail();
+    }
+  }
+
+  std::string_view text_;
+  size_t at_ = 0;
+  Token token_;
+};
+
+}  // namespace
+
+Token ReadToken(std::string_view text) {
+  return TokenReader(text).Read();
+}
+
+double ReadDynamic(std::string_view name) {
+  struct Level {
+    std::string_view name;
+    double velocity;
+  };
+  static constexpr std::array<Level, 8> Levels = {{{"ppp", 26},
+                                                   {"pp", 38},
+                                                   {"p", 50},
+                                                   {"mp", 62},
+                                                   {"mf", 75},
+                                                   {"f", 88},
+                                                   {"ff", 101},
+                                                   {"fff", 114}}};
+  for (const Level& level : Levels) {
+    if (level.name == name) return level.velocity;
+  }
+  throw std::invalid_argument("no dynamic: " + std::string(name));
+}
+
+std::vector<std::string> Unfolded(const std::vector<std::string>& tokens) {
+  std::vector<std::string> out;
+  for (size_t i = 0; i < tokens.size(); ++i) {
+    if (tokens[i].front() != '{') {
+      if (tokens[i].find_first_of("{}") != std::string::npos) {
+        throw std::invalid_argument("a } without its {");
+      }
+      out.push_back(tokens[i]);
+      continue;
+    }
+    std::vector<std::string> group;
+    std::string token = tokens[i].substr(1);
+    size_t close = token.find('}');
+    while (close == std::string::npos) {
+      if (!token.empty()) group.push_back(token);
+      if (++i == tokens.size()) throw std::invalid_argument("a { without its }");
+      token = tokens[i];
+      close = token.find('}');
+    }
+    if (close > 0) group.push_back(token.substr(0, close));
+    int times = 0;
+    std::istringstream(token.substr(close + 1)) >> times;
+    if (times < 1 || times > 64) throw std::invalid_argument("a group needs its count: {...}2");
+    for (int n = 0; n < times; ++n) out.insert(out.end(), group.begin(), group.end());
+  }
+  return out;
+}
+
+}  // namespace orvane::music

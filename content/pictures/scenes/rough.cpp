@@ -31,10 +31,6 @@ Image PaintTitle() {
   return Rough(320, 160, 118, dusk, dark);
 }
 
-Image PaintGroundLair() {
-  return Rough(480, 288, 110, dark, dark);
-}
-
 Image PaintEndingStill() {
   return Rough(454, 300, 205, dusk, dark);
 }

@@ -1,0 +1,217 @@
+// The last dragon's lair: a hall of pillars under the rock, lit by a disc of light and by crystals.
+#include <algorithm>
+#include <array>
+
+#include "content/pictures/scenes/canvas.h"
+#include "content/pictures/scenes/hall.h"
+#include "content/pictures/scenes/noise.h"
+#include "content/pictures/scenes/scenes.h"
+#include "content/pictures/scenes/terrain.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+constexpr std::array<uint32_t, 6> slate{0x140C28, 0x282048, 0x40386C, 0x645C94, 0x9890B8, 0xD8D0DC};
+constexpr std::array<uint32_t, 6> marble{0x181030, 0x342850, 0x5C4874,
+                                         0x8C7898, 0xC4B0B8, 0xF4E8D4};
+constexpr std::array<uint32_t, 6> gold{0x2C1830, 0x603840, 0xA06C40, 0xD8A850, 0xF8E090, 0xFFFCE0};
+constexpr std::array<uint32_t, 5> crystal{0x106080, 0x18A0B0, 0x40DCD0, 0xA8F8E8, 0xFFFFFF};
+constexpr std::array<uint32_t, 6> radiance{0x184878, 0x2088A0, 0x58C8B8,
+                                           0xC8E8A0, 0xFCF0B0, 0xFFFFF0};
+constexpr Vec key{-0.55F, 0.78F, -0.3F};
+constexpr float sight = 320;
+
+struct Hit {
+  Vec place;
+  float distance = 0;
+  Stuff stuff = Stuff::Disc;
+};
+
+Hit March(Vec from, Vec direction, int steps) {
+  float reach = 0.5F;
+  Solid solid;
+  for (int step = 0; step < steps && reach < sight; ++step) {
+    solid = HallAt(from + direction * reach);
+    if (solid.distance < 0.01F + reach * 0.0006F) break;
+    reach += solid.distance;
+  }
+  return {from + direction * reach, reach, solid.stuff};
+}
+
+Vec NormalAt(Vec p, float gap) {
+  const auto at = [&](Vec offset) { return HallAt(p + offset * gap).distance; };
+  const Vec a{1, -1, -1};
+  const Vec b{-1, -1, 1};
+  const Vec c{-1, 1, -1};
+  const Vec d{1, 1, 1};
+  const Vec sum = a * at(a) + b * at(b) + c * at(c) + d * at(d);
+  return Length(sum) > 0 ? Unit(sum) : Vec{0, 1, 0};
+}
+
+// Only what stands near throws a shadow: the light is the vault's own shimmer.
+float Shadow(Vec from, Vec towards) {
+  float open = 1;
+  float reach = 1;
+  for (int step = 0; step < 24 && reach < 60; ++step) {
+    const float distance = HallAt(from + towards * reach).distance;
+    open = std::min(open, 7 * distance / reach);
+    if (open < 0.02F) return 0;
+    reach += std::max(distance, 0.6F);
+  }
+  return open;
+}
+
+float Openness(Vec p, Vec normal) {
+  float closed = 0;
+  float weight = 0.5F;
+  for (int step = 1; step <= 4; ++step) {
+    const float reach = 1.6F * static_cast<float>(step);
+    closed += weight * Clamp((reach - HallAt(p + normal * reach).distance) / reach);
+    weight *= 0.72F;
+  }
+  return Clamp(1 - closed * 0.75F);
+}
+
+// The light of a point: how squarely it falls on the surface, weaker with the square of the way.
+float Glow(Vec p, Vec normal, Vec source, float strength) {
+  const Vec way = source - p;
+  const float squared = Dot(way, way);
+  return Clamp(Dot(normal, way) / std::sqrt(squared) * 0.7F + 0.3F) * strength / (1 + squared);
+}
+
+// The disc: rings and rays that brighten towards the middle.
+Colour DiscColour(Vec p) {
+  const float x = p.x - disc_centre.x;
+  const float y = p.y - disc_centre.y;
+  const float radius = std::sqrt(x * x + y * y) / disc_radius;
+  const float angle = std::atan2(y, x);
+  const float rays = 0.13F * std::sin(angle * 16) * SmoothStep(0.42F, 0.55F, radius);
+  const float rings = radius > 0.4F ? 0.11F * std::cos(radius * 34) : 0.0F;
+  return OnRamp(radiance, 1.02F - 0.95F * SmoothStep(0.05F, 1.0F, radius) + rays + rings);
+}
+
+float SlabTone(Vec p) {
+  const float row = std::floor(p.z / 9);
+  const float shift = static_cast<int>(row) % 2 == 0 ? 0.0F : 5.0F;
+  const float column = std::floor((p.x + shift) / 10);
+  const float in_x = (p.x + shift) - column * 10;
+  const float in_z = p.z - row * 9;
+  const float edge = std::min(std::min(in_x, 10 - in_x), std::min(in_z, 9 - in_z));
+  const float slab = Hash(static_cast<int>(column), static_cast<int>(row), 5) - 0.5F;
+  const float worn = Fbm(p.x * 0.11F, p.z * 0.11F, 4, 6) - 0.5F;
+  const float wide = 0.10F + p.z * 0.002F;
+  const float seam = SmoothStep(wide + 0.14F, wide * 0.4F, edge) * SmoothStep(190, 60, p.z);
+  return 0.07F * slab + 0.22F * worn - 0.17F * seam;
+}
+
+// A ring of signs in the floor's middle, faintly alight.
+float SignLight(Vec p) {
+  const float x = p.x + 4;
+  const float z = p.z - 66;
+  const float radius = std::sqrt(x * x + z * z);
+  const auto band = [&](float at, float half) {
+    return SmoothStep(half + 0.16F, half, std::fabs(radius - at));
+  };
+  const float angle = std::atan2(z, x) * 36 / 6.2831853F;
+  const float sector = angle - std::floor(angle);
+  const int sign = static_cast<int>(std::floor(angle)) + 40;
+  const float stroke = SmoothStep(0.30F, 0.22F, std::fabs(sector - 0.5F)) *
+                       (Hash(sign, static_cast<int>(radius * 1.4F), 8) > 0.45F ? 1.0F : 0.0F);
+  return std::max(std::max(band(27, 0.22F), band(22, 0.18F)), 0.8F * stroke * band(24.5F, 1.6F));
+}
+
+Colour Surface(const Hit& hit, Vec direction) {
+  if (hit.stuff == Stuff::Disc) return DiscColour(hit.place);
+  const Vec normal = NormalAt(hit.place, 0.05F + hit.distance * 0.001F);
+  const Vec lamp = Unit(key);
+  const float facing = Clamp(Dot(normal, lamp) * 0.75F + 0.25F);
+  const float shadow = facing > 0 ? Shadow(hit.place + normal * 0.2F, lamp) : 0;
+  const float open = Openness(hit.place, normal);
+  const float gate = Glow(hit.place, normal, disc_centre + Vec{0, 0, -22}, 2600);
+  const float rim = std::pow(Clamp(1 + Dot(normal, direction)), 3.0F) * 0.18F;
+  float light =
+      0.02F + 0.10F * open + 0.62F * facing * facing * (0.3F + 0.7F * shadow) * open + rim;
+  Colour colour;
+  const Vec p = hit.place;
+  switch (hit.stuff) {
+    case Stuff::Floor:
+      light = 0.08F + 0.20F * open + 0.22F * shadow + SlabTone(p);
+      colour = OnRamp(slate, light);
+      break;
+    case Stuff::Pillar: {
+      const float vein = Fbm(p.x * 0.2F + p.y * 0.05F, p.y * 0.11F + p.z * 0.2F, 4, 7) - 0.5F;
+      colour = OnRamp(marble, light * 1.05F + 0.24F * vein);
+      break;
+    }
+    case Stuff::Gate:
+      colour = OnRamp(gold, light * 1.1F + std::min(gate, 1.2F) * 0.3F);
+      break;
+    case Stuff::Crystal: {
+      const float face = 0.30F + 0.45F * Clamp(Dot(normal, lamp)) + rim * 1.6F + 0.02F * p.y;
+      return OnRamp(crystal, face);
+    }
+    default: {
+      const float grain = Fbm(p.y * 0.15F + p.x * 0.1F, p.z * 0.15F, 4, 9) - 0.5F;
+      colour = OnRamp(slate, light * 0.8F + 0.22F * grain);
+    }
+  }
+  colour = colour + Hex(0xFFD898) * (std::min(gate, 1.0F) * 0.22F * open);
+  for (const float depth : crystal_depths) {
+    for (const float side : {-crystal_side, crystal_side}) {
+      const float glow = Glow(p, normal, {side, 7, depth - 4}, 150);
+      colour = colour + Hex(0x30E0D0) * (std::min(glow, 0.9F) * 0.6F * open);
+    }
+  }
+  if (hit.stuff == Stuff::Floor) colour = Mix(colour, Hex(0x70E8E0), SignLight(p) * 0.34F);
+  return colour;
+}
+
+Colour Veiled(Colour colour, float distance) {
+  const float cover = 1 - std::exp(-std::pow(distance / 330, 1.7F));
+  return Mix(colour, Hex(0x38447C), cover * 0.75F);
+}
+
+Colour Look(Vec from, Vec direction) {
+  const Hit hit = March(from, direction, 150);
+  Colour colour = Surface(hit, direction);
+  if (hit.stuff == Stuff::Floor) {
+    // Polished stone mirrors the hall, more so at a flat angle.
+    const Vec up{0, 1, 0};
+    const float ripple = 0.035F * (Noise(hit.place.x * 0.5F, hit.place.z * 0.5F, 15) - 0.5F);
+    const Vec mirrored = Unit({direction.x + ripple, -direction.y, direction.z + ripple});
+    const Hit other = March(hit.place + up * 0.05F, mirrored, 80);
+    const float flat = std::pow(Clamp(1 + direction.y), 5.0F);
+    colour = Mix(colour, Veiled(Surface(other, mirrored), other.distance), 0.06F + 0.34F * flat);
+  }
+  if (hit.stuff != Stuff::Disc) colour = Veiled(colour, hit.distance);
+  return colour;
+}
+
+// Air that glows around the disc, and shafts that fall from the upper left.
+Colour Air(const View& view, int x, int y) {
+  const float column = static_cast<float>(x);
+  const float row = static_cast<float>(y);
+  const float off_x = column - view.ColumnOf(disc_centre.x, disc_centre.z);
+  const float off_y = row - view.RowOf(disc_centre.y, disc_centre.z);
+  const float size = disc_radius / disc_centre.z * view.focal;
+  const float near = std::exp(-(off_x * off_x + off_y * off_y) / (size * size * 6));
+  const float slanted = (column + row * 0.55F) / static_cast<float>(view.width);
+  const float beam = SmoothStep(0.56F, 0.78F, Fbm(slanted * 7, 0.5F, 3, 17));
+  const float fade = SmoothStep(0.62F, 0.05F, row / static_cast<float>(view.height));
+  return Hex(0x98B8B0) * (near * 0.2F) + Hex(0xB8B0D8) * (beam * fade * 0.2F);
+}
+
+}  // namespace
+
+Image PaintGroundLair() {
+  const View view{960, 576, 220, 660};
+  Canvas canvas(view.width, view.height);
+  for (int y = 0; y < view.height; ++y) {
+    for (int x = 0; x < view.width; ++x) {
+      canvas.At(x, y) = Look({0, view.eye, 0}, Unit(view.Through(x, y))) + Air(view, x, y);
+    }
+  }
+  return ToSheet(Painted(Shrink(canvas, 2, 2), 2, 0.7F), 208, 7);
+}
+
+}  // namespace orvane::paint::scene

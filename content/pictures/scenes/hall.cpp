@@ -1,0 +1,111 @@
+#include "content/pictures/scenes/hall.h"
+
+#include <algorithm>
+
+#include "content/pictures/scenes/colour.h"
+#include "content/pictures/scenes/noise.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+constexpr float pillar_side = 37;
+constexpr float pillar_gap = 38;
+constexpr float first_pillar = 64;
+constexpr float last_pillar = 4;  // the number of the last pair
+
+float Box(Vec p, Vec half) {
+  const Vec q{std::fabs(p.x) - half.x, std::fabs(p.y) - half.y, std::fabs(p.z) - half.z};
+  const Vec out{std::max(q.x, 0.0F), std::max(q.y, 0.0F), std::max(q.z, 0.0F)};
+  return Length(out) + std::min(std::max(q.x, std::max(q.y, q.z)), 0.0F);
+}
+
+// A fluted shaft between square stones; some shafts are broken off.
+float Pillar(Vec p) {
+  const float number = std::clamp(std::round((p.z - first_pillar) / pillar_gap), 0.0F, last_pillar);
+  const int side = p.x < 0 ? 0 : 1;
+  const int seed = static_cast<int>(number) * 2 + side;
+  const Vec q{std::fabs(p.x) - pillar_side, p.y, p.z - first_pillar - number * pillar_gap};
+  const float round = std::sqrt(q.x * q.x + q.z * q.z);
+  const float angle = std::atan2(q.z, q.x);
+  const float flute = 0.16F * std::fabs(std::sin(angle * 7));
+  const float swell = 4.6F - 0.012F * q.y;
+  float shaft = round - swell + flute;
+  const bool broken = Hash(seed, 4, 3) < 0.2F;
+  if (broken) {
+    const float top = 22 + 16 * Hash(seed, 5, 3) + 4 * Noise(q.x * 0.5F, q.z * 0.5F, seed);
+    shaft = std::max(shaft, q.y - top);
+  }
+  const float base = std::min(Box({q.x, q.y - 1.4F, q.z}, {6.4F, 1.4F, 6.4F}),
+                              std::max(round - 5.7F, std::fabs(q.y - 3.6F) - 0.9F));
+  const float ring = std::max(round - 5.2F, std::fabs(q.y - 15) - 0.7F);
+  const float cap = broken ? 99 : Box({q.x, q.y - 66, q.z}, {7, 3, 7});
+  return std::min(std::min(shaft, ring), std::min(base, cap)) * 0.85F;
+}
+
+// Walls and vault, hewn out of the living rock.
+float Rock(Vec p) {
+  const float rough = 7 * (Fbm(p.y * 0.06F + p.x * 0.05F, p.z * 0.06F, 4, 11) - 0.5F) +
+                      2.2F * (Ridges(p.y * 0.13F, p.z * 0.13F + p.x * 0.1F, 2, 12) - 0.4F);
+  const float wall = 62 - std::fabs(p.x) + rough;
+  // Dripstones hang from the vault.
+  const float drip = Noise(p.x * 0.16F, p.z * 0.13F, 13);
+  const float spikes = 30 * SmoothStep(0.62F, 1, drip);
+  const float vault = 84 - p.y - 0.010F * p.x * p.x + rough - spikes;
+  return std::min(wall, vault) * 0.6F;
+}
+
+float Crystal(Vec p) {
+  float nearest = 99;
+  for (const float depth : crystal_depths) {
+    const Vec q{std::fabs(p.x) - crystal_side, p.y, p.z - depth};
+    if (Length(q) > 30) {
+      nearest = std::min(nearest, Length(q) - 24);
+      continue;
+    }
+    const int side = p.x < 0 ? 7 : 0;
+    for (int k = 0; k < 6; ++k) {
+      const int seed = k + side + static_cast<int>(depth);
+      const float lean_x = (Hash(seed, 1, 21) - 0.6F) * 0.9F;
+      const float lean_z = (Hash(seed, 2, 21) - 0.5F) * 0.9F;
+      const float tall = 4 + 8 * Hash(seed, 3, 21) * (k == 0 ? 1.5F : 0.8F);
+      const Vec local{q.x - (Hash(seed, 4, 21) - 0.5F) * 8 - lean_x * q.y, q.y,
+                      q.z - (Hash(seed, 5, 21) - 0.5F) * 8 - lean_z * q.y};
+      const float six =
+          std::max(std::fabs(local.x), std::fabs(local.x) * 0.5F + std::fabs(local.z) * 0.87F);
+      const float thick = 1.1F + 0.9F * Hash(seed, 6, 21);
+      const float prism = std::max(six - thick, six * 1.9F + local.y - tall);
+      nearest = std::min(nearest, std::max(prism, -local.y) * 0.55F);
+    }
+  }
+  return nearest;
+}
+
+}  // namespace
+
+Solid HallAt(Vec place) {
+  Solid best{place.y, Stuff::Floor};
+  const auto offer = [&](float distance, Stuff stuff) {
+    if (distance < best.distance) best = {distance, stuff};
+  };
+  offer(Pillar(place), Stuff::Pillar);
+  offer(Rock(place), Stuff::Rock);
+  offer(Crystal(place), Stuff::Crystal);
+  // Five steps lead to the gate, a wall with a ring around the disc.
+  for (int step = 0; step < 5; ++step) {
+    const float up = 1.6F * static_cast<float>(step);
+    const Vec middle{0, up * 0.5F, 236 + 5 * static_cast<float>(step) + 40};
+    offer(Box(place - middle, {30 - 1.5F * static_cast<float>(step), up * 0.5F + 0.8F, 40}),
+          Stuff::Gate);
+  }
+  const Vec from_disc = place - disc_centre;
+  const float round = std::sqrt(from_disc.x * from_disc.x + from_disc.y * from_disc.y);
+  const float wall = std::max(disc_centre.z + 2 - place.z, disc_radius - round);
+  offer(wall * 0.9F, Stuff::Rock);
+  const float ring =
+      std::max(std::fabs(round - disc_radius - 2.4F) - 2.4F, std::fabs(from_disc.z) - 2.5F);
+  offer(ring, Stuff::Gate);
+  offer(disc_centre.z + 3 - place.z, Stuff::Disc);
+  return best;
+}
+
+}  // namespace orvane::paint::scene

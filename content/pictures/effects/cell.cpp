@@ -1,0 +1,28 @@
+#include "content/pictures/effects/cell.h"
+
+#include "content/pictures/tiles/noise.h"
+
+namespace orvane::paint::effects {
+namespace {
+
+constexpr int MaskLeft = 192;
+constexpr Colour White = 0xFFFFFF;
+
+}  // namespace
+
+void PaintCell(Image& sheet, int column, int row, const Shape& shape) {
+  for (int y = 1; y < CellSize - 1; ++y) {
+    for (int x = 1; x < CellSize - 1; ++x) {
+      const std::optional<Colour> colour = shape(x - 11.5, y - 11.5);
+      if (!colour) continue;
+      sheet.At(column * CellSize + x, row * CellSize + y) = *colour;
+      sheet.At(MaskLeft + column * CellSize + x, row * CellSize + y) = White;
+    }
+  }
+}
+
+double Wander(double x, double y, int seed) {
+  return tiles::Noise(x, y, 0, seed);
+}
+
+}  // namespace orvane::paint::effects

@@ -1,0 +1,111 @@
+// Flames, explosions and the great blasts.
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "content/pictures/effects/shapes.h"
+
+namespace orvane::paint::effects {
+namespace {
+
+using std::numbers::pi;
+
+// How deep (x, y) lies in a tongue that stands on (root_x, root_y): 1 in its heart, 0 at its rim.
+double InTongue(double x, double y, double root_x, double root_y, double height, double width,
+                double bend) {
+  const double t = (root_y - y) / height;
+  if (t < -0.35 || t > 1) return -1;
+  const double middle = root_x + bend * std::sin(2.4 * t) * t;
+  const double swell = t < 0.1 ? std::sqrt(std::max(0.0, 1 - std::pow((0.1 - t) / 0.45, 2)))
+                               : std::pow(1 - (t - 0.1) / 0.9, 0.75);
+  return 1 - std::abs(x - middle) / std::max(0.4, width * swell);
+}
+
+}  // namespace
+
+Shape FireBall() {
+  return [](double x, double y) -> std::optional<Colour> {
+    const double body = 1 - std::hypot(x / 8.6, (y - 3.2) / 7.6);
+    const double tongue =
+        std::max({InTongue(x, y, 0.5, 3, 14.4, 7.4, -3.0), InTongue(x, y, -5.4, 4, 11.5, 3.8, -1.8),
+                  InTongue(x, y, 5.6, 4, 9.5, 3.6, 3.4)});
+    const double depth = std::max(body, tongue);
+    if (depth <= 0) return std::nullopt;
+    const double heart = 1 - std::hypot((x + 0.3) / 7.6, (y - 4.6) / 9.8);
+    return Fire(0.4 + 3.6 * std::min(depth, 0.75) + 3.6 * std::max(0.0, heart) - 0.6);
+  };
+}
+
+Shape Flame(int frame) {
+  return [frame](double x, double y) -> std::optional<Colour> {
+    const double tall = frame == 0 ? 11 : frame == 1 ? 20 : 17;
+    const double wide = frame == 0 ? 4.6 : 6.6;
+    const double depth = std::max({InTongue(x, y, 0, 8, tall, wide, 2.6),
+                                   InTongue(x, y, -4.4, 8.6, tall * 0.6, wide * 0.55, -2.5),
+                                   InTongue(x, y, 4.6, 8.6, tall * 0.7, wide * 0.5, 2.0)});
+    if (depth <= 0) return std::nullopt;
+    const double high = (8 - y) / tall;
+    if (frame == 2 && high > 0.45) return Smoke(1.2 + 2.6 * depth);
+    return Fire(0.4 + 5.8 * depth * (1.15 - 0.75 * high));
+  };
+}
+
+Shape Explosion(int frame) {
+  constexpr std::array<double, 7> Reach{3.8, 6.4, 8.8, 10.6, 11.2, 11.4, 11.4};
+  constexpr std::array<double, 7> Hollow{0, 0, 0, 2.4, 5.2, 7.0, 8.4};
+  constexpr std::array<double, 7> Heat{6.5, 6.4, 5.8, 5.0, 4.0, 2.8, 1.6};
+  const auto at = static_cast<size_t>(std::clamp(frame, 0, 6));
+  return [=](double x, double y) -> std::optional<Colour> {
+    const double distance = std::hypot(x, y);
+    const double turn = std::atan2(y, x);
+    const double billow =
+        Wander(7 + std::cos(turn) * 2.4 + frame * 0.2, 7 + std::sin(turn) * 2.4, 9);
+    const double rim = Reach[at] * (0.74 + 0.34 * billow);
+    const double hole = Hollow[at] * (0.5 + 0.9 * Wander(x * 0.4 + 9, y * 0.4 + 9, 7));
+    if (distance > rim || distance < hole) return std::nullopt;
+    const double grain = 2.2 * (Wander(x * 0.42 + 20, y * 0.42 + 20 + frame, 11) - 0.5);
+    const double tone = Heat[at] * (1 - distance / rim) + 0.9 + grain;
+    return frame > 4 ? Smoke(tone + 1) : Fire(tone);
+  };
+}
+
+Shape Atom(int frame) {
+  return [frame](double x, double y) -> std::optional<Colour> {
+    const double distance = std::hypot(x, y);
+    const double turn = std::atan2(y, x);
+    const double points = frame == 0 ? 0.8 : frame == 1 ? 1.6 : 2.6;
+    const double rim = 8.6 + points * std::cos(turn * (frame == 2 ? 10 : 8) + frame);
+    if (distance > rim) return std::nullopt;
+    const double band = std::abs(distance - rim * 0.66) < 0.9 && frame != 2 ? -1.6 : 0;
+    return Fire(5.9 * (1 - distance / rim) * (frame == 2 ? 1.5 : 1.25) + 0.9 + band);
+  };
+}
+
+Shape Sun() {
+  return [](double x, double y) -> std::optional<Colour> {
+    const double distance = std::hypot(x, y);
+    const double turn = std::atan2(y, x) + 0.2;
+    // Twelve rays, long and short in turn, around a disc.
+    const double ray = std::fmod(turn / (2 * pi) * 12 + 24, 12);
+    const bool longer = static_cast<int>(ray) % 2 == 0;
+    const double aside = std::abs(ray - std::floor(ray) - 0.5) * 2;
+    const double rim = 7.2 + (longer ? 4.1 : 2.2) * (1 - aside);
+    if (distance > rim) return std::nullopt;
+    if (distance < 6.4) return Star(5.8 - 0.42 * std::max(0.0, distance - 2.6));
+    return Star(distance > rim - 0.9 ? 0.5 : 2.4 - (distance - 6.4) * 0.2);
+  };
+}
+
+Shape LightRing(int frame) {
+  return [frame](double x, double y) -> std::optional<Colour> {
+    const double distance = std::hypot(x, y);
+    const double rim = frame == 0 ? 7.5 : frame == 1 ? 9.5 : 10.8;
+    const double thick = frame == 0 ? 3.6 : frame == 1 ? 2.8 : 1.8;
+    const double off = std::abs(distance - rim + thick / 2);
+    if (frame == 0 && distance < 2.2) return Star(5);
+    if (off > thick / 2 + 0.3) return std::nullopt;
+    return Star(5.4 - 4.4 * off / thick * 1.6);
+  };
+}
+
+}  // namespace orvane::paint::effects

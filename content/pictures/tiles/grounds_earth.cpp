@@ -1,0 +1,135 @@
+// Dirt, sand, gravel, waste and paving.
+#include <algorithm>
+#include <cmath>
+
+#include "content/pictures/tiles/grounds.h"
+#include "content/pictures/tiles/noise.h"
+#include "content/pictures/tiles/palette.h"
+
+namespace orvane::paint::tiles {
+namespace {
+
+double Grain(int x, int y, int seed) {
+  return 0.55 * Noise(x / 4.0, y / 4.0, 4, seed) + 0.45 * Noise(x / 2.0, y / 2.0, 8, seed + 1);
+}
+
+// Facets whose sites near the border are the same in all variants, so that cracks join.
+Facet JoinedFacet(int x, int y, int cells, int seed, int variant) {
+  const double scale = static_cast<double>(cells) / TileSize;
+  const bool inside = x > 3 && y > 3 && x < 12 && y < 12;
+  return FacetAt((x + 0.5) * scale, (y + 0.5) * scale, cells, cells,
+                 inside ? seed + variant * 0 : seed);
+}
+
+void Pebble(Image& tile, int x, int y, bool large, const Colour light, const Colour body,
+            const Colour dark) {
+  const Key key = {{'l', light}, {'m', body}, {'d', dark}};
+  if (large) {
+    Stamp(tile, x, y, {".lm.", "lmmd", "mmdd", ".dd."}, key);
+  } else {
+    Stamp(tile, x, y, {"lm", "dd"}, key);
+  }
+}
+
+}  // namespace
+
+Image PathTile() {
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+    const double grain = Grain(x, y, 21);
+    return Path[grain < 0.30 ? 2 : grain < 0.74 ? 3 : 4];
+  });
+  Pebble(tile, 3, 4, false, Path[5], Path[4], Path[1]);
+  Pebble(tile, 11, 10, false, Path[5], Path[4], Path[1]);
+  return tile;
+}
+
+Image SandTile(int variant) {
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+    const double grain = Grain(x, y, 31);
+    return Sand[grain < 0.26 ? 2 : grain < 0.80 ? 3 : 4];
+  });
+  const Key key = {{'l', Sand[5]}, {'d', Sand[2]}};
+  if (variant == 1) Stamp(tile, 3, 5, {"..llll..", "ldddddll", "d......d"}, key);
+  if (variant == 2) Stamp(tile, 5, 10, {".lllll..", "ddddddll"}, key);
+  if (variant == 3) {
+    Stamp(tile, 3, 3, {".ppp.", "pwpwp", "wpwpw", ".www.", "ddd.."},
+          {{'p', 0xF4B0A0}, {'w', 0xFCF0E4}, {'d', Sand[1]}});
+    Stamp(tile, 10, 9, {"..y..", "yyoyy", ".yoy.", "y.d.y"},
+          {{'y', 0xE88850}, {'o', 0xF8B878}, {'d', Sand[1]}});
+  }
+  return tile;
+}
+
+Image GravelTile(int variant) {
+  if (variant == 3) {
+    Image tile = GrassTile(0);
+    for (int i = 0; i < 9; ++i) {
+      Pebble(tile, 1 + static_cast<int>(Hash(i, 1, 41) * 12), 1 + i * 14 / 9, i % 4 == 0, Gravel[5],
+             Gravel[3], Grass[2]);
+    }
+    return tile;
+  }
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+    const double grain = Grain(x, y, 43);
+    return Gravel[grain < 0.30 ? 2 : grain < 0.76 ? 3 : 4];
+  });
+  for (int i = 0; i < 3; ++i) {
+    Pebble(tile, 1 + static_cast<int>(Hash(i, variant, 44) * 11),
+           1 + static_cast<int>(Hash(i, variant, 45) * 11), i == 0, Gravel[5], Gravel[3],
+           Gravel[1]);
+  }
+  if (variant == 4) {
+    for (const auto& [x, y] : {std::pair{2, 2}, {9, 3}, {4, 8}, {10, 10}}) {
+      Pebble(tile, x, y, true, Gravel[5], Gravel[4], Gravel[0]);
+    }
+  }
+  if (variant == 5) {
+    Stamp(tile, 2, 3,
+          {"dd........", "lldd......", "...ldd....", ".....ldd..", "....ddll..", "...dll....",
+           "....d.....", "....ld...."},
+          {{'d', Gravel[1]}, {'l', Gravel[5]}});
+  }
+  return tile;
+}
+
+Image WasteTile(int variant) {
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    const double grain = Grain(x, y, 51);
+    const Facet facet = JoinedFacet(x, y, 2, 55, variant);
+    if (facet.edge < 0.055) return Waste[1];
+    if (facet.edge < 0.16 && facet.dx + facet.dy < 0) return Waste[4];
+    return Waste[grain < 0.30 ? 2 : grain < 0.82 ? 3 : 4];
+  });
+  if (variant == 1) Pebble(tile, 4, 9, true, Waste[5], Waste[3], Waste[0]);
+  if (variant == 2) Pebble(tile, 10, 5, false, Waste[5], Waste[3], Waste[0]);
+  if (variant == 3) {
+    Stamp(tile, 3, 2,
+          {"d.......", "dd...dd.", ".ldddd..", "..dl....", "..dd....", "...dd...", "....ld.."},
+          {{'d', Waste[0]}, {'l', Waste[4]}});
+  }
+  return tile;
+}
+
+Image PavingTile(int variant) {
+  // Slabs of a running bond: two courses of 8 pixels, joints dark below and right, light above.
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    const int course = y / 8;
+    const int along = (x + (course == 0 ? 3 : 11)) % TileSize;
+    const int across = y % 8;
+    const int slab = course * 2 + (along < 9 ? 0 : 1);
+    const int left = along < 9 ? along : along - 9;
+    const int width = along < 9 ? 9 : 7;
+    if (across == 7 || left == width - 1) return Stone[1];
+    if (across == 0 || left == 0) return Stone[4];
+    const double grain = Grain(x, y, 61);
+    return Stone[grain < 0.28 + 0.06 * slab ? 2 : 3];
+  });
+  if (variant == 1) {
+    Stamp(tile, 3, 1, {"d......", ".dd....", "..ldd..", "....ld.", "...dd..", "..dl...", "...d..."},
+          {{'d', Stone[1]}, {'l', Stone[4]}});
+    Stamp(tile, 9, 9, {".gg.", "gGgg", ".ggG"}, {{'g', Grass[3]}, {'G', Grass[5]}});
+  }
+  return tile;
+}
+
+}  // namespace orvane::paint::tiles

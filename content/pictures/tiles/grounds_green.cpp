@@ -1,0 +1,128 @@
+// Grass, forest floor and marsh.
+#include <algorithm>
+#include <cmath>
+
+#include "content/pictures/tiles/grounds.h"
+#include "content/pictures/tiles/noise.h"
+#include "content/pictures/tiles/palette.h"
+
+namespace orvane::paint::tiles {
+namespace {
+
+// A texture value whose border is the same in all variants and whose inside is the variant's own.
+double Woven(int x, int y, int seed, int variant) {
+  const auto grain = [&](int own) {
+    return 0.55 * Noise(x / 4.0, y / 4.0, 4, own) + 0.45 * Noise(x / 2.0, y / 2.0, 8, own + 1);
+  };
+  const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
+  const double own_share = std::clamp((inward - 0.5) / 3.0, 0.0, 1.0);
+  return grain(seed) * (1 - own_share) + grain(seed + 10 + variant * 10) * own_share;
+}
+
+// A few blades: dark at the root, bright at the tip.
+void Blades(Image& tile, int x, int y, int shape) {
+  const Key key = {{'d', Grass[2]}, {'m', Grass[3]}, {'l', Grass[5]}, {'b', Grass[6]}};
+  switch (shape) {
+    case 0:
+      Stamp(tile, x, y, {"l.b", "ml.", ".dd"}, key);
+      break;
+    case 1:
+      Stamp(tile, x, y, {".b.l", "blml", ".mld", "..d."}, key);
+      break;
+    case 2:
+      Stamp(tile, x, y, {"l.", "ml", ".d"}, key);
+      break;
+    default:
+      Stamp(tile, x, y, {"m.", ".m"}, key);
+      break;
+  }
+}
+
+void Flower(Image& tile, int x, int y, Colour petal, Colour dark_petal, Colour heart) {
+  Stamp(tile, x, y, {".p.", "php", ".q.", ".sd"},
+        {{'p', petal}, {'q', dark_petal}, {'h', heart}, {'s', Grass[2]}, {'d', Grass[2]}});
+}
+
+}  // namespace
+
+Image GrassTile(int variant) {
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    const double grain = Woven(x, y, 3, variant);
+    return grain < 0.36 ? Grass[3] : Grass[4];
+  });
+  switch (variant) {
+    case 1:
+      Blades(tile, 2, 9, 0);
+      Blades(tile, 10, 3, 2);
+      Blades(tile, 12, 11, 3);
+      break;
+    case 2:
+      Blades(tile, 9, 8, 1);
+      Blades(tile, 3, 3, 2);
+      break;
+    case 3:
+      Blades(tile, 4, 5, 3);
+      Blades(tile, 11, 12, 2);
+      break;
+    case 4:
+      Flower(tile, 3, 2, 0xFCFCF4, 0xD0C8E0, Gold[3]);
+      Flower(tile, 10, 8, 0xFCFCF4, 0xD0C8E0, Gold[3]);
+      Blades(tile, 3, 10, 2);
+      break;
+    case 5:
+      Flower(tile, 9, 2, 0xFCE060, 0xE0A030, 0xC06828);
+      Flower(tile, 3, 8, 0xFCE060, 0xE0A030, 0xC06828);
+      Flower(tile, 11, 11, 0xF8A0B4, 0xC86088, 0xFCF0A0);
+      break;
+    default:
+      Blades(tile, 6, 3, 3);
+      Blades(tile, 3, 11, 2);
+      break;
+  }
+  return tile;
+}
+
+Image LitterTile(int variant) {
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    const double grain = Woven(x, y, 71, variant);
+    return Litter[grain < 0.34 ? 1 : grain < 0.56 ? 2 : grain < 0.72 ? 3 : 2];
+  });
+  // Fallen leaves, each two or three pixels with its own shade below.
+  for (int i = 0; i < 6; ++i) {
+    const int x = 1 + static_cast<int>(Hash(i, variant, 81) * 12);
+    const int y = 1 + static_cast<int>(Hash(i, variant, 82) * 12);
+    const Colour leaf = i % 3 == 0 ? 0xC07C38 : i % 3 == 1 ? Litter[4] : 0x98A850;
+    Stamp(tile, x, y, {"ll", ".l", "dd"}, {{'l', leaf}, {'d', Litter[1]}});
+  }
+  if (variant == 1) {
+    Stamp(tile, 1, 4,
+          {"...ll.......", ".lmmmll.....", "lmd..dmmll..", ".d.....ddmml", "..........dd"},
+          {{'l', Wood[3]}, {'m', Wood[2]}, {'d', Wood[1]}});
+  }
+  if (variant == 2) {
+    for (const int x : {2, 8}) {
+      Stamp(tile, x, x == 2 ? 3 : 7, {"l..l..l", ".lmlml.", "l.mlm.l", ".lmlml.", "..ddd.."},
+            {{'l', Leaf[5]}, {'m', Leaf[3]}, {'d', Litter[0]}});
+    }
+  }
+  return tile;
+}
+
+Image MarshTile(int variant) {
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    const double grain = Woven(x, y, 111, variant);
+    return Marsh[grain < 0.33 ? 2 : grain < 0.66 ? 3 : 4];
+  });
+  if (variant == 1) {
+    Stamp(tile, 2, 4, {"..dddddd..", ".dwwwlwwd.", "dwwlllwwwd", ".wwwwwwww.", "..hhhhhh.."},
+          {{'d', Marsh[1]}, {'w', Pool[4]}, {'l', Pool[5]}, {'h', Marsh[4]}});
+    Stamp(tile, 9, 11, {".ddd.", "dwlwd", ".hhh."},
+          {{'d', Marsh[1]}, {'w', Pool[4]}, {'l', Pool[5]}, {'h', Marsh[4]}});
+  } else {
+    Stamp(tile, 4, 3, {"l.l", "mlm", ".d."}, {{'l', Marsh[5]}, {'m', Marsh[4]}, {'d', Marsh[1]}});
+    Stamp(tile, 10, 10, {"l.l", "mlm", ".d."}, {{'l', Marsh[5]}, {'m', Marsh[4]}, {'d', Marsh[1]}});
+  }
+  return tile;
+}
+
+}  // namespace orvane::paint::tiles

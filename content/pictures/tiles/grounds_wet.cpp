@@ -1,0 +1,51 @@
+// Water, shallows and lava.
+#include <cmath>
+#include <numbers>
+
+#include "content/pictures/tiles/grounds.h"
+#include "content/pictures/tiles/noise.h"
+#include "content/pictures/tiles/palette.h"
+
+namespace orvane::paint::tiles {
+namespace {
+
+// Crossing swells that repeat every tile.
+double Swell(int x, int y) {
+  const double step = 2 * std::numbers::pi / TileSize;
+  const double bend = 1.6 * std::sin(step * x) + 0.8 * std::sin(step * 2 * x + 1);
+  return std::sin(step * 2 * y + bend) + 0.6 * std::sin(step * 4 * y + step * x + 2) +
+         1.2 * (Noise(x / 4.0, y / 2.0, 8, 91) - 0.5);
+}
+
+}  // namespace
+
+Image WaterTile(int variant) {
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+    const double swell = Swell(x, y);
+    return Water[swell > 0.95 ? 3 : swell < -1.0 ? 1 : 2];
+  });
+  const Key key = {{'l', Water[4]}, {'b', Water[5]}, {'w', Water[6]}};
+  if (variant == 1) Stamp(tile, 4, 6, {"..bb....", "ll..llb."}, key);
+  if (variant == 2) {
+    Stamp(tile, 8, 3, {".bb..", "l..ll"}, key);
+    Stamp(tile, 2, 11, {".lbl.", "l...l"}, key);
+  }
+  return tile;
+}
+
+Image ShallowTile() {
+  return Fill(TileSize, TileSize, [](int x, int y) {
+    const Facet facet = FacetAt((x + 0.5) / 5.3333, (y + 0.5) / 5.3333, 3, 3, 97);
+    return Shallow[facet.edge < 0.12 ? 3 : facet.edge < 0.30 ? 2 : 1];
+  });
+}
+
+Image LavaTile() {
+  return Fill(TileSize, TileSize, [](int x, int y) {
+    const Facet facet = FacetAt((x + 0.5) / 5.3333, (y + 0.5) / 5.3333, 3, 3, 131);
+    const double heat = facet.edge + 0.25 * facet.chance;
+    return Lava[heat < 0.10 ? 5 : heat < 0.20 ? 4 : heat < 0.36 ? 3 : heat < 0.62 ? 2 : 1];
+  });
+}
+
+}  // namespace orvane::paint::tiles

@@ -1,0 +1,84 @@
+// Grounds set into grass.
+#include "content/pictures/tiles/families.h"
+#include "content/pictures/tiles/grounds.h"
+#include "content/pictures/tiles/palette.h"
+#include "content/pictures/tiles/patch.h"
+
+namespace orvane::paint::tiles {
+namespace {
+
+// Grass stands higher than what is set into it: it throws shade where the ground's shore faces the
+// light in the upper left, and shows a lit rim on the far side.
+template <size_t Count>
+Colour InGrass(const PatchSpot& spot, const Image& ground, const Ramp<Count>& ramp) {
+  static const Image grass = GrassTile(0);
+  const bool shaded_side = spot.facing_x + spot.facing_y < -0.2;
+  if (spot.depth > 0) {
+    if (shaded_side && spot.depth < 1.0) return ramp[0];
+    if (shaded_side && spot.depth < 2.2) return ramp[1];
+    if (!shaded_side && spot.depth < 1.2) return ramp[4];
+    return Repeated(ground, spot.x, spot.y);
+  }
+  if (spot.depth > -1.2) return shaded_side ? Grass[6] : Grass[2];
+  if (spot.depth > -2.2) return shaded_side ? Grass[5] : Grass[3];
+  return Repeated(grass, spot.x, spot.y);
+}
+
+Colour PathInGrass(const PatchSpot& spot) {
+  static const Image ground = PathTile();
+  return InGrass(spot, ground, Path);
+}
+
+Colour SandInGrass(const PatchSpot& spot) {
+  static const Image ground = SandTile(0);
+  return InGrass(spot, ground, Sand);
+}
+
+Colour LitterInGrass(const PatchSpot& spot) {
+  static const Image ground = LitterTile(0);
+  return InGrass(spot, ground, Litter);
+}
+
+Colour PavingInGrass(const PatchSpot& spot) {
+  static const Image ground = PavingTile(0);
+  return InGrass(spot, ground, Stone);
+}
+
+Colour WasteInGrass(const PatchSpot& spot) {
+  static const Image ground = WasteTile(0);
+  return InGrass(spot, ground, Waste);
+}
+
+// A trail one cell wide, from the two opposite shores of a patch.
+Image Trail(bool across) {
+  return Fill(TileSize, TileSize, [&](int x, int y) {
+    const int place = across ? y : x;
+    const double waver = (across ? x : y) * 7 % 5 * 0.25;
+    PatchSpot spot;
+    spot.x = x;
+    spot.y = y;
+    const double near_side = place + 0.5 - 2.5 - waver;
+    const double far_side = 13.5 - (place + 0.5) + waver - 1;
+    spot.depth = near_side < far_side ? near_side : far_side;
+    (across ? spot.facing_y : spot.facing_x) = near_side < far_side ? -1 : 1;
+    return PathInGrass(spot);
+  });
+}
+
+}  // namespace
+
+void PaintPatches(Sheet& sheet) {
+  PaintPatch(sheet, {.first = 64, .inner = {70, 71, 100, 101}, .inset = 4, .seed = 201},
+             PathInGrass);
+  sheet.Put(72, Trail(true));
+  sheet.Put(102, Trail(false));
+  PaintPatch(sheet,
+             {.first = 67, .inner = {75, 105, 133, 134}, .inset = 5, .waver = 1.8, .seed = 203},
+             SandInGrass);
+  PaintPatch(sheet, {.first = 76, .inset = 4, .waver = 2.2, .seed = 205}, LitterInGrass);
+  PaintPatch(sheet, {.first = 79, .inset = 4, .radius = 3, .waver = 1.0, .seed = 207},
+             PavingInGrass);
+  PaintPatch(sheet, {.first = 160, .inset = 5, .waver = 2.0, .seed = 209}, WasteInGrass);
+}
+
+}  // namespace orvane::paint::tiles

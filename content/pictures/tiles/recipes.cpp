@@ -1,0 +1,17 @@
+// The tile sheet as a recipe.
+#include "content/pictures/tiles/families.h"
+#include "tools/paint/recipe.h"
+
+namespace orvane::paint {
+
+void AddTileRecipes(std::vector<Recipe>& recipes) {
+  recipes.push_back({"tiles", [] {
+                       tiles::Sheet sheet;
+                       tiles::PaintGrounds(sheet);
+                       tiles::PaintPatches(sheet);
+                       tiles::PaintWaters(sheet);
+                       return sheet.Picture;
+                     }});
+}
+
+}  // namespace orvane::paint

@@ -1,0 +1,137 @@
+// Lakes, sea and lava with their shores.
+#include <cmath>
+
+#include "content/pictures/tiles/families.h"
+#include "content/pictures/tiles/grounds.h"
+#include "content/pictures/tiles/noise.h"
+#include "content/pictures/tiles/palette.h"
+#include "content/pictures/tiles/patch.h"
+
+namespace orvane::paint::tiles {
+namespace {
+
+// A lake: an earth bank is seen on the far shore, foam runs along the waterline.
+Colour Lake(const PatchSpot& spot) {
+  static const Image grass = GrassTile(0);
+  static const Image water = WaterTile(0);
+  const bool far_shore = spot.facing_y < -0.4;
+  const double bank = far_shore ? 3.5 : 1.0;
+  if (spot.depth > bank) {
+    const double in = spot.depth - bank;
+    if (in < 1.0) return Water[6];
+    if (in < 2.2) return far_shore ? Water[1] : Water[4];
+    if (in < 4.0 && far_shore) return Water[1];
+    if (in < 3.4 && !far_shore) return Water[3];
+    return Repeated(water, spot.x, spot.y);
+  }
+  if (spot.depth > 0) {
+    if (!far_shore) return Rock[2];
+    const double grain = Noise(spot.x / 2.0, spot.y / 2.0, 8, 301);
+    return Rock[spot.depth > 2.5 ? 1 : grain < 0.4 ? 2 : grain < 0.7 ? 3 : 4];
+  }
+  if (spot.depth > -1.2) return far_shore ? Grass[6] : Grass[2];
+  if (spot.depth > -2.2) return far_shore ? Grass[5] : Grass[3];
+  return Repeated(grass, spot.x, spot.y);
+}
+
+// The sea runs out on sand: wet sand, foam, pale shallow, deep.
+Colour Sea(const PatchSpot& spot) {
+  static const Image sand = SandTile(0);
+  static const Image water = WaterTile(0);
+  if (spot.depth > 6.5) return Repeated(water, spot.x, spot.y);
+  if (spot.depth > 4.4) return Water[3];
+  if (spot.depth > 2.4) return Water[4];
+  if (spot.depth > 1.4) return Water[5];
+  if (spot.depth > 0) return Water[6];
+  if (spot.depth > -2.0) return Sand[1];
+  if (spot.depth > -3.2) return Sand[2];
+  return Repeated(sand, spot.x, spot.y);
+}
+
+// Lava lies deep between crusts of dark rock that glow at the rim.
+Colour MoltenRock(const PatchSpot& spot) {
+  static const Image waste = WasteTile(0);
+  static const Image lava = LavaTile();
+  const bool far_shore = spot.facing_y < -0.4;
+  const double bank = far_shore ? 4.0 : 1.6;
+  if (spot.depth > bank) {
+    const double in = spot.depth - bank;
+    if (in < 1.0) return Lava[5];
+    if (in < 2.0) return Lava[4];
+    return Repeated(lava, spot.x, spot.y);
+  }
+  if (spot.depth > 0) {
+    const double grain = Noise(spot.x / 2.0, spot.y / 2.0, 8, 311);
+    return Dark[spot.depth > bank - 1 ? 1 : grain < 0.4 ? 2 : 3];
+  }
+  if (spot.depth > -1.2) return far_shore ? Waste[5] : Waste[0];
+  if (spot.depth > -2.2) return far_shore ? Waste[4] : Waste[1];
+  return Repeated(waste, spot.x, spot.y);
+}
+
+// Flat stones in deep water.
+Image SteppingStones() {
+  Image tile = WaterTile(0);
+  const Key key = {{'l', Gravel[5]}, {'m', Gravel[4]}, {'n', Gravel[3]},
+                   {'d', Gravel[1]}, {'s', Water[0]},  {'f', Water[6]}};
+  const auto stone = [&](int x, int y) {
+    Stamp(tile, x, y, {".llll..", "lmmmmn.", "lmmmnnd", "mmmnnnd", "dnnnndd", "fdddddf", ".fsssf."},
+          key);
+  };
+  stone(0, 0);
+  stone(8, 1);
+  stone(1, 8);
+  stone(9, 9);
+  return tile;
+}
+
+Image Waterfall() {
+  return Fill(TileSize, TileSize, [](int x, int y) {
+    const double fall = Noise(x / 1.6, y / 8.0, 10, 321) + 0.25 * Noise(x / 1.0, y / 4.0, 16, 322);
+    return Water[fall < 0.36 ? 2 : fall < 0.55 ? 3 : fall < 0.75 ? 4 : fall < 0.92 ? 5 : 6];
+  });
+}
+
+Image MarshPool(int variant) {
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+    static const Image marsh = MarshTile(0);
+    const double reach = std::hypot((x - 7.5) / 8.2, (y - 7.8) / 7.2) +
+                         0.2 * (Noise(x / 3.0, y / 3.0, 0, 331) - 0.5);
+    if (reach > 1.0) return Repeated(marsh, x, y);
+    if (reach > 0.88) return y < 8 ? Pool[0] : Marsh[5];
+    return Pool[y < 5 ? 1 : (x + y * 3) % 11 == 0 ? 3 : 2];
+  });
+  if (variant == 0) {
+    for (const int x : {3, 6, 11}) {
+      Stamp(tile, x, x == 6 ? 1 : 4, {"b..", "b.l", "bl.", "l.l", "ll.", "l..", "d.."},
+            {{'b', Wood[2]}, {'l', Leaf[4]}, {'d', Leaf[2]}});
+    }
+  } else {
+    Stamp(tile, 2, 8, {".llll.", "lll.ml", "mmmmmm", ".mmmm."}, {{'l', Leaf[5]}, {'m', Leaf[4]}});
+    Stamp(tile, 9, 4, {".ll.", "l.ml", "mmmm"}, {{'l', Leaf[5]}, {'m', Leaf[4]}});
+    Stamp(tile, 10, 9, {".p.", "pwp", ".q."}, {{'p', 0xF8B0D0}, {'w', 0xFCF8E0}, {'q', 0xC86C98}});
+  }
+  return tile;
+}
+
+}  // namespace
+
+void PaintWaters(Sheet& sheet) {
+  PaintPatch(
+      sheet,
+      {.first = 151, .inner = {3, 4, 5, 6}, .inset = 3, .radius = 8, .waver = 1.5, .seed = 221},
+      Lake);
+  PaintPatch(
+      sheet,
+      {.first = 154, .inner = {37, 38, 39, 40}, .inset = 5, .radius = 8, .waver = 1.6, .seed = 223},
+      Sea);
+  PaintPatch(sheet, {.first = 171, .inset = 3, .radius = 7, .waver = 1.6, .seed = 225}, MoltenRock);
+  sheet.Put(1, WaterTile(1));
+  sheet.Put(2, WaterTile(2));
+  sheet.Put(30, SteppingStones());
+  sheet.Put(229, Waterfall());
+  sheet.Put(50, MarshPool(0));
+  sheet.Put(51, MarshPool(1));
+}
+
+}  // namespace orvane::paint::tiles

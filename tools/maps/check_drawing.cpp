@@ -1,0 +1,217 @@
+// The rules that can be read off the maps without walking.
+#include <algorithm>
+#include <iterator>
+
+#include "tools/maps/check.h"
+#include "tools/maps/tile_codes.h"
+
+namespace orvane::maps {
+namespace {
+
+// The maps on which the game's tables have a chest or a book chest.
+constexpr Place kChestMaps[] = {{3, 3}, {2, 1}, {2, 2}, {3, 1}, {1, 1}, {1, 3}, {1, 4}, {1, 5},
+                                {2, 4}, {4, 5}, {4, 4}, {5, 3}, {4, 2}, {4, 1}, {5, 1}};
+constexpr Place kBookMaps[] = {{1, 3}, {3, 4}, {3, 2}, {6, 4}};
+// Behind their doors lies the spring room; behind the doors of all other maps the round's book
+// room.
+constexpr Place kSpringMaps[] = {{1, 1}, {3, 5}};
+
+class DrawingCheck {
+ public:
+  explicit DrawingCheck(const World& world) : world_(world) {}
+
+  std::vector<Fault> Run() {
+    for (const auto& [place, map] : world_.maps) {
+      CheckCodes(place, map);
+      CheckChests(place, map);
+      CheckOpenSides(place, map);
+    }
+    CheckDoors();
+    CheckBorders();
+    return faults_;
+  }
+
+ private:
+  void Add(FaultKind kind, const std::string& what) { faults_.push_back({kind, what}); }
+
+  void CheckCodes(const Place& place, const TileMap& map) {
+    for (int column = 0; column < kColumns; ++column) {
+      for (int row = 0; row < kRows; ++row) {
+        const int code = map.At(column, row);
+        if (code >= 1 && code <= kHighestCode) continue;
+        Add(FaultKind::BadCode, "code " + std::to_string(code) + Cell(place, column, row));
+      }
+    }
+  }
+
+  static std::string Cell(const Place& place, int column, int row) {
+    return " on " + PlaceName(place) + " at column " + std::to_string(column) + ", row " +
+           std::to_string(row);
+  }
+
+  template <typename Test>
+  static int Count(const TileMap& map, Test test) {
+    int count = 0;
+    for (int column = 0; column < kColumns; ++column) {
+      for (int row = 0; row < kRows; ++row) count += test(map.At(column, row)) ? 1 : 0;
+    }
+    return count;
+  }
+
+  template <size_t kSize>
+  static bool Among(const Place& place, const Place (&places)[kSize]) {
+    return std::find(std::begin(places), std::end(places), place) != std::end(places);
+  }
+
+  void CheckChests(const Place& place, const TileMap& map) {
+    const int chests = Count(map, [](int code) { return code == kChest; });
+    if (chests != (Among(place, kChestMaps) ? 1 : 0)) {
+      Add(FaultKind::Furniture, std::to_string(chests) + " chests on " + PlaceName(place));
+    }
+    const int cells = Count(map, IsBook);
+    if (cells != (Among(place, kBookMaps) ? 4 : 0)) {
+      Add(FaultKind::Furniture,
+          std::to_string(cells) + " cells of book chests on " + PlaceName(place));
+    } else if (cells == 4 && !HasWholeBook(map)) {
+      Add(FaultKind::Furniture, "the book chest on " + PlaceName(place) + " is not in one piece");
+    }
+  }
+
+  static bool HasWholeBook(const TileMap& map) {
+    for (int column = 0; column < kColumns; ++column) {
+      for (int row = 0; row < kRows; ++row) {
+        if (map.At(column, row) == kBookTopLeft && map.At(column + 1, row) == kBookTopRight &&
+            map.At(column, row + 1) == kBookBottomLeft &&
+            map.At(column + 1, row + 1) == kBookBottomRight) {
+          return true;
+        }
+      }
+    }
+    return false;
+  }
+
+  void CheckDoors() {
+    int last_doors = 0;
+    int book_maps = 0;
+    for (const auto& [place, map] : world_.maps) {
+      const int doors = Count(map, IsDoor);
+      const int room_doors = Count(map, IsRoomDoor);
+      last_doors += doors - room_doors;
+      const bool spring = Among(place, kSpringMaps);
+      if (room_doors > 0 && !spring) ++book_maps;
+      if (spring && room_doors == 0) {
+        Add(FaultKind::Furniture, "no door to the spring room on " + PlaceName(place));
+      }
+      const bool barred = place.room != Room::None || place == kDragonMap || place == kLastStage;
+      if (barred && doors > 0) Add(FaultKind::Furniture, "a door on " + PlaceName(place));
+    }
+    if (last_doors != 1) {
+      Add(FaultKind::Furniture,
+          std::to_string(last_doors) + " doors to the last book's room, not 1");
+    }
+    if (book_maps == 0) Add(FaultKind::Furniture, "no door leads to the rounds' book rooms");
+  }
+
+  // One of the four border lines of a map: 0 top, 1 bottom, 2 left, 3 right.
+  static std::vector<int> Line(const TileMap& map, int side) {
+    std::vector<int> codes;
+    const int length = side < 2 ? kColumns : kRows;
+    for (int at = 0; at < length; ++at) {
+      if (side < 2) {
+        codes.push_back(map.At(at, side == 0 ? 0 : kRows - 1));
+      } else {
+        codes.push_back(map.At(side == 2 ? 0 : kColumns - 1, at));
+      }
+    }
+    return codes;
+  }
+
+  void DemandClosed(const Place& place, const TileMap& map, int side) {
+    constexpr const char* kSides[] = {"top", "bottom", "left", "right"};
+    const std::vector<int> codes = Line(map, side);
+    if (std::any_of(codes.begin(), codes.end(), Walkable)) {
+      Add(FaultKind::OpenBorder, PlaceName(place) + " is open at its " + kSides[side]);
+    }
+  }
+
+  void CheckOpenSides(const Place& place, const TileMap& map) {
+    const bool room = place.room != Room::None;
+    const bool last = place == kLastStage;
+    if (room || last || place.map_b == 1) DemandClosed(place, map, 0);
+    if (last || (!room && place.map_b == 5)) DemandClosed(place, map, 1);
+    if (room || last || place.map_a == 1) DemandClosed(place, map, 2);
+    if (room || last || place.map_a == 5 || place == kHiddenMap) DemandClosed(place, map, 3);
+    if (!room) return;
+    const std::vector<int> bottom = Line(map, 1);
+    if (std::none_of(bottom.begin(), bottom.end(), Walkable)) {
+      Add(FaultKind::Unreachable, PlaceName(place) + " has no way out at its bottom");
+    }
+  }
+
+  void DemandMatch(const Place& one, int side, const Place& other, int other_side) {
+    const TileMap* map = world_.Find(one);
+    const TileMap* other_map = world_.Find(other);
+    if (map == nullptr || other_map == nullptr) {
+      Add(FaultKind::NoSuchMap, PlaceName(map == nullptr ? one : other) + " is missing");
+      return;
+    }
+    const std::vector<int> codes = Line(*map, side);
+    const std::vector<int> other_codes = Line(*other_map, other_side);
+    for (size_t at = 0; at < codes.size(); ++at) {
+      if (Walkable(codes[at]) == Walkable(other_codes[at])) continue;
+      Add(FaultKind::Border, PlaceName(one) + " and " + PlaceName(other) + " do not match at " +
+                                 (side < 2 ? "column " : "row ") + std::to_string(at));
+    }
+  }
+
+  void CheckBorders() {
+    for (int map_b = 1; map_b <= 5; ++map_b) {
+      for (int map_a = 1; map_a <= 5; ++map_a) {
+        if (map_a < 5) DemandMatch({map_a, map_b}, 3, {map_a + 1, map_b}, 2);
+        if (map_b < 5) DemandMatch({map_a, map_b}, 1, {map_a, map_b + 1}, 0);
+      }
+    }
+    DemandMatch({4, 4}, 3, kHiddenMap, 2);
+    DemandMatch({5, 3}, 1, kHiddenMap, 0);
+    DemandMatch(kHiddenMap, 1, {5, 5}, 0);
+  }
+
+  const World& world_;
+  std::vector<Fault> faults_;
+};
+
+}  // namespace
+
+std::vector<Fault> CheckDrawing(const World& world) {
+  return DrawingCheck(world).Run();
+}
+
+const char* KindName(FaultKind kind) {
+  switch (kind) {
+    case FaultKind::BadCode:
+      return "bad code";
+    case FaultKind::Border:
+      return "borders do not match";
+    case FaultKind::OpenBorder:
+      return "open border";
+    case FaultKind::Furniture:
+      return "chests and doors";
+    case FaultKind::Unreachable:
+      return "out of reach";
+    case FaultKind::DeadEnd:
+      return "stuck";
+    case FaultKind::Trap:
+      return "trap";
+    case FaultKind::FlipFlop:
+      return "flip-flop";
+    case FaultKind::NoSuchMap:
+      return "no such map";
+    case FaultKind::WrongExit:
+      return "wrong exit";
+    case FaultKind::FarFromRecovery:
+      return "far from recovery";
+  }
+  return "";
+}
+
+}  // namespace orvane::maps

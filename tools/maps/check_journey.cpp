@@ -1,0 +1,229 @@
+// The rules that are proved by walking.
+#include <algorithm>
+#include <set>
+
+#include "tools/maps/check.h"
+#include "tools/maps/tile_codes.h"
+
+namespace orvane::maps {
+namespace {
+
+constexpr int kMapsToRecovery = 2;
+constexpr size_t kUp = 0;
+constexpr size_t kDown = 1;
+
+std::string Where(const Party& party) {
+  const Place grid{party.map_a, party.map_b};
+  std::string where = PlaceName(party.Ground());
+  if (party.room != Room::None) where += " behind the door on " + PlaceName(grid);
+  return where + " at " + std::to_string(party.x) + ", " + std::to_string(party.y);
+}
+
+Place GridOf(const Party& party) {
+  return {party.map_a, party.map_b};
+}
+
+struct Cell {
+  Place place;
+  int column;
+  int row;
+  auto operator<=>(const Cell&) const = default;
+};
+
+class JourneyCheck {
+ public:
+  JourneyCheck(const World& world, const Exploration& exploration)
+      : world_(world), exploration_(exploration), rules_(exploration.journey.rules) {}
+
+  std::vector<Fault> Run() {
+    for (const Stand& stand : exploration_.stands) Visit(stand);
+    CheckGoals();
+    CheckTraps();
+    CheckRecovery();
+    return faults_;
+  }
+
+ private:
+  // One fault of a kind for each ground is enough to find the place; more would bury the rest.
+  void Add(FaultKind kind, const Place& place, const std::string& what) {
+    if (!named_.emplace(kind, place).second) return;
+    faults_.push_back({kind, exploration_.journey.name + ": " + what});
+  }
+
+  const Party& At(int32_t number) const {
+    return exploration_.stands[static_cast<size_t>(number)].party;
+  }
+
+  void Visit(const Stand& stand) {
+    const Party& party = stand.party;
+    const Place ground = party.Ground();
+    const int tile = TileUnder(world_, party);
+    if (!Walkable(tile)) {
+      Add(FaultKind::DeadEnd, ground,
+          "stuck on tile " + std::to_string(tile) + ": " + Where(party));
+    }
+    cells_.insert({ground, party.x / 16, party.y / 16});
+    if (tile == kRecovery) recovery_.insert(GridOf(party));
+    if (party.in_book && party.room == Room::None) {
+      Add(FaultKind::WrongExit, ground, "left a room over its wall: " + Where(party));
+    }
+    if (rules_.round == 4 && ground != kLastStage) {
+      Add(FaultKind::WrongExit, ground, "left the last stage: " + Where(party));
+    }
+    VisitWays(stand);
+  }
+
+  void VisitWays(const Stand& stand) {
+    const Party& party = stand.party;
+    int ways = 0;
+    int turning = 0;
+    for (size_t way = 0; way < 4; ++way) {
+      const int32_t next = stand.next[way];
+      if (next == kToDragon) dragon_ = true;
+      if (next == kToNowhere) {
+        Add(rules_.round == 4 ? FaultKind::WrongExit : FaultKind::NoSuchMap, party.Ground(),
+            "a step leads to no map: " + Where(party));
+      }
+      if (next < 0) continue;
+      ++ways;
+      const Party& there = At(next);
+      if (party.in_book || there.in_book) {
+        VisitDoor(party, there, way);
+        continue;
+      }
+      if (GridOf(there) == GridOf(party)) continue;
+      ++turning;
+      ways_between_maps_.emplace(GridOf(party), GridOf(there));
+      if ((way == kUp || way == kDown) && there.map_b == party.map_b) {
+        Add(FaultKind::FlipFlop, party.Ground(),
+            "a step up or down goes to the map beside: " + Where(party));
+      }
+    }
+    if (ways > 0 && ways == turning) {
+      Add(FaultKind::FlipFlop, party.Ground(), "every step leaves the map: " + Where(party));
+    }
+  }
+
+  void VisitDoor(const Party& party, const Party& there, size_t way) {
+    if (there.in_book && !party.in_book) {
+      entered_.insert({GridOf(party), party.x / 16, party.y / 16 - 1});
+      rooms_.emplace(there.room, GridOf(party));
+    } else if (!there.in_book && way == kDown) {
+      left_.emplace(party.room, GridOf(party));
+    }
+  }
+
+  // True for a map that this journey cannot come to by the rules of the game.
+  bool OutOfJourney(const Place& place) const {
+    if (rules_.round == 4) return place != kLastStage;
+    if (place == kLastStage) return true;
+    return place == (rules_.nine_techniques ? kSwappedMap : kHiddenMap);
+  }
+
+  void Demand(bool reached, const Place& place, const std::string& what) {
+    if (reached) return;
+    faults_.push_back({FaultKind::Unreachable, exploration_.journey.name + ": cannot reach " +
+                                                   what + " of " + PlaceName(place)});
+  }
+
+  void CheckGoals() {
+    for (const auto& [place, map] : world_.maps) {
+      if (place.room == Room::None && !OutOfJourney(place)) CheckGoalsOn(place, map);
+    }
+    for (const auto& [room, place] : rooms_) {
+      Demand(left_.count({room, place}) > 0, Place{0, 0, room}, "the exit");
+      const TileMap* map = world_.Find({0, 0, room});
+      if (map != nullptr) CheckCells({0, 0, room}, *map);
+    }
+    if (rules_.round == 4) {
+      Demand(dragon_, kLastStage, "the last dragon");
+    } else {
+      Demand(dragon_, kDragonMap, "the dragon");
+    }
+  }
+
+  void CheckGoalsOn(const Place& place, const TileMap& map) {
+    const bool any = std::any_of(cells_.begin(), cells_.end(),
+                                 [&](const Cell& cell) { return cell.place == place; });
+    Demand(any, place, "any spot");
+    CheckCells(place, map);
+    bool book = false;
+    bool book_reached = false;
+    for (int column = 0; column < kColumns; ++column) {
+      for (int row = 0; row < kRows; ++row) {
+        const int code = map.At(column, row);
+        if (IsDoor(code)) Demand(entered_.count({place, column, row}) > 0, place, "the door");
+        book = book || IsBook(code);
+        book_reached = book_reached || (IsBook(code) && cells_.count({place, column, row}) > 0);
+      }
+    }
+    Demand(!book || book_reached, place, "the book chest");
+  }
+
+  // Chests and recovery points, on a map or in a room.
+  void CheckCells(const Place& place, const TileMap& map) {
+    for (int column = 0; column < kColumns; ++column) {
+      for (int row = 0; row < kRows; ++row) {
+        const int code = map.At(column, row);
+        const bool reached = cells_.count({place, column, row}) > 0;
+        if (code == kChest) Demand(reached, place, "the chest");
+        if (code == kRecovery) Demand(reached, place, "the recovery point");
+      }
+    }
+  }
+
+  void CheckTraps() {
+    const std::vector<bool> can = CanReturn(exploration_);
+    for (size_t number = 0; number < can.size(); ++number) {
+      const Party& party = exploration_.stands[number].party;
+      if (can[number] || AtDragon(rules_, party)) continue;
+      Add(FaultKind::Trap, party.Ground(), "no way back to the start: " + Where(party));
+    }
+  }
+
+  void CheckRecovery() {
+    std::set<Place> near = recovery_;
+    for (int maps = 0; maps < kMapsToRecovery; ++maps) {
+      std::set<Place> nearer = near;
+      for (const auto& [from, to] : ways_between_maps_) {
+        if (near.count(to) > 0) nearer.insert(from);
+      }
+      near = nearer;
+    }
+    for (const Cell& cell : cells_) {
+      if (cell.place.room != Room::None || near.count(cell.place) > 0) continue;
+      Add(FaultKind::FarFromRecovery, cell.place,
+          "more than two maps to a recovery point from " + PlaceName(cell.place));
+    }
+  }
+
+  const World& world_;
+  const Exploration& exploration_;
+  const StepRules rules_;
+  std::vector<Fault> faults_;
+  std::set<std::pair<FaultKind, Place>> named_;
+  std::set<Cell> cells_;    // every cell that the party can stand on
+  std::set<Cell> entered_;  // every door that the party can go through
+  std::set<std::pair<Room, Place>> rooms_;
+  std::set<std::pair<Room, Place>> left_;
+  std::set<Place> recovery_;
+  std::set<std::pair<Place, Place>> ways_between_maps_;
+  bool dragon_ = false;
+};
+
+}  // namespace
+
+std::vector<Fault> CheckJourney(const World& world, const Exploration& exploration) {
+  return JourneyCheck(world, exploration).Run();
+}
+
+std::vector<Fault> CheckWorld(const World& world) {
+  std::vector<Fault> faults = CheckDrawing(world);
+  for (const Journey& journey : AllJourneys()) {
+    const std::vector<Fault> more = CheckJourney(world, Explore(world, journey));
+    faults.insert(faults.end(), more.begin(), more.end());
+  }
+  return faults;
+}
+
+}  // namespace orvane::maps

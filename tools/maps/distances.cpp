@@ -1,0 +1,97 @@
+#include "tools/maps/distances.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+
+#include "tools/maps/tile_codes.h"
+
+namespace orvane::maps {
+namespace {
+
+constexpr const char* kRecoveryName = "rest";
+
+std::string NameOf(const World& world, const Party& party) {
+  const int tile = TileUnder(world, party);
+  const std::string map = std::to_string(party.map_a) + "," + std::to_string(party.map_b);
+  if (tile == kChest) return "chest " + map;
+  if (IsBook(tile)) return "book " + map;
+  if (tile == kRecovery) return kRecoveryName + (" " + map);
+  return {};
+}
+
+// Chests before books before recovery points, each in the order of their maps.
+bool Before(const Goal& one, const Goal& other) {
+  const auto rank = [](const Goal& goal) {
+    return goal.name[0] == 'c' ? 0 : goal.name[0] == 'b' ? 1 : 2;
+  };
+  return rank(one) != rank(other) ? rank(one) < rank(other) : one.name < other.name;
+}
+
+bool MeetsDragon(const Stand& stand) {
+  return std::find(stand.next.begin(), stand.next.end(), kToDragon) != stand.next.end();
+}
+
+int32_t Least(const std::vector<int32_t>& steps, const Goal& goal) {
+  int32_t least = -1;
+  for (const int32_t stand : goal.stands) {
+    const int32_t here = steps[static_cast<size_t>(stand)];
+    if (here >= 0 && (least < 0 || here < least)) least = here;
+  }
+  return least;
+}
+
+std::string Padded(const std::string& text, size_t width) {
+  return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
+}
+
+}  // namespace
+
+std::vector<Goal> GoalsOf(const World& world, const Exploration& exploration) {
+  std::map<std::string, Goal> found;
+  Goal dragon{"dragon", {}};
+  for (size_t number = 0; number < exploration.stands.size(); ++number) {
+    const Stand& stand = exploration.stands[number];
+    if (MeetsDragon(stand)) dragon.stands.push_back(static_cast<int32_t>(number));
+    const std::string name = NameOf(world, stand.party);
+    if (name.empty()) continue;
+    found[name].name = name;
+    found[name].stands.push_back(static_cast<int32_t>(number));
+  }
+  std::vector<Goal> goals;
+  for (const auto& [name, goal] : found) goals.push_back(goal);
+  std::sort(goals.begin(), goals.end(), Before);
+  goals.insert(goals.begin(), Goal{"start", {0}});
+  goals.push_back(dragon);
+  return goals;
+}
+
+std::vector<std::vector<int32_t>> StepsBetween(const Exploration& exploration,
+                                               const std::vector<Goal>& goals) {
+  std::vector<std::vector<int32_t>> table;
+  for (const Goal& from : goals) {
+    std::vector<int32_t> row(goals.size(), -1);
+    if (!from.stands.empty()) {
+      const std::vector<int32_t> steps = StepsFrom(exploration, from.stands.front());
+      for (size_t to = 0; to < goals.size(); ++to) row[to] = Least(steps, goals[to]);
+    }
+    table.push_back(row);
+  }
+  return table;
+}
+
+std::string DistanceTable(const World& world, const Exploration& exploration) {
+  const std::vector<Goal> goals = GoalsOf(world, exploration);
+  const std::vector<std::vector<int32_t>> table = StepsBetween(exploration, goals);
+  std::string text = exploration.journey.name + ", steps of 4 pixels\n" + Padded("", 10);
+  for (const Goal& goal : goals) text += Padded(goal.name.substr(goal.name.find(' ') + 1), 7);
+  text += '\n';
+  for (size_t from = 0; from < goals.size(); ++from) {
+    text += goals[from].name + std::string(10 - std::min<size_t>(10, goals[from].name.size()), ' ');
+    for (const int32_t steps : table[from]) text += Padded(std::to_string(steps), 7);
+    text += '\n';
+  }
+  return text;
+}
+
+}  // namespace orvane::maps

@@ -1,0 +1,142 @@
+#include "tools/maps/explore.h"
+
+namespace orvane::maps {
+namespace {
+
+constexpr size_t kManyStands = 600000;
+
+// All of a party's place in one number: 61 bits. A map number off the grid keeps its low bits,
+// which tell it from any other that one step can lead to.
+uint64_t KeyOf(const Party& party) {
+  struct Part {
+    int value;
+    int bits;
+  };
+  const Part parts[] = {
+      {party.map_a, 5},     {party.map_b, 5},    {static_cast<int>(party.room), 3},
+      {party.in_book, 1},   {party.x, 12},       {party.y, 12},
+      {party.return_x, 12}, {party.return_y, 11}};
+  uint64_t key = 0;
+  for (const Part& part : parts) {
+    const uint64_t mask = (uint64_t{1} << part.bits) - 1;
+    key = key << part.bits | (static_cast<uint64_t>(part.value) & mask);
+  }
+  return key;
+}
+
+int32_t NumberOf(Exploration& exploration, const Party& party) {
+  const auto [found, is_new] =
+      exploration.numbers.emplace(KeyOf(party), static_cast<int32_t>(exploration.stands.size()));
+  if (is_new) exploration.stands.push_back({party});
+  return found->second;
+}
+
+int32_t Reached(Exploration& exploration, const Outcome& outcome) {
+  switch (outcome.event) {
+    case Event::Walked:
+      return NumberOf(exploration, outcome.party);
+    case Event::Dragon:
+      return kToDragon;
+    case Event::NoSuchMap:
+      return kToNowhere;
+    case Event::Blocked:
+      break;
+  }
+  return kNoWay;
+}
+
+// A game saved in the last book's room is loaded on the map outside, at the same coordinates.
+Party AfterLoading(const Party& party) {
+  return {party.map_a, party.map_b, party.x, party.y};
+}
+
+bool SameCell(const Party& one, const Party& other) {
+  return one.Ground() == other.Ground() && one.map_a == other.map_a && one.map_b == other.map_b &&
+         one.x / 16 == other.x / 16 && one.y / 16 == other.y / 16;
+}
+
+template <typename Visit>
+void ForEachWay(const Stand& stand, Visit visit) {
+  for (const int32_t next : stand.next) {
+    if (next >= 0) visit(next);
+  }
+  if (stand.loaded >= 0) visit(stand.loaded);
+}
+
+}  // namespace
+
+std::vector<Journey> AllJourneys() {
+  std::vector<Journey> journeys;
+  for (int round = 1; round <= 3; ++round) {
+    journeys.push_back({"round " + std::to_string(round), {round, false}, StartOf(round)});
+  }
+  journeys.push_back({"round 3 with nine techniques", {3, true}, StartOf(3)});
+  journeys.push_back({"last stage", {4, true}, StartOf(4)});
+  return journeys;
+}
+
+int32_t Exploration::Find(const Party& party) const {
+  const auto found = numbers.find(KeyOf(party));
+  return found == numbers.end() ? kNoWay : found->second;
+}
+
+Exploration Explore(const World& world, const Journey& journey) {
+  Exploration exploration{journey, {}, {}};
+  exploration.stands.reserve(kManyStands);
+  exploration.numbers.reserve(kManyStands);
+  NumberOf(exploration, journey.start);
+  for (size_t at = 0; at < exploration.stands.size(); ++at) {
+    const Party party = exploration.stands[at].party;
+    for (size_t way = 0; way < 4; ++way) {
+      const Outcome outcome = Step(world, journey.rules, party, kDirections[way]);
+      const int32_t next = Reached(exploration, outcome);
+      exploration.stands[at].next[way] = next;
+    }
+    if (party.room == Room::BookF) {
+      const int32_t loaded = NumberOf(exploration, AfterLoading(party));
+      exploration.stands[at].loaded = loaded;
+    }
+  }
+  return exploration;
+}
+
+std::vector<int32_t> StepsFrom(const Exploration& exploration, int32_t from) {
+  std::vector<int32_t> steps(exploration.stands.size(), -1);
+  std::vector<int32_t> queue{from};
+  steps[static_cast<size_t>(from)] = 0;
+  for (size_t at = 0; at < queue.size(); ++at) {
+    const auto here = static_cast<size_t>(queue[at]);
+    for (const int32_t next : exploration.stands[here].next) {
+      if (next < 0 || steps[static_cast<size_t>(next)] >= 0) continue;
+      steps[static_cast<size_t>(next)] = steps[here] + 1;
+      queue.push_back(next);
+    }
+  }
+  return steps;
+}
+
+std::vector<bool> CanReturn(const Exploration& exploration) {
+  std::vector<std::vector<int32_t>> back(exploration.stands.size());
+  std::vector<bool> can(exploration.stands.size(), false);
+  std::vector<int32_t> queue;
+  for (size_t from = 0; from < exploration.stands.size(); ++from) {
+    const Stand& stand = exploration.stands[from];
+    ForEachWay(stand, [&](int32_t next) {
+      back[static_cast<size_t>(next)].push_back(static_cast<int32_t>(from));
+    });
+    if (SameCell(stand.party, exploration.journey.start)) {
+      can[from] = true;
+      queue.push_back(static_cast<int32_t>(from));
+    }
+  }
+  for (size_t at = 0; at < queue.size(); ++at) {
+    for (const int32_t from : back[static_cast<size_t>(queue[at])]) {
+      if (can[static_cast<size_t>(from)]) continue;
+      can[static_cast<size_t>(from)] = true;
+      queue.push_back(from);
+    }
+  }
+  return can;
+}
+
+}  // namespace orvane::maps

@@ -23,7 +23,8 @@ void PlaceChords(const PlacedSection& placed, std::vector<PlacedChord>& chords) 
       const size_t colon = token.find(':');
       PlacedChord chord;
       try {
-        if (colon != std::string::npos) length = ReadToken("r" + token.substr(colon + 1)).length;
+        if (colon != std::string::npos)
+          length = ReadToken(std::string("r").append(token, colon + 1)).length;
         chord.chord = Transposed(ReadChord(token.substr(0, colon)), section.transpose);
       } catch (const std::invalid_argument& problem) {
         throw ScoreError(bar.line, problem.what());

@@ -1,0 +1,138 @@
+// orvane-check-music: proves the pieces and describes them.
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#include "tools/effects/loudness.h"
+#include "tools/effects/wav_file.h"
+#include "tools/music/checks.h"
+#include "tools/music/render.h"
+#include "tools/music/roll.h"
+
+namespace {
+
+using orvane::music::Rendering;
+
+struct Options {
+  std::string pictures;  // a folder for piano rolls and WAV files, or empty
+  bool frictions = false;
+  bool silent = false;  // no rendering
+  std::vector<std::string> files;
+};
+
+struct Loudness {
+  std::string name;
+  double value;
+};
+
+std::string ReadAll(const std::string& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  if (!in) throw std::runtime_error("cannot be read");
+  return text.str();
+}
+
+void WriteAll(const std::filesystem::path& file, const std::string& bytes) {
+  std::ofstream(file, std::ios::binary) << bytes;
+}
+
+void SaveRendering(const std::filesystem::path& file, const Rendering& rendering) {
+  orvane::effects::Wav wav;
+  wav.channels = 2;
+  for (size_t i = 0; i < rendering.left.size(); ++i) {
+    wav.samples.push_back(rendering.left[i]);
+    wav.samples.push_back(rendering.right[i]);
+  }
+  WriteAll(file, orvane::effects::WriteWav(wav));
+}
+
+float Peak(const Rendering& rendering) {
+  float peak = 0;
+  for (const auto* side : {&rendering.left, &rendering.right}) {
+    for (const float sample : *side) peak = std::max(peak, std::abs(sample));
+  }
+  return peak;
+}
+
+// Checks one file and prints what it is; the number of its faults.
+int CheckFile(const std::string& file, const Options& options, std::vector<Loudness>& all) {
+  const std::string name = std::filesystem::path(file).stem().string();
+  const std::string bytes = ReadAll(file);
+  const orvane::music::MidiFile midi = orvane::music::ReadMidi(bytes);
+  const orvane::music::PieceNotes piece = orvane::music::CollectNotes(midi);
+  std::vector<std::string> faults = orvane::music::CheckPiece(name, midi);
+  std::cout << orvane::music::Describe(name, piece);
+  const std::filesystem::path folder(options.pictures);
+  if (!options.pictures.empty()) WriteAll(folder / (name + ".png"), orvane::music::DrawRoll(piece));
+  if (options.frictions) {
+    for (const std::string& friction : orvane::music::Frictions(piece)) {
+      std::cout << "  friction " << friction << "\n";
+    }
+  }
+  if (!options.silent) {
+    const Rendering rendering = orvane::music::Render(bytes, orvane::music::FindSoundFont(), 0.5);
+    const double loudness = orvane::effects::WholeLoudness(rendering.left, rendering.right);
+    const float peak = Peak(rendering);
+    std::cout << "  loudness " << loudness << " LUFS, peak " << peak << "\n";
+    if (peak >= 1) faults.emplace_back("clips");
+    all.push_back({name, loudness});
+    if (!options.pictures.empty()) SaveRendering(folder / (name + ".wav"), rendering);
+  }
+  for (const std::string& fault : faults) std::cout << "  FAULT " << fault << "\n";
+  return static_cast<int>(faults.size());
+}
+
+int Run(const Options& options) {
+  int faults = 0;
+  std::vector<Loudness> all;
+  for (const std::string& file : options.files) {
+    try {
+      faults += CheckFile(file, options, all);
+    } catch (const std::exception& problem) {
+      std::cout << file << ": FAULT " << problem.what() << "\n";
+      ++faults;
+    }
+  }
+  if (all.size() > 1) {
+    const auto [quiet, loud] =
+        std::minmax_element(all.begin(), all.end(),
+                            [](const Loudness& a, const Loudness& b) { return a.value < b.value; });
+    const double spread = loud->value - quiet->value;
+    std::cout << "loudness from " << quiet->value << " (" << quiet->name << ") to " << loud->value
+              << " (" << loud->name << ")\n";
+    if (spread > 3) {
+      std::cout << "FAULT the pieces differ by " << spread << " dB\n";
+      ++faults;
+    }
+  }
+  std::cout << (faults == 0 ? "all pieces are sound\n" : "there are faults\n");
+  return faults == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  Options options;
+  for (int i = 1; i < count; ++i) {
+    const std::string word = words[i];
+    if (word == "--frictions") {
+      options.frictions = true;
+    } else if (word == "--silent") {
+      options.silent = true;
+    } else if (word == "--pictures" && i + 1 < count) {
+      options.pictures = words[++i];
+    } else {
+      options.files.push_back(word);
+    }
+  }
+  if (options.files.empty()) {
+    std::cerr << "usage: orvane-check-music [--silent] [--frictions] [--pictures FOLDER] MIDI...\n";
+    return 2;
+  }
+  return Run(options);
+}

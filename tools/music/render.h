@@ -1,0 +1,25 @@
+// Pieces as the game's synthesizer sounds them, without a sound card.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orvane::music {
+
+// Stereo samples at 44100 Hz.
+struct Rendering {
+  std::vector<float> left;
+  std::vector<float> right;
+};
+
+// The gain that the pieces are balanced for.
+constexpr double RenderGain = 0.5;
+
+// The sound font that the game prefers, or the one it falls back to; empty where neither is.
+std::string FindSoundFont();
+
+// Plays a MIDI file from its start to its end, and `tail` seconds on; throws std::runtime_error
+// where the synthesizer, the font or the file fails.
+Rendering Render(const std::string& midi, const std::string& sound_font, double tail);
+
+}  // namespace orvane::music

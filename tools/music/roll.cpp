@@ -1,0 +1,129 @@
+#include "tools/music/roll.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace orvane::music {
+namespace {
+
+constexpr int BarsInRow = 16;
+constexpr int BarWidth = 96;
+constexpr int LowPitch = 24;
+constexpr int HighPitch = 103;
+constexpr int PitchHeight = 3;
+constexpr int RowHeight = (HighPitch - LowPitch + 1) * PitchHeight + 12;
+
+struct Canvas {
+  int width;
+  int height;
+  std::vector<uint32_t> pixels;
+
+  void Box(int x, int y, int wide, int high, uint32_t colour) {
+    for (int row = std::max(y, 0); row < std::min(y + high, height); ++row) {
+      for (int column = std::max(x, 0); column < std::min(x + wide, width); ++column) {
+        pixels[static_cast<size_t>(row) * static_cast<size_t>(width) +
+               static_cast<size_t>(column)] = colour;
+      }
+    }
+  }
+};
+
+uint32_t Shade(uint32_t colour, int velocity) {
+  const auto light = static_cast<uint32_t>(64 + velocity * 3 / 2);
+  uint32_t out = 0;
+  for (const int shift : {0, 8, 16}) {
+    out |= std::min(255U, ((colour >> shift) & 0xFF) * light / 224) << shift;
+  }
+  return out;
+}
+
+void PutBig(std::string& out, uint32_t value) {
+  for (const int shift : {24, 16, 8, 0}) out += static_cast<char>((value >> shift) & 0xFF);
+}
+
+void PutChunk(std::string& out, const std::string& kind, const std::string& body) {
+  PutBig(out, static_cast<uint32_t>(body.size()));
+  std::string checked(kind);
+  checked += body;
+  uint32_t crc = 0xFFFFFFFF;
+  for (const char c : checked) {
+    crc ^= static_cast<uint8_t>(c);
+    for (int bit = 0; bit < 8; ++bit) crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320U : 0U);
+  }
+  out += checked;
+  PutBig(out, ~crc);
+}
+
+// Stored without compression: these pictures are looked at and thrown away.
+std::string Png(const Canvas& canvas) {
+  std::string raw;
+  for (int y = 0; y < canvas.height; ++y) {
+    raw += '\0';
+    for (int x = 0; x < canvas.width; ++x) {
+      const uint32_t pixel =
+          canvas.pixels[static_cast<size_t>(y) * static_cast<size_t>(canvas.width) +
+                        static_cast<size_t>(x)];
+      for (const int shift : {16, 8, 0}) raw += static_cast<char>((pixel >> shift) & 0xFF);
+    }
+  }
+  std::string packed("\x78\x01", 2);
+  uint32_t a = 1;
+  uint32_t b = 0;
+  for (const char c : raw) {
+    a = (a + static_cast<uint8_t>(c)) % 65521;
+    b = (b + a) % 65521;
+  }
+  for (size_t at = 0; at < raw.size(); at += 65535) {
+    const size_t size = std::min<size_t>(65535, raw.size() - at);
+    packed += static_cast<char>(at + size == raw.size() ? 1 : 0);
+    for (const size_t word : {size, ~size}) {
+      packed += static_cast<char>(word & 0xFF);
+      packed += static_cast<char>((word >> 8) & 0xFF);
+    }
+    packed.append(raw, at, size);
+  }
+  PutBig(packed, b << 16 | a);
+  std::string head;
+  PutBig(head, static_cast<uint32_t>(canvas.width));
+  PutBig(head, static_cast<uint32_t>(canvas.height));
+  head += std::string("\x08\x02\x00\x00\x00", 5);
+  std::string out("\x89PNG\r\n\x1A\n");
+  PutChunk(out, "IHDR", head);
+  PutChunk(out, "IDAT", packed);
+  PutChunk(out, "IEND", {});
+  return out;
+}
+
+}  // namespace
+
+std::string DrawRoll(const PieceNotes& piece) {
+  static constexpr std::array<uint32_t, 12> Colours = {0xFF5050, 0x50C8FF, 0x60E060, 0xFFC040,
+                                                       0xC080FF, 0xFF80C0, 0x40E0D0, 0xA0A0FF,
+                                                       0xE0E060, 0xFF9060, 0x90D090, 0xC0C0C0};
+  const int bars = (piece.end + piece.bar_ticks - 1) / piece.bar_ticks;
+  const int rows = (bars + BarsInRow - 1) / BarsInRow;
+  Canvas canvas{BarsInRow * BarWidth, rows * RowHeight, {}};
+  canvas.pixels.assign(static_cast<size_t>(canvas.width) * static_cast<size_t>(canvas.height),
+                       0x101018);
+  const int row_ticks = BarsInRow * piece.bar_ticks;
+  const auto x_of = [&](int tick) { return tick % row_ticks * BarWidth / piece.bar_ticks; };
+  for (int bar = 0; bar < bars; ++bar) {
+    canvas.Box(bar % BarsInRow * BarWidth, bar / BarsInRow * RowHeight, 1, RowHeight - 4, 0x303040);
+  }
+  for (const Mark& section : piece.sections) {
+    canvas.Box(x_of(section.tick), section.tick / row_ticks * RowHeight, 2, RowHeight - 4,
+               0xFFFFFF);
+  }
+  for (const FileNote& note : piece.notes) {
+    const int top = note.start / row_ticks * RowHeight;
+    const int x = x_of(note.start);
+    const int wide = std::max(2, (note.end - note.start) * BarWidth / piece.bar_ticks - 1);
+    const int y = top + (HighPitch - std::clamp(note.pitch, LowPitch, HighPitch)) * PitchHeight;
+    canvas.Box(x, y, wide, PitchHeight, Shade(Colours[note.track % Colours.size()], note.velocity));
+  }
+  return Png(canvas);
+}
+
+}  // namespace orvane::music

@@ -27,10 +27,6 @@ constexpr std::array<uint32_t, 4> dark{0x0C0818, 0x1C1028, 0x34182C, 0x5C2C34};
 
 }  // namespace
 
-Image PaintTitle() {
-  return Rough(320, 160, 118, dusk, dark);
-}
-
 Image PaintEndingStill() {
   return Rough(454, 300, 205, dusk, dark);
 }

@@ -1,0 +1,80 @@
+#include "content/pictures/scenes/title_figures.h"
+
+#include <array>
+#include <cmath>
+
+#include "content/pictures/figures/hero.h"
+#include "content/pictures/scenes/noise.h"
+#include "content/pictures/scenes/title_dragon.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+constexpr int dragon_left = 452;
+constexpr std::array<uint32_t, 5> rock{0x08061C, 0x141030, 0x28204C, 0x483C70, 0x8478A4};
+constexpr Colour night{0.62F, 0.58F, 0.86F};  // what the night leaves of a colour
+
+Colour AtNight(Colour day) {
+  return {day.r * night.r, day.g * night.g, day.b * night.b};
+}
+
+void LaySprite(Canvas& canvas, const Sprite& sprite, int left, int top, float dark) {
+  for (int y = 0; y < sprite.Picture.height; ++y) {
+    for (int x = 0; x < sprite.Picture.width; ++x) {
+      const uint32_t pixel = sprite.Picture.At(x, y);
+      if (pixel == 0xFFFFFF) continue;
+      canvas.Blend(left + x, top + y, Mix(Hex(pixel), AtNight(Hex(pixel)), dark));
+    }
+  }
+}
+
+float LedgeTop(float x) {
+  const float rough = 26 * (Fbm(x * 0.012F, 0.5F, 5, 71) - 0.5F);
+  return 496 + 0.06F * x + rough + 150 * SmoothStep(300, 440, x + rough * 2) +
+         40 * SmoothStep(60, 0, x) * -1;
+}
+
+// The cliff in the lower left, lit along its edge.
+void DrawLedge(Canvas& canvas) {
+  for (int x = 0; x < 470; ++x) {
+    const auto column = static_cast<float>(x);
+    const float top = LedgeTop(column);
+    for (int y = static_cast<int>(top); y < canvas.height; ++y) {
+      const auto row = static_cast<float>(y);
+      const float below = row - top;
+      const float here = Fbm(column * 0.02F + row * 0.008F, row * 0.035F, 5, 72);
+      const float there = Fbm((column - 5) * 0.02F + row * 0.008F, (row - 6) * 0.035F, 5, 72);
+      const float light =
+          0.22F + (here - there) * 3.2F + 0.5F * std::exp(-below * 0.09F) - below * 0.0012F;
+      canvas.Blend(x, y, OnRamp(rock, light));
+    }
+  }
+}
+
+void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& materials, float x) {
+  paint::View view;
+  view.Width = 110;
+  view.Height = 110;
+  view.Yaw = 2.25F;
+  view.Pitch = 0.06F;
+  view.Samples = 2;
+  view.Margin = 2;
+  view.Dither = 0.5F;
+  view.Scale = 3.1F;
+  view.Middle = {0, 1, 0};
+  view.Light = {-0.6F, 0.8F, 0.2F};
+  const Sprite sprite = Render(model, materials, view);
+  const int top = static_cast<int>(LedgeTop(x)) - 95;
+  LaySprite(canvas, sprite, static_cast<int>(x) - 55, top, 0.85F);
+}
+
+}  // namespace
+
+void DrawTitleFigures(Canvas& canvas) {
+  LaySprite(canvas, RenderTitleDragon(), dragon_left, 0, 0.55F);
+  DrawLedge(canvas);
+  DrawHero(canvas, WomanModel(0), WomanMaterials(), 150);
+  DrawHero(canvas, ManModel(0), ManMaterials(), 222);
+}
+
+}  // namespace orvane::paint::scene

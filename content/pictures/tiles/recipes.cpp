@@ -10,6 +10,14 @@ void AddTileRecipes(std::vector<Recipe>& recipes) {
                        tiles::PaintGrounds(sheet);
                        tiles::PaintPatches(sheet);
                        tiles::PaintWaters(sheet);
+                       tiles::PaintBridges(sheet);
+                       tiles::PaintCliffs(sheet);
+                       tiles::PaintTrees(sheet);
+                       tiles::PaintHouse(sheet);
+                       tiles::PaintRuins(sheet);
+                       tiles::PaintRooms(sheet);
+                       tiles::PaintLastStage(sheet);
+                       tiles::PaintObjects(sheet);
                        return sheet.Picture;
                      }});
 }

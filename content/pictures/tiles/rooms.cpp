@@ -1,0 +1,186 @@
+// Rooms behind doors: walls, shelves, boards and the carpet; and the last stage.
+#include <cmath>
+
+#include "content/pictures/tiles/families.h"
+#include "content/pictures/tiles/noise.h"
+#include "content/pictures/tiles/palette.h"
+
+namespace orvane::paint::tiles {
+namespace {
+
+Image WallTop() {
+  return Fill(TileSize, TileSize, [](int x, int y) -> Colour {
+    return Dark[(x + y * 2) % 16 == 0 || Hash(x / 4, y / 4, 501) > 0.93 ? 1 : 0];
+  });
+}
+
+Image WallFace() {
+  return Fill(TileSize, TileSize, [](int x, int y) -> Colour {
+    if (y == 0) return Dark[0];
+    if (y < 3) return Wood[y == 1 ? 4 : 2];
+    if (y > 12) return y == 15 ? Wood[0] : Wood[y == 13 ? 3 : 1];
+    if (y == 3) return Stone[0];
+    const int course = (y - 4) / 3;
+    if ((y - 4) % 3 == 2 || (x + course % 2 * 4) % 8 == 0) return Dark[2];
+    return (y - 4) % 3 == 0 ? Dark[6] : Dark[5];
+  });
+}
+
+Image LampFace() {
+  Image tile = WallFace();
+  for (int y = 3; y < 13; ++y) {
+    for (int x = 0; x < TileSize; ++x) {
+      if (std::hypot(x - 7.5, (y - 6.0) * 1.1) < 6.2)
+        tile.At(x, y) = Dark[(y - 4) % 3 == 2 ? 4 : 7];
+    }
+  }
+  Stamp(tile, 5, 2,
+        {"..yy..", ".ywwy.", ".owwo.", "..oo..", ".kggk.", "..kk..", "..kk..", "...k.."},
+        {{'y', 0xFCD060}, {'w', 0xFFFCE0}, {'o', 0xF48830}, {'k', 0x34201C}, {'g', Gold[3]}});
+  return tile;
+}
+
+Image Bookshelf() {
+  Image tile = WallFace();
+  Stamp(tile, 0, 0,
+        {"kkkkkkkkkkkkkkkk", "kllllllllllllllk", "kmddddddddddddmk", "kmrRkgGuUkyYpPmk",
+         "kmrRkgGuUkyYpPmk", "kmrrkgguukyyppmk", "kmllllllllllllmk", "kmddddddddddddmk",
+         "kmuUyYkrRpPkgGmk", "kmuUyYkrRpPkgGmk", "kmuuyykrrppkggmk", "kmllllllllllllmk",
+         "kmddddddddddddmk", "kmpPgGrRkkuUyYmk", "kmppggrrkkuuyymk", "kkkkkkkkkkkkkkkk"},
+        {{'k', Wood[0]},
+         {'l', Wood[4]},
+         {'m', Wood[2]},
+         {'d', 0x20100C},
+         {'r', 0x8C1C24},
+         {'R', 0xE05048},
+         {'g', 0x1C6030},
+         {'G', 0x58B058},
+         {'u', 0x24408C},
+         {'U', 0x6090E0},
+         {'y', 0xB07820},
+         {'Y', 0xF0CC60},
+         {'p', 0x602878},
+         {'P', 0xB070C8}});
+  return tile;
+}
+
+// A dark wall whose rim toward the room is lit: 0 room to the right, 1 to the left, 2 above.
+Image SideWall(int side) {
+  const Image top = WallTop();
+  return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+    const int from_room = side == 0 ? 15 - x : side == 1 ? x : y;
+    if (from_room == 0) return Wood[0];
+    if (from_room == 1) return Wood[side == 1 ? 3 : 4];
+    if (from_room == 2) return Wood[2];
+    if (from_room == 3) return Wood[0];
+    return top.At(x, y);
+  });
+}
+
+Image Boards(int variant) {
+  return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+    const int board = y / 4;
+    const int within = y % 4;
+    const int end = (board * 7 + variant * 5 + 3) % 16;
+    if (within == 3 || x == end) return Wood[2];
+    if (within == 0) return Wood[5];
+    if (variant == 1 && board == 2 && std::hypot(x - 9.0, (y - 9.5) * 2) < 2) return Wood[3];
+    return Hash(x / 5, y, 511 + variant) > 0.7 ? 0xDCB47C : 0xE0BC84;
+  });
+}
+
+Image CarpetPicture() {
+  const Image boards = Tiled(Boards(0), 48, 16);
+  return Fill(48, 16, [&](int x, int y) -> Colour {
+    const int in = x < 24 ? x - 3 : 44 - x;
+    if (in < -1) return boards.At(x, y);
+    if (in == -1) return Wood[1];
+    if (in == 0) return Carpet[0];
+    if (in < 3) return Gold[in == 1 ? 3 : 2];
+    if (in == 3) return Carpet[1];
+    const int u = std::abs(x % 16 - 8);
+    const int v = std::abs(y - 8);
+    if (in > 5 && u + v == 5) return Gold[2];
+    if (in > 5 && u + v < 2) return Gold[3];
+    return Carpet[(x + y) % 4 == 0 ? 3 : 2];
+  });
+}
+
+Image ExitMat() {
+  Image tile = Boards(1);
+  for (int y = 2; y < 14; ++y) {
+    for (int x = 1; x < 15; ++x) {
+      const bool rim = y == 2 || y == 13 || x == 1 || x == 14;
+      tile.At(x, y) = rim ? 0x3C5C30 : (x + y) % 3 == 0 ? 0x88A858 : 0x6C9048;
+    }
+  }
+  Stamp(tile, 4, 5, {"..yyyy..", "..yyyy..", "yyyyyyyy", ".yyyyyy.", "..yyyy..", "...yy..."},
+        {{'y', 0xF0E8A8}});
+  return tile;
+}
+
+Image LastFloor(int variant) {
+  return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+    if (x == 15 || y == 15) return Marble[1];
+    if (x == 0 || y == 0) return Marble[5];
+    const double vein = Noise(x / 4.0 + variant * 5, y / 4.0, 0, 521 + variant);
+    if (std::abs(vein - 0.5) < 0.035) return Marble[2];
+    return Marble[vein > 0.6 ? 4 : 3];
+  });
+}
+
+Image Glyph() {
+  Image tile = LastFloor(0);
+  Stamp(tile, 2, 2,
+        {"...gggggg...", "..g......g..", ".g..gGGg..g.", "g..g.gg.g..g", "g.g.gGGg.g.g",
+         "gGGgG..GgGGg", "gGGgG..GgGGg", "g.g.gGGg.g.g", "g..g.gg.g..g", ".g..gGGg..g.",
+         "..g......g..", "...gggggg..."},
+        {{'g', Gold[2]}, {'G', Gold[3]}});
+  return tile;
+}
+
+Image LastStairs() {
+  return Fill(TileSize, TileSize, [](int x, int y) -> Colour {
+    if (x == 0 || x == 15) return Gold[2];
+    const int step = y % 4;
+    return Marble[step == 0 ? 5 : step == 3 ? 1 : step == 2 ? 3 : 4];
+  });
+}
+
+Image Void() {
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) -> Colour {
+    const double cloud =
+        0.6 * Noise(x / 4.0, y / 4.0, 4, 531) + 0.4 * Noise(x / 2.0, y / 2.0, 8, 532);
+    return cloud > 0.66 ? 0x281848U : cloud > 0.54 ? 0x1C1038U : 0x100828U;
+  });
+  Set(tile, 3, 4, 0xC8C0F0);
+  Set(tile, 12, 9, 0x8878C8);
+  Set(tile, 8, 13, 0xF4F0FC);
+  Set(tile, 14, 2, 0x5C4C98);
+  return tile;
+}
+
+}  // namespace
+
+void PaintRooms(Sheet& sheet) {
+  sheet.Put(55, WallTop());
+  sheet.Put(56, WallFace());
+  sheet.Put(57, LampFace());
+  sheet.Put(58, Bookshelf());
+  sheet.Put(59, SideWall(0));
+  sheet.Put(60, SideWall(1));
+  sheet.Put(204, SideWall(2));
+  sheet.Put(206, Boards(0));
+  sheet.Put(207, Boards(1));
+  sheet.PutBlock(208, CarpetPicture());
+  sheet.Put(240, ExitMat());
+}
+
+void PaintLastStage(Sheet& sheet) {
+  for (int variant = 0; variant < 3; ++variant) sheet.Put(235 + variant, LastFloor(variant));
+  sheet.Put(238, Glyph());
+  sheet.Put(239, LastStairs());
+  sheet.Put(205, Void());
+}
+
+}  // namespace orvane::paint::tiles

@@ -1,0 +1,169 @@
+// Behind the credits: dawn over the open world, and the heroes who look at it from a hill.
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "content/pictures/figures/hero.h"
+#include "content/pictures/figures/render.h"
+#include "content/pictures/scenes/details.h"
+#include "content/pictures/scenes/noise.h"
+#include "content/pictures/scenes/scenes.h"
+#include "content/pictures/scenes/sky.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+constexpr std::array<uint32_t, 6> grass{0x14203C, 0x20404C, 0x3C6448, 0x74904C, 0xC0B85C, 0xFCE890};
+constexpr std::array<uint32_t, 5> hillside{0x101430, 0x1C2840, 0x34483C, 0x646C3C, 0xA89850};
+constexpr std::array<uint32_t, 5> rock{0x28204C, 0x503C68, 0x8C5C78, 0xD0948C, 0xFCD8A8};
+constexpr std::array<uint32_t, 5> leaves{0x10182C, 0x1C3438, 0x3C5838, 0x807C3C, 0xD8B858};
+constexpr std::array<uint32_t, 4> blades{0x14283C, 0x345440, 0x809048, 0xE8D470};
+constexpr float water_level = -4;
+constexpr Vec sun{-0.13F, 0.055F, 1};
+constexpr View view{908, 600, 396, 640, 30};
+
+class Dawn : public Terrain {
+ public:
+  float Height(float x, float z, int octaves) const override {
+    const float roll = SmoothStep(70, 200, z) *
+                       (46 * Fbm(x * 0.009F + 3, z * 0.009F, std::max(3, octaves - 2), 2) - 22);
+    const float shore = SmoothStep(30, 120, std::fabs(x + 40 - 50 * std::sin(z * 0.006F)));
+    const float range = SmoothStep(480, 760, z) *
+                        (170 * Ridges(x * 0.0036F + 4.1F, z * 0.0036F, octaves, 5) - 6) *
+                        (0.35F + 0.65F * SmoothStep(30, 330, std::fabs(x + 90)));
+    return -3.5F + roll * (0.25F + 0.75F * shore) + range;
+  }
+
+  Colour Ground(const Spot& spot) const override {
+    const Vec p = spot.place;
+    const float fine = Fbm(p.x * 0.3F, p.z * 0.3F, 4, 8) - 0.5F;
+    if (p.y < water_level) {
+      const float ripple = Noise(p.x * 0.2F, p.z * 0.05F, 12) - 0.5F;
+      const Vec way = Unit({p.x, view.eye - p.y, p.z});
+      const Vec mirrored = Unit({way.x + 0.03F * ripple, way.y * (1 + 0.5F * ripple), way.z});
+      return Sky(mirrored) * 0.86F;
+    }
+    const float light = 0.16F + 0.14F * spot.normal.y + 0.74F * spot.sun;
+    const float big = Fbm(p.x * 0.02F, p.z * 0.02F, 4, 7) - 0.5F;
+    const Colour ground = OnRamp(grass, light * 0.8F + 0.4F * big + 0.2F * fine);
+    const float steep = SmoothStep(0.22F, 0.42F, 1 - spot.normal.y) + SmoothStep(460, 520, p.z);
+    return Mix(ground, OnRamp(rock, light + 0.2F * fine), steep);
+  }
+
+  Colour Sky(Vec direction) const override {
+    const float up = Clamp(direction.y / direction.z / 0.6F);
+    Colour sky = Mix(Hex(0xFCD890), Hex(0xE88C78), up / 0.16F);
+    sky = Mix(sky, Hex(0x90588C), (up - 0.14F) / 0.24F);
+    sky = Mix(sky, Hex(0x34346C), (up - 0.34F) / 0.42F);
+    const float x = direction.x / direction.z - sun.x;
+    const float y = direction.y / direction.z - sun.y;
+    const float from_sun = std::sqrt(x * x + y * y);
+    sky = sky + Hex(0xFFC070) * (0.55F * std::exp(-from_sun * 7)) +
+          Hex(0xFFE0A0) * (0.5F * std::exp(-from_sun * 26));
+    sky = Mix(Hex(0xFFFCE8), sky, SmoothStep(0.040F, 0.046F, from_sun));
+    const float near = std::exp(-from_sun * 2.4F);
+    return Clouds(sky, direction,
+                  {Mix(Hex(0x4C3C74), Hex(0xC87078), near), Mix(Hex(0xB87898), Hex(0xFFE0A8), near),
+                   0.50F, 0.2F, 0.8F, 133},
+                  Light());
+  }
+  Colour Haze(Vec) const override { return Hex(0xE8A484); }
+  float HazeCover(float distance) const override {
+    return 0.9F * (1 - std::exp(-std::pow(distance / 560, 1.5F)));
+  }
+  Vec Light() const override { return Unit({-0.62F, 0.34F, 0.52F}); }
+};
+
+void PlantTrees(Dresser& dresser, const Dawn& land) {
+  std::vector<Standing> trees;
+  for (int k = 0; k < 1400; ++k) {
+    const float z = 130 + Hash(k, 5, 40) * 320;
+    const float x = (Hash(k, 8, 40) - 0.5F) * 1.6F * z;
+    if (Fbm(x * 0.017F + 40, z * 0.02F, 3, 41) < 0.53F) continue;
+    if (land.Height(x, z, 6) < water_level + 1.5F) continue;
+    trees.push_back({x, z, 2.2F + 2.2F * Hash(k, 2, 40), k});
+  }
+  std::sort(trees.begin(), trees.end(),
+            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+  for (const Standing& at : trees) {
+    if (Hash(at.seed, 3, 40) < 0.4F)
+      dresser.Fir({at.x, at.z, at.size * 1.3F, at.seed}, leaves);
+    else
+      dresser.Tree(at, leaves);
+  }
+}
+
+float HillTop(float x) {
+  const float off = (x - 470) / 470;
+  return 452 + 62 * off * off + 12 * (Fbm(x * 0.01F, 0.5F, 4, 90) - 0.5F);
+}
+
+// The near hill: dark below, where the last lines of text stand, lit along its rim.
+void DrawHill(Canvas& canvas) {
+  for (int x = 0; x < canvas.width; ++x) {
+    const auto column = static_cast<float>(x);
+    const float top = HillTop(column);
+    for (int y = static_cast<int>(top); y < canvas.height; ++y) {
+      const auto row = static_cast<float>(y);
+      const float below = row - top;
+      const float patch = Fbm(column * 0.012F, row * 0.03F, 5, 91) - 0.5F;
+      const float light = 0.42F + 0.4F * patch + 0.5F * std::exp(-below * 0.16F) - below * 0.0034F;
+      canvas.Blend(x, y, OnRamp(hillside, light));
+    }
+  }
+  for (int k = 0; k < 2600; ++k) {
+    const float x = Hash(k, 1, 92) * static_cast<float>(canvas.width);
+    const float depth = Hash(k, 2, 92) * Hash(k, 2, 92);
+    const float foot = HillTop(x) + depth * 150;
+    const float length = 5 + 9 * Hash(k, 3, 92) + 10 * depth;
+    const float lean = (Hash(k, 4, 92) - 0.35F) * 0.9F;
+    for (float up = 0; up < length; up += 0.7F) {
+      const float share = up / length;
+      const float tone = 0.25F + 0.75F * share - 0.62F * depth - 0.12F * Hash(k, 5, 92);
+      canvas.Blend(static_cast<int>(x + lean * share * up), static_cast<int>(foot - up),
+                   OnRamp(blades, tone));
+    }
+  }
+}
+
+void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& materials, float x,
+              float turn) {
+  paint::View pose;
+  pose.Width = 130;
+  pose.Height = 130;
+  pose.Yaw = 3.14159265F + turn;
+  pose.Pitch = 0.05F;
+  pose.Samples = 2;
+  pose.Dither = 0.4F;
+  pose.Scale = 3.5F;
+  pose.Light = {-0.7F, 0.6F, -0.1F};
+  pose.Behind = {-0.5F, 0.4F, -0.8F};
+  const Sprite sprite = Render(model, materials, pose);
+  const int left = static_cast<int>(x) - 65;
+  const int top = static_cast<int>(HillTop(x)) - 98;
+  for (int y = 0; y < 130; ++y) {
+    for (int column = 0; column < 130; ++column) {
+      const uint32_t pixel = sprite.Picture.At(column, y);
+      if (pixel == 0xFFFFFF) continue;
+      const Colour day = Hex(pixel);
+      const Colour dawn{day.r * 0.82F, day.g * 0.64F, day.b * 0.70F};
+      canvas.Blend(left + column, top + y, Mix(day, dawn, 0.9F));
+    }
+  }
+}
+
+}  // namespace
+
+Image PaintEndingStill() {
+  const Dawn land;
+  Painting painting = PaintTerrain(land, view);
+  Dresser dresser(land, view, painting);
+  PlantTrees(dresser, land);
+  Canvas canvas = Painted(painting.canvas, 2, 0.75F);
+  DrawHero(canvas, ManModel(0), ManMaterials(), 440, 0.25F);
+  DrawHero(canvas, WomanModel(0), WomanMaterials(), 520, -0.2F);
+  DrawHill(canvas);
+  return ToSheet(Painted(Shrink(canvas, 2, 2), 1, 0.4F), 224, 6);
+}
+
+}  // namespace orvane::paint::scene

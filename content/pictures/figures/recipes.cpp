@@ -1,5 +1,8 @@
 // The list of all figure sheets: heroes and enemies.
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <utility>
 
 #include "content/pictures/figures/figures.h"
 
@@ -29,6 +32,21 @@ Image BallSheet(int width, int height, int cell, uint32_t colour) {
   return sheet;
 }
 
+constexpr std::array<std::pair<int, Image (*)()>, 14> kModels{{{3, PaintMoonEnvoy},
+                                                               {4, PaintGreenRoper},
+                                                               {9, PaintStarEnvoy},
+                                                               {10, PaintManEater},
+                                                               {11, PaintHannya},
+                                                               {5, PaintSlime},
+                                                               {6, PaintSpider},
+                                                               {7, PaintNakedFiend},
+                                                               {8, PaintSoldier},
+                                                               {12, PaintBat},
+                                                               {14, PaintAngel},
+                                                               {15, PaintDeathRoper},
+                                                               {16, PaintMerman},
+                                                               {17, PaintHornedBeast}}};
+
 }  // namespace
 
 void AddFigureRecipes(std::vector<Recipe>& recipes) {
@@ -38,6 +56,12 @@ void AddFigureRecipes(std::vector<Recipe>& recipes) {
     const int row = i == 19 ? 100 : i;
     char name[16];
     std::snprintf(name, sizeof name, "enemy_%02d", row);
+    const auto model = std::find_if(kModels.begin(), kModels.end(),
+                                    [row](const auto& entry) { return entry.first == row; });
+    if (model != kModels.end()) {
+      recipes.push_back({name, model->second});
+      continue;
+    }
     const bool big = row == 13 || row == 18;
     const int cell = row < 3 ? 128 : big ? 160 : 64;
     const int width = cell * 2 + (row == 13 ? -2 : row == 7 ? -1 : row == 12 || row == 100 ? 1 : 0);

@@ -1,0 +1,95 @@
+// The sour spider: a lemon for an abdomen and eight long violet legs.
+#include <array>
+
+#include "content/pictures/figures/figures.h"
+#include "content/pictures/figures/monster.h"
+
+namespace orvane::paint {
+namespace {
+
+enum Stuff { kShell, kLemon, kEye, kFang, kBand, kAcid };
+
+// One leg: where it points, how far, how high its knee stands, and how high the foot is held.
+struct Leg {
+  float Angle;
+  float Length;
+  float Knee;
+  float Foot;
+};
+
+// Bands of a lighter colour near the joints.
+float LegLight(Touch& touch, float light) {
+  const float f = Fraction(touch.Place.Along / 11);
+  if (touch.Place.Along > 6 && f < 0.24F) touch.Material = kBand;
+  return light;
+}
+
+// The rind: pores, and darker seams from pole to pole.
+float RindLight(Touch& touch, float light) {
+  const float pores = Noise(touch.At * 0.9F);
+  const float seam = std::fabs(std::sin(std::atan2(touch.Normal.X, touch.Normal.Y) * 3));
+  return light * (0.86F + 0.2F * pores) * (0.84F + 0.2F * SmoothStep(0, 0.4F, seam));
+}
+
+Model SpiderModel() {
+  Model model;
+  model.Add(kLemon, 4)
+      .Ball({0, 7, -17}, {13, 12, 15})
+      .Limb({0, 8.5F, -26}, {0, 10.5F, -35}, 6, 2.2F);
+  model.Add(kShell, 3, 1.5F)
+      .Ball({0, -1, 3}, {8, 6.5F, 9})
+      .Ball({0, 0.5F, 12}, {6.6F, 5.6F, 6})
+      .Limb({0, 0, -3}, {0, 3, -7}, 4.4F, 4);
+  // The left hand is the far side; the near front leg is raised to strike.
+  static constexpr std::array<Leg, 8> kLegs{{{0.95F, 27, 15, -18},
+                                             {0.50F, 28, 17, -19},
+                                             {-0.15F, 29, 18, -19},
+                                             {-0.75F, 33, 17, -18},
+                                             {2.35F, 27, 20, -2},
+                                             {2.85F, 28, 15, -19},
+                                             {3.4F, 30, 16, -19},
+                                             {3.95F, 34, 18, -19}}};
+  for (size_t i = 0; i < kLegs.size(); ++i) {
+    const Leg& leg = kLegs[i];
+    const Vec out = Around(leg.Angle, 1, 0, 1);
+    const float row = static_cast<float>(i % 4);
+    const Vec root{out.X > 0 ? 5.0F : -5.0F, -2, 9 - 3.4F * row};
+    model.Add(kShell, 1, 0.6F)
+        .Chain(
+            {{root, 2.3F},
+             {root + out * (leg.Length * 0.36F) + Vec{0, leg.Knee * 0.9F, 0}, 2.5F},
+             {root + out * (leg.Length * 0.62F) + Vec{0, leg.Knee * 0.55F, 0}, 1.9F},
+             {root + out * (leg.Length * 0.86F) + Vec{0, Mix(leg.Knee * 0.5F, leg.Foot, 0.6F), 0},
+              1.5F},
+             {root + out * leg.Length + Vec{0, leg.Foot, 0}, 0.6F}},
+            5, {0, 0, 1});
+  }
+  model.AddPair(kEye)
+      .Ball({2.7F, 3.0F, 16.4F}, {2.2F, 2.2F, 1.8F})
+      .Ball({5.6F, 2.8F, 13.4F}, {1.6F, 1.6F, 1.6F})
+      .Ball({2.0F, 6.2F, 13.8F}, {1.4F, 1.3F, 1.3F});
+  model.AddPair(kShell, 1, 0.5F).Limb({3, -3, 16}, {3.6F, -7, 19.4F}, 2.7F, 2.1F);
+  model.AddPair(kFang).Limb({3.6F, -7, 19.6F}, {1.6F, -13.5F, 20}, 1.8F, 0.3F);
+  model.Add(kAcid).Leaf({-1.6F, -14, 20.4F}, {-1.6F, -18.4F, 20.4F}, 1.5F, 1.5F);
+  model.Finish();
+  return model;
+}
+
+}  // namespace
+
+Image PaintSpider() {
+  std::vector<Material> m(6);
+  m[kShell] = {
+      {0x181024, 0x2C1C3C, 0x483058, 0x6C4C74, 0x987494, 0xD0ACB8}, 0.3F, 0.4F, 0, LegLight};
+  m[kLemon] = {
+      {0x5C3410, 0x986010, 0xD09C10, 0xF0CC20, 0xF8EC58, 0xF8F8B8}, 0.5F, 0.3F, 0.02F, RindLight};
+  m[kEye] = {{0x500010, 0xA80818, 0xF03020, 0xFCC0A0}, 0.9F, 0.1F, 0.25F};
+  m[kFang] = {{0x5C5048, 0xB8A888, 0xF4ECC8}, 0.3F};
+  m[kBand] = {{0x583410, 0x987018, 0xD8B030, 0xF4DC60}};
+  m[kAcid] = {{0x4C8418, 0xA0D830, 0xE8F888}, 0.6F, 0.2F, 0.2F};
+  View view = MonsterView(0.5F, 0.3F);
+  view.Height = 50;
+  return PairSheet(Render(SpiderModel(), m, view), 128, 50, 64);
+}
+
+}  // namespace orvane::paint

@@ -62,6 +62,13 @@ std::vector<int> Tones(const Chord& chord, int voices) {
   return classes;
 }
 
+// Tones a semitone apart rub against each other: a voicing that parts them is preferred.
+int Rubbing(const std::vector<int>& voicing) {
+  int sum = 0;
+  for (size_t i = 0; i + 1 < voicing.size(); ++i) sum += voicing[i + 1] - voicing[i] == 1 ? 9 : 0;
+  return sum;
+}
+
 int Movement(const std::vector<int>& from, const std::vector<int>& to) {
   int sum = 0;
   for (size_t i = 0; i < to.size(); ++i) {
@@ -127,7 +134,8 @@ std::vector<int> Voice(const Chord& chord, int floor, int voices,
       if (i > 0) pitch += ((tone - pitch) % 12 + 12) % 12;
       voicing.push_back(pitch);
     }
-    const int cost = previous.empty() ? voicing.front() - floor : Movement(previous, voicing);
+    const int cost = Rubbing(voicing) +
+                     (previous.empty() ? voicing.front() - floor : Movement(previous, voicing));
     if (cost < least) {
       least = cost;
       best = voicing;

@@ -59,7 +59,7 @@ const std::vector<Instrument>& Instruments() {
       {"recorder", 74, 60, 96},
       {"pan-flute", 75, 60, 96},
       {"shakuhachi", 77, 55, 84},
-      {"ocarina", 79, 60, 84},
+      {"ocarina", 79, 69, 89},
       {"square-lead", 80, 48, 96},
       {"saw-lead", 81, 36, 96},
       {"warm-pad", 89, 36, 96},

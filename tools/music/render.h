@@ -13,7 +13,7 @@ struct Rendering {
 };
 
 // The gain that the pieces are balanced for.
-constexpr double RenderGain = 0.5;
+constexpr double RenderGain = 1.2;
 
 // The sound font that the game prefers, or the one it falls back to; empty where neither is.
 std::string FindSoundFont();

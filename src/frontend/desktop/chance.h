@@ -1,0 +1,26 @@
+// Chance for a real player.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <random>
+
+#include "src/platform/services.h"
+
+namespace orvane {
+
+class DesktopChance : public Chance {
+ public:
+  // With a seed, the draws are the same in every run and Reseed does nothing.
+  explicit DesktopChance(std::optional<uint32_t> seed);
+
+  float Draw() override;
+  void Reseed() override;
+
+ private:
+  std::mt19937 generator_;
+  bool fixed_;
+  uint32_t reseeds_ = 0;
+};
+
+}  // namespace orvane

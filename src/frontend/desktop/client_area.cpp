@@ -1,0 +1,34 @@
+#include "src/frontend/desktop/client_area.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+
+#include "src/frontend/desktop/events.h"
+#include "src/game/program.h"
+#include "src/platform/reach.h"
+
+namespace orvane {
+
+ClientArea::ClientArea(Screen& screen, Events& events) : screen_(screen), events_(events) {
+  setFixedSize(screen.Width, screen.Height);
+}
+
+void ClientArea::Follow(bool all) {
+  if (screen_.OwnSurface == nullptr) return;
+  const QRect changed = image_.Follow(*screen_.OwnSurface, all);
+  if (!changed.isEmpty()) update(changed);
+}
+
+void ClientArea::paintEvent(QPaintEvent* event) {
+  if (screen_.OwnSurface == nullptr) return;
+  QPainter painter(this);
+  image_.Paint(painter, {0, 0}, event->rect());
+}
+
+void ClientArea::mousePressEvent(QMouseEvent* event) {
+  const QPointF at = event->position();
+  if (event->button() != Qt::LeftButton || ControlAt(screen_, {at.x(), at.y()}) != nullptr) return;
+  events_.Send([this](Program& program) { program.Press(screen_); });
+}
+
+}  // namespace orvane

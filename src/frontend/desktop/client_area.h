@@ -1,0 +1,30 @@
+// The ground of a screen: grey, or the surface that the screen itself is drawn on.
+#pragma once
+
+#include <QWidget>
+
+#include "src/frontend/desktop/surface_image.h"
+#include "src/platform/screen.h"
+
+namespace orvane {
+
+class Events;
+
+class ClientArea : public QWidget {
+ public:
+  ClientArea(Screen& screen, Events& events);
+
+  // Brings the surface up to date; `all` when it may have been made afresh.
+  void Follow(bool all);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  Screen& screen_;
+  Events& events_;
+  SurfaceImage image_;
+};
+
+}  // namespace orvane

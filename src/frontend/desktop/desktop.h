@@ -1,0 +1,53 @@
+// The game on a desktop: the program, its windows, its time.
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+#include "src/frontend/desktop/boxes.h"
+#include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/keys.h"
+#include "src/frontend/desktop/sleeper.h"
+#include "src/frontend/desktop/tick_server.h"
+#include "src/frontend/desktop/windows.h"
+#include "src/game/program.h"
+
+namespace orvane {
+
+class Desktop : public QObject, public Events, public BoxHost {
+ public:
+  // Opens the windows of a program that runs. All three must outlive it.
+  Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper);
+  ~Desktop() override;
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  // Runs the game to its end and returns its exit status.
+  int Run();
+
+  void Send(const std::function<void(Program&)>& event) override;
+  QWidget* BeginBox() override;
+  void EndBox() override;
+
+ protected:
+  // Watches the windows for what the window manager does to them.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Follow();
+  void Sleep(int milliseconds);
+  void End();
+  bool KeysReachGame() const;
+
+  Program& program_;
+  MessageBoxes& boxes_;
+  DesktopSleeper& sleeper_;
+  const Screen* first_;  // the screen that the game opens with, which the keys belong to
+  Windows windows_;
+  TickServer ticks_;
+  Keys keys_;
+  bool following_ = false;
+  bool asleep_ = false;
+};
+
+}  // namespace orvane

@@ -1,0 +1,18 @@
+// The way of every event into the game.
+#pragma once
+
+#include <functional>
+
+namespace orvane {
+
+class Program;
+
+class Events {
+ public:
+  virtual ~Events() = default;
+  // Lets an event act on the game, then brings everything on the screen up to date. Nothing happens
+  // once the game has ended, or while it sleeps.
+  virtual void Send(const std::function<void(Program&)>& event) = 0;
+};
+
+}  // namespace orvane

@@ -1,0 +1,102 @@
+#include "src/frontend/desktop/label_view.h"
+
+#include <QFontMetricsF>
+#include <QLabel>
+#include <QPainter>
+#include <algorithm>
+
+#include "src/frontend/desktop/fonts.h"
+
+namespace orvane {
+namespace {
+
+// Room above the control's box: some faces reach higher than the game's own, and their tops must
+// not be cut.
+constexpr int Headroom = 3;
+
+int AlignmentFlag(Align alignment) {
+  switch (alignment) {
+    case Align::Centre:
+      return Qt::AlignHCenter;
+    case Align::Right:
+      return Qt::AlignRight;
+    case Align::Left:
+      break;
+  }
+  return Qt::AlignLeft;
+}
+
+bool Same(const LabelValues& one, const LabelValues& other) {
+  return one.Caption == other.Caption && one.ForeColor == other.ForeColor &&
+         one.Face.Name == other.Face.Name && one.Face.Size == other.Face.Size &&
+         one.Face.Bold == other.Face.Bold && one.Alignment == other.Alignment;
+}
+
+}  // namespace
+
+// Draws a text without a ground of its own. It is a QLabel for the sake of screen readers.
+class LabelWidget : public QLabel {
+ public:
+  explicit LabelWidget(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    // A click on a text is the business of what it lies on, which asks the model.
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+  void Show(const LabelValues& values) {
+    colour_ = QColor::fromRgb(values.ForeColor);
+    alignment_ = AlignmentFlag(values.Alignment);
+    setFont(DesktopFont(values.Face));
+    setText(ToQt(values.Caption));
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    if (text().isEmpty()) return;
+    QPainter painter(this);
+    painter.setPen(colour_);
+    const QFontMetricsF metrics(font(), this);
+    const QRectF box = QRectF(rect()).adjusted(0, Headroom, 0, 0);
+    const bool one_line = box.height() < 2 * metrics.height() && !text().contains('\n');
+    if (one_line) {
+      PaintLine(painter, metrics, box);
+    } else {
+      painter.drawText(box, alignment_ | Qt::AlignTop | Qt::TextWordWrap | Qt::TextDontClip,
+                       text());
+    }
+  }
+
+ private:
+  // A line a little too wide for its box, by another face than the one it was measured with, is
+  // drawn narrower rather than cut.
+  void PaintLine(QPainter& painter, const QFontMetricsF& metrics, const QRectF& box) const {
+    constexpr double narrowest = 0.75;
+    const double width = metrics.horizontalAdvance(text().trimmed());
+    const double squeeze = width > box.width() ? std::max(narrowest, box.width() / width) : 1.0;
+    painter.translate(box.topLeft());
+    painter.scale(squeeze, 1);
+    painter.drawText(QRectF(0, 0, box.width() / squeeze, box.height()),
+                     alignment_ | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip, text());
+  }
+
+  QColor colour_;
+  int alignment_ = Qt::AlignLeft;
+};
+
+LabelView::LabelView(Label& model, QWidget* parent)
+    : ControlView(model, new LabelWidget(parent)),
+      model_(model),
+      widget_(static_cast<LabelWidget*>(Widget())) {}
+
+void LabelView::FollowValues(bool all) {
+  if (!all && Same(seen_, model_)) return;
+  seen_ = model_;
+  widget_->Show(seen_);
+}
+
+QRect LabelView::Box(const Place& place) const {
+  return ControlView::Box(place).adjusted(0, -Headroom, 0, 0);
+}
+
+}  // namespace orvane

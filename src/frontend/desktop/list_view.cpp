@@ -1,0 +1,79 @@
+#include "src/frontend/desktop/list_view.h"
+
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <utility>
+
+#include "src/frontend/desktop/events.h"
+#include "src/game/program.h"
+
+namespace orvane {
+
+// A list of which a row is chosen by a click or by Enter; the other keys only move the highlight.
+class ListWidget : public QListWidget {
+ public:
+  ListWidget(QWidget* parent, Control& model, Events& events)
+      : QListWidget(parent), model_(model), events_(events) {
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+  }
+
+  // The highlight may have left the row that the game knows.
+  bool TakeStale() { return std::exchange(stale_, false); }
+
+  void SetRows(const std::vector<std::string>& rows) {
+    clear();
+    for (const std::string& row : rows) addItem(ToQt(row));
+  }
+
+  void Select(int row) {
+    if (row >= 0 && row < count()) return setCurrentRow(row);
+    setCurrentRow(-1);
+    clearSelection();
+  }
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QListWidget::mouseReleaseEvent(event);
+    if (event->button() != Qt::LeftButton) return;
+    Choose(row(itemAt(event->position().toPoint())));
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter) return QListWidget::keyPressEvent(event);
+    if (!event->isAutoRepeat()) Choose(currentRow());
+  }
+
+ private:
+  void Choose(int chosen) {
+    stale_ = true;
+    events_.Send([this, chosen](Program& program) {
+      if (chosen >= 0) program.Choose(model_, chosen);
+    });
+  }
+
+  Control& model_;
+  Events& events_;
+  bool stale_ = false;
+};
+
+ListView::ListView(Control& model, ListValues& values, QWidget* parent, Events& events)
+    : ControlView(model, new ListWidget(parent, model, events)),
+      values_(values),
+      widget_(static_cast<ListWidget*>(Widget())) {}
+
+void ListView::FollowValues(bool all) {
+  const bool rows_changed = all || seen_.Rows != values_.Rows;
+  if (rows_changed) widget_->SetRows(values_.Rows);
+  const bool stale = widget_->TakeStale();
+  if (rows_changed || stale || seen_.ListIndex != values_.ListIndex) {
+    widget_->Select(values_.ListIndex);
+  }
+  if (rows_changed) seen_.Rows = values_.Rows;
+  seen_.ListIndex = values_.ListIndex;
+}
+
+}  // namespace orvane

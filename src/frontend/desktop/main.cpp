@@ -1,0 +1,98 @@
+// The game's window: orvane [options], see --help.
+#include <QApplication>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "src/frontend/desktop/boxes.h"
+#include "src/frontend/desktop/chance.h"
+#include "src/frontend/desktop/desktop.h"
+#include "src/frontend/desktop/look.h"
+#include "src/frontend/desktop/options.h"
+#include "src/frontend/desktop/scale.h"
+#include "src/frontend/desktop/signals.h"
+#include "src/frontend/desktop/sleeper.h"
+#include "src/frontend/desktop/sound.h"
+#include "src/game/program.h"
+
+namespace {
+
+using namespace orvane;
+
+constexpr int BadCommandLine = 2;
+constexpr int NoDisplay = 3;
+
+void Complain(const std::string& sentence) {
+  std::fprintf(stderr, "orvane: %s\n", sentence.c_str());
+}
+
+bool HasDisplay() {
+  const auto is_set = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
+  return is_set("DISPLAY") || is_set("WAYLAND_DISPLAY") || is_set("QT_QPA_PLATFORM");
+}
+
+// The toolkit aborts when it cannot reach the display; that must not look like a crash.
+void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
+                      const QString& message) {
+  if (type == QtDebugMsg || type == QtInfoMsg) return;
+  Complain(message.section('\n', 0, 0).toStdString());
+  if (type == QtFatalMsg) std::_Exit(NoDisplay);
+}
+
+// Fixes the size of the windows before the application is made.
+void ChooseSize(const Options& options, Program& program) {
+  if (ScaleIsFixed() && !options.Scale) return;
+  const auto screen = AskScreen();
+  if (!screen) return;
+  std::vector<Extent> windows;
+  for (const Screen* each : program.TheStage().Screens()) {
+    windows.push_back({double(each->Width), double(each->Height)});
+  }
+  if (windows.empty()) return;
+  FixScale(options.Scale.value_or(ChooseScale(screen->Available, windows)), *screen);
+}
+
+int RunGame(const Options& options, int argument_count, char** arguments) {
+  HoldEndSignals();
+  DesktopSound sound;
+  DesktopChance chance(options.Seed);
+  MessageBoxes boxes;
+  DesktopSleeper sleeper;
+  Program program(options.Folder, {sound, chance, boxes, sleeper});
+  ChooseSize(options, program);
+  QApplication application(argument_count, arguments);
+  SetUpLook(application);
+  if (program.HasEnded()) {
+    boxes.ShowKeptError();
+    return program.ExitStatus();
+  }
+  Desktop desktop(program, boxes, sleeper);
+  return desktop.Run();
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  try {
+    const Options options = ReadOptions({arguments + 1, arguments + argument_count});
+    if (!options.Error.empty()) {
+      Complain(options.Error);
+      return BadCommandLine;
+    }
+    if (options.WantsHelp) {
+      std::fputs(HelpText().c_str(), stdout);
+      return EXIT_SUCCESS;
+    }
+    if (!HasDisplay()) {
+      Complain("there is no display; start the game in a desktop session (DISPLAY is not set).");
+      return NoDisplay;
+    }
+    qInstallMessageHandler(OnToolkitMessage);
+    return RunGame(options, argument_count, arguments);
+  } catch (const std::exception& failure) {
+    Complain(failure.what());
+    return EXIT_FAILURE;
+  }
+}

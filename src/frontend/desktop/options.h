@@ -1,0 +1,26 @@
+// The command line of the game.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+struct Options {
+  std::filesystem::path Folder;  // the game folder; "game" beside the program unless given
+  std::optional<double> Scale;   // size of the windows, 0.5 to 8; chosen by the screen unless given
+  std::optional<uint32_t> Seed;  // makes chance repeatable, for tests
+  bool WantsHelp = false;
+  std::string Error;  // what is wrong with the command line; empty when all is well
+};
+
+// Reads the arguments that follow the program's name.
+Options ReadOptions(const std::vector<std::string>& arguments);
+
+// What --help prints.
+std::string HelpText();
+
+}  // namespace orvane

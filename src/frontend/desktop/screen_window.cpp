@@ -1,0 +1,119 @@
+#include "src/frontend/desktop/screen_window.h"
+
+#include <QCloseEvent>
+#include <QLayout>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+#include <map>
+
+#include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/view_factory.h"
+#include "src/game/program.h"
+
+namespace orvane {
+namespace {
+
+// What the window manager is likely to add above a window.
+constexpr int TitleBar = 28;
+
+}  // namespace
+
+ScreenWindow::ScreenWindow(Screen& screen, Events& events)
+    : screen_(screen), events_(events), client_(new ClientArea(screen, events)) {
+  setObjectName(ToQt(screen.Name()));
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                 Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                 Qt::WindowCloseButtonHint);
+  const bool has_menu =
+      std::any_of(screen.Controls().begin(), screen.Controls().end(),
+                  [](const Control* control) { return control->Kind() == ControlKind::Menu; });
+  if (has_menu) {
+    menuBar()->setNativeMenuBar(false);  // in the window on every desktop
+    menu_ = std::make_unique<MenuView>(screen, *menuBar(), events);
+  }
+  setContextMenuPolicy(Qt::NoContextMenu);
+  setCentralWidget(client_);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+  MakeViews();
+}
+
+void ScreenWindow::MakeViews() {
+  std::map<const Control*, ControlView*> made;
+  for (Control* control : screen_.Controls()) {
+    const auto holder = made.find(control->Parent());
+    QWidget* parent = holder == made.end() ? client_ : holder->second->Ground(control->Pane());
+    auto view = MakeView(*control, parent, events_);
+    if (view == nullptr) continue;
+    made[control] = view.get();
+    views_.push_back(std::move(view));
+  }
+  // Later widgets lie in front of earlier ones, but texts lie behind everything beside them.
+  for (auto view = views_.rbegin(); view != views_.rend(); ++view) {
+    if ((*view)->Model().Kind() == ControlKind::Label) (*view)->Widget()->lower();
+  }
+}
+
+void ScreenWindow::FollowTitle() {
+  const QString title = ToQt(screen_.Caption);
+  if (windowTitle() != title) setWindowTitle(title);
+}
+
+void ScreenWindow::Follow() {
+  FollowTitle();
+  if (menu_ != nullptr) menu_->Follow();
+  client_->Follow(false);
+  for (const auto& view : views_) view->Follow();
+}
+
+void ScreenWindow::FollowAll() {
+  FollowTitle();
+  if (menu_ != nullptr) menu_->Follow();
+  client_->Follow(true);
+  for (const auto& view : views_) view->FollowAll();
+}
+
+void ScreenWindow::Present(const QWidget* over) {
+  // The screen may have been loaded afresh since it was seen last.
+  FollowAll();
+  setWindowModality(screen_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
+  winId();  // makes the window, so that it can be tied to the one that it belongs to
+  const bool belongs = over != nullptr && over->isVisible();
+  windowHandle()->setTransientParent(belongs ? over->windowHandle() : nullptr);
+  PutOver(over);
+  show();
+  FocusFirst();
+}
+
+void ScreenWindow::PutOver(const QWidget* over) {
+  if (placed_) return move(pos());  // says that the place is meant, lest the window manager choose
+  placed_ = true;
+  const QSize size = sizeHint() + QSize(0, TitleBar);
+  const QRect available = screen()->availableGeometry();
+  const QPoint centre = over != nullptr ? over->frameGeometry().center() : available.center();
+  const QPoint furthest = available.bottomRight() - QPoint(size.width(), size.height());
+  const QPoint corner = centre - QPoint(size.width() / 2, size.height() / 2);
+  move(std::max(available.left(), std::min(corner.x(), furthest.x())),
+       std::max(available.top(), std::min(corner.y(), furthest.y())));
+}
+
+void ScreenWindow::FocusFirst() {
+  // Typing goes to the first field, otherwise keys go to the first control that takes them.
+  QWidget* first = nullptr;
+  for (const auto& view : views_) {
+    QWidget* widget = view->Widget();
+    const bool takes_keys = widget->focusPolicy() != Qt::NoFocus;
+    if (!takes_keys || !widget->isVisible() || !widget->isEnabled()) continue;
+    if (view->Model().Kind() == ControlKind::Field) return widget->setFocus();
+    if (first == nullptr) first = widget;
+  }
+  if (first != nullptr) first->setFocus();
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+  // The game decides whether the window goes.
+  event->ignore();
+  events_.Send([this](Program& program) { program.Close(screen_); });
+}
+
+}  // namespace orvane

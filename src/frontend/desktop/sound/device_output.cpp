@@ -1,0 +1,59 @@
+#include <SDL.h>
+
+#include <string_view>
+
+#include "src/frontend/desktop/sound/output.h"
+
+namespace orvane {
+namespace {
+
+// A hundredth of a second: an effect is heard with its picture.
+constexpr Uint16 kBufferFrames = 512;
+constexpr std::size_t kFrameBytes = 2 * sizeof(float);
+
+class DeviceOutput : public Output {
+ public:
+  DeviceOutput(int rate, PullFunction pull) : pull_(std::move(pull)) {
+    // The desktop keeps its own signal handlers, and sound is no reason to keep a screen awake.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Orvane");
+    started_ = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
+    if (!started_ || std::string_view(SDL_GetCurrentAudioDriver()) == "dummy") return;
+    SDL_AudioSpec wanted{};
+    wanted.freq = rate;
+    wanted.format = AUDIO_F32SYS;
+    wanted.channels = 2;
+    wanted.samples = kBufferFrames;
+    wanted.callback = &DeviceOutput::Fill;
+    wanted.userdata = this;
+    device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    if (device_ != 0) SDL_PauseAudioDevice(device_, 0);
+  }
+
+  ~DeviceOutput() override {
+    if (device_ != 0) SDL_CloseAudioDevice(device_);
+    if (started_) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  }
+
+  bool Open() const { return device_ != 0; }
+
+ private:
+  static void SDLCALL Fill(void* self, Uint8* bytes, int size) {
+    static_cast<DeviceOutput*>(self)->pull_(reinterpret_cast<float*>(bytes),
+                                            static_cast<std::size_t>(size) / kFrameBytes);
+  }
+
+  PullFunction pull_;
+  bool started_ = false;
+  SDL_AudioDeviceID device_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Output> OpenDevice(int rate, PullFunction pull) {
+  auto output = std::make_unique<DeviceOutput>(rate, std::move(pull));
+  if (!output->Open()) return nullptr;
+  return output;
+}
+
+}  // namespace orvane

@@ -1,0 +1,40 @@
+// Work that nobody should wait for.
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+namespace orvane {
+
+// Carries out jobs one after the other on a thread of its own. Destroying it waits for the job
+// that runs and drops the others.
+class JobThread {
+ public:
+  // `when_idle` runs once, when there has been nothing to do for `pause`.
+  JobThread(std::function<void()> when_idle, std::chrono::milliseconds pause);
+  ~JobThread();
+  JobThread(const JobThread&) = delete;
+  JobThread& operator=(const JobThread&) = delete;
+
+  void Post(std::function<void()> job);
+  // Waits until all jobs posted so far are done.
+  void Finish();
+
+ private:
+  void Run();
+
+  std::function<void()> when_idle_;
+  std::chrono::milliseconds pause_;
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::deque<std::function<void()>> jobs_;
+  bool busy_ = false;
+  bool stop_ = false;
+  std::thread thread_;  // last: it runs as soon as it is made
+};
+
+}  // namespace orvane

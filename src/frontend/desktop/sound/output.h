@@ -1,0 +1,29 @@
+// Who pulls the mixer: the machine's audio device or, where there is none, the clock.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+
+namespace orvane {
+
+// Writes the next frames, left and right in turn, within -1 to 1. Called on a thread of the
+// output's own, from its opening until it is destroyed.
+using PullFunction = std::function<void(float* out, std::size_t frames)>;
+
+class Output {
+ public:
+  Output() = default;
+  Output(const Output&) = delete;
+  Output& operator=(const Output&) = delete;
+  virtual ~Output() = default;
+};
+
+// The default audio device at `rate` frames a second. Null if there is none, or only one that
+// plays to nobody. May take tenths of a second.
+std::unique_ptr<Output> OpenDevice(int rate, PullFunction pull);
+
+// Pulls as much as the time that passes, and throws it away.
+std::unique_ptr<Output> OpenClock(int rate, PullFunction pull);
+
+}  // namespace orvane

@@ -1,0 +1,41 @@
+#include "src/frontend/desktop/tick_server.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "src/frontend/desktop/events.h"
+#include "src/game/program.h"
+
+namespace orvane {
+
+TickServer::TickServer(Stage& stage, Events& events)
+    : queue_(stage, Pacing::RealTime), events_(events) {
+  clock_.start();
+  alarm_.setTimerType(Qt::PreciseTimer);
+  alarm_.setSingleShot(true);
+  QObject::connect(&alarm_, &QTimer::timeout, &alarm_, [this] { Serve(); });
+}
+
+double TickServer::Now() const {
+  constexpr double nanoseconds = 1e6;
+  return static_cast<double>(clock_.nsecsElapsed()) / nanoseconds;
+}
+
+void TickServer::Arm() {
+  const double now = Now();
+  const auto due = queue_.NextDue(now);
+  if (!due) return alarm_.stop();
+  constexpr double longest = 1e6;
+  alarm_.start(static_cast<int>(std::ceil(std::clamp(*due - now, 0.0, longest))));
+}
+
+void TickServer::Serve() {
+  const double now = Now();
+  Timer* timer = queue_.FirstDue(now);
+  if (timer == nullptr) return Arm();
+  // One tick at a time, so that input and painting come between two that are due together.
+  queue_.Begin(*timer, now);
+  events_.Send([timer](Program& program) { program.Tick(*timer); });
+}
+
+}  // namespace orvane

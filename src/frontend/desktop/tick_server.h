@@ -1,0 +1,33 @@
+// Serves the game's timers in real time.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "src/platform/timer_queue.h"
+
+namespace orvane {
+
+class Events;
+
+class TickServer {
+ public:
+  TickServer(Stage& stage, Events& events);
+
+  // Sees to it that the next tick comes when it is due. Called after every event, and before
+  // everything that waits within one.
+  void Arm();
+  // No tick until armed again.
+  void Stop() { alarm_.stop(); }
+
+ private:
+  double Now() const;
+  void Serve();
+
+  TimerQueue queue_;
+  Events& events_;
+  QElapsedTimer clock_;
+  QTimer alarm_;
+};
+
+}  // namespace orvane

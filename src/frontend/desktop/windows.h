@@ -1,0 +1,43 @@
+// The windows of all screens, kept like the stage: which are shown, and which is in front.
+#pragma once
+
+#include <QElapsedTimer>
+#include <memory>
+#include <vector>
+
+#include "src/frontend/desktop/screen_window.h"
+#include "src/platform/stage.h"
+
+namespace orvane {
+
+class Windows {
+ public:
+  Windows(Stage& stage, Events& events);
+
+  // Brings all that can be seen up to date.
+  void Follow();
+  // Brings the active screen's window to the front again, after a box.
+  void RaiseActive();
+  // Paints at once what waits for painting.
+  void PaintNow();
+
+  // The window of the active screen, or null.
+  ScreenWindow* Active() const;
+  ScreenWindow* Of(const Screen* screen) const;
+
+  // The window manager has made a window the active one. True if the player meant it; false if it
+  // comes of the game's own opening and closing of windows.
+  bool IsPlayersChoice(const ScreenWindow& window);
+
+ private:
+  void ShowNew();
+  void HideOld();
+
+  Stage& stage_;
+  std::vector<std::unique_ptr<ScreenWindow>> windows_;
+  const Screen* active_ = nullptr;    // as the windows stand
+  ScreenWindow* expected_ = nullptr;  // asked to the front and not there yet
+  QElapsedTimer since_asked_;
+};
+
+}  // namespace orvane

@@ -5,6 +5,7 @@
 
 #include "content/pictures/panels/lettering.h"
 #include "content/pictures/panels/panels.h"
+#include "content/pictures/panels/title_letters.h"
 
 namespace orvane::paint::panel {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 using scene::Canvas;
 using scene::Cover;
 using scene::Drawing;
-using scene::Hex;
+using scene::Fill;
 
 struct Strip {
   int x;
@@ -21,58 +22,76 @@ struct Strip {
   int height;
   const char* text;
   double size;
+  double spacing;
 };
 
 // Strips with an image of their own; the mask lies right below the image.
-constexpr std::array<Strip, 4> coloured{{{0, 0, 400, 64, "ORVANE", 56},
-                                         {0, 128, 200, 32, "STAFF", 26},
-                                         {200, 128, 200, 32, "SPECIAL THANKS", 21},
-                                         {0, 288, 400, 32, "そして、あなたに", 24}}};
-constexpr std::array<Strip, 7> plain{{{0, 192, 200, 32, "企画・脚本・プログラム", 18},
-                                      {200, 192, 200, 32, "グラフィック", 18},
-                                      {0, 224, 200, 32, "音楽・効果音", 18},
-                                      {200, 224, 200, 32, "テストプレイのみなさん", 18},
-                                      {0, 256, 200, 32, "自由ソフトの作者たち", 18},
-                                      {200, 256, 200, 32, "龍の狭間の龍たち", 18},
-                                      {0, 352, 400, 32, "遊んでくれてありがとう", 22}}};
-constexpr const char* face = "IPAPMincho";
-
-Cover TextCover(const Strip& strip, double boldness) {
-  Drawing drawing(strip.width, strip.height);
-  TraceText(drawing, {strip.text, face, strip.size, 0, 1}, strip.width / 2.0, strip.height / 2.0);
-  cairo_t* const context = drawing.Context();
-  cairo_set_source_rgb(context, 0, 0, 0);
-  cairo_fill_preserve(context);
-  cairo_set_line_width(context, boldness);
-  cairo_stroke(context);
-  return drawing.Coverage();
-}
+constexpr std::array<Strip, 3> coloured{
+    {{0, 128, 200, 32, "STAFF", 26, 5},
+     {200, 128, 200, 32, "SPECIAL THANKS", 20, 0.9},
+     {0, 288, 400, 32, "最後まで旅してくれたあなたへ", 24, 1.5}}};
+constexpr std::array<Strip, 7> plain{{{0, 192, 200, 32, "企画・脚本・プログラム", 17, 0.5},
+                                      {200, 192, 200, 32, "グラフィック・マップ", 17, 0.5},
+                                      {0, 224, 200, 32, "音楽・効果音", 17, 2},
+                                      {200, 224, 200, 32, "テストプレイのみなさん", 17, 0.5},
+                                      {0, 256, 200, 32, "道具を作ったみなさん", 17, 0.5},
+                                      {200, 256, 200, 32, "龍の狭間の龍たち", 17, 1.5},
+                                      {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}};
+constexpr const char* serif = "IPAPMincho";
+constexpr const char* plain_face = "IPAPGothic";
+constexpr uint32_t white = 0xFFFFFF;
 
 bool Covered(const Cover& cover, int x, int y) {
   return cover.At(x, y) >= 0.5F;
 }
 
-void PaintColoured(Image& sheet, const Strip& strip) {
-  const Cover body = TextCover(strip, 0.8);
-  const Cover border = TextCover(strip, 3.4);
-  for (int y = 0; y < strip.height; ++y) {
-    for (int x = 0; x < strip.width; ++x) {
-      const bool in_border = Covered(border, x, y);
-      const float t = static_cast<float>(y) / static_cast<float>(strip.height);
-      const uint32_t gold = scene::ToPixel(scene::Mix(Hex(0xFFF4C0), Hex(0xC87818), t));
-      sheet.At(strip.x + x, strip.y + y) = Covered(body, x, y) ? gold
-                                           : in_border         ? 0x401018U
-                                                               : 0xFFFFFFU;
-      sheet.At(strip.x + x, strip.y + strip.height + y) = in_border ? 0xFFFFFFU : 0U;
+void Trace(Drawing& drawing, const Strip& strip, const char* face) {
+  TraceText(drawing, {strip.text, face, strip.size, strip.spacing}, strip.width / 2.0,
+            strip.height / 2.0);
+}
+
+void StrokeText(Drawing& drawing, const Strip& strip, const char* face, uint32_t colour,
+                double width) {
+  Trace(drawing, strip, face);
+  drawing.StrokeTraced(colour, width);
+}
+
+// The drawing as an image on white at (x, y) and its mask below: every pixel is wholly in or out.
+void PutPair(Image& sheet, const Drawing& drawing, int x, int y, int width, int height) {
+  const Cover cover = drawing.Coverage();
+  Canvas canvas(width, height);
+  for (scene::Colour& colour : canvas.pixels) colour = scene::Hex(0x240818);
+  drawing.LayOn(canvas);
+  const Image image = scene::ToSheet(canvas);
+  for (int row = 0; row < height; ++row) {
+    for (int column = 0; column < width; ++column) {
+      const bool in = Covered(cover, column, row);
+      sheet.At(x + column, y + row) = in ? image.At(column, row) : white;
+      sheet.At(x + column, y + height + row) = in ? white : 0;
     }
   }
 }
 
+void PaintColoured(Image& sheet, const Strip& strip) {
+  Drawing drawing(strip.width, strip.height);
+  StrokeText(drawing, strip, serif, 0x240818, 4.2);
+  StrokeText(drawing, strip, serif, 0x6C1820, 2.2);
+  StrokeText(drawing, strip, serif, 0xF0C868, 0.7);
+  Trace(drawing, strip, serif);
+  drawing.FillTraced(
+      Fill(0, 5, 0, 27, {{0, 0xFFFCE8}, {0.45, 0xFCE898}, {0.55, 0xF0BC58}, {1, 0xFFF0B0}}));
+  PutPair(sheet, drawing, strip.x, strip.y, strip.width, strip.height);
+}
+
 void PaintPlain(Image& sheet, const Strip& strip) {
-  const Cover body = TextCover(strip, 0.5);
+  Drawing drawing(strip.width, strip.height);
+  StrokeText(drawing, strip, plain_face, white, 0.9);
+  Trace(drawing, strip, plain_face);
+  drawing.FillTraced(white);
+  const Cover body = drawing.Coverage();
   for (int y = 0; y < strip.height; ++y) {
     for (int x = 0; x < strip.width; ++x) {
-      if (Covered(body, x, y)) sheet.At(strip.x + x, strip.y + y) = 0xFFFFFF;
+      if (Covered(body, x, y)) sheet.At(strip.x + x, strip.y + y) = white;
     }
   }
 }
@@ -81,6 +100,9 @@ void PaintPlain(Image& sheet, const Strip& strip) {
 
 Image PaintCredits() {
   Image sheet(402, 386, 0);
+  Drawing title(400, 64);
+  DrawTitleLetters(title);
+  PutPair(sheet, title, 0, 0, 400, 64);
   for (const Strip& strip : coloured) PaintColoured(sheet, strip);
   for (const Strip& strip : plain) PaintPlain(sheet, strip);
   return sheet;

@@ -8,17 +8,16 @@
 
 namespace orvane::paint::panel {
 
-// A line of text: UTF-8, its face as fontconfig knows it, its size in pixels (the height of an em),
-// and how much bolder than the face it stands, in pixels.
+// A line of text: UTF-8, its face as fontconfig knows it, its size in pixels (the height of an em).
 struct Lettering {
   std::string text;
   std::string face;
   double size = 0;
-  double boldness = 0;
   double spacing = 0;  // between letters, in pixels
 };
 
-// The text's outline as a path of the drawing's context, centred on (x, y); the caller fills it.
+// Lays the text's outline as the current path of the drawing's context, centred on (x, y); the
+// caller fills or strokes it.
 void TraceText(scene::Drawing& drawing, const Lettering& lettering, double x, double y);
 
 }  // namespace orvane::paint::panel

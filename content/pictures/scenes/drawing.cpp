@@ -123,6 +123,20 @@ void Drawing::Use(const Fill& fill, double opacity) {
   cairo_pattern_destroy(gradient);
 }
 
+void Drawing::FillTraced(const Fill& fill) {
+  Use(fill, 1);
+  // Outlines of letters may overlap; what is inside any of them is inside.
+  cairo_set_fill_rule(context_.get(), CAIRO_FILL_RULE_WINDING);
+  cairo_fill(context_.get());
+  cairo_set_fill_rule(context_.get(), CAIRO_FILL_RULE_EVEN_ODD);
+}
+
+void Drawing::StrokeTraced(uint32_t colour, double width) {
+  Use(colour, 1);
+  cairo_set_line_width(context_.get(), width);
+  cairo_stroke(context_.get());
+}
+
 void Drawing::Shape(std::string_view path, const Fill& fill, double opacity) {
   Trace(path);
   Use(fill, opacity);

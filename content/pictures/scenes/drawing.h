@@ -68,6 +68,10 @@ class Drawing {
   void Place(double x, double y, double scale_x, double scale_y, double turn = 0);
   void Replace();
 
+  // Fill or stroke the context's current path, which someone else has laid; it is used up.
+  void FillTraced(const Fill& fill);
+  void StrokeTraced(uint32_t colour, double width);
+
   // For what the calls above do not offer; the units are the drawing's.
   cairo_t* Context() { return context_.get(); }
 

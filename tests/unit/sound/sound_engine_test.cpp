@@ -1,0 +1,291 @@
+// The engine as the game sees it: commands in, replies out.
+#include "src/frontend/desktop/sound/sound_engine.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cmath>
+#include <fstream>
+#include <thread>
+
+#include "src/frontend/desktop/sound/sound_font.h"
+#include "src/platform/sound.h"
+#include "tests/unit/sound/sound_files.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kRate = SoundEngine::kRate;
+
+SoundOptions ForCaller() {
+  SoundOptions options;
+  options.Plays = SoundOptions::Sink::Caller;
+  return options;
+}
+
+class SoundEngineTest : public testing::Test {
+ protected:
+  SoundEngineTest() {
+    folder_.Write("Round1.mid", test::SimpleSong(2));
+    folder_.Write("Battle1.mid", test::SimpleSong(4));
+    folder_.Write("Cut.wav", test::Wave(kRate, 1, test::Tone(440, kRate, 0.5, 0.5)));
+    folder_.Write("Fire.wav", test::Wave(22050, 2, test::Tone(440, 22050, 1, 0.5)));
+  }
+
+  std::string Open(SoundEngine& engine, const std::string& file, const std::string& alias) {
+    return engine.Send(OpenCommand(folder_.Path(), file, alias));
+  }
+
+  test::Folder folder_;
+};
+
+std::string Status(SoundEngine& engine, const std::string& alias) {
+  return engine.Send(StatusCommand(alias));
+}
+
+std::vector<float> Pull(SoundEngine& engine, double seconds) {
+  std::vector<float> out(2 * static_cast<size_t>(seconds * kRate));
+  engine.Pull(out.data(), out.size() / 2);
+  return out;
+}
+
+double LevelOf(const std::vector<float>& samples) {
+  double sum = 0;
+  for (const float sample : samples) sum += static_cast<double>(sample) * sample;
+  return std::sqrt(sum / static_cast<double>(samples.size()));
+}
+
+TEST_F(SoundEngineTest, AnEffectFromOpenToClose) {
+  SoundEngine engine(ForCaller());
+  EXPECT_EQ(Status(engine, "snd2"), "");
+  EXPECT_NE(Open(engine, "Cut.wav", "snd2"), "");
+  EXPECT_EQ(Status(engine, "snd2"), "stopped");
+  EXPECT_EQ(engine.Send(PlayCommand("snd2")), "");
+  EXPECT_EQ(Status(engine, "snd2"), "playing");
+  EXPECT_GT(LevelOf(Pull(engine, 0.4)), 0.3);
+  EXPECT_EQ(Status(engine, "snd2"), "playing");
+  Pull(engine, 0.15);
+  EXPECT_EQ(Status(engine, "snd2"), "stopped");
+  EXPECT_EQ(engine.Send(CloseCommand("snd2")), "");
+  EXPECT_EQ(Status(engine, "snd2"), "");
+}
+
+TEST_F(SoundEngineTest, OpenTwiceFailsAndKeepsTheSoundGoing) {
+  SoundEngine engine(ForCaller());
+  EXPECT_NE(Open(engine, "Cut.wav", "snd2"), "");
+  engine.Send(PlayCommand("snd2"));
+  EXPECT_EQ(Open(engine, "Cut.wav", "snd2"), "");
+  EXPECT_EQ(Status(engine, "snd2"), "playing");
+  EXPECT_GT(LevelOf(Pull(engine, 0.1)), 0.3);
+}
+
+TEST_F(SoundEngineTest, AClosedChannelOpensAgainFresh) {
+  SoundEngine engine(ForCaller());
+  Open(engine, "Cut.wav", "snd9");
+  engine.Send(PlayCommand("snd9"));
+  Pull(engine, 0.1);
+  engine.Send(CloseCommand("snd9"));
+  engine.Send(PlayCommand("snd9"));
+  EXPECT_EQ(Status(engine, "snd9"), "");
+  Pull(engine, 0.02);
+  EXPECT_EQ(LevelOf(Pull(engine, 0.1)), 0);
+  EXPECT_NE(Open(engine, "Cut.wav", "snd9"), "");
+  EXPECT_EQ(Status(engine, "snd9"), "stopped");
+  engine.Send(PlayCommand("snd9"));
+  EXPECT_GT(LevelOf(Pull(engine, 0.1)), 0.3);
+}
+
+TEST_F(SoundEngineTest, MissingAndBrokenFilesDoNotOpen) {
+  SoundEngine engine(ForCaller());
+  const test::Bytes song = test::SimpleSong(1);
+  const test::Bytes wave = test::Wave(kRate, 1, test::Tone(440, kRate, 0.1, 0.5));
+  folder_.Write("Empty.wav", {});
+  folder_.Write("Noise.wav", {'n', 'o', 'i', 's', 'e'});
+  folder_.Write("Head.wav", {wave.begin(), wave.begin() + 30});
+  folder_.Write("Half.mid", {song.begin(), song.begin() + static_cast<long>(song.size() / 2)});
+  for (const std::string file :
+       {"None.wav", "None.mid", "Empty.wav", "Noise.wav", "Head.wav", "Half.mid", ""}) {
+    EXPECT_EQ(Open(engine, file, "snd3"), "") << file;
+    EXPECT_EQ(Status(engine, "snd3"), "") << file;
+    EXPECT_EQ(engine.Send(PlayCommand("snd3")), "") << file;
+    EXPECT_EQ(engine.Send(CloseCommand("snd3")), "") << file;
+  }
+  EXPECT_EQ(LevelOf(Pull(engine, 0.1)), 0);
+}
+
+TEST_F(SoundEngineTest, UnknownCommandsAndChannelsAnswerNothing) {
+  SoundEngine engine(ForCaller());
+  EXPECT_EQ(Open(engine, "Cut.wav", "snd11"), "");
+  EXPECT_EQ(Open(engine, "Cut.wav", "bgm0"), "");
+  EXPECT_EQ(Open(engine, "Cut.wav", ""), "");
+  Open(engine, "Cut.wav", "snd2");
+  for (const char* command : {"", "stop snd2", "open", "status", "play", "\"", "close  "}) {
+    EXPECT_EQ(engine.Send(command), "") << command;
+  }
+  EXPECT_EQ(Status(engine, "snd2"), "stopped");
+}
+
+TEST_F(SoundEngineTest, AnotherRateAndTwoSidesComeOutAtTheSamePitchAndLength) {
+  SoundEngine engine(ForCaller());
+  Open(engine, "Fire.wav",
+       "snd3");  // 440 Hz on each of 22050 numbers a second, in turn on two sides
+  engine.Send(PlayCommand("snd3"));
+  const std::vector<float> out = Pull(engine, 0.4);
+  int crossings = 0;
+  for (size_t i = 4410; i + 2 < out.size(); i += 2) crossings += out[i] < 0 && out[i + 2] >= 0;
+  EXPECT_NEAR(crossings, 880 * 0.35, 3);
+  EXPECT_EQ(Status(engine, "snd3"), "playing");
+  Pull(engine, 0.12);
+  EXPECT_EQ(Status(engine, "snd3"), "stopped");
+}
+
+TEST_F(SoundEngineTest, DamagedWavesDoNoHarm) {
+  SoundEngine engine(ForCaller());
+  const test::Bytes wave = test::Wave(kRate, 1, test::Tone(440, kRate, 0.01, 0.5));
+  int opened = 0;
+  for (size_t place = 0; place < 44; ++place) {
+    for (const int value : {0x00, 0x01, 0x7f, 0x80, 0xff}) {
+      test::Bytes damaged = wave;
+      damaged[place] = static_cast<std::uint8_t>(value);
+      folder_.Write("Damaged.wav", damaged);
+      if (Open(engine, "Damaged.wav", "snd4").empty()) continue;
+      ++opened;
+      engine.Send(PlayCommand("snd4"));
+      Pull(engine, 0.02);
+      engine.Send(CloseCommand("snd4"));
+    }
+  }
+  EXPECT_GT(opened, 0);
+}
+
+TEST_F(SoundEngineTest, SilentMusicEndsOnTime) {
+  SoundOptions options = ForCaller();
+  options.FontFile = "/nowhere/none.sf2";
+  SoundEngine engine(options);
+  Open(engine, "Round1.mid", "bgm1");
+  EXPECT_EQ(Status(engine, "bgm1"), "stopped");
+  engine.Send(PlayCommand("bgm1"));
+  engine.WaitUntilReady();
+  EXPECT_EQ(LevelOf(Pull(engine, 3.8)), 0);
+  EXPECT_EQ(Status(engine, "bgm1"), "playing");
+  Pull(engine, 0.2);
+  EXPECT_EQ(Status(engine, "bgm1"), "stopped");
+}
+
+TEST_F(SoundEngineTest, WithoutADeviceTheClockEndsPieces) {
+  SoundOptions options;
+  options.Plays = SoundOptions::Sink::Clock;
+  SoundEngine engine(options);
+  Open(engine, "Cut.wav", "snd2");
+  Open(engine, "Round1.mid", "bgm1");
+  const auto start = std::chrono::steady_clock::now();
+  const auto passed = [start] {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  };
+  engine.Send(PlayCommand("snd2"));
+  engine.Send(PlayCommand("bgm1"));
+  EXPECT_LT(passed(), 0.2);
+  double effect = 0;
+  while (passed() < 8 && Status(engine, "bgm1") == "playing") {
+    if (effect == 0 && Status(engine, "snd2") == "stopped") effect = passed();
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  EXPECT_NEAR(effect, 0.5, 0.2);
+  EXPECT_NEAR(passed(), 4.0, 0.3);
+}
+
+TEST_F(SoundEngineTest, ARecordingHoldsWhatWasPlayed) {
+  const std::string path = folder_.Path() + "/record.wav";
+  std::vector<float> played;
+  {
+    SoundOptions options = ForCaller();
+    options.RecordFile = path;
+    SoundEngine engine(options);
+    Open(engine, "Cut.wav", "snd2");
+    engine.Send(PlayCommand("snd2"));
+    played = Pull(engine, 0.3);
+  }
+  std::ifstream file(path, std::ios::binary);
+  const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  ASSERT_EQ(bytes.size(), 44 + 2 * played.size());
+  EXPECT_EQ(bytes.substr(0, 4), "RIFF");
+  EXPECT_EQ(bytes.substr(36, 4), "data");
+  for (size_t i = 0; i < played.size(); ++i) {
+    const auto low = static_cast<unsigned char>(bytes[44 + 2 * i]);
+    const auto high = static_cast<unsigned char>(bytes[45 + 2 * i]);
+    const auto level = static_cast<std::int16_t>(low | (high << 8));
+    ASSERT_NEAR(static_cast<float>(level) / 32767.0F, played[i], 0.0001F) << i;
+  }
+}
+
+// With an installed sound font music is heard; each of these is skipped where there is none.
+class SoundEngineFontTest : public SoundEngineTest {
+ protected:
+  void SetUp() override {
+    if (FindSoundFont().empty()) GTEST_SKIP() << "no sound font is installed";
+  }
+};
+
+TEST_F(SoundEngineFontTest, MusicSoundsAndItsLastNoteRingsOn) {
+  SoundEngine engine(ForCaller());
+  Open(engine, "Round1.mid", "bgm1");
+  engine.WaitUntilReady();
+  EXPECT_EQ(LevelOf(Pull(engine, 0.1)), 0);
+  engine.Send(PlayCommand("bgm1"));
+  EXPECT_GT(LevelOf(Pull(engine, 3.9)), 0.01);
+  EXPECT_EQ(Status(engine, "bgm1"), "stopped");
+  EXPECT_GT(LevelOf(Pull(engine, 0.1)), 0.01);
+  EXPECT_GT(LevelOf(Pull(engine, 0.1)), 0.001);
+  Pull(engine, 10);
+  EXPECT_LT(LevelOf(Pull(engine, 1)), 0.0001);
+}
+
+TEST_F(SoundEngineFontTest, ALoopKeepsTheBeatAndLeavesNoGap) {
+  SoundEngine engine(ForCaller());
+  Open(engine, "Round1.mid", "bgm1");
+  engine.WaitUntilReady();
+  std::vector<float> all;
+  for (int tick = 0; tick < 130; ++tick) {  // asked for ten times a second, through three rounds
+    if (Status(engine, "bgm1") == "stopped") engine.Send(PlayCommand("bgm1"));
+    const std::vector<float> out = Pull(engine, 0.1);
+    all.insert(all.end(), out.begin(), out.end());
+  }
+  for (size_t i = kRate / 5; i + kRate / 50 < all.size() / 2; i += kRate / 50) {
+    const std::vector<float> part(all.begin() + static_cast<long>(2 * i),
+                                  all.begin() + static_cast<long>(2 * (i + kRate / 50)));
+    EXPECT_GT(LevelOf(part), 0.002) << static_cast<double>(i) / kRate;
+  }
+}
+
+TEST_F(SoundEngineFontTest, CloseSilencesMusicAndTheNextPieceSounds) {
+  SoundEngine engine(ForCaller());
+  Open(engine, "Round1.mid", "bgm1");
+  engine.WaitUntilReady();
+  engine.Send(PlayCommand("bgm1"));
+  Pull(engine, 1);
+  engine.Send(CloseCommand("bgm1"));
+  EXPECT_EQ(Status(engine, "bgm1"), "");
+  Pull(engine, 0.4);
+  EXPECT_LT(LevelOf(Pull(engine, 0.5)), 0.001);
+  Open(engine, "Battle1.mid", "bgm4");
+  engine.WaitUntilReady();
+  engine.Send(PlayCommand("bgm4"));
+  EXPECT_GT(LevelOf(Pull(engine, 1)), 0.01);
+}
+
+TEST_F(SoundEngineFontTest, PiecesOnTwoChannelsAreIndependent) {
+  SoundEngine engine(ForCaller());
+  Open(engine, "Round1.mid", "bgm1");
+  Open(engine, "Battle1.mid", "bgm4");
+  engine.WaitUntilReady();
+  engine.Send(PlayCommand("bgm1"));
+  engine.Send(PlayCommand("bgm4"));
+  Pull(engine, 1);
+  engine.Send(CloseCommand("bgm1"));
+  Pull(engine, 0.5);
+  EXPECT_EQ(Status(engine, "bgm4"), "playing");
+  EXPECT_GT(LevelOf(Pull(engine, 0.5)), 0.01);
+}
+
+}  // namespace
+}  // namespace orvane

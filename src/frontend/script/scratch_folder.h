@@ -1,0 +1,42 @@
+// A copy of a game folder that a program may change, gone when it is no longer needed.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+class ScratchFolder {
+ public:
+  // Copies a folder into the folder for temporary files; throws ScriptError when it cannot. Large
+  // files are linked to.
+  explicit ScratchFolder(const std::filesystem::path& original);
+  ~ScratchFolder();
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  // Where it is, with no separator at the end.
+  const std::filesystem::path& Path() const { return path_; }
+
+  // The calls below take names with "/" between folders, and throw ScriptError for one that leads
+  // out of the folder.
+
+  // The bytes of a file, or nothing if there is none.
+  std::optional<std::string> Read(const std::string& name) const;
+  // Writes a file in its place, so that whoever holds it open sees the bytes too. The original
+  // stays as it is. Throws ScriptError when it cannot be written.
+  void Write(const std::string& name, const std::string& bytes) const;
+  // Removes a file, if there is one.
+  void Delete(const std::string& name) const;
+  // The names of the files that match a pattern, sorted; with the folders that the pattern names.
+  std::vector<std::string> List(const std::string& pattern) const;
+
+ private:
+  std::filesystem::path Inside(const std::string& name) const;
+
+  std::filesystem::path path_;
+};
+
+}  // namespace orvane

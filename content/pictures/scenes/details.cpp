@@ -162,6 +162,23 @@ void Dresser::Flowers(const Standing& at, Colour petal, Ramp blades) {
   }
 }
 
+void Dresser::Shade(float x, float z, float across, float deep, Colour shadow) {
+  const float left = view_.ColumnOf(x - across, z);
+  const float right = view_.ColumnOf(x + across, z);
+  const float top = view_.RowOf(0, z + deep);
+  const float bottom = view_.RowOf(0, z - deep);
+  const float middle = view_.RowOf(0, z);
+  for (float row = std::floor(top); row <= bottom; ++row) {
+    for (float column = std::floor(left); column <= right; ++column) {
+      const float off_x = 2 * (column - left) / (right - left) - 1;
+      const float off_y =
+          row < middle ? (middle - row) / (middle - top) : (row - middle) / (bottom - middle);
+      const float inside = 1 - std::sqrt(off_x * off_x + off_y * off_y);
+      if (inside > 0) Put(column, row, z - deep, shadow, 0.55F * SmoothStep(0, 0.45F, inside));
+    }
+  }
+}
+
 void Dresser::Limb(std::span<const Joint> joints, Ramp tones) {
   const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
   for (size_t k = 0; k + 1 < joints.size(); ++k) {

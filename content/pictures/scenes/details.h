@@ -38,6 +38,8 @@ class Dresser {
   // A few blossoms on short stems.
   void Flowers(const Standing& at, Colour petal, Ramp blades);
 
+  // A soft shadow on level ground, `across` and `deep` units from its middle to its border.
+  void Shade(float x, float z, float across, float deep, Colour shadow);
   // A round rod through the joints: a bone, a bough. `height` of the places is above the ground's
   // 0.
   void Limb(std::span<const Joint> joints, Ramp tones);

@@ -104,6 +104,15 @@ float SlabTone(Vec p) {
   return 0.07F * slab + 0.22F * worn - 0.17F * seam;
 }
 
+// Where the shafts from above reach the floor.
+float Pool(Vec p) {
+  const float x = (p.x + 12) / 22;
+  const float z = (p.z - 62) / 34;
+  const float other_x = (p.x - 17) / 10;
+  const float other_z = (p.z - 40) / 13;
+  return std::exp(-x * x - z * z) + 0.7F * std::exp(-other_x * other_x - other_z * other_z);
+}
+
 // A ring of signs in the floor's middle, faintly alight.
 float SignLight(Vec p) {
   const float x = p.x + 4;
@@ -135,12 +144,16 @@ Colour Surface(const Hit& hit, Vec direction) {
   const Vec p = hit.place;
   switch (hit.stuff) {
     case Stuff::Floor:
-      light = 0.08F + 0.20F * open + 0.22F * shadow + SlabTone(p);
+      light = 0.05F + 0.18F * open + 0.20F * shadow + SlabTone(p) + 0.16F * Pool(p);
       colour = OnRamp(slate, light);
       break;
     case Stuff::Pillar: {
       const float vein = Fbm(p.x * 0.2F + p.y * 0.05F, p.y * 0.11F + p.z * 0.2F, 4, 7) - 0.5F;
-      colour = OnRamp(marble, light * 1.05F + 0.24F * vein);
+      colour = OnRamp(marble, light * 1.12F + 0.24F * vein);
+      // Bands of old gilding run round the shafts.
+      if (std::fabs(p.y - 15) < 0.9F || std::fabs(p.y - 3.6F) < 0.8F) {
+        colour = OnRamp(gold, light * 1.2F + 0.2F * vein);
+      }
       break;
     }
     case Stuff::Gate:
@@ -152,7 +165,7 @@ Colour Surface(const Hit& hit, Vec direction) {
     }
     default: {
       const float grain = Fbm(p.y * 0.15F + p.x * 0.1F, p.z * 0.15F, 4, 9) - 0.5F;
-      colour = OnRamp(slate, light * 0.8F + 0.22F * grain);
+      colour = OnRamp(slate, light * 0.62F + 0.20F * grain);
     }
   }
   colour = colour + Hex(0xFFD898) * (std::min(gate, 1.0F) * 0.22F * open);
@@ -198,7 +211,7 @@ Colour Air(const View& view, int x, int y) {
   const float slanted = (column + row * 0.55F) / static_cast<float>(view.width);
   const float beam = SmoothStep(0.56F, 0.78F, Fbm(slanted * 7, 0.5F, 3, 17));
   const float fade = SmoothStep(0.62F, 0.05F, row / static_cast<float>(view.height));
-  return Hex(0x98B8B0) * (near * 0.2F) + Hex(0xB8B0D8) * (beam * fade * 0.2F);
+  return Hex(0x98B8B0) * (near * 0.2F) + Hex(0xB8B0D8) * (beam * fade * 0.3F);
 }
 
 }  // namespace
@@ -211,7 +224,7 @@ Image PaintGroundLair() {
       canvas.At(x, y) = Look({0, view.eye, 0}, Unit(view.Through(x, y))) + Air(view, x, y);
     }
   }
-  return ToSheet(Painted(Shrink(canvas, 2, 2), 2, 0.7F), 208, 7);
+  return ToSheet(Painted(Shrink(canvas, 2, 2), 2, 0.7F), 240, 5);
 }
 
 }  // namespace orvane::paint::scene

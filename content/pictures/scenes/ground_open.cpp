@@ -28,7 +28,7 @@ class OpenLand : public Terrain {
   float Height(float x, float z, int octaves) const override {
     const float floor = 0.8F * (Fbm(x * 0.05F, z * 0.05F, 3, 1) - 0.5F);
     const float hills = SmoothStep(50, 190, z) *
-                        (34 * Fbm(x * 0.011F + 9, z * 0.011F, std::max(3, octaves - 3), 2) - 13.5F);
+                        (44 * Fbm(x * 0.010F + 9, z * 0.010F, std::max(3, octaves - 3), 2) - 20);
     const float valley = SmoothStep(20, 60, std::fabs(x - Meander(z))) * 0.6F + 0.4F;
     const float range = SmoothStep(380, 760, z);
     const float mountains =
@@ -51,12 +51,12 @@ class OpenLand : public Terrain {
     const float lit = light * (1 - 0.22F * cloud);
     Colour ground = OnRamp(grass, lit * 0.62F + (big - 0.5F) * 0.42F + (fine - 0.5F) * 0.26F);
     const float track = std::fabs(p.x - Track(p.z)) + 1.6F * (fine - 0.5F) + 2 * (big - 0.5F);
-    const float bare = SmoothStep(2.6F, 1.5F, track) * SmoothStep(330, 200, p.z);
+    const float bare = SmoothStep(2.9F, 1.7F, track) * SmoothStep(360, 240, p.z);
     ground = Mix(ground, OnRamp(earth, lit * 0.62F + (fine - 0.5F) * 0.4F), bare * 0.85F);
     if (p.z > 420) ground = Mix(ground, OnRamp(forest, light), 0.75F);
     const float steep = SmoothStep(0.30F, 0.5F, 1 - spot.normal.y);
     Colour result = Mix(ground, OnRamp(rock, light * 0.9F + (fine - 0.5F) * 0.2F), steep);
-    const float snow_line = SmoothStep(68, 96, p.y + 26 * (big - 0.5F));
+    const float snow_line = SmoothStep(76, 112, p.y + 40 * (big - 0.5F) + 30 * (spot.sun - 0.4F));
     const float holds = 1 - SmoothStep(0.5F, 0.75F, 1 - spot.normal.y);
     return Mix(result, OnRamp(snow, light * 1.05F), snow_line * holds);
   }
@@ -70,23 +70,27 @@ class OpenLand : public Terrain {
     return Mix(Hex(0xA8C8E4), Hex(0xD8ECF4), Clamp(direction.y * 3));
   }
   float HazeCover(float distance) const override {
-    return 1 - std::exp(-std::pow(distance / 760, 1.3F));
+    return 1 - std::exp(-std::pow(distance / 1050, 1.35F));
   }
   Vec Light() const override { return Unit({-0.66F, 0.56F, -0.28F}); }
 
+  // The footpath, from the lower right past the middle into the hills.
+  static float Track(float z) {
+    return 13 + 0.12F * z - 24 * SmoothStep(30, 110, z) + 46 * SmoothStep(110, 230, z);
+  }
+
  private:
   static float Meander(float z) { return 30 * std::sin(z * 0.011F + 0.8F) + 12; }
-  // The footpath, from the lower right past the middle into the hills.
-  static float Track(float z) { return 26 - 0.16F * z + 16 * std::sin(z * 0.021F + 0.5F); }
 };
 
 void Dress(Dresser& dresser, const OpenLand& land) {
   std::vector<Standing> things;
   for (int k = 0; k < 1500; ++k) {
-    const float z = 95 + Hash(k, 5, 40) * 330;
+    const float z = 120 + Hash(k, 5, 40) * 320;
     const float x = (Hash(k, 8, 40) - 0.5F) * 1.7F * z;
-    if (Fbm(x * 0.017F + 40, z * 0.03F, 3, 41) < 0.53F) continue;
+    if (Fbm(x * 0.017F + 40, z * 0.03F, 3, 41) < 0.565F) continue;
     if (land.Height(x, z, 6) < water_level + 1.5F) continue;
+    if (std::fabs(x - OpenLand::Track(z)) < 14) continue;
     things.push_back({x, z, 2.6F + 2.4F * Hash(k, 2, 40), k});
   }
   std::sort(things.begin(), things.end(),
@@ -131,7 +135,7 @@ Image PaintGroundOpen() {
   Painting painting = PaintTerrain(land, view);
   Dresser dresser(land, view, painting);
   Dress(dresser, land);
-  return ToSheet(Painted(Shrink(painting.canvas, 2, 2), 2, 0.72F), 208, 7);
+  return ToSheet(Painted(Shrink(painting.canvas, 2, 2), 2, 0.72F), 240, 5);
 }
 
 }  // namespace orvane::paint::scene

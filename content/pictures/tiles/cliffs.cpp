@@ -12,22 +12,28 @@
 namespace orvane::paint::tiles {
 namespace {
 
-constexpr int FaceSeed = 443;
+// The strata of a wall from its lip to its foot.
+constexpr int LipStratum = 8;
+constexpr int MiddleStratum = 15;
+constexpr int FootStratum = 22;
+constexpr int DarkStratum = 13;
 
-Colour Face(int x, int y, double lift) {
-  return Rock[static_cast<int>(std::floor(FaceTone(x, y, FaceSeed) + lift))];
+Colour Face(int x, int y, int stratum, double lift) {
+  return Rock[static_cast<int>(std::floor(FaceTone(x, y, stratum) + lift))];
 }
 
 // Three tiles side by side of a face that is `foot` or not; its ends are cut upright.
 Image FaceRow(bool foot) {
+  const int stratum = foot ? FootStratum : MiddleStratum;
   return Fill(3 * TileSize, TileSize, [&](int x, int y) {
     if (x == 0) return Rock[1];
-    if (x == 1) return Rock[6];
     if (x == 47) return Rock[0];
-    if (x > 44) return Rock[2];
+    double lift = foot ? -0.5 : 0;
+    if (x < 3) lift += 1.0;
+    if (x > 43) lift -= 1.2;
     if (foot && y == 15) return Rock[0];
-    if (foot && y > 12) return Face(x, y, -2.2);
-    return Face(x, y, foot ? -0.8 : 0);
+    if (foot && y > 12) lift -= 1.6;
+    return Face(x, y, stratum, lift);
   });
 }
 
@@ -37,66 +43,88 @@ int Overhang(int x) {
                           1.5 * Noise(x / 4.0, 0.5, 4, 452));
 }
 
+constexpr int RimWidth = 6;
+
+// The low wall of rock along a rim: `out` pixels from the outer side, `along` it.
+Colour Rim(int out, int along, bool lit) {
+  if (out == 0) return Rock[0];
+  const int rock = along / 6;
+  const int within = along % 6;
+  const bool gap = within == 5;
+  const int rise = Hash(rock % 8, 0, 456) > 0.5 ? 1 : 0;
+  if (gap || out == RimWidth - 1) return Rock[lit && !gap ? 2 : 1];
+  const int tone = (lit ? 6 : 3) - (out - 1) / 2 * (lit ? 1 : 0) + rise - (within == 4 ? 1 : 0);
+  return Rock[within == 0 && lit ? tone + 1 : tone];
+}
+
 Image Plateau() {
   const Image grass = GrassTile(0);
   return Fill(3 * TileSize, 3 * TileSize, [&](int x, int y) {
     const int lip = 37 + Overhang(x);
-    if (x < 1 && y > 2) return Rock[1];
-    if (x > 46 && y > 2) return Rock[0];
-    if (y > lip + 1 && y > 36) {
-      if (x == 1) return Rock[6];
-      if (x > 44) return Rock[2];
-      return y < lip + 4 ? Face(x, y, -2.0) : Face(x, y, 0.4);
+    const int across = x % TileSize;
+    if (y > lip + 1) {
+      if (x == 0) return Rock[1];
+      if (x == 47) return Rock[0];
+      const double lift = (x < 3 ? 1.0 : x > 43 ? -1.2 : 0.0) + (y < lip + 4 ? -1.8 : 0.2);
+      return Face(x, y, LipStratum, lift);
     }
     if (y == lip + 1) return Grass[1];
     if (y == lip) return Grass[3];
-    if (y > lip - 3) return Grass[Hash(x % TileSize, y, 455) > 0.35 ? 6 : 5];
-    // The rims: lit rock in the west and at the back, rock in shade in the east.
-    const int rugged = static_cast<int>(2 * Noise(x / 3.0, y / 4.0, 0, 457) * 1.5);
-    if (x < 3) return Rock[x == 1 ? 6 : 4];
-    if (x < 5 + rugged % 2) return Grass[6];
-    if (x > 44) return Rock[2];
-    if (x > 42 - rugged % 2) return Grass[2];
-    if (y < 1) return Rock[1];
-    if (y < 2) return Rock[5];
-    if (y < 3) return Rock[7];
-    if (y < 4 + rugged % 2) return Grass[6];
+    if (y > lip - 3) return Grass[Hash(across, y, 455) > 0.35 ? 6 : 5];
+    if (y < RimWidth && x >= y && 47 - x >= y) return Rim(y, across, true);
+    if (x < RimWidth) return Rim(x, y % TileSize, true);
+    if (47 - x < RimWidth) return Rim(47 - x, y % TileSize, false);
+    // Blades lean over the foot of the rim; in its shade they are dark.
+    const int blades = RimWidth + (Hash(across, 0, 458) > 0.5 ? 1 : 0);
+    const int rows = RimWidth + (Hash(y % TileSize, 0, 457) > 0.5 ? 1 : 0);
+    if (y <= blades || x <= rows) return Grass[1];
+    if (47 - x <= rows) return Grass[6];
     return Repeated(grass, x, y);
   });
 }
 
-// A massif in its own scree: peaks on top, a face toward the viewer in the lowest row.
-template <size_t Count>
-Colour Massif(const PatchSpot& spot, const Image& scree, const Ramp<Count>& ramp, int seed,
-              double lift) {
+// What a massif is made of.
+struct Massif {
+  const Image& Scree;
+  const Ramp<8>& Tones;
+  double (*TopTone)(int, int);
+  int Stratum;
+  double Lift;  // added to the tones of the face
+};
+
+// A massif in its own scree: its top, and a face toward the viewer in the lowest row.
+Colour InMassif(const PatchSpot& spot, const Massif& massif) {
   if (spot.depth < 0) {
-    if (spot.depth > -1.2) return Shaded(Repeated(scree, spot.x, spot.y), 0.55);
-    return Repeated(scree, spot.x, spot.y);
+    const Colour scree = Repeated(massif.Scree, spot.x, spot.y);
+    return spot.depth > -1.2 ? Shaded(scree, 0.55) : scree;
   }
-  if (spot.depth < 1) return ramp[spot.facing_x + spot.facing_y < -0.3 ? 2 : 0];
-  const int brow = 34 + static_cast<int>(2.4 * Noise(spot.x / 4.0, 0.5, 4, seed));
+  const bool to_light = spot.facing_x + spot.facing_y < -0.3;
+  if (spot.depth < 1) return massif.Tones[to_light ? 2 : 0];
+  const int brow = 34 + static_cast<int>(2.4 * Noise(spot.x / 4.0, 0.5, 4, massif.Stratum));
   double tone = 0;
   if (spot.y < brow) {
-    tone = PeakTone(spot.x, spot.y) + lift;
-    if (spot.y > brow - 2) tone = 6.2;
-    if (spot.depth < 2.2 && spot.facing_x + spot.facing_y < -0.3) tone = 6;
-    if (spot.facing_x > 0.6 && spot.depth < 4) tone -= 1.2;
+    tone = massif.TopTone(spot.x, spot.y);
+    if (spot.y >= brow - 2) tone = spot.y == brow - 1 ? 6.6 : 5.2;
+    if (to_light && spot.depth < 2.4) tone = 6;
+    if (to_light && spot.depth >= 2.4 && spot.depth < 4) tone += 1;
+    if (spot.facing_x > 0.6 && spot.depth < 4) tone -= 1.0;
   } else {
-    tone = FaceTone(spot.x, spot.y, seed) - (spot.y - brow < 2 ? 1.4 : 0) -
-           (spot.y > 43 ? 1.6 : 0) + lift;
+    tone = FaceTone(spot.x, spot.y, massif.Stratum) + massif.Lift;
+    if (spot.y < brow + 2) tone -= 1.4;
+    if (spot.y > 43) tone -= 1.6;
     if (spot.facing_x > 0.6 && spot.depth < 4) tone -= 1.0;
   }
-  return ramp[static_cast<int>(std::floor(std::clamp(tone, 0.0, 7.0)))];
+  return massif.Tones[static_cast<int>(std::floor(std::clamp(tone, 0.0, 7.0)))];
 }
 
 Colour Mountain(const PatchSpot& spot) {
   static const Image scree = GravelTile(0);
-  return Massif(spot, scree, Rock, FaceSeed, 0);
+  return InMassif(spot, {scree, Rock, PeakTone, LipStratum, 0});
 }
 
 Colour DarkRock(const PatchSpot& spot) {
   static const Image scree = WasteTile(0);
-  return Massif(spot, scree, Dark, 447, -0.4);
+  return InMassif(spot, {scree, Dark, RoofTone, DarkStratum, -0.2});
 }
 
 }  // namespace

@@ -13,14 +13,6 @@ double Grain(int x, int y, int seed) {
   return 0.55 * Noise(x / 4.0, y / 4.0, 4, seed) + 0.45 * Noise(x / 2.0, y / 2.0, 8, seed + 1);
 }
 
-// Facets whose sites near the border are the same in all variants, so that cracks join.
-Facet JoinedFacet(int x, int y, int cells, int seed, int variant) {
-  const double scale = static_cast<double>(cells) / TileSize;
-  const bool inside = x > 3 && y > 3 && x < 12 && y < 12;
-  return FacetAt((x + 0.5) * scale, (y + 0.5) * scale, cells, cells,
-                 inside ? seed + variant * 0 : seed);
-}
-
 void Pebble(Image& tile, int x, int y, bool large, const Colour light, const Colour body,
             const Colour dark) {
   const Key key = {{'l', light}, {'m', body}, {'d', dark}};
@@ -36,10 +28,12 @@ void Pebble(Image& tile, int x, int y, bool large, const Colour light, const Col
 Image PathTile() {
   Image tile = Fill(TileSize, TileSize, [](int x, int y) {
     const double grain = Grain(x, y, 21);
-    return Path[grain < 0.30 ? 2 : grain < 0.74 ? 3 : 4];
+    return Path[grain < 0.36 ? 2 : grain < 0.70 ? 3 : 4];
   });
-  Pebble(tile, 3, 4, false, Path[5], Path[4], Path[1]);
-  Pebble(tile, 11, 10, false, Path[5], Path[4], Path[1]);
+  const Key key = {{'l', Path[5]}, {'d', 0xB08C5C}};
+  Stamp(tile, 3, 4, {"l.", ".d"}, key);
+  Stamp(tile, 11, 9, {"ld"}, key);
+  Stamp(tile, 6, 13, {".l", "d."}, key);
   return tile;
 }
 
@@ -63,8 +57,8 @@ Image SandTile(int variant) {
 Image GravelTile(int variant) {
   if (variant == 3) {
     Image tile = GrassTile(0);
-    for (int i = 0; i < 9; ++i) {
-      Pebble(tile, 1 + static_cast<int>(Hash(i, 1, 41) * 12), 1 + i * 14 / 9, i % 4 == 0, Gravel[5],
+    for (int i = 0; i < 14; ++i) {
+      Pebble(tile, static_cast<int>(Hash(i, 1, 41) * 14), i * 15 / 14, i % 4 == 0, Gravel[5],
              Gravel[3], Grass[2]);
     }
     return tile;
@@ -93,41 +87,54 @@ Image GravelTile(int variant) {
 }
 
 Image WasteTile(int variant) {
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
     const double grain = Grain(x, y, 51);
-    const Facet facet = JoinedFacet(x, y, 2, 55, variant);
-    if (facet.edge < 0.055) return Waste[1];
-    if (facet.edge < 0.16 && facet.dx + facet.dy < 0) return Waste[4];
-    return Waste[grain < 0.30 ? 2 : grain < 0.82 ? 3 : 4];
+    return Waste[grain < 0.34 ? 2 : grain < 0.72 ? 3 : 4];
   });
-  if (variant == 1) Pebble(tile, 4, 9, true, Waste[5], Waste[3], Waste[0]);
-  if (variant == 2) Pebble(tile, 10, 5, false, Waste[5], Waste[3], Waste[0]);
-  if (variant == 3) {
-    Stamp(tile, 3, 2,
-          {"d.......", "dd...dd.", ".ldddd..", "..dl....", "..dd....", "...dd...", "....ld.."},
-          {{'d', Waste[0]}, {'l', Waste[4]}});
+  // Cracks lie inside the tile, each variant has its own; a lit edge below and to the right.
+  const Key key = {{'d', Waste[1]}, {'l', Waste[5]}, {'k', Waste[0]}};
+  switch (variant) {
+    case 1:
+      Stamp(tile, 2, 9, {".....dd.", "...ddl..", "ddddl...", "..lll..."}, key);
+      Pebble(tile, 10, 3, true, Waste[5], Waste[3], Waste[0]);
+      break;
+    case 2:
+      Stamp(tile, 8, 3, {"d.....", "dd....", "ldddd.", "..llld"}, key);
+      Pebble(tile, 3, 11, false, Waste[5], Waste[3], Waste[0]);
+      break;
+    case 3:
+      Stamp(tile, 1, 2,
+            {".d...........", "..dd......dd.", "..lkdd..ddl..", "....lkkdkl...", "......lkk....",
+             ".......lkd...", "........kl...", ".......dk....", "......dkl....", "......dl.....",
+             ".......d....."},
+            key);
+      break;
+    default:
+      Stamp(tile, 4, 6, {"dd...", "..dd.", "..lll"}, key);
+      break;
   }
   return tile;
 }
 
 Image PavingTile(int variant) {
   // Slabs of a running bond: two courses of 8 pixels, joints dark below and right, light above.
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
     const int course = y / 8;
     const int along = (x + (course == 0 ? 3 : 11)) % TileSize;
     const int across = y % 8;
     const int slab = course * 2 + (along < 9 ? 0 : 1);
     const int left = along < 9 ? along : along - 9;
     const int width = along < 9 ? 9 : 7;
-    if (across == 7 || left == width - 1) return Stone[1];
-    if (across == 0 || left == 0) return Stone[4];
-    const double grain = Grain(x, y, 61);
-    return Stone[grain < 0.28 + 0.06 * slab ? 2 : 3];
+    if (across == 7 || left == width - 1) return Paving[1];
+    if (across == 0 || left == 0) return Paving[4];
+    const double grain = Grain(x, y, 61) + (slab == 1 ? 0.12 : slab == 2 ? -0.1 : 0);
+    return Paving[grain < 0.34 ? 2 : grain < 0.74 ? 3 : 4];
   });
   if (variant == 1) {
     Stamp(tile, 3, 1, {"d......", ".dd....", "..ldd..", "....ld.", "...dd..", "..dl...", "...d..."},
-          {{'d', Stone[1]}, {'l', Stone[4]}});
-    Stamp(tile, 9, 9, {".gg.", "gGgg", ".ggG"}, {{'g', Grass[3]}, {'G', Grass[5]}});
+          {{'d', Paving[0]}, {'l', Paving[5]}});
+    Stamp(tile, 9, 9, {".gg..", "gGggg", ".ggGg", "..dgd"},
+          {{'g', Grass[3]}, {'G', Grass[5]}, {'d', Paving[1]}});
   }
   return tile;
 }

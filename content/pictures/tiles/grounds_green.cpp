@@ -85,10 +85,10 @@ Image GrassTile(int variant) {
 Image LitterTile(int variant) {
   Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
     const double grain = Woven(x, y, 71, variant);
-    return Litter[grain < 0.34 ? 1 : grain < 0.56 ? 2 : grain < 0.72 ? 3 : 2];
+    return Litter[grain < 0.30 ? 1 : grain < 0.52 ? 2 : grain < 0.74 ? 3 : 4];
   });
   // Fallen leaves, each two or three pixels with its own shade below.
-  for (int i = 0; i < 6; ++i) {
+  for (int i = 0; i < 3; ++i) {
     const int x = 1 + static_cast<int>(Hash(i, variant, 81) * 12);
     const int y = 1 + static_cast<int>(Hash(i, variant, 82) * 12);
     const Colour leaf = i % 3 == 0 ? 0xC07C38 : i % 3 == 1 ? Litter[4] : 0x98A850;
@@ -108,19 +108,23 @@ Image LitterTile(int variant) {
   return tile;
 }
 
+// Grass grows through the wet ground, also on the border, so that marsh meets grass raggedly.
 Image MarshTile(int variant) {
   Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
-    const double grain = Woven(x, y, 111, variant);
-    return Marsh[grain < 0.33 ? 2 : grain < 0.66 ? 3 : 4];
+    const double wet = Woven(x, y, 114, variant);
+    const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
+    if (wet - (inward < 1 ? 0.06 : 0) < 0.42) return Grass[wet < 0.34 ? 4 : 3];
+    return Marsh[wet < 0.56 ? 4 : wet < 0.74 ? 3 : 2];
   });
+  const Key key = {{'d', Pool[2]},  {'w', Pool[3]},  {'l', Pool[5]},
+                   {'h', Marsh[5]}, {'m', Marsh[4]}, {'k', Marsh[0]}};
   if (variant == 1) {
-    Stamp(tile, 2, 4, {"..dddddd..", ".dwwwlwwd.", "dwwlllwwwd", ".wwwwwwww.", "..hhhhhh.."},
-          {{'d', Marsh[1]}, {'w', Pool[4]}, {'l', Pool[5]}, {'h', Marsh[4]}});
-    Stamp(tile, 9, 11, {".ddd.", "dwlwd", ".hhh."},
-          {{'d', Marsh[1]}, {'w', Pool[4]}, {'l', Pool[5]}, {'h', Marsh[4]}});
+    Stamp(tile, 2, 3, {"..dddddd...", "dddwwlwwdd.", "dwwllwwwwwd", ".wwwwwwwwd.", "...hhhhh..."},
+          key);
+    Stamp(tile, 7, 10, {".ddd.", "dwlwd", ".hhh."}, key);
   } else {
-    Stamp(tile, 4, 3, {"l.l", "mlm", ".d."}, {{'l', Marsh[5]}, {'m', Marsh[4]}, {'d', Marsh[1]}});
-    Stamp(tile, 10, 10, {"l.l", "mlm", ".d."}, {{'l', Marsh[5]}, {'m', Marsh[4]}, {'d', Marsh[1]}});
+    Stamp(tile, 3, 3, {"h.h.", "mhmh", ".mm.", ".k.."}, key);
+    Stamp(tile, 9, 9, {".h.h", "hmhm", ".mm.", "..k."}, key);
   }
   return tile;
 }

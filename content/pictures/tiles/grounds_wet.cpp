@@ -35,17 +35,21 @@ Image WaterTile(int variant) {
 
 Image ShallowTile() {
   return Fill(TileSize, TileSize, [](int x, int y) {
-    const Facet facet = FacetAt((x + 0.5) / 5.3333, (y + 0.5) / 5.3333, 3, 3, 97);
-    return Shallow[facet.edge < 0.12 ? 3 : facet.edge < 0.30 ? 2 : 1];
+    const Facet facet = FacetAt((x + 0.5) / 8, (y + 0.5) / 5.3333, 2, 3, 97);
+    if (facet.edge < 0.07) return Shallow[4];
+    return Shallow[facet.edge < 0.20 ? 3 : facet.edge < 0.62 ? 2 : 1];
   });
 }
 
 Image LavaTile() {
-  return Fill(TileSize, TileSize, [](int x, int y) {
-    const Facet facet = FacetAt((x + 0.5) / 5.3333, (y + 0.5) / 5.3333, 3, 3, 131);
-    const double heat = facet.edge + 0.25 * facet.chance;
-    return Lava[heat < 0.10 ? 5 : heat < 0.20 ? 4 : heat < 0.36 ? 3 : heat < 0.62 ? 2 : 1];
+  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+    const double swell = Swell(x + 5, y + 3);
+    return Lava[swell > 1.15 ? 4 : swell > 0.25 ? 3 : swell > -0.9 ? 2 : 1];
   });
+  const Key key = {{'k', Lava[0]}, {'d', Lava[1]}, {'y', Lava[5]}, {'o', Lava[4]}};
+  Stamp(tile, 2, 9, {".kkkk..", "kkddkkk", "ydkkkdy", ".oyyyo."}, key);
+  Stamp(tile, 10, 2, {".kk.", "kddk", "oyyo"}, key);
+  return tile;
 }
 
 }  // namespace orvane::paint::tiles

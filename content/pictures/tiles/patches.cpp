@@ -1,6 +1,7 @@
 // Grounds set into grass.
 #include "content/pictures/tiles/families.h"
 #include "content/pictures/tiles/grounds.h"
+#include "content/pictures/tiles/noise.h"
 #include "content/pictures/tiles/palette.h"
 #include "content/pictures/tiles/patch.h"
 
@@ -53,7 +54,7 @@ Colour WasteInGrass(const PatchSpot& spot) {
 Image Trail(bool across) {
   return Fill(TileSize, TileSize, [&](int x, int y) {
     const int place = across ? y : x;
-    const double waver = (across ? x : y) * 7 % 5 * 0.25;
+    const double waver = 1.6 * Noise((across ? x : y) / 3.2, 0.5, 5, 213);
     PatchSpot spot;
     spot.x = x;
     spot.y = y;

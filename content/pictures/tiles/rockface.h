@@ -1,14 +1,18 @@
-// Rock walls seen from the front, made of facets lit from the upper left.
+// Rock walls seen from the front and mountain tops, made of facets lit from the upper left.
 #pragma once
 
 #include "content/pictures/tiles/draw.h"
 
 namespace orvane::paint::tiles {
 
-// The tone, about 1 to 6, of a rock wall that repeats every tile in both directions.
-double FaceTone(int x, int y, int seed);
+// The tone, about 0 to 7, of a rock wall of upright columns that repeats every tile to the sides.
+// Rows of a wall take a stratum each, so that no two rows are alike.
+double FaceTone(int x, int y, int stratum);
 
 // The tone of mountain tops that repeat every tile in both directions.
 double PeakTone(int x, int y);
+
+// The tone of dark rock seen from above, without any light on it; repeats every tile.
+double RoofTone(int x, int y);
 
 }  // namespace orvane::paint::tiles

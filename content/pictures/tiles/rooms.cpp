@@ -10,7 +10,7 @@ namespace {
 
 Image WallTop() {
   return Fill(TileSize, TileSize, [](int x, int y) -> Colour {
-    return Dark[(x + y * 2) % 16 == 0 || Hash(x / 4, y / 4, 501) > 0.93 ? 1 : 0];
+    return Noise(x / 4.0, y / 4.0, 4, 501) > 0.72 ? 0x1C1224U : Dark[0];
   });
 }
 
@@ -82,8 +82,8 @@ Image Boards(int variant) {
     const int board = y / 4;
     const int within = y % 4;
     const int end = (board * 7 + variant * 5 + 3) % 16;
-    if (within == 3 || x == end) return Wood[2];
-    if (within == 0) return Wood[5];
+    if (within == 3 || x == end) return 0xC09258;
+    if (within == 0) return 0xE8C892;
     if (variant == 1 && board == 2 && std::hypot(x - 9.0, (y - 9.5) * 2) < 2) return Wood[3];
     return Hash(x / 5, y, 511 + variant) > 0.7 ? 0xDCB47C : 0xE0BC84;
   });
@@ -121,11 +121,11 @@ Image ExitMat() {
 
 Image LastFloor(int variant) {
   return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
-    if (x == 15 || y == 15) return Marble[1];
-    if (x == 0 || y == 0) return Marble[5];
-    const double vein = Noise(x / 4.0 + variant * 5, y / 4.0, 0, 521 + variant);
-    if (std::abs(vein - 0.5) < 0.035) return Marble[2];
-    return Marble[vein > 0.6 ? 4 : 3];
+    if (x == 15 || y == 15) return 0xA8A0B8;
+    if (x == 0 || y == 0) return 0xE8E4EE;
+    const double vein = Noise(x / 5.0 + variant * 5, y / 5.0, 0, 521 + variant);
+    if (variant > 0 && std::abs(vein - 0.5) < 0.03) return Marble[2];
+    return x + y < 13 - variant * 2 ? 0xD6D1DDU : Marble[3];
   });
 }
 

@@ -22,8 +22,10 @@ Colour Block(int x, int down) {
 }
 
 Colour Top(int x, int y) {
-  if (Hash(x / 5, y / 5, 495) > 0.80) return Leaf[4];
-  return Noise(x / 3.0, y / 3.0, 0, 497) > 0.42 ? Stone[4] : Stone[3];
+  const double moss = Noise(x / 4.0, y / 3.0, 0, 495);
+  if (moss > 0.74) return Leaf[moss > 0.84 ? 5 : 4];
+  if (Noise(x / 2.0, y / 2.0, 0, 498) > 0.80) return Stone[1];
+  return Noise(x / 3.0, y / 3.0, 0, 497) > 0.42 ? Stone[3] : Stone[2];
 }
 
 // A square of ruined wall around a cell of paving. Each wall shows its top, and those that look
@@ -37,7 +39,7 @@ Image Walls() {
         if (y < top + depth) {
           const bool rim = y == top || x == left;
           const bool far_rim = x == left + width - 1;
-          colour = rim ? Stone[5] : far_rim ? Stone[1] : Top(x, y);
+          colour = rim ? Stone[4] : far_rim ? Stone[1] : Top(x, y);
         } else {
           colour = Block(x, y - top - depth);
           if (y == top + depth) colour = Stone[0];
@@ -74,33 +76,33 @@ Image Pillar() {
   return tile;
 }
 
-// A kneeling winged figure on a pedestal.
+// A knight of stone who rests both hands on his sword.
 Image Statue() {
   Image statue = Tiled(PavingTile(0), 16, 32);
-  CastShadow(statue, 9, 28.5, 7.5, 3, 0.6);
+  CastShadow(statue, 10, 29, 8, 3, 0.65);
   Stamp(statue, 0, 1,
-        {".......kk.......", "......khlk......", "......klmk......", "..kk..kmdk..kk..",
-         ".klhkkkmdkkkmdk.", "klhhlkhlmdkmddsk", "klhlmkhlmdkmddsk", "klhlmkllmdkmmdsk",
-         "klhlmkhhldkmmdsk", "klhlmkhlmdkmmdsk", ".klmmkhlmdkmdsk.", ".kllmkhlmdkmdsk.",
-         "..klmkhlmdkmsk..", "..kkkhhlmmdkkk..", "...khhlmmmddk...", "...khllmmmddk...",
-         "...khlmlmdmdk...", "...khlmlmdmdk...", "..kkkkkkkkkkkk..", ".khhhhhhllmmmdk.",
-         ".kllllmmmmmdddk.", ".kkkkkkkkkkkkkk.", "..khllmmmmmddk..", "..khlkkmmkkddk..",
-         "..khlkymmykddk..", "..khlkkmmkkddk..", "..khllmmmmmddk..", ".khhhhlllmmmmdk.",
-         ".klllmmmmmddddk.", ".kkkkkkkkkkkkkk."},
+        {".......kk.......", "......khhk......", ".....khlmdk.....", ".....khlmdk.....",
+         ".....kkkkkk.....", ".....klkkdk.....", "....kkllmdkk....", "...khhkmmkmdk...",
+         "..khhlmkkmmddk..", "..khlkllmmkddk..", "..khlkhlmdkmdk..", "..kllkhlmdkmdk..",
+         "..klmkkyykkmdk..", "...kkhyYYydkk...", "...khlkyykmdk...", "...khlkhdkmdk...",
+         "...khlkhdkmdk...", "...klmkhdkmdk...", "...klmkhdkddk...", "..kkkkkkkkkkkk..",
+         ".khhhhhhllmmmdk.", ".kllllmmmmmdddk.", ".kkkkkkkkkkkkkk.", "..khllmmmmmddk..",
+         "..khlkkkkkkddk..", "..khlkllmmkddk..", "..khlkkkkkkddk..", "..khllmmmmmddk..",
+         ".khhhhlllmmmmdk.", ".kkkkkkkkkkkkkk."},
         {{'k', Stone[0]},
          {'h', Stone[5]},
          {'l', Stone[4]},
          {'m', Stone[3]},
          {'d', Stone[2]},
-         {'s', Stone[1]},
-         {'y', Gold[2]}});
+         {'y', Gold[2]},
+         {'Y', Gold[3]}});
   return statue;
 }
 
 // Three by two tiles of shrine cut into a cliff: gable above, columns and a dark doorway below.
 Image Shrine() {
   Image shrine = Fill(48, 32, [](int x, int y) {
-    return Rock[static_cast<int>(std::floor(FaceTone(x, y, 443) - 0.6))];
+    return Rock[static_cast<int>(std::floor(FaceTone(x, y, y < 16 ? 15 : 22) - 0.6))];
   });
   for (int y = 2; y < 16; ++y) {
     const int reach = y < 10 ? (y - 1) * 3 : 23;

@@ -1,5 +1,7 @@
 // Lakes, sea and lava with their shores.
+#include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "content/pictures/tiles/families.h"
 #include "content/pictures/tiles/grounds.h"
@@ -86,20 +88,49 @@ Image SteppingStones() {
 }
 
 Image Waterfall() {
+  // Every column falls at its own beat; the beats fit the tile, so falls of any height join.
   return Fill(TileSize, TileSize, [](int x, int y) {
-    const double fall = Noise(x / 1.6, y / 8.0, 10, 321) + 0.25 * Noise(x / 1.0, y / 4.0, 16, 322);
-    return Water[fall < 0.36 ? 2 : fall < 0.55 ? 3 : fall < 0.75 ? 4 : fall < 0.92 ? 5 : 6];
+    const double turn = 2 * std::numbers::pi * y / TileSize;
+    const double strand = Noise(x / 2.0, 0.5, 8, 321);
+    const double beat =
+        std::sin(turn + 7 * Hash(x / 2, 1, 323)) + 0.6 * std::sin(2 * turn + 7 * Hash(x, 2, 323));
+    const double fall = strand + 0.16 * beat;
+    return Water[fall < 0.22 ? 2 : fall < 0.40 ? 3 : fall < 0.60 ? 4 : fall < 0.80 ? 5 : 6];
   });
 }
 
+// Boards laid close together; they look the same whichever way the walk goes.
+Image MarshPlanks() {
+  Image tile = Tiled(MarshTile(0), TileSize, TileSize);
+  for (int board = 0; board < 4; ++board) {
+    const int left = board % 2 == 0 ? 0 : 1;
+    const int width = board == 2 ? 16 : 15;
+    for (int x = left; x < left + width && x < TileSize; ++x) {
+      const bool end = x == left || x == left + width - 1;
+      Set(tile, x, board * 4, end ? Wood[2] : Wood[5]);
+      Set(tile, x, board * 4 + 1, end ? Wood[1] : (x * 3 + board) % 7 == 0 ? Wood[3] : Wood[4]);
+      Set(tile, x, board * 4 + 2, end ? Wood[1] : Wood[3]);
+      Set(tile, x, board * 4 + 3, Marsh[0]);
+    }
+    Set(tile, left + 2, board * 4 + 1, Wood[1]);
+    Set(tile, left + 12, board * 4 + 1, Wood[1]);
+  }
+  return tile;
+}
+
+// A pool that fills its tile almost whole, so that pools side by side run together.
 Image MarshPool(int variant) {
-  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
-    static const Image marsh = MarshTile(0);
-    const double reach = std::hypot((x - 7.5) / 8.2, (y - 7.8) / 7.2) +
-                         0.2 * (Noise(x / 3.0, y / 3.0, 0, 331) - 0.5);
-    if (reach > 1.0) return Repeated(marsh, x, y);
-    if (reach > 0.88) return y < 8 ? Pool[0] : Marsh[5];
-    return Pool[y < 5 ? 1 : (x + y * 3) % 11 == 0 ? 3 : 2];
+  const Image marsh = MarshTile(0);
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    const double dx = std::max(std::abs(x - 7.5) - 5.0, 0.0);
+    const double dy = std::max(std::abs(y - 7.5) - 4.0, 0.0);
+    const double reach =
+        std::hypot(dx, dy) + 2.2 * (Noise(x / 3.0, y / 3.0, 0, 331 + variant) - 0.5);
+    if (reach > 3.0) return marsh.At(x, y);
+    if (reach > 2.0) return y < 8 ? Marsh[0] : Pool[4];
+    if (reach > 1.0 && y < 8) return Pool[0];
+    const double ripple = Noise(x / 4.0, y / 1.5, 0, 335 + variant);
+    return Pool[ripple > 0.70 ? 3 : ripple > 0.36 ? 2 : 1];
   });
   if (variant == 0) {
     for (const int x : {3, 6, 11}) {
@@ -123,13 +154,14 @@ void PaintWaters(Sheet& sheet) {
       Lake);
   PaintPatch(
       sheet,
-      {.first = 154, .inner = {37, 38, 39, 40}, .inset = 5, .radius = 8, .waver = 1.6, .seed = 223},
+      {.first = 154, .inner = {37, 38, 39, 40}, .inset = 4, .radius = 8, .waver = 1.6, .seed = 223},
       Sea);
   PaintPatch(sheet, {.first = 171, .inset = 3, .radius = 7, .waver = 1.6, .seed = 225}, MoltenRock);
   sheet.Put(1, WaterTile(1));
   sheet.Put(2, WaterTile(2));
   sheet.Put(30, SteppingStones());
   sheet.Put(229, Waterfall());
+  sheet.Put(170, MarshPlanks());
   sheet.Put(50, MarshPool(0));
   sheet.Put(51, MarshPool(1));
 }

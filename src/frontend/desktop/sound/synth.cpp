@@ -25,11 +25,14 @@ namespace {
 
 constexpr int kBankChannels = 16;
 constexpr int kPlayChannels = Synth::kBanks * kBankChannels;
-// Channels that never play: choosing an instrument on one keeps its samples in memory. Two large
-// pieces' worth, so that field and battle find theirs ready.
-constexpr int kKeepers = 32;
-constexpr int kPolyphony = 160;
-constexpr double kGain = 0.5;
+// Channels that never play: choosing an instrument on one keeps its samples in memory. As many as
+// two pieces use, so that field and battle find theirs ready, and no more: one may take a megabyte.
+constexpr int kKeepers = 20;
+// The synth has its channels by sixteens.
+constexpr int kChannels = kPlayChannels + 32;
+constexpr int kPolyphony = 128;
+// The pieces are balanced against the effects at this gain.
+constexpr double kGain = 1.2;
 
 constexpr int kVolume = 7;
 constexpr int kExpression = 11;
@@ -57,7 +60,7 @@ std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
   fluid_settings_setnum(fluid->Settings, "synth.sample-rate", rate);
   fluid_settings_setnum(fluid->Settings, "synth.gain", kGain);
   fluid_settings_setint(fluid->Settings, "synth.polyphony", kPolyphony);
-  fluid_settings_setint(fluid->Settings, "synth.midi-channels", kPlayChannels + kKeepers);
+  fluid_settings_setint(fluid->Settings, "synth.midi-channels", kChannels);
   // A whole font unpacked is over a hundred megabytes; a piece needs a dozen of its instruments.
   fluid_settings_setint(fluid->Settings, "synth.dynamic-sample-loading", 1);
   fluid_settings_setint(fluid->Settings, "synth.lock-memory", 0);

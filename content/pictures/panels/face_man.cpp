@@ -1,4 +1,4 @@
-// The man: half a grin, a plaster on the cheek, hair that no comb has tamed.
+// The man: half a grin, hair that no comb has tamed.
 #include <array>
 
 #include "content/pictures/panels/panels.h"
@@ -82,20 +82,18 @@ constexpr std::array marks{
     Mark{"M19.2 24.2 H20.8 V25.8 H19.2 Z M31.6 24.2 H32.9 V25.6 H31.6 Z", 0xFFFFFF},
     Mark{"M16.8 25 Q19 23.4 21.8 23.7 L24.4 25.4 L24.4 24.4 L21 23 L17 23.6 Z", 0x241018, none, 0,
          0.35},
-    Mark{"M16.4 26 Q18.6 22.8 22 22.9 Q24.2 23.2 25.2 25.6", none, ink, 1.6},
-    Mark{"M29.2 25.4 Q30.8 23 33.4 22.9 Q35.4 23 36.2 24.4", none, ink, 1.4},
+    Mark{"M16.4 26.2 Q18.6 23.4 22 23.5 Q24.2 23.8 25.2 25.8", none, ink, 1.5},
+    Mark{"M29 25.6 Q30.8 23.5 33.4 23.4 Q35.4 23.5 36.2 24.8", none, ink, 1.4},
     Mark{"M18.2 29.9 Q20.6 30.9 23.2 30.1 M30.8 30 Q32.6 30.6 34.4 29.6", none, 0x9C5840, 0.7},
-    // Nose, grin, plaster.
+    // Nose, grin.
     Mark{"M28.6 28.8 L30.6 32.2 L28 33", none, skin_deep, 0.9},
     Mark{"M28.4 31.4 L30.4 32.2 L28.2 33 Z", skin_deep},
     Mark{"M24 35.4 Q27.6 36.6 32.2 34.4 Q31.2 37.6 28 37.8 Q25.4 37.6 24 35.4 Z", 0xFFFFFF,
          0x6C2420, 0.9},
     Mark{"M23.2 35 L24.2 35.6 M31.8 34.8 L32.8 33.6", none, 0x6C2420, 0.9},
-    Mark{"M16 31.4 L21 33.2 L20.2 36 L15.6 33.8 Z", 0xFFF8E8, 0x8C5C44, 0.8},
-    Mark{"M17.8 32 L17.2 34.6 L19 35.4 L19.6 32.8 Z", 0xE0B890},
     // Hair over the brow.
     Mark{fringe, hair, ink, 1.1},
-    Mark{"M40.4 14 L40.4 20 L38.8 27 L37.6 20.4 L35.4 23 L33.2 16.6 L30.6 21.6 L29 17.6 L31.8 13 "
+    Mark{"M40.4 14 L40.4 20 L38.8 27 L37.8 19.4 L35.4 20.4 L32.8 13.6 L30.8 17.6 L29 14.6 L31.4 11 "
          "L34 14.4 L35.6 11 Z",
          hair_shade, none, 0, 1, fringe},
     Mark{"M14.8 31 L13 24.4 L11.4 18 L14.4 19.6 L16.2 16 Z M22.4 22 L22 16 L24 13.4 L26 18 Z",
@@ -112,8 +110,8 @@ constexpr std::array marks{
          " M5.2 16.8 L9.4 17.4 L8.6 20.4 Z",
          hair_lit},
     // Brows show through the hair; the far one is raised.
-    Mark{"M15.6 21.8 L19.6 20 L25.4 22 L25 22.9 L20 21.6 Z", 0x44201A, 0x44201A, 0.7, 0.9},
-    Mark{"M29.6 21.6 L33.2 18.8 L36.4 19.4 L33.6 20.4 Z", 0x44201A, 0x44201A, 0.7, 0.9},
+    Mark{"M15.8 22.6 L19.4 20.6 L25.2 22.4 L25 23.4 L19.8 22.2 Z", ink, ink, 0.6},
+    Mark{"M29.2 22.2 L32.8 19.4 L36.4 19.8 L33.4 21 Z", ink, ink, 0.6},
 };
 
 }  // namespace

@@ -80,10 +80,7 @@ constexpr std::array marks{
     Mark{"M26.2 24.2 H28.2 V27.6 H26.2 Z M14.8 24.2 H16.6 V27.4 H14.8 Z", 0x041C18},
     Mark{"M24.8 23.8 H26.6 V25.8 H24.8 Z M13.8 23.8 H15.2 V25.6 H13.8 Z", 0xFFFFFF},
     Mark{"M28.4 28 H29.4 V29 H28.4 Z M16.6 27.8 H17.4 V28.8 H16.6 Z", 0xE8FFF0},
-    Mark{"M23 25.8 Q24.8 21.6 28.6 21.5 Q31.4 21.8 32.4 24.4 L33.6 23.8", none, ink, 1.7},
-    Mark{"M12.2 24.6 Q13.4 21.7 16.4 21.5 Q18.8 21.6 20 25", none, ink, 1.6},
     Mark{"M25.4 30.6 Q27.8 31.6 30.4 30.4 M14.2 30.2 Q16 31 18 30", none, 0xB06C58, 0.7},
-    Mark{"M24.4 19.6 Q28.4 17.6 32 19.6 M12.8 19.8 Q15 18 18.6 19.4", none, 0x9C681C, 1},
     // Nose and smile.
     Mark{"M20.6 30.2 L19.8 31.8 L21.2 32.2", none, skin_deep, 0.9},
     Mark{"M18.2 34.4 Q21 35.2 24.4 34 Q24 37.2 21.2 37.4 Q18.8 37.2 18.2 34.4 Z", 0xE06068,
@@ -104,6 +101,10 @@ constexpr std::array marks{
          " Q22 11 18.4 14.2 Q13.8 14.6 11 15.4 Z",
          hair_shine},
     Mark{"M37.4 24 Q37.8 30 36.8 35 M9.2 26 Q9.2 32 9.4 36", none, hair_lit, 0.9},
+    // Lashes and brows lie over the hair, or the eyes would lose their rim.
+    Mark{"M23 25.8 Q24.8 21.6 28.6 21.5 Q31.4 21.8 32.4 24.4 L33.6 23.8", none, ink, 1.7},
+    Mark{"M12.2 24.6 Q13.4 21.7 16.4 21.5 Q18.8 21.6 20 25", none, ink, 1.6},
+    Mark{"M24.4 19.6 Q28.4 17.6 32 19.6 M12.8 19.8 Q15 18 18.6 19.4", none, 0x80501C, 1, 0.9},
 };
 
 }  // namespace

@@ -19,7 +19,7 @@ constexpr std::array<uint32_t, 5> rock{0x28204C, 0x503C68, 0x8C5C78, 0xD0948C, 0
 constexpr std::array<uint32_t, 5> leaves{0x10182C, 0x1C3438, 0x3C5838, 0x807C3C, 0xD8B858};
 constexpr std::array<uint32_t, 4> blades{0x14283C, 0x345440, 0x809048, 0xE8D470};
 constexpr float water_level = -4;
-constexpr Vec sun{-0.13F, 0.055F, 1};
+constexpr Vec sun{-0.33F, 0.052F, 1};
 constexpr View view{908, 600, 396, 640, 30};
 
 class Dawn : public Terrain {
@@ -30,7 +30,7 @@ class Dawn : public Terrain {
     const float shore = SmoothStep(30, 120, std::fabs(x + 40 - 50 * std::sin(z * 0.006F)));
     const float range = SmoothStep(480, 760, z) *
                         (170 * Ridges(x * 0.0036F + 4.1F, z * 0.0036F, octaves, 5) - 6) *
-                        (0.35F + 0.65F * SmoothStep(30, 330, std::fabs(x + 90)));
+                        (0.28F + 0.72F * SmoothStep(30, 330, std::fabs(x + 225)));
     return -3.5F + roll * (0.25F + 0.75F * shore) + range;
   }
 
@@ -52,24 +52,25 @@ class Dawn : public Terrain {
 
   Colour Sky(Vec direction) const override {
     const float up = Clamp(direction.y / direction.z / 0.6F);
-    Colour sky = Mix(Hex(0xFCD890), Hex(0xE88C78), up / 0.16F);
-    sky = Mix(sky, Hex(0x90588C), (up - 0.14F) / 0.24F);
-    sky = Mix(sky, Hex(0x34346C), (up - 0.34F) / 0.42F);
+    Colour sky = Mix(Hex(0xFCD48C), Hex(0xDC7C70), up / 0.13F);
+    sky = Mix(sky, Hex(0x84507F), (up - 0.11F) / 0.17F);
+    sky = Mix(sky, Hex(0x443C78), (up - 0.27F) / 0.26F);
+    sky = Mix(sky, Hex(0x202458), (up - 0.52F) / 0.5F);
     const float x = direction.x / direction.z - sun.x;
     const float y = direction.y / direction.z - sun.y;
     const float from_sun = std::sqrt(x * x + y * y);
     sky = sky + Hex(0xFFC070) * (0.55F * std::exp(-from_sun * 7)) +
           Hex(0xFFE0A0) * (0.5F * std::exp(-from_sun * 26));
-    sky = Mix(Hex(0xFFFCE8), sky, SmoothStep(0.040F, 0.046F, from_sun));
     const float near = std::exp(-from_sun * 2.4F);
-    return Clouds(sky, direction,
-                  {Mix(Hex(0x4C3C74), Hex(0xC87078), near), Mix(Hex(0xB87898), Hex(0xFFE0A8), near),
-                   0.50F, 0.2F, 0.8F, 133},
-                  Light());
+    const Colour clouded = Clouds(sky, direction,
+                                  {Mix(Hex(0x4C3C74), Hex(0xC87078), near),
+                                   Mix(Hex(0xB87898), Hex(0xFFE0A8), near), 0.50F, 0.2F, 0.8F, 133},
+                                  Light());
+    return Mix(Hex(0xFFFAE0), clouded, SmoothStep(0.040F, 0.046F, from_sun));
   }
-  Colour Haze(Vec) const override { return Hex(0xE8A484); }
+  Colour Haze(Vec) const override { return Hex(0xDC9480); }
   float HazeCover(float distance) const override {
-    return 0.9F * (1 - std::exp(-std::pow(distance / 560, 1.5F)));
+    return 0.84F * (1 - std::exp(-std::pow(distance / 680, 1.5F)));
   }
   Vec Light() const override { return Unit({-0.62F, 0.34F, 0.52F}); }
 };
@@ -163,7 +164,7 @@ Image PaintEndingStill() {
   DrawHero(canvas, ManModel(0), ManMaterials(), 440, 0.25F);
   DrawHero(canvas, WomanModel(0), WomanMaterials(), 520, -0.2F);
   DrawHill(canvas);
-  return ToSheet(Painted(Shrink(canvas, 2, 2), 1, 0.4F), 224, 6);
+  return ToSheet(Painted(Shrink(canvas, 2, 2), 1, 0.4F), 244, 4);
 }
 
 }  // namespace orvane::paint::scene

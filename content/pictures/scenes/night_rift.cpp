@@ -64,9 +64,9 @@ Colour NightRift::Ground(const Spot& spot) const {
     const float aside = (way.x / way.z - moon.x) / (0.055F + 0.9F / spot.distance);
     const float glint =
         SmoothStep(0.52F, 0.62F, Noise(p.x * 0.5F, p.z * 0.16F, 8)) * std::exp(-aside * aside);
-    return Mix(still, Hex(0xE8DCEC), glint * 0.85F);
+    return Mix(still, Hex(0xE8DCEC), glint * 0.6F);
   }
-  const float light = 0.08F + 0.10F * spot.normal.y + 0.70F * spot.sun + 0.2F * fine;
+  const float light = 0.10F + 0.12F * spot.normal.y + 0.86F * spot.sun + 0.2F * fine;
   const float high = SmoothStep(70, 105, p.y + 60 * fine);
   const float flat = 1 - SmoothStep(0.45F, 0.7F, 1 - spot.normal.y);
   return Mix(OnRamp(rock, light), OnRamp(snow, light), high * flat);
@@ -88,15 +88,15 @@ Colour NightRift::Sky(Vec direction) const {
 }
 
 Colour NightRift::Haze(Vec direction) const {
-  return Mix(Hex(0x8C5080), Hex(0x4C2C70), Clamp(direction.y * 3));
+  return Mix(Hex(0x785088), Hex(0x403478), Clamp(direction.y * 3));
 }
 
 float NightRift::HazeCover(float distance) const {
-  return 0.85F * (1 - std::exp(-std::pow(distance / 620, 1.5F)));
+  return 0.72F * (1 - std::exp(-std::pow(distance / 700, 1.5F)));
 }
 
 Vec NightRift::Light() const {
-  return Unit({-0.72F, 0.52F, 0.34F});
+  return Unit({-0.58F, 0.62F, 0.10F});
 }
 
 }  // namespace orvane::paint::scene

@@ -18,7 +18,7 @@ void Quieten(Canvas& canvas) {
     for (int x = 0; x < canvas.width; ++x) {
       const float off_x = (static_cast<float>(x) - 480) / 420;
       const float off_y = (static_cast<float>(y) - 262) / 190;
-      const float shade = 0.42F * std::exp(-(off_x * off_x + off_y * off_y) * 1.4F);
+      const float shade = 0.34F * std::exp(-(off_x * off_x + off_y * off_y) * 1.4F);
       canvas.At(x, y) = Mix(canvas.At(x, y), Hex(0x140C30), shade);
     }
   }
@@ -32,7 +32,7 @@ Image PaintTitle() {
   Canvas canvas = Painted(painting.canvas, 3, 0.8F);
   Quieten(canvas);
   DrawTitleFigures(canvas);
-  return ToSheet(Shrink(canvas, across, down), 224, 6);
+  return ToSheet(Shrink(canvas, across, down), 240, 4);
 }
 
 }  // namespace orvane::paint::scene

@@ -155,8 +155,8 @@ Sprite RenderTitleDragon() {
   view.Yaw = -0.86F;
   view.Pitch = -0.1F;
   view.Samples = 1;
-  view.Scale = 3;
-  view.Middle = {0, 12, 0};
+  view.Scale = 2.72F;
+  view.Middle = {0, 4, 0};
   view.Contour = 5;
   view.Dither = 0.9F;
   view.Folds = 14;

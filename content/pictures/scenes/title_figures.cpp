@@ -10,20 +10,24 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr int dragon_left = 452;
+constexpr int dragon_left = 486;
 constexpr std::array<uint32_t, 5> rock{0x08061C, 0x141030, 0x28204C, 0x483C70, 0x8478A4};
-constexpr Colour night{0.62F, 0.58F, 0.86F};  // what the night leaves of a colour
+constexpr Colour night{0.52F, 0.46F, 0.78F};  // what the night leaves of a colour
 
 Colour AtNight(Colour day) {
   return {day.r * night.r, day.g * night.g, day.b * night.b};
 }
 
-void LaySprite(Canvas& canvas, const Sprite& sprite, int left, int top, float dark) {
+void LaySprite(Canvas& canvas, const Sprite& sprite, int left, int top, float dark, float deeper) {
   for (int y = 0; y < sprite.Picture.height; ++y) {
     for (int x = 0; x < sprite.Picture.width; ++x) {
       const uint32_t pixel = sprite.Picture.At(x, y);
       if (pixel == 0xFFFFFF) continue;
-      canvas.Blend(left + x, top + y, Mix(Hex(pixel), AtNight(Hex(pixel)), dark));
+      // What is low lies deeper in the night.
+      const float depth = dark + deeper * SmoothStep(0.3F, 1,
+                                                     static_cast<float>(y) /
+                                                         static_cast<float>(sprite.Picture.height));
+      canvas.Blend(left + x, top + y, Mix(Hex(pixel), AtNight(Hex(pixel)), depth));
     }
   }
 }
@@ -65,13 +69,13 @@ void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& m
   view.Light = {-0.6F, 0.8F, 0.2F};
   const Sprite sprite = Render(model, materials, view);
   const int top = static_cast<int>(LedgeTop(x)) - 95;
-  LaySprite(canvas, sprite, static_cast<int>(x) - 55, top, 0.85F);
+  LaySprite(canvas, sprite, static_cast<int>(x) - 55, top, 0.62F, 0);
 }
 
 }  // namespace
 
 void DrawTitleFigures(Canvas& canvas) {
-  LaySprite(canvas, RenderTitleDragon(), dragon_left, 0, 0.55F);
+  LaySprite(canvas, RenderTitleDragon(), dragon_left, 0, 0.45F, 0.95F);
   DrawLedge(canvas);
   DrawHero(canvas, WomanModel(0), WomanMaterials(), 150);
   DrawHero(canvas, ManModel(0), ManMaterials(), 222);

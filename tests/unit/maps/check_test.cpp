@@ -1,0 +1,297 @@
+// The checker must be content with the maps of the game, and must find each fault planted in them.
+#include "tools/maps/check.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tools/maps/distances.h"
+#include "tools/maps/tile_codes.h"
+
+namespace orvane::maps {
+namespace {
+
+constexpr int kGrass = 7;
+constexpr int kTree = 119;
+
+const World& GameWorld() {
+  static const World world = ReadTiledWorld(ORVANE_MAP_SOURCES);
+  return world;
+}
+
+Journey JourneyNamed(const std::string& name) {
+  for (const Journey& journey : AllJourneys()) {
+    if (journey.name == name) return journey;
+  }
+  ADD_FAILURE() << "no journey " << name;
+  return {};
+}
+
+bool Has(const std::vector<Fault>& faults, FaultKind kind) {
+  return std::any_of(faults.begin(), faults.end(),
+                     [&](const Fault& fault) { return fault.kind == kind; });
+}
+
+bool DrawingFault(const World& world, FaultKind kind) {
+  return Has(CheckDrawing(world), kind);
+}
+
+bool WalkingFault(const World& world, FaultKind kind, const std::string& journey = "round 1") {
+  return Has(CheckJourney(world, Explore(world, JourneyNamed(journey))), kind);
+}
+
+struct Spot {
+  int column;
+  int row;
+};
+
+// The first cell of a code on a map; the test fails when there is none.
+Spot Find(const World& world, const Place& place, int code) {
+  for (int column = 0; column < kColumns; ++column) {
+    for (int row = 0; row < kRows; ++row) {
+      if (world.Find(place)->At(column, row) == code) return {column, row};
+    }
+  }
+  ADD_FAILURE() << "no tile " << code << " on " << PlaceName(place);
+  return {0, 0};
+}
+
+// Puts trees on all cells around a cell.
+void Enclose(World& world, const Place& place, const Spot& spot, int reach = 1) {
+  for (int column = spot.column - 1; column <= spot.column + reach; ++column) {
+    for (int row = spot.row - 1; row <= spot.row + reach; ++row) {
+      const bool inside = column >= spot.column && column < spot.column + reach &&
+                          row >= spot.row && row < spot.row + reach;
+      if (!inside) world.maps[place].Set(column, row, kTree);
+    }
+  }
+}
+
+TEST(MapCheck, TheMapsOfTheGameKeepEveryRule) {
+  for (const Fault& fault : CheckWorld(GameWorld())) {
+    ADD_FAILURE() << KindName(fault.kind) << ": " << fault.what;
+  }
+}
+
+TEST(MapCheck, FindsCodesThatAreNotDrawn) {
+  for (const int code : {0, -1, 241}) {
+    World world = GameWorld();
+    world.maps[kStartMap].Set(5, 5, code);
+    EXPECT_TRUE(DrawingFault(world, FaultKind::BadCode)) << code;
+  }
+}
+
+TEST(MapCheck, FindsBordersThatDoNotMatch) {
+  World beside = GameWorld();
+  beside.maps[kStartMap].Set(29, 9, kTree);
+  EXPECT_TRUE(DrawingFault(beside, FaultKind::Border));
+  World below = GameWorld();
+  below.maps[kStartMap].Set(20, 15, kGrass);
+  EXPECT_TRUE(DrawingFault(below, FaultKind::Border));
+  World hidden = GameWorld();
+  hidden.maps[kHiddenMap].Set(0, 3, kGrass);
+  EXPECT_TRUE(DrawingFault(hidden, FaultKind::Border));
+}
+
+TEST(MapCheck, FindsOpenBorders) {
+  struct Hole {
+    Place place;
+    int column;
+    int row;
+  };
+  const Hole holes[] = {
+      {{1, 1}, 12, 0},
+      {{1, 3}, 0, 4},
+      {{5, 3}, 29, 4},
+      {{3, 5}, 12, 15},
+      {kHiddenMap, 29, 8},
+      {kLastStage, 14, 15},
+      {kLastStage, 0, 8},
+      {{0, 0, Room::Fresh}, 0, 9},
+      {{0, 0, Room::BookF}, 14, 0},
+      {{0, 0, Room::Book2}, 29, 5},
+  };
+  for (const Hole& hole : holes) {
+    World world = GameWorld();
+    world.maps[hole.place].Set(hole.column, hole.row, kGrass);
+    EXPECT_TRUE(DrawingFault(world, FaultKind::OpenBorder))
+        << PlaceName(hole.place) << " " << hole.column << "," << hole.row;
+  }
+}
+
+TEST(MapCheck, FindsMisplacedFurniture) {
+  struct Piece {
+    Place place;
+    int column;
+    int row;
+    int code;
+  };
+  const Piece pieces[] = {
+      {{5, 4}, 10, 5, kChest},
+      {kStartMap, 9, 9, kChest},
+      {kStartMap, 9, 9, kBookTopLeft},
+      {kDragonMap, 9, 9, 47},
+      {{4, 3}, 9, 9, kBookFDoor},
+      {{0, 0, Room::Book1}, 11, 8, 116},
+      {{0, 0, Room::Fresh}, 9, 10, kChest},
+  };
+  for (const Piece& piece : pieces) {
+    World world = GameWorld();
+    world.maps[piece.place].Set(piece.column, piece.row, piece.code);
+    EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture)) << piece.code;
+  }
+}
+
+TEST(MapCheck, FindsMissingFurniture) {
+  const std::pair<Place, int> pieces[] = {
+      {kStartMap, kChest},  {{3, 4}, kBookTopLeft}, {kHiddenMap, kBookBottomRight},
+      {{5, 5}, kBookFDoor}, {{1, 1}, 116},          {{3, 5}, 116}};
+  for (const auto& [place, code] : pieces) {
+    World world = GameWorld();
+    const Spot spot = Find(world, place, code);
+    world.maps[place].Set(spot.column, spot.row, kGrass);
+    EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture)) << PlaceName(place) << " " << code;
+  }
+}
+
+TEST(MapCheck, FindsABookChestInPieces) {
+  World world = GameWorld();
+  const Spot spot = Find(world, {3, 4}, kBookTopLeft);
+  world.maps[Place{3, 4}].Set(spot.column, spot.row, kBookTopRight);
+  world.maps[Place{3, 4}].Set(spot.column + 1, spot.row, kBookTopLeft);
+  EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture));
+}
+
+TEST(MapCheck, FindsGoalsOutOfReach) {
+  const std::pair<Place, int> goals[] = {
+      {kStartMap, kChest}, {{1, 5}, kChest},     {{5, 1}, kChest}, {kStartMap, kRecovery},
+      {{1, 1}, 116},       {{5, 5}, kBookFDoor}, {{2, 4}, 47},     {{0, 0, Room::Fresh}, kRecovery},
+  };
+  for (const auto& [place, code] : goals) {
+    World world = GameWorld();
+    Enclose(world, place, Find(world, place, code));
+    EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable)) << PlaceName(place) << " " << code;
+  }
+}
+
+TEST(MapCheck, FindsBookChestsOutOfReach) {
+  World world = GameWorld();
+  Enclose(world, {1, 3}, Find(world, {1, 3}, kBookTopLeft), 2);
+  EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
+  World hidden = GameWorld();
+  Enclose(hidden, kHiddenMap, Find(hidden, kHiddenMap, kBookTopLeft), 2);
+  EXPECT_TRUE(WalkingFault(hidden, FaultKind::Unreachable, "round 3 with nine techniques"));
+  EXPECT_FALSE(WalkingFault(hidden, FaultKind::Unreachable, "round 3"));
+}
+
+TEST(MapCheck, FindsDragonsOutOfReach) {
+  World world = GameWorld();
+  for (int column = 0; column < kColumns; ++column) world.maps[kDragonMap].Set(column, 8, kTree);
+  EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
+  World last = GameWorld();
+  last.maps[kLastStage].Set(14, 4, kTree);
+  EXPECT_TRUE(WalkingFault(last, FaultKind::Unreachable, "last stage"));
+}
+
+TEST(MapCheck, FindsARoomWithoutAWayOut) {
+  World world = GameWorld();
+  for (int column = 0; column < kColumns; ++column) {
+    world.maps[Place{0, 0, Room::Fresh}].Set(column, 15, 204);
+  }
+  EXPECT_TRUE(DrawingFault(world, FaultKind::Unreachable));
+  EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
+  EXPECT_TRUE(WalkingFault(world, FaultKind::Trap));
+}
+
+TEST(MapCheck, FindsALandingOnATileThatBlocks) {
+  World world = GameWorld();
+  world.maps[kStartMap].Set(16, 14, kTree);
+  EXPECT_TRUE(WalkingFault(world, FaultKind::DeadEnd));
+}
+
+TEST(MapCheck, FindsASavedGameThatCannotGoOn) {
+  World world = GameWorld();
+  world.maps[Place{5, 5}].Set(14, 13, kTree);
+  EXPECT_TRUE(WalkingFault(world, FaultKind::DeadEnd));
+}
+
+TEST(MapCheck, FindsTraps) {
+  World world = GameWorld();
+  world.maps[kStartMap].Set(16, 13, kTree);
+  world.maps[kStartMap].Set(15, 14, kTree);
+  world.maps[kStartMap].Set(17, 14, kTree);
+  world.maps[kStartMap].Set(16, 15, kTree);
+  EXPECT_TRUE(WalkingFault(world, FaultKind::Trap));
+}
+
+TEST(MapCheck, FindsFlipFlops) {
+  for (const int row : {7, 9}) {
+    World left = GameWorld();
+    left.maps[kStartMap].Set(1, row, kGrass);
+    EXPECT_TRUE(WalkingFault(left, FaultKind::FlipFlop)) << row;
+  }
+  World right = GameWorld();
+  right.maps[Place{2, 3}].Set(28, 9, kGrass);
+  EXPECT_TRUE(WalkingFault(right, FaultKind::FlipFlop));
+}
+
+TEST(MapCheck, FindsAWayToAMapThatDoesNotExist) {
+  World world = GameWorld();
+  for (int column = 18; column < kColumns; ++column)
+    world.maps[Place{5, 3}].Set(column, 13, kGrass);
+  EXPECT_TRUE(WalkingFault(world, FaultKind::NoSuchMap));
+  World hidden = GameWorld();
+  for (int column = 19; column < kColumns; ++column) hidden.maps[kHiddenMap].Set(column, 8, kGrass);
+  EXPECT_TRUE(WalkingFault(hidden, FaultKind::NoSuchMap, "round 3 with nine techniques"));
+}
+
+TEST(MapCheck, FindsWrongExits) {
+  World room = GameWorld();
+  for (int column = 0; column < 15; ++column) {
+    room.maps[Place{0, 0, Room::Fresh}].Set(column, 11, 206);
+  }
+  EXPECT_TRUE(WalkingFault(room, FaultKind::WrongExit));
+  World last = GameWorld();
+  last.maps[kLastStage].Set(14, 15, 235);
+  EXPECT_TRUE(WalkingFault(last, FaultKind::WrongExit, "last stage"));
+}
+
+TEST(MapCheck, FindsTooLongAWayToRecovery) {
+  World world = GameWorld();
+  for (auto& [place, map] : world.maps) {
+    for (int column = 0; column < kColumns; ++column) {
+      for (int row = 0; row < kRows; ++row) {
+        if (map.At(column, row) == kRecovery && place != kStartMap) map.Set(column, row, kGrass);
+      }
+    }
+  }
+  EXPECT_TRUE(WalkingFault(world, FaultKind::FarFromRecovery));
+}
+
+TEST(Distances, AreToldForEveryGoal) {
+  const Exploration exploration =
+      Explore(GameWorld(), JourneyNamed("round 3 with nine techniques"));
+  const std::vector<Goal> goals = GoalsOf(GameWorld(), exploration);
+  const auto table = StepsBetween(exploration, goals);
+  ASSERT_EQ(goals.front().name, "start");
+  ASSERT_EQ(goals.back().name, "dragon");
+  const auto count = [&](const std::string& first) {
+    return std::count_if(goals.begin(), goals.end(),
+                         [&](const Goal& goal) { return goal.name.rfind(first, 0) == 0; });
+  };
+  EXPECT_EQ(count("chest"), 15);
+  EXPECT_EQ(count("book"), 4);
+  for (size_t from = 0; from + 1 < goals.size(); ++from) {
+    EXPECT_EQ(table[from][from], 0);
+    for (size_t to = 0; to < goals.size(); ++to) {
+      EXPECT_GE(table[from][to], 0) << goals[from].name << " to " << goals[to].name;
+      EXPECT_LE(table[0][to], table[0][from] + table[from][to] + 8)
+          << "a way round cannot be shorter than the shortest, bar a cell's width";
+    }
+  }
+  const std::string text = DistanceTable(GameWorld(), exploration);
+  EXPECT_NE(text.find("chest 5,1"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace orvane::maps

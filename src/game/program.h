@@ -69,6 +69,9 @@ class Program {
   void KeyDown(Key key);
   void KeyUp(Key key);
 
+  // Runs code as an event does: a run-time error in it shows its box and ends the program.
+  void Enter(const Handler& handler);
+
   // One tick of a timer; nothing when it is off, its tick is running, or the program has ended. A
   // front end asks a TimerQueue which timer is due.
   void Tick(Timer& timer);
@@ -76,12 +79,11 @@ class Program {
  private:
   struct Parts;
 
-  // Runs a handler; a run-time error in it shows its box and ends the program.
-  void Enter(const Handler& handler);
   // Brings the screen to the front; says why not.
   Refusal Reach(Screen& screen);
   // The same, and the control can be used.
   Refusal Reach(Control& control);
+  bool KeysReachMain();
 
   Services services_;
   std::optional<RunError> error_;

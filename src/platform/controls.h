@@ -18,7 +18,7 @@ enum class Align { Left, Centre, Right };
 struct LabelValues {
   std::string Caption;
   Colour ForeColor = 0x000000;
-  Font Face;
+  Font Face{};
   Align Alignment = Align::Left;
 };
 

@@ -44,7 +44,8 @@ Timer* TimerQueue::FirstDue(double now) {
 }
 
 void TimerQueue::Begin(Timer& timer, double now) {
-  timer.Due = std::max(timer.Due + Period(timer), now);
+  timer.Due += Period(timer);
+  if (timer.Due <= now) timer.Due = now + Period(timer);
 }
 
 }  // namespace orvane

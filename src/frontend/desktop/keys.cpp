@@ -46,7 +46,9 @@ bool Keys::eventFilter(QObject* watched, QEvent* event) {
       if (!key || key_event->isAutoRepeat()) break;
       if (event->type() == QEvent::KeyPress) {
         Press(*key, key_event->nativeScanCode());
-      } else {
+      } else if (!IsKeyDown(key_event->nativeScanCode()).value_or(false)) {
+        // A repeat comes as a release and a press, and the toolkit does not always see that they
+        // belong together; but the key is still down then.
         Release(*key);
       }
       break;
@@ -67,6 +69,7 @@ bool Keys::eventFilter(QObject* watched, QEvent* event) {
 
 void Keys::Press(Key key, uint32_t native_code) {
   KeyState& state = keys_[static_cast<size_t>(key)];
+  if (state.Down) return;  // a repeat
   state.Down = true;
   state.NativeCode = native_code;
   if (!reaches_()) return;

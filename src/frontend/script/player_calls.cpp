@@ -51,9 +51,24 @@ int Click(Call& call) {
               [&](Program& program) { return program.ClickAt(control, x, y); });
 }
 
+// Labels, frames and separators only show something.
+bool TakesClicks(const Control& control) {
+  switch (control.Kind()) {
+    case ControlKind::Label:
+    case ControlKind::Frame:
+    case ControlKind::Timer:
+      return false;
+    case ControlKind::Menu:
+      return !static_cast<const MenuItem&>(control).IsSeparator();
+    default:
+      return true;
+  }
+}
+
 // can_click(control)
 int CanClickIt(Call& call) {
-  return call.Return(CanClick(ControlOf(call)));
+  const Control& control = ControlOf(call);
+  return call.Return(TakesClicks(control) && CanClick(control));
 }
 
 // choose(list, row)

@@ -31,7 +31,9 @@ int Set(Call& call) {
   if (std::holds_alternative<std::monostate>(value)) {
     throw ScriptError("a value for " + std::string(name), call.Shown(2));
   }
-  session.Run([&] { accessor.Write(value); });
+  const auto write = [&] { accessor.Write(value); };
+  // Opening a tab runs its handler, so this goes in as an event; but an ended program takes none.
+  session.Run([&] { session.HasEnded() ? write() : session.TheProgram().Enter(write); });
   return 0;
 }
 

@@ -31,8 +31,8 @@ void RemoveUnwanted(lua_State* lua) {
 
 // Makes `require` look beside the script first.
 void LookBeside(lua_State* lua, const std::string& file) {
-  std::string folder = std::filesystem::path(file).parent_path().string();
-  if (folder.empty()) folder = ".";
+  const std::string parent = std::filesystem::path(file).parent_path().string();
+  const std::string folder = parent.empty() ? std::string(1, '.') : parent;
   lua_getglobal(lua, "package");
   lua_getfield(lua, -1, "path");
   const std::string others = lua_tostring(lua, -1);

@@ -1,0 +1,19 @@
+// The three attacks of the enemy side, the end of its phase, and the end of the party.
+#pragma once
+
+namespace orvane {
+
+class BattleScreen;
+
+// One frame of the plain attack, of "獄　炎", of "デス･スプリート".
+void EnemyAtaNormal(BattleScreen& battle);
+void EnemyAtaFire(BattleScreen& battle);
+void EnemyAtaDeath(BattleScreen& battle);
+
+// Closes one enemy attack: the next one follows, or the heroes are asked again.
+void AfterEnemyAta(BattleScreen& battle);
+
+// Both heroes have fainted: closes all sound, tells so, and ends the program.
+[[noreturn]] void PartyWiped(BattleScreen& battle);
+
+}  // namespace orvane

@@ -1,0 +1,52 @@
+// What every procedure of the game works on.
+#pragma once
+
+#include "src/core/item_file.h"
+#include "src/core/links.h"
+#include "src/core/main_screen.h"
+#include "src/core/state.h"
+#include "src/platform/game_folder.h"
+#include "src/platform/services.h"
+#include "src/platform/sound.h"
+#include "src/platform/stage.h"
+
+namespace orvane {
+
+struct Game {
+  Game(const std::filesystem::path& path, const Services& front_end)
+      : services(front_end),
+        folder(path),
+        stage(services),
+        sound(services.Sound, folder.PathText()),
+        items(folder),
+        Main(stage, *this) {}
+
+  Services services;
+  GameFolder folder;
+  State state;
+  Stage stage;
+  SoundChannels sound;
+  ItemFile items;
+  Links links;
+  MainScreen Main;
+};
+
+// A draw in [0, 1): single precision, widened before anything is done with it.
+inline double Rnd(Game& game) {
+  return static_cast<double>(game.services.Luck.Draw());
+}
+
+// Seeds the random numbers from the clock.
+inline void Randomize(Game& game) {
+  game.services.Luck.Reseed();
+}
+
+// Reads an item's record into the program's one buffer for it.
+inline void ReadItem(Game& game, int number) {
+  game.items.Read(number, game.state.ItemRec);
+}
+
+// A warning box with an OK button.
+void Warn(Game& game, const std::string& text);
+
+}  // namespace orvane

@@ -1,0 +1,46 @@
+#include "src/core/item_file.h"
+
+#include <cstdint>
+#include <string_view>
+
+#include "src/platform/cp932.h"
+#include "src/platform/error.h"
+
+namespace orvane {
+namespace {
+
+constexpr const char* kFile = "Item.dat";
+constexpr size_t kNameAt = 4;
+constexpr size_t kNameSize = 20;
+constexpr size_t kKindAt = 24;
+constexpr size_t kValueAt = 28;
+
+Int32 LittleEndian(std::string_view bytes, size_t at) {
+  uint32_t value = 0;
+  for (size_t i = 0; i < 4; ++i) {
+    value |= static_cast<uint32_t>(static_cast<unsigned char>(bytes[at + i])) << (8 * i);
+  }
+  return Int32(static_cast<int32_t>(value));
+}
+
+}  // namespace
+
+void ItemFile::CheckComplete() const {
+  const auto bytes = folder_.Read(kFile);
+  if (!bytes || bytes->size() < size_t{RecordSize} * RecordCount)
+    throw RunError(ErrorKind::File, kFile);
+}
+
+void ItemFile::Read(int number, ItemRecord& buffer) const {
+  buffer = ItemRecord();
+  const auto bytes = folder_.Read(kFile);
+  if (!bytes || number < 1 || bytes->size() < size_t{RecordSize} * static_cast<size_t>(number))
+    return;
+  const std::string_view record = std::string_view(*bytes).substr(
+      size_t{RecordSize} * static_cast<size_t>(number - 1), RecordSize);
+  buffer.Name = FromCp932(record.substr(kNameAt, kNameSize));
+  buffer.Kind = LittleEndian(record, kKindAt);
+  buffer.Value = LittleEndian(record, kValueAt);
+}
+
+}  // namespace orvane

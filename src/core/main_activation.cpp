@@ -1,0 +1,89 @@
+#include "src/core/main_activation.h"
+
+#include <string>
+
+#include "src/core/game.h"
+#include "src/core/map_file.h"
+
+namespace orvane {
+namespace {
+
+void EnableMenus(MainScreen& main, bool enabled) {
+  main.m1.Enabled = enabled;
+  main.m2.Enabled = enabled;
+  main.m3.Enabled = enabled;
+}
+
+void StartClosingStory(MainScreen& main) {
+  EnableMenus(main, false);
+  main.Timer1.SetEnabled(false);
+  main.Timer3.SetEnabled(true);
+}
+
+void LeaveTitle(MainScreen& main) {
+  for (Label* label : {&main.Label1, &main.Label2, &main.Label3, &main.Label4})
+    label->Visible = false;
+  main.m11.Enabled = false;
+  main.m12.Enabled = true;
+  main.m2.Enabled = true;
+  main.m3.Enabled = true;
+  main.Picture6.Visible = true;
+}
+
+std::string Gauge(const char* caption, int now, int limit) {
+  return caption + std::to_string(now) + "/" + std::to_string(limit);
+}
+
+}  // namespace
+
+void ActivateMain(Game& game) {
+  const State& state = game.state;
+  MainScreen& main = game.Main;
+  if (state.GameStarted == False) return;
+  const bool could_save = main.m12.Enabled;
+  LeaveTitle(main);
+  ShowStatus(game);
+  if (state.InBook == False) {
+    ReadMapFile(game.folder, GridMapFile(state.MapA, state.MapB), game.state);
+  }
+  if (state.OpeningDone == False) {
+    EnableMenus(main, false);
+    main.Timer3.SetEnabled(true);
+  } else if (state.OpeningDone == True) {
+    main.Timer1.SetEnabled(true);
+  }
+  if (state.BossFight == True) {
+    StartClosingStory(main);
+  } else if (state.LastBossFight == True) {
+    if (state.LastBossDown == False) main.m12.Enabled = false;
+    if (state.LastBossDown == True) StartClosingStory(main);
+  }
+  if (state.LastBossFight == False && !main.Timer3.IsEnabled()) {
+    main.m12.Enabled = true;
+  } else if (main.Timer3.IsEnabled()) {
+    main.m12.Enabled = false;
+  }
+  // The door that led into a room has decided about saving there, and nothing changes it on the
+  // inside.
+  if (state.InBook != False) main.m12.Enabled = could_save;
+}
+
+void ShowStatus(Game& game) {
+  const State& state = game.state;
+  for (int hero = 0; hero < 2; ++hero) {
+    game.Main.Label5[hero * 2].Caption = Gauge("HP ：", state.HP[hero], state.MaxHP[hero]);
+    game.Main.Label5[hero * 2 + 1].Caption = Gauge("MP ：", state.MP[hero], state.MaxMP[hero]);
+  }
+}
+
+void StopWalking(Game& game) {
+  ClearDirections(game);
+  game.state.LastKey = 0;
+}
+
+void ClearDirections(Game& game) {
+  State& state = game.state;
+  state.KeyUp = state.KeyDown = state.KeyLeft = state.KeyRight = False;
+}
+
+}  // namespace orvane

@@ -1,0 +1,65 @@
+#include "src/core/map_file.h"
+
+#include <charconv>
+#include <string_view>
+
+#include "src/platform/error.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+// Reads numbers off a text one by one. A comma ends a number, and so do blanks and line ends;
+// nothing between two commas counts as 0.
+class NumberReader {
+ public:
+  NumberReader(std::string_view text, std::string file) : rest_(text), file_(std::move(file)) {}
+
+  Int16 Next() {
+    SkipBlanks();
+    if (rest_.empty()) throw RunError(ErrorKind::File, file_);
+    const size_t end = std::min(rest_.find_first_of(", \t\r\n"), rest_.size());
+    const std::string_view word = rest_.substr(0, end);
+    rest_.remove_prefix(end);
+    SkipBlanks();
+    if (!rest_.empty() && rest_.front() == ',') rest_.remove_prefix(1);
+    return word.empty() ? Int16(0) : Number(word);
+  }
+
+ private:
+  void SkipBlanks() {
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
+  }
+
+  Int16 Number(std::string_view word) const {
+    const std::string_view digits = word.front() == '+' ? word.substr(1) : word;
+    double value = 0;
+    const auto [end, failed] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (failed == std::errc::result_out_of_range) throw RunError(ErrorKind::Overflow, file_);
+    if (failed != std::errc() || end != digits.data() + digits.size() || value != value) {
+      throw RunError(ErrorKind::Type, file_);
+    }
+    return RoundToInt16(value);
+  }
+
+  std::string_view rest_;
+  std::string file_;
+};
+
+}  // namespace
+
+std::string GridMapFile(int map_a, int map_b) {
+  return "Mapdata/map" + std::to_string(map_b) + "-" + std::to_string(map_a) + ".dat";
+}
+
+void ReadMapFile(const GameFolder& folder, const std::string& name, SharedState& state) {
+  const auto text = folder.Read(name);
+  if (!text) throw RunError(ErrorKind::File, name);
+  NumberReader reader(*text, name);
+  for (int column = 0; column < MapColumns; ++column) {
+    for (int row = 0; row < MapRows; ++row) state.MapTile[column][row] = reader.Next();
+  }
+}
+
+}  // namespace orvane

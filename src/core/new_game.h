@@ -1,0 +1,12 @@
+// A game from the beginning.
+#pragma once
+
+namespace orvane {
+
+struct Game;
+
+// Fills the record and the state around it for a game from the beginning. Leaves alone the names,
+// the copies for the load screen and the proficiency counters. SaveX and SaveY become tile numbers.
+void NewGameDefaults(Game& game);
+
+}  // namespace orvane

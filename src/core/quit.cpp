@@ -1,0 +1,42 @@
+#include "src/core/quit.h"
+
+#include <string>
+
+#include "src/core/game.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kMusicChannels = 8;
+constexpr int kEffectChannels = 10;
+
+bool WantsToQuit(Game& game) {
+  game.Main.Timer1.SetEnabled(false);
+  return game.stage.ShowBox("終了しますか？", "ゲームの終了", BoxButtons::OkCancel) ==
+         BoxAnswer::Ok;
+}
+
+[[noreturn]] void Quit(Game& game) {
+  CloseAllSound(game, kMusicChannels);
+  game.stage.EndProgram(0);
+}
+
+}  // namespace
+
+void AskToQuit(Game& game) {
+  if (WantsToQuit(game)) Quit(game);
+  game.Main.Timer1.SetEnabled(true);
+}
+
+void AskToCloseMain(Game& game) {
+  const bool walking = game.Main.Timer1.IsEnabled();
+  if (WantsToQuit(game)) Quit(game);
+  game.Main.Timer1.SetEnabled(walking);
+}
+
+void CloseAllSound(Game& game, int last_music) {
+  for (int i = 1; i <= last_music; ++i) game.sound.Close("bgm" + std::to_string(i));
+  for (int i = 1; i <= kEffectChannels; ++i) game.sound.Close("snd" + std::to_string(i));
+}
+
+}  // namespace orvane

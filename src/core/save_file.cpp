@@ -1,0 +1,80 @@
+#include "src/core/save_file.h"
+
+#include <cstdint>
+
+#include "src/core/state_table.h"
+#include "src/platform/cp932.h"
+
+namespace orvane {
+namespace {
+
+class Packer {
+ public:
+  void operator()(const char*, const Int16& field) { Number(field, 2); }
+  void operator()(const char*, const Int32& field) { Number(field, 4); }
+  template <int N>
+  void operator()(const char*, const FixedText<N>& field) {
+    Bytes += Cp932Field(field.Full(), N);
+  }
+  template <class T, size_t N>
+  void operator()(const char* name, const Array<T, N>& fields) {
+    for (const T& field : fields) (*this)(name, field);
+  }
+
+  std::string Bytes;
+
+ private:
+  void Number(int value, int size) {
+    const auto bits = static_cast<uint32_t>(value);
+    for (int i = 0; i < size; ++i) Bytes += static_cast<char>(bits >> (8 * i) & 0xFF);
+  }
+};
+
+class Unpacker {
+ public:
+  explicit Unpacker(std::string_view bytes) : bytes_(bytes) {}
+
+  void operator()(const char*, Int16& field) { field = static_cast<int16_t>(Number(2)); }
+  void operator()(const char*, Int32& field) { field = static_cast<int32_t>(Number(4)); }
+  template <int N>
+  void operator()(const char*, FixedText<N>& field) {
+    field = FromCp932(Take(N));
+  }
+  template <class T, size_t N>
+  void operator()(const char* name, Array<T, N>& fields) {
+    for (T& field : fields) (*this)(name, field);
+  }
+
+ private:
+  std::string_view Take(size_t size) {
+    const std::string_view taken = bytes_.substr(0, size);
+    bytes_.remove_prefix(taken.size());
+    return taken;
+  }
+  uint32_t Number(size_t size) {
+    uint32_t bits = 0;
+    int shift = 0;
+    for (const char byte : Take(size)) {
+      bits |= static_cast<uint32_t>(static_cast<unsigned char>(byte)) << shift;
+      shift += 8;
+    }
+    return bits;
+  }
+
+  std::string_view bytes_;
+};
+
+}  // namespace
+
+std::string PackRecord(const GameRecord& record) {
+  Packer packer;
+  VisitRecord(record, packer);
+  return packer.Bytes;
+}
+
+void UnpackRecord(std::string_view bytes, GameRecord& record) {
+  Unpacker unpacker(bytes);
+  VisitRecord(record, unpacker);
+}
+
+}  // namespace orvane

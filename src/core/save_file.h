@@ -1,0 +1,20 @@
+// Save files: one game record of 540 bytes.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "src/core/game_record.h"
+
+namespace orvane {
+
+constexpr size_t SaveFileSize = 540;
+
+// The record as a save file holds it: little-endian numbers, CP932 text padded with blanks.
+std::string PackRecord(const GameRecord& record);
+
+// Reads a record from a save file's bytes. Missing bytes count as zeros, and as blanks in text;
+// what is too much is ignored. Nothing is validated.
+void UnpackRecord(std::string_view bytes, GameRecord& record);
+
+}  // namespace orvane

@@ -1,0 +1,14 @@
+// The picture sheets inside the program.
+#pragma once
+
+#include <string_view>
+
+#include "src/platform/surface.h"
+
+namespace orvane {
+
+// A sheet by its name, "tiles" for example. Throws RunError(File) when the program holds none of
+// that name. Copies share their pixels until they are drawn on.
+const Surface& Sheet(std::string_view name);
+
+}  // namespace orvane

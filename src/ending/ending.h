@@ -1,0 +1,40 @@
+// The ending: credits scroll over a still picture until a last card stands.
+#pragma once
+
+#include "src/core/game.h"
+#include "src/platform/controls.h"
+#include "src/platform/screen.h"
+
+namespace orvane {
+
+class EndingScreen : public Screen {
+ public:
+  explicit EndingScreen(Game& game);
+
+  PictureBox Picture2;  // the still picture
+  PictureBox Picture1;  // the strips of the credits
+  Label Label1;
+  ControlArray<Label> Label2{*this, "Label2"};
+  Timer Timer1;
+
+  Array<Int16, 11> CreditY;  // top edge of each strip on the screen
+  Int16 CreditStep;          // pixels a tick
+  Int16 CreditsDone;         // the last card stands
+
+ protected:
+  void OnActivate(bool entered) override;
+  void OnPress() override;
+  // As a press on the last card, at any time.
+  void OnClose() override;
+
+ private:
+  void Tick();
+  void DrawStrips();
+  void ShowLastCard();
+  [[noreturn]] void EndProgram();
+
+  Game& game_;
+  Surface scene_;
+};
+
+}  // namespace orvane

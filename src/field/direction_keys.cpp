@@ -1,0 +1,80 @@
+#include "src/field/direction_keys.h"
+
+#include <array>
+
+#include "src/core/shared_state.h"
+
+namespace orvane {
+namespace {
+
+// One direction's number, its two flags and its row of the hero sheet.
+struct Slot {
+  int Number;
+  Int16& Driving;
+  Int16& Waiting;
+  int SpriteY;
+};
+
+std::array<Slot, 4> Slots(SharedState& state) {
+  return {{{1, state.KeyUp, state.KeyUpWaiting, 0},
+           {2, state.KeyDown, state.KeyDownWaiting, 64},
+           {3, state.KeyLeft, state.KeyLeftWaiting, 96},
+           {4, state.KeyRight, state.KeyRightWaiting, 32}}};
+}
+
+// The first waiting direction in the order up, down, left, right but for those two, or 0.
+int FirstWaiting(std::array<Slot, 4>& slots, int but, int nor_this) {
+  for (const Slot& slot : slots) {
+    if (slot.Number != but && slot.Number != nor_this && slot.Waiting != False) return slot.Number;
+  }
+  return 0;
+}
+
+bool NoneDrives(const std::array<Slot, 4>& slots) {
+  for (const Slot& slot : slots) {
+    if (slot.Driving != False) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+void DirectionDown(SharedState& state, Direction direction) {
+  const int number = static_cast<int>(direction);
+  std::array<Slot, 4> slots = Slots(state);
+  for (Slot& other : slots) {
+    if (other.Number == number || other.Driving == False) continue;
+    other.Driving = False;
+    state.LastKey = other.Number;
+    other.Waiting = True;
+    break;
+  }
+  Slot& pressed = slots[static_cast<size_t>(number - 1)];
+  pressed.Driving = True;
+  pressed.Waiting = False;
+  state.HeroSpriteY = pressed.SpriteY;
+}
+
+void DirectionUp(SharedState& state, Direction direction) {
+  const int number = static_cast<int>(direction);
+  std::array<Slot, 4> slots = Slots(state);
+  Slot& released = slots[static_cast<size_t>(number - 1)];
+  if (released.Driving == False) {
+    released.Waiting = False;
+    if (state.LastKey == number) state.LastKey = FirstWaiting(slots, number, number);
+    return;
+  }
+  released.Driving = False;
+  const int last = state.LastKey;
+  if (last >= 1 && last <= 4 && last != number) {
+    Slot& next = slots[static_cast<size_t>(last - 1)];
+    next.Driving = True;
+    next.Waiting = False;
+    state.HeroSpriteY = next.SpriteY;
+    const int waiting = FirstWaiting(slots, number, last);
+    if (waiting != 0) state.LastKey = waiting;
+  }
+  if (NoneDrives(slots)) state.LastKey = 0;
+}
+
+}  // namespace orvane

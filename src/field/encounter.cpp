@@ -1,0 +1,66 @@
+#include "src/field/encounter.h"
+
+#include <string>
+
+#include "src/core/game.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kRollSize = 150;
+constexpr int kEncounter = 100;
+
+// The strip before a dragon, by the feet's position.
+bool StandsBefore(const State& state, int lowest_y) {
+  return state.HeroX >= 224 && state.HeroX <= 240 && state.HeroY <= lowest_y;
+}
+
+void CloseFieldMusic(Game& game) {
+  switch (game.state.Round) {
+    case 1:
+      return game.sound.Close("bgm1");
+    case 2:
+      return game.sound.Close("bgm2");
+    case 3:
+      return game.sound.Close("bgm3");
+    default:
+      if (game.state.LastBossFight == True) game.sound.Close("bgm8");
+  }
+}
+
+}  // namespace
+
+void EncounterCheck(Game& game) {
+  State& state = game.state;
+  Randomize(game);
+  state.EncounterRoll = RoundToInt16(Int(Rnd(game) * kRollSize));
+  if (state.EncounterRoll == kEncounter && state.InBook == False && state.LastBossFight == False) {
+    EnterBattle(game);
+  } else if (state.MapA == 4 && state.MapB == 1 && StandsBefore(state, 116)) {
+    state.BossFight = True;
+    EnterBattle(game);
+  } else if (state.LastBossFight == True && StandsBefore(state, 48)) {
+    EnterBattle(game);
+  }
+}
+
+void EnterBattle(Game& game) {
+  LoadBattleSounds(game);
+  game.Main.Timer1.SetEnabled(false);
+  game.links.ShowBattle();
+}
+
+void LoadBattleSounds(Game& game) {
+  CloseFieldMusic(game);
+  const State& state = game.state;
+  if (state.BossFight == False && state.LastBossFight == False) {
+    game.sound.Open("bgm4");
+  } else if (state.BossFight == True) {
+    game.sound.Open("bgm5");
+  } else if (state.LastBossFight == True) {
+    game.sound.Open("bgm6");
+  }
+  for (int channel = 2; channel <= 10; ++channel) game.sound.Open("snd" + std::to_string(channel));
+}
+
+}  // namespace orvane

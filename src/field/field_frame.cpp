@@ -1,0 +1,57 @@
+#include "src/field/field_frame.h"
+
+#include "src/core/game.h"
+#include "src/core/map_file.h"
+#include "src/core/music.h"
+#include "src/field/char_act.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kTilesPerSheetRow = 30;
+constexpr int kTileCodes = 240;
+
+void KeepFieldMusic(Game& game) {
+  switch (game.state.Round) {
+    case 1:
+      return KeepMusic(game, "bgm1");
+    case 2:
+      return KeepMusic(game, "bgm2");
+    case 3:
+      return KeepMusic(game, "bgm3");
+    default:
+      if (game.state.LastBossFight == True) KeepMusic(game, "bgm8");
+  }
+}
+
+}  // namespace
+
+void FieldTick(Game& game) {
+  State& state = game.state;
+  if (state.GameStarted != True) return;
+  state.FieldFrame += 1;
+  KeepFieldMusic(game);
+  DrawMap(game);
+  CharStep(game, state.FieldFrame);
+  if (state.KeyUp == False && state.KeyDown == False && state.KeyLeft == False &&
+      state.KeyRight == False) {
+    DrawHero(game, 0);
+  }
+  game.Main.Picture1.Picture.Refresh();
+}
+
+void DrawMap(Game& game) {
+  Surface& field = game.Main.Picture1.Picture;
+  const Surface& sheet = game.Main.Picture4.Picture;
+  for (int column = 0; column < MapColumns; ++column) {
+    for (int row = 0; row < MapRows; ++row) {
+      const int code = game.state.MapTile[column][row];
+      if (code < 1 || code > kTileCodes) continue;
+      BitBlt(field, column * TileSize, row * TileSize, TileSize, TileSize, sheet,
+             (code - 1) % kTilesPerSheetRow * TileSize, (code - 1) / kTilesPerSheetRow * TileSize,
+             RasterOp::SRCCOPY);
+    }
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,161 @@
+#include "src/field/pickups.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "src/core/game.h"
+#include "src/core/main_activation.h"
+
+namespace orvane {
+namespace {
+
+// What lies on a map, with its item in each round. Every chest tile of the map is the same chest.
+struct Find {
+  int MapA, MapB;
+  int Item[3];
+};
+
+constexpr Find kTreasures[] = {
+    {3, 3, {1, 5, 9}},    {2, 1, {21, 24, 48}}, {2, 2, {29, 32, 27}}, {3, 1, {13, 16, 10}},
+    {1, 1, {2, 6, 35}},   {1, 3, {30, 33, 19}}, {1, 4, {14, 17, 48}}, {1, 5, {22, 25, 11}},
+    {2, 4, {47, 48, 20}}, {4, 5, {3, 7, 49}},   {4, 4, {23, 26, 28}}, {5, 3, {15, 18, 36}},
+    {4, 2, {47, 48, 49}}, {4, 1, {31, 34, 49}}, {5, 1, {4, 8, 12}},
+};
+
+constexpr Find kBooks[] = {
+    {1, 3, {37, 40, 43}},
+    {3, 4, {38, 41, 44}},
+    {3, 2, {39, 42, 45}},
+    {6, 4, {46, 46, 46}},
+};
+
+constexpr int kFirstBook = 37;
+
+// The two kinds of chest differ in their table, in the fields of the record and in a full stop.
+struct ChestKind {
+  const Find* Begin;
+  const Find* End;
+  Int16& No;
+  const char* FullText;
+};
+
+// The chest of the map on screen, or null where the table has none; sets its number.
+const Find* FindHere(State& state, const ChestKind& kind) {
+  const Find* found = std::find_if(kind.Begin, kind.End, [&state](const Find& find) {
+    return find.MapA == state.MapA && find.MapB == state.MapB;
+  });
+  if (found == kind.End) return nullptr;
+  kind.No = static_cast<int>(found - kind.Begin);
+  return found;
+}
+
+int FirstEmptySlot(const State& state) {
+  int slot = 0;
+  while (slot < BagSize && state.Items[slot] != NoItem) ++slot;
+  return slot;
+}
+
+// Puts the round's item of a chest into the slot, if the chest has one for this round.
+bool StoreItem(Game& game, const Find* find, int slot) {
+  State& state = game.state;
+  if (find == nullptr || state.Round < 1 || state.Round > 3 || slot >= BagSize) return false;
+  state.Items[slot] = find->Item[state.Round - 1];
+  ShowItemGot(game, slot);
+  return true;
+}
+
+void WarnOfFullBag(Game& game, const char* text) {
+  Warn(game, text);
+  ClearDirections(game);
+  game.state.OnChest = True;
+}
+
+void StartMessage(Game& game) {
+  game.Main.Timer1.SetEnabled(false);
+  game.Main.Timer2.SetEnabled(true);
+}
+
+}  // namespace
+
+void OpenTreasure(Game& game) {
+  State& state = game.state;
+  const ChestKind kind{std::begin(kTreasures), std::end(kTreasures), state.TreasureNo,
+                       "アイテムがいっぱいです。"};
+  const Find* find = FindHere(state, kind);
+  if (state.TreasureLeft[state.TreasureNo] != True) return;
+  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText);
+  StoreItem(game, find, FirstEmptySlot(state));
+  state.TreasureLeft[state.TreasureNo] = False;
+  state.ItemCount += 1;
+  StartMessage(game);
+}
+
+void OpenBook(Game& game) {
+  State& state = game.state;
+  const ChestKind kind{std::begin(kBooks), std::end(kBooks), state.BookNo,
+                       "アイテムがいっぱいです"};
+  const Find* find = FindHere(state, kind);
+  if (state.BookLeft[state.BookNo] != True) return;
+  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText);
+  const int slot = FirstEmptySlot(state);
+  // Where no slot took a book, the spare slot beyond the bag is read, and its number teaches
+  // nothing.
+  const int taught = StoreItem(game, find, slot) ? slot : BagSize;
+  const int skill = state.Items[taught] - kFirstBook;
+  state.WazaKnown[skill] = True;
+  state.MagicKnown[skill] = True;
+  state.BookLeft[state.BookNo] = False;
+  state.ItemCount += 1;
+  StartMessage(game);
+}
+
+void ShowItemGot(Game& game, int slot) {
+  State& state = game.state;
+  ReadItem(game, state.Items[slot]);
+  int empty = 0;
+  for (int each = 0; each < BagSize; ++each) empty += state.Items[each] == NoItem ? 1 : 0;
+  // One less than the bag holds; the caller counts the new item.
+  state.ItemCount = BagSize - 1 - empty;
+  game.Main.Label6[0].Caption = state.ItemRec.Name.Trimmed();
+  game.Main.Label6[1].Caption = "を手に入れた";
+}
+
+void RecoverAll(Game& game) {
+  State& state = game.state;
+  if (state.OnRecovery == False) {
+    state.RecoveryShown = True;
+    for (int hero = 0; hero < 2; ++hero) {
+      state.HP[hero] = state.MaxHP[hero];
+      state.MP[hero] = state.MaxMP[hero];
+    }
+    StartMessage(game);
+    game.Main.Label6[0].Caption = "HP・MP全回復！";
+    game.Main.Label6[1].Caption = "";
+    game.Main.Picture5.Visible = true;
+  }
+  state.OnRecovery = True;
+}
+
+void MessageTick(Game& game) {
+  State& state = game.state;
+  state.MessageFrame += 1;
+  game.sound.Open("snd1");
+  if (state.MessageFrame == 1) game.sound.Play("snd1");
+  game.Main.Picture5.Visible = true;
+  game.Main.Label7.Visible = state.MessageFrame % 10 >= 5;
+}
+
+void CloseMessage(Game& game) {
+  MainScreen& main = game.Main;
+  main.Picture5.Visible = false;
+  game.state.MessageFrame = 0;
+  ShowStatus(game);
+  game.state.RecoveryShown = False;
+  main.m1.Enabled = true;
+  main.m2.Enabled = true;
+  main.m3.Enabled = true;
+  main.Timer2.SetEnabled(false);
+  main.Timer1.SetEnabled(true);
+}
+
+}  // namespace orvane

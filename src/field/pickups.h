@@ -1,0 +1,26 @@
+// Chests, book chests and recovery points, and their message.
+#pragma once
+
+namespace orvane {
+
+struct Game;
+
+// The chest of the map on screen, if it is still closed: its item for this round goes into the bag.
+void OpenTreasure(Game& game);
+
+// The book chest of the map on screen: its book, which also teaches a technique and a spell.
+void OpenBook(Game& game);
+
+// Heals the party, once per visit.
+void RecoverAll(Game& game);
+
+// Recounts the bag and puts the name of a slot's item into the message.
+void ShowItemGot(Game& game, int slot);
+
+// One tick of Main's Timer2, while a message waits for a click.
+void MessageTick(Game& game);
+
+// Takes a message away; the field goes on.
+void CloseMessage(Game& game);
+
+}  // namespace orvane

@@ -1,0 +1,126 @@
+#include "src/field/story.h"
+
+#include "src/core/game.h"
+#include "src/field/field_frame.h"
+#include "src/field/maps.h"
+#include "src/field/pickups.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kFaceSize = 48;
+
+// Values of StoryNo at which a scene ends.
+constexpr int kOpeningEnd = 20;
+constexpr int kFirstDragonEnd = 23;
+constexpr int kSecondDragonEnd = 27;
+constexpr int kThirdDragonEnd = 31;
+constexpr int kStoryEnd = 45;
+
+void StartNextRound(Game& game) {
+  State& state = game.state;
+  state.StoryNo += 1;
+  state.FieldFrame = state.MessageFrame = state.StoryFrame = state.ActionState = 0;
+  state.BossFight = False;
+  state.Round += 1;
+  state.MapA = 3;
+  state.MapB = 3;
+  state.HeroX = 208;
+  state.HeroY = 112;
+  for (int chest = 0; chest < 15; ++chest) state.TreasureLeft[chest] = True;
+  for (int chest = 0; chest < 4; ++chest) state.BookLeft[chest] = True;
+  ReadMap(game);
+  EndStory(game);
+}
+
+void StartLastStage(Game& game) {
+  State& state = game.state;
+  state.Round = 4;
+  game.Main.m12.Enabled = false;
+  state.StoryNo = kThirdDragonEnd + 1;
+  state.MapA = 0;
+  state.MapB = 0;
+  state.HeroX = 232;
+  state.HeroY = 224;
+  state.BossFight = False;
+  state.LastBossFight = True;
+  ReadMap(game);
+  EndStory(game);
+}
+
+void StartEnding(Game& game) {
+  game.Main.Timer3.SetEnabled(false);
+  game.links.ShowEnding();
+  game.stage.Unload(game.Main);
+}
+
+void StepClosingScene(Game& game) {
+  game.state.StoryNo += 1;
+  switch (game.state.StoryNo) {
+    case kFirstDragonEnd:
+    case kSecondDragonEnd:
+      return StartNextRound(game);
+    case kThirdDragonEnd:
+      return StartLastStage(game);
+    case kStoryEnd:
+      return StartEnding(game);
+    default:
+      return;
+  }
+}
+
+void StepOpening(Game& game) {
+  State& state = game.state;
+  state.StoryNo += 1;
+  if (state.StoryNo != kOpeningEnd) return;
+  state.StoryNo = kOpeningEnd + 1;
+  state.OpeningDone = True;
+  EndStory(game);
+}
+
+}  // namespace
+
+void StoryTick(Game& game) {
+  State& state = game.state;
+  MainScreen& main = game.Main;
+  state.StoryFrame += 2;
+  main.Picture5.Visible = true;
+  main.Label7.Visible = state.StoryFrame % 10 >= 5;
+  main.Label6[0].Visible = false;
+  main.Label6[1].Visible = false;
+  main.Picture9.Visible = true;
+  main.Label8.Visible = true;
+  main.Label8.Caption = state.StoryText[state.StoryNo];
+  const Surface& speaker = state.StoryNo % 2 == 0 ? main.Picture7.Picture : main.Picture8.Picture;
+  BitBlt(main.Picture9.Picture, 0, 0, kFaceSize, kFaceSize, speaker, 0, 0, RasterOp::SRCCOPY);
+  main.Picture9.Picture.Refresh();
+  DrawMap(game);
+  main.Picture1.Picture.Refresh();
+}
+
+void FieldClick(Game& game) {
+  const State& state = game.state;
+  const bool message_waits =
+      state.RecoveryShown == True || (state.RecoveryShown == False && state.LastBossDown == False);
+  if (state.OpeningDone == True && state.BossFight == False && message_waits) {
+    CloseMessage(game);
+  } else if (state.OpeningDone == True && (state.BossFight == True || state.LastBossDown == True)) {
+    StepClosingScene(game);
+  } else if (state.OpeningDone == False) {
+    StepOpening(game);
+  }
+}
+
+void EndStory(Game& game) {
+  MainScreen& main = game.Main;
+  main.Timer3.SetEnabled(false);
+  for (MenuItem* menu : {&main.m1, &main.m2, &main.m3, &main.m12}) menu->Enabled = true;
+  main.Label6[0].Visible = true;
+  main.Label6[1].Visible = true;
+  main.Picture9.Visible = false;
+  main.Label8.Visible = false;
+  main.Picture5.Visible = false;
+  main.Timer1.SetEnabled(true);
+}
+
+}  // namespace orvane

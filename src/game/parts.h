@@ -1,0 +1,44 @@
+// What a program consists of, and how its parts are tied together.
+#pragma once
+
+#include "src/battle/battle_screen.h"
+#include "src/core/game.h"
+#include "src/ending/ending.h"
+#include "src/game/program.h"
+#include "src/screens/chardata.h"
+#include "src/screens/custom.h"
+#include "src/screens/input_name.h"
+#include "src/screens/item.h"
+#include "src/screens/item_use.h"
+#include "src/screens/load.h"
+#include "src/screens/save.h"
+#include "src/screens/version.h"
+#include "src/screens/wepon.h"
+
+namespace orvane {
+
+struct Program::Parts {
+  Parts(const std::filesystem::path& folder, const Services& services);
+
+  Game game;
+  BattleScreen battle;
+  InputNameScreen input_name;
+  SaveScreen save;
+  LoadScreen load;
+  WeponScreen wepon;
+  ItemScreen item;
+  ItemUseScreen item_use;
+  ChardataScreen chardata;
+  CustomScreen custom;
+  VersionScreen version;
+  EndingScreen ending;
+
+ private:
+  void TieLinks();
+  void TieMenus();
+  void TieMain();
+  // Opens a screen from a menu: the field stands still until the screen closes.
+  Handler Opens(Screen& screen);
+};
+
+}  // namespace orvane

@@ -1,0 +1,229 @@
+#include "src/game/program.h"
+
+#include "src/field/direction_keys.h"
+#include "src/game/parts.h"
+#include "src/platform/reach.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kErrorStatus = 1;
+constexpr const char* kErrorTitle = "Orvane";
+
+// Within a click on an item its menu opens first.
+MenuItem* MenuOf(MenuItem& item) {
+  return static_cast<MenuItem*>(item.Parent());
+}
+
+// What a click on a control runs; nothing for those that only show something.
+const Handler* ClickHandler(const Control& control) {
+  switch (control.Kind()) {
+    case ControlKind::Button:
+      return &static_cast<const CommandButton&>(control).OnClick;
+    case ControlKind::Picture:
+      return &static_cast<const PictureBox&>(control).OnClick;
+    case ControlKind::Menu:
+      return &static_cast<const MenuItem&>(control).OnClick;
+    default:
+      return nullptr;
+  }
+}
+
+Direction DirectionOf(Key key) {
+  switch (key) {
+    case Key::Left:
+      return Direction::Left;
+    case Key::Up:
+      return Direction::Up;
+    case Key::Right:
+      return Direction::Right;
+    case Key::Down:
+      return Direction::Down;
+  }
+  return Direction::Up;
+}
+
+void RunClick(const Control& control) {
+  const Handler* handler = ClickHandler(control);
+  if (handler != nullptr && *handler) (*handler)();
+}
+
+Refusal WhyNot(const Control& control) {
+  return control.Name() + (IsShown(control) ? " is disabled" : " is not visible");
+}
+
+}  // namespace
+
+Program::Program(const std::filesystem::path& folder, const Services& services)
+    : services_(services), parts_(std::make_unique<Parts>(folder, services)) {
+  Enter([this] { parts_->game.stage.Show(parts_->game.Main); });
+}
+
+Program::~Program() = default;
+
+Stage& Program::TheStage() {
+  return parts_->game.stage;
+}
+State& Program::TheState() {
+  return parts_->game.state;
+}
+bool Program::HasEnded() {
+  return TheStage().HasEnded();
+}
+int Program::ExitStatus() {
+  return TheStage().ExitStatus();
+}
+
+std::string Program::TextOfError() const {
+  return error_ ? ErrorText(*error_) : std::string();
+}
+
+void Program::Enter(const Handler& handler) {
+  if (HasEnded()) return;
+  try {
+    handler();
+  } catch (const ProgramEnded&) {
+    // The program has ended within the handler, and what was left of it is left out.
+  } catch (const RunError& error) {
+    if (HasEnded()) return;
+    error_ = error;
+    TheStage().MarkEnded(kErrorStatus);
+    services_.Boxes.ShowError({TextOfError(), kErrorTitle, BoxButtons::Ok});
+  }
+}
+
+Refusal Program::Reach(Screen& screen) {
+  if (HasEnded()) return "the program has ended";
+  if (!screen.IsVisible()) return screen.Name() + " is hidden";
+  if (!TheStage().TakesInput(screen))
+    return "a box or a modal screen stands before " + screen.Name();
+  Enter([&] { TheStage().Activate(screen); });
+  if (HasEnded()) return "the program has ended";
+  return TheStage().TakesInput(screen) ? Refusal() : screen.Name() + " has gone";
+}
+
+Refusal Program::Reach(Control& control) {
+  if (Refusal refusal = Reach(control.Owner()); !refusal.empty()) return refusal;
+  return CanUse(control) ? Refusal() : WhyNot(control);
+}
+
+Refusal Program::Click(Control& control) {
+  if (control.Kind() == ControlKind::Menu) {
+    auto& item = static_cast<MenuItem&>(control);
+    if (Refusal refusal = Reach(control); !refusal.empty()) return refusal;
+    if (item.IsSeparator()) return item.Name() + " is a separator";
+    if (MenuItem* menu = MenuOf(item)) Enter([&] { RunClick(*menu); });
+    return ClickItem(item);
+  }
+  if (Refusal refusal = Reach(control); !refusal.empty()) return refusal;
+  if (ClickHandler(control) == nullptr) return control.Name() + " is not there to be clicked";
+  if (!CanClick(control)) return control.Name() + " is covered";
+  Enter([&] { RunClick(control); });
+  return {};
+}
+
+Refusal Program::ClickItem(MenuItem& item) {
+  if (Refusal refusal = Reach(item); !refusal.empty()) return refusal;
+  if (item.IsSeparator()) return item.Name() + " is a separator";
+  Enter([&] { RunClick(item); });
+  return {};
+}
+
+Refusal Program::ClickAt(Control& control, double x, double y) {
+  if (Refusal refusal = Reach(control); !refusal.empty()) return refusal;
+  const double border = control.Border();
+  if (x < 0 || y < 0 || x >= control.At.Width - 2 * border || y >= control.At.Height - 2 * border) {
+    return "the point lies outside " + control.Name();
+  }
+  const Place place = PlaceOnScreen(control);
+  const Control* front =
+      ControlAt(control.Owner(), {place.Left + border + x, place.Top + border + y});
+  if (front != nullptr && CanUse(*front)) Enter([&] { RunClick(*front); });
+  return {};
+}
+
+Refusal Program::Choose(Control& list, int row) {
+  if (Refusal refusal = Reach(list); !refusal.empty()) return refusal;
+  if (!CanClick(list)) return list.Name() + " is covered";
+  const auto choose = [&](ListValues& values, const Handler& handler) -> Refusal {
+    if (row < 0 || row >= static_cast<int>(values.Rows.size())) {
+      return list.Name() + " has no row " + std::to_string(row);
+    }
+    values.ListIndex = row;
+    Enter([&] {
+      if (handler) handler();
+    });
+    return {};
+  };
+  if (list.Kind() == ControlKind::List) {
+    auto& box = static_cast<ListBox&>(list);
+    return choose(box, box.OnClick);
+  }
+  if (list.Kind() == ControlKind::FileList) {
+    auto& box = static_cast<FileListBox&>(list);
+    return choose(box, box.OnClick);
+  }
+  return list.Name() + " is no list";
+}
+
+Refusal Program::SelectTab(TabStrip& tabs, int tab) {
+  if (Refusal refusal = Reach(tabs); !refusal.empty()) return refusal;
+  if (tab < 0 || tab >= tabs.TabCount()) return tabs.Name() + " has no tab " + std::to_string(tab);
+  if (!tabs.TabEnabled(tab))
+    return "tab " + std::to_string(tab) + " of " + tabs.Name() + " is disabled";
+  Enter([&] { tabs.SetTab(tab); });
+  return {};
+}
+
+Refusal Program::EnterText(TextBox& field, const std::string& text) {
+  if (Refusal refusal = Reach(field); !refusal.empty()) return refusal;
+  field.Text = text;
+  return {};
+}
+
+Refusal Program::Slide(Slider& slider, int value) {
+  if (Refusal refusal = Reach(slider); !refusal.empty()) return refusal;
+  if (value < slider.Min || value > slider.Max) return slider.Name() + " does not go that far";
+  slider.Value = value;
+  return {};
+}
+
+Refusal Program::Press(Screen& screen) {
+  if (Refusal refusal = Reach(screen); !refusal.empty()) return refusal;
+  Enter([&] { TheStage().Press(screen); });
+  return {};
+}
+
+Refusal Program::Close(Screen& screen) {
+  if (Refusal refusal = Reach(screen); !refusal.empty()) return refusal;
+  Enter([&] { TheStage().Close(screen); });
+  return {};
+}
+
+Refusal Program::Activate(Screen& screen) {
+  return Reach(screen);
+}
+
+void Program::KeyDown(Key key) {
+  if (KeysReachMain()) Enter([&] { DirectionDown(TheState(), DirectionOf(key)); });
+}
+
+void Program::KeyUp(Key key) {
+  if (KeysReachMain()) Enter([&] { DirectionUp(TheState(), DirectionOf(key)); });
+}
+
+bool Program::KeysReachMain() {
+  const MainScreen& main = parts_->game.Main;
+  return TheStage().Active() == &main && TheStage().TakesInput(main);
+}
+
+void Program::Tick(Timer& timer) {
+  if (!timer.Ticks() || timer.InTick) return;
+  timer.InTick = true;
+  Enter([&] {
+    if (timer.OnTick) timer.OnTick();
+  });
+  timer.InTick = false;
+}
+
+}  // namespace orvane

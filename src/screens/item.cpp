@@ -1,0 +1,103 @@
+#include "src/screens/item.h"
+
+#include <utility>
+
+namespace orvane {
+namespace {
+
+constexpr int kBook = 5;
+constexpr int kRecovery = 6;
+
+// Names count as alike from their first five characters.
+constexpr int kComparedChars = 5;
+
+}  // namespace
+
+ItemScreen::ItemScreen(Game& game)
+    : Screen(game.stage, "Item", "アイテム", 257, 164),
+      Label1(*this, "Label1", {40, 8, 113, 25}, {"アイテムリスト"}),
+      List1(*this, "List1", {8, 32, 153, 124}),
+      Command1(*this, "Command1", {176, 40, 73, 33}, {"使う"}),
+      Command2(*this, "Command2", {176, 80, 73, 33}, {"捨てる"}),
+      Command8(*this, "Command8", {176, 120, 73, 33}, {"整理"}),
+      game_(game) {
+  List1.OnClick = [this] { RowChosen(); };
+  Command1.OnClick = [this] { Use(); };
+  Command2.OnClick = [this] { Discard(); };
+  Command8.OnClick = [this] { Tidy(); };
+}
+
+void ItemScreen::OnActivate(bool) {
+  if (List1.ListIndex < 0) {
+    Command1.Enabled = false;
+    Command2.Enabled = false;
+  }
+  FillItemList(game_, List1);
+}
+
+void ItemScreen::OnClose() {
+  TheStage().Hide(*this);
+  game_.Main.Timer1.SetEnabled(true);
+}
+
+bool ItemScreen::IsWorn() const {
+  const State& state = game_.state;
+  const auto start = [](const ItemNameField& name) {
+    return LeftChars(name.Full(), kComparedChars);
+  };
+  const std::string item = start(state.ItemRec.Name);
+  for (int hero = 0; hero < 2; ++hero) {
+    if (item == start(state.WeaponName[hero]) || item == start(state.ArmourName[hero])) return true;
+  }
+  return false;
+}
+
+void ItemScreen::RowChosen() {
+  const State& state = game_.state;
+  const int item = state.Items[List1.ListIndex];
+  ReadItem(game_, item);
+  Command1.Enabled = state.ItemRec.Kind == kRecovery;
+  Command2.Enabled = item != NoItem && state.ItemRec.Kind != kBook && !IsWorn();
+}
+
+void ItemScreen::Use() {
+  if (game_.state.ItemRec.Kind != kRecovery) return Warn(game_, "使えません。");
+  if (List1.ListIndex >= 0) AskWho();
+}
+
+void ItemScreen::Discard() {
+  State& state = game_.state;
+  if (List1.ListIndex < 0) return;
+  ReadItem(game_, state.Items[List1.ListIndex]);
+  const std::string question = "捨ててもよろしいですか？\n" + state.ItemRec.Name.Full();
+  if (TheStage().ShowBox(question, "アイテム削除", BoxButtons::OkCancel) != BoxAnswer::Ok) return;
+  state.Items[List1.ListIndex] = NoItem;
+  state.ItemCount -= 1;
+  FillItemList(game_, List1);
+  Command2.Enabled = false;
+}
+
+void ItemScreen::Tidy() {
+  SortItems(game_.state);
+  FillItemList(game_, List1);
+}
+
+void FillItemList(Game& game, ListBox& list) {
+  list.Clear();
+  for (int slot = 0; slot < BagSize; ++slot) {
+    const int item = game.state.Items[slot];
+    ReadItem(game, item);
+    list.AddItem(item == NoItem ? std::string("なし") : game.state.ItemRec.Name.Full());
+  }
+}
+
+void SortItems(GameRecord& record) {
+  for (int pass = 0; pass < BagSize; ++pass) {
+    for (int slot = 0; slot + 1 < BagSize; ++slot) {
+      if (record.Items[slot] > record.Items[slot + 1])
+        std::swap(record.Items[slot], record.Items[slot + 1]);
+    }
+  }
+}
+
+}  // namespace orvane

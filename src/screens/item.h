@@ -1,0 +1,43 @@
+// The bag: using, throwing away and tidying its items.
+#pragma once
+
+#include "src/core/game.h"
+#include "src/platform/controls.h"
+#include "src/platform/screen.h"
+
+namespace orvane {
+
+class ItemScreen : public Screen {
+ public:
+  explicit ItemScreen(Game& game);
+
+  Label Label1;
+  ListBox List1;  // row n is slot n of the bag
+  CommandButton Command1, Command2, Command8;
+
+  // Opens the question who is to get the selected item.
+  Handler AskWho;
+
+ protected:
+  void OnActivate(bool entered) override;
+  // Hides the screen; it keeps its controls' states.
+  void OnClose() override;
+
+ private:
+  void RowChosen();
+  void Use();
+  void Discard();
+  void Tidy();
+  bool IsWorn() const;
+
+  Game& game_;
+};
+
+// Fills a list with the twenty slots of the bag: names, "なし" where a slot is empty. Reads every
+// record.
+void FillItemList(Game& game, ListBox& list);
+
+// Sorts the bag by item number; empty slots go to the end.
+void SortItems(GameRecord& record);
+
+}  // namespace orvane

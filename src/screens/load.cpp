@@ -1,0 +1,46 @@
+#include "src/screens/load.h"
+
+#include "src/core/new_game.h"
+#include "src/core/save_file.h"
+
+namespace orvane {
+
+LoadScreen::LoadScreen(Game& game) : SaveDialog(game, "Load", "ロード") {
+  File1.OnClick = [this] { Preview(); };
+  OKButton.OnClick = [this] { Load(); };
+}
+
+void LoadScreen::ReadChosen() {
+  const std::string file = File1.FileName();
+  const auto bytes = game_.folder.Read(file);
+  if (!bytes) throw RunError(ErrorKind::File, file);
+  UnpackRecord(*bytes, game_.state);
+}
+
+void LoadScreen::Preview() {
+  ReadChosen();
+  ShowParty(game_.state.SaveRound, game_.state.SaveName, game_.state.SaveLevel);
+}
+
+void LoadScreen::Load() {
+  State& state = game_.state;
+  if (NothingChosen()) return;
+  ReadChosen();
+  state.GameStarted = True;
+  state.OpeningDone = True;
+  state.MapA = state.SaveMapA;
+  state.MapB = state.SaveMapB;
+  state.HeroX = state.SaveX;
+  state.HeroY = state.SaveY;
+  game_.Main.Command1.Visible = false;
+  game_.Main.m11.Enabled = false;
+  TheStage().Unload(*this);
+}
+
+void LoadScreen::OnUnload() {
+  // Left without loading: the preview is undone.
+  if (game_.state.GameStarted == False) NewGameDefaults(game_);
+  Leave();
+}
+
+}  // namespace orvane

@@ -1,0 +1,35 @@
+#include "src/screens/save.h"
+
+#include "src/core/save_file.h"
+
+namespace orvane {
+
+SaveScreen::SaveScreen(Game& game) : SaveDialog(game, "Save", "セーブ") {
+  OKButton.OnClick = [this] { Save(); };
+}
+
+void SaveScreen::OnLoad() {
+  ListFiles();
+  ShowParty(game_.state.Round, game_.state.HeroName, game_.state.Level);
+}
+
+void SaveScreen::Save() {
+  State& state = game_.state;
+  if (NothingChosen()) return;
+  if (TheStage().ShowBox("よろしいですか？", "ゲームのセーブ", BoxButtons::YesNo) != BoxAnswer::Yes)
+    return;
+  state.SaveRound = state.Round;
+  for (int hero = 0; hero < 2; ++hero) {
+    state.SaveName[hero] = state.HeroName[hero];
+    state.SaveLevel[hero] = state.Level[hero];
+  }
+  state.SaveMapA = state.MapA;
+  state.SaveMapB = state.MapB;
+  state.SaveX = state.HeroX;
+  state.SaveY = state.HeroY;
+  game_.folder.Replace(File1.FileName(), PackRecord(state));
+  game_.Main.Timer1.SetEnabled(true);
+  TheStage().Unload(*this);
+}
+
+}  // namespace orvane

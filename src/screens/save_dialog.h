@@ -1,0 +1,40 @@
+// What the dialogs for saving and loading have in common: a list of save files and a view of the
+// party.
+#pragma once
+
+#include <string>
+
+#include "src/core/game.h"
+#include "src/platform/controls.h"
+#include "src/platform/screen.h"
+
+namespace orvane {
+
+class SaveDialog : public Screen {
+ public:
+  // `verb` is "セーブ" or "ロード".
+  SaveDialog(Game& game, const std::string& name, const std::string& verb);
+
+  Label Label1;
+  FileListBox File1;
+  CommandButton OKButton;
+  Frame Frame1;
+  Label Label4;
+  ControlArray<PictureBox> Picture1{*this, "Picture1"};
+  ControlArray<Label> Label2{*this, "Label2"};
+  ControlArray<Label> Label3{*this, "Label3"};
+
+ protected:
+  // The files that are there now.
+  void ListFiles();
+  // Shows a party: round, names and levels.
+  void ShowParty(int round, const Array<HeroNameField, 3>& names, const Array<Int16, 3>& levels);
+  // True, after a warning, when no file has been chosen.
+  bool NothingChosen();
+  // The dialog goes; the field goes on.
+  void Leave();
+
+  Game& game_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,94 @@
+// orvane-embed OUT.cpp SHEET.png ...: turns picture sheets into a source file. Each becomes one
+// string literal - octal escapes compile far faster than arrays of numbers - in the form that
+// SheetReader reads.
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "tools/paint/png_file.h"
+
+namespace orvane {
+namespace {
+
+constexpr size_t kMostColours = 256;
+constexpr size_t kBytesPerLine = 32;
+
+void Append16(std::string& bytes, size_t value) {
+  bytes += static_cast<char>(value & 0xFF);
+  bytes += static_cast<char>(value >> 8 & 0xFF);
+}
+
+void Append24(std::string& bytes, uint32_t colour) {
+  for (int shift = 16; shift >= 0; shift -= 8) bytes += static_cast<char>(colour >> shift & 0xFF);
+}
+
+std::string Pack(const paint::Image& image) {
+  std::map<uint32_t, size_t> palette;
+  for (const uint32_t pixel : image.pixels) palette.try_emplace(pixel, palette.size());
+  const bool indexed = palette.size() <= kMostColours;
+  std::string bytes;
+  Append16(bytes, static_cast<size_t>(image.width));
+  Append16(bytes, static_cast<size_t>(image.height));
+  Append16(bytes, indexed ? palette.size() : 0);
+  if (indexed) {
+    std::vector<uint32_t> colours(palette.size());
+    for (const auto& [colour, index] : palette) colours[index] = colour;
+    for (const uint32_t colour : colours) Append24(bytes, colour);
+  }
+  for (const uint32_t pixel : image.pixels) {
+    if (indexed) {
+      bytes += static_cast<char>(palette.at(pixel));
+    } else {
+      Append24(bytes, pixel);
+    }
+  }
+  return bytes;
+}
+
+void WriteLiteral(std::ostream& out, const std::string& bytes) {
+  for (size_t at = 0; at < bytes.size(); at += kBytesPerLine) {
+    out << "\n    \"";
+    for (const char byte : bytes.substr(at, kBytesPerLine)) {
+      char escape[5];
+      std::snprintf(escape, sizeof escape, "\\%03o",
+                    static_cast<unsigned>(static_cast<unsigned char>(byte)));
+      out << escape;
+    }
+    out << '"';
+  }
+}
+
+void Run(const std::string& target, const std::vector<std::string>& files) {
+  std::filesystem::create_directories(std::filesystem::path(target).parent_path());
+  std::ofstream out(target);
+  out << "// Made by orvane-embed from the picture sheets.\n#include \"src/core/sheet_data.h\"\n\n"
+         "namespace orvane {\n\nstd::vector<SheetData> AllSheetData() {\n  return {\n";
+  for (const std::string& file : files) {
+    const std::string bytes = Pack(paint::ReadPng(file));
+    out << "      {\"" << std::filesystem::path(file).stem().string() << "\", ";
+    WriteLiteral(out, bytes);
+    out << ", " << bytes.size() << "},\n";
+  }
+  out << "  };\n}\n\n}  // namespace orvane\n";
+  out.close();
+  if (!out) throw std::runtime_error(target + ": cannot write");
+}
+
+}  // namespace
+}  // namespace orvane
+
+int main(int count, char** words) {
+  try {
+    if (count < 2) throw std::runtime_error("usage: orvane-embed OUT.cpp SHEET.png ...");
+    orvane::Run(words[1], std::vector<std::string>(words + 2, words + count));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "orvane-embed: %s\n", error.what());
+    return 1;
+  }
+  return 0;
+}

@@ -20,6 +20,7 @@ using orvane::music::Rendering;
 struct Options {
   std::string pictures;  // a folder for piano rolls and WAV files, or empty
   bool frictions = false;
+  bool stems = false;   // the loudness of each part by itself
   bool silent = false;  // no rendering
   std::vector<std::string> files;
 };
@@ -59,6 +60,20 @@ float Peak(const Rendering& rendering) {
   return peak;
 }
 
+double LoudnessOf(const Rendering& rendering) {
+  return orvane::effects::WholeLoudness(rendering.left, rendering.right);
+}
+
+void PrintStems(const orvane::music::MidiFile& midi, const orvane::music::PieceNotes& piece) {
+  for (size_t track = 1; track < midi.tracks.size(); ++track) {
+    orvane::music::MidiFile stem = midi;
+    stem.tracks = {midi.tracks.front(), midi.tracks[track]};
+    const Rendering rendering =
+        orvane::music::Render(orvane::music::WriteMidi(stem), orvane::music::FindSoundFont(), 0.5);
+    std::cout << "  part " << piece.names[track] << " " << LoudnessOf(rendering) << " LUFS\n";
+  }
+}
+
 // Checks one file and prints what it is; the number of its faults.
 int CheckFile(const std::string& file, const Options& options, std::vector<Loudness>& all) {
   const std::string name = std::filesystem::path(file).stem().string();
@@ -76,9 +91,10 @@ int CheckFile(const std::string& file, const Options& options, std::vector<Loudn
   }
   if (!options.silent) {
     const Rendering rendering = orvane::music::Render(bytes, orvane::music::FindSoundFont(), 0.5);
-    const double loudness = orvane::effects::WholeLoudness(rendering.left, rendering.right);
+    const double loudness = LoudnessOf(rendering);
     const float peak = Peak(rendering);
     std::cout << "  loudness " << loudness << " LUFS, peak " << peak << "\n";
+    if (options.stems) PrintStems(midi, piece);
     if (peak >= 1) faults.emplace_back("clips");
     all.push_back({name, loudness});
     if (!options.pictures.empty()) SaveRendering(folder / (name + ".wav"), rendering);
@@ -122,6 +138,8 @@ int main(int count, char** words) {
     const std::string word = words[i];
     if (word == "--frictions") {
       options.frictions = true;
+    } else if (word == "--stems") {
+      options.stems = true;
     } else if (word == "--silent") {
       options.silent = true;
     } else if (word == "--pictures" && i + 1 < count) {
@@ -131,7 +149,8 @@ int main(int count, char** words) {
     }
   }
   if (options.files.empty()) {
-    std::cerr << "usage: orvane-check-music [--silent] [--frictions] [--pictures FOLDER] MIDI...\n";
+    std::cerr << "usage: orvane-check-music [--silent] [--frictions] [--stems] [--pictures FOLDER] "
+                 "MIDI...\n";
     return 2;
   }
   return Run(options);

@@ -132,7 +132,8 @@ class Player {
   void SetUp() {
     track_.events.push_back(Meta(0, MetaName, part_.name));
     Send(0, 0xC0, static_cast<uint8_t>(part_.instrument->program), 0);
-    Send(0, 0xB0, Volume, Seven(part_.volume + sheet_.score->level));
+    // A synthesizer makes 40 dB of each tenfold volume.
+    Send(0, 0xB0, Volume, Seven(part_.volume * std::pow(10.0, sheet_.score->level / 40)));
     Send(0, 0xB0, Pan, Seven(64 + part_.pan));
     Send(0, 0xB0, Expression, Seven(RestingExpression));
     Send(0, 0xB0, Reverb, Seven(part_.reverb));

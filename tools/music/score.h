@@ -81,7 +81,7 @@ struct Score {
   Key key;
   double tempo = 100;
   Meter meter;
-  int level = 0;  // added to the volume of every part: brings the pieces to one loudness
+  double level = 0;  // dB added to every part: brings the pieces to one loudness
   int poll = 0;   // milliseconds within which the player notices the end; half is cut off the end
   std::vector<Part> parts;
   std::map<std::string, std::vector<DrumRow>> patterns;

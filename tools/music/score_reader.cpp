@@ -115,7 +115,7 @@ class Reader {
     } else if (keyword == "meter") {
       score_.meter = MeterOf(Word(words, 1));
     } else if (keyword == "level") {
-      score_.level = Number(Word(words, 1), -60, 60);
+      score_.level = Number(Word(words, 1), -200, 60) / 10.0;
     } else if (keyword == "poll") {
       score_.poll = Number(Word(words, 1), 0, 200);
     } else if (keyword == "form") {

@@ -69,6 +69,14 @@ Texture Mottle(float size, float depth) {
   };
 }
 
+Texture Flames(float length) {
+  return [=](Touch& touch, float) {
+    const float tip = Clamp(touch.Place.Along / length);
+    const float lick = Noise(touch.At * 0.16F) - 0.5F;
+    return Clamp(0.22F + 0.85F * touch.Front * (1.05F - 0.75F * tip) + 0.25F * lick);
+  };
+}
+
 Texture Strands(float size, float depth) {
   return [=](Touch& touch, float light) {
     const Vec p{touch.At.X / size, touch.At.Y / (size * 4), touch.At.Z / size};

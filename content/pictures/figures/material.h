@@ -16,6 +16,7 @@ struct Touch {
   Spot Place;        // where on its part
   float Blend = 0;   // the softness of its group: tells a torso from its details
   float Facing = 0;  // of the key light: -1 to 1
+  float Front = 0;   // toward the viewer: 0 at the outline, 1 face on
   float Shadow = 1;  // 0 in full shadow
   float Open = 1;    // 0 in a deep fold
   float Rim = 0;     // light from behind
@@ -46,6 +47,8 @@ Texture Membrane(float folds = 3);
 Texture Rings(float step, float depth);
 // Uneven dark and light patches of the given size.
 Texture Mottle(float size, float depth);
+// A body of fire: bright in its middle, dark at its outline, cooler toward its tip at `length`.
+Texture Flames(float length);
 // Strands along the y axis and down the limbs: fur, hair, straw.
 Texture Strands(float size, float depth);
 

@@ -79,6 +79,7 @@ Image PaintMoonEnvoy() {
   m[kWood] = {{0x2C1820, 0x583430, 0x906048}};
   m[kHand] = {{0x384868, 0x6C8CA8, 0xB4D0DC}, 0, 0.2F};
   View view = MonsterView(0.55F, 0.06F);
+  view.Margin = 3;
   view.OnGround = false;
   Sprite sprite = Render(MoonModel(), m, view);
   const std::vector<uint32_t> eyes{0xF8F080, 0xF8A830};

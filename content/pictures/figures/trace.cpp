@@ -97,6 +97,7 @@ class Tracer {
     touch.Normal = near_.NormalAt(at);
     if (Dot(touch.Normal, ahead) > 0.2F) touch.Normal = touch.Normal * -1;
     touch.Facing = Dot(touch.Normal, key_);
+    touch.Front = Clamp(-Dot(touch.Normal, ahead));
     touch.Shadow = touch.Facing > -0.1F ? ShadowAt(at, touch.Normal) : 1.0F;
     touch.Open = OpenAt(at, touch.Normal);
     touch.Rim = std::pow(Clamp(1 + Dot(touch.Normal, ahead)), 2.5F) *

@@ -32,6 +32,9 @@ std::optional<Key> ArrowKey(int key) {
 
 Keys::Keys(Events& events, std::function<bool()> reaches)
     : events_(events), reaches_(std::move(reaches)) {
+  // Where the arrows usually are on X11, until one has been pressed.
+  constexpr std::array<uint32_t, 4> usual_codes = {113, 111, 114, 116};
+  for (size_t i = 0; i < keys_.size(); ++i) keys_[i].NativeCode = usual_codes[i];
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -57,6 +60,8 @@ bool Keys::eventFilter(QObject* watched, QEvent* event) {
       ForgetKeys();
       break;
     case QEvent::WindowActivate:
+      LookAtKeys();
+      [[fallthrough]];
     case QEvent::Hide:
       // A menu or another window has gone, or the keyboard is back.
       SettleLater();
@@ -85,13 +90,13 @@ void Keys::Release(Key key) {
   events_.Send([key](Program& program) { program.KeyUp(key); });
 }
 
-bool Keys::IsDown(const KeyState& state) const {
-  // A release that another program got was not seen here, so the keyboard itself is asked.
-  return IsKeyDown(state.NativeCode).value_or(state.Down);
-}
-
 void Keys::ForgetKeys() {
   for (KeyState& state : keys_) state.Down = false;
+}
+
+void Keys::LookAtKeys() {
+  // What another program got was not seen here, so the keyboard itself is asked.
+  for (KeyState& state : keys_) state.Down = IsKeyDown(state.NativeCode).value_or(state.Down);
 }
 
 void Keys::SettleLater() {
@@ -109,8 +114,9 @@ void Keys::SettleLater() {
 }
 
 void Keys::Settle() {
+  LookAtKeys();
   for (size_t i = 0; i < keys_.size(); ++i) {
-    if (!keys_[i].Held || IsDown(keys_[i])) continue;
+    if (!keys_[i].Held || keys_[i].Down) continue;
     if (!reaches_()) return;
     Release(static_cast<Key>(i));
   }

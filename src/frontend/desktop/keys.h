@@ -36,10 +36,10 @@ class Keys : public QObject {
 
   void Press(Key key, uint32_t native_code);
   void Release(Key key);
-  bool IsDown(const KeyState& state) const;
   void Settle();
   void SettleLater();
   void ForgetKeys();
+  void LookAtKeys();
 
   Events& events_;
   std::function<bool()> reaches_;

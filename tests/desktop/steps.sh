@@ -1,0 +1,145 @@
+# The steps of a play, in the order of run.sh. Each fails when what it waits for does not happen.
+
+# Parts of the first window's client area.
+field="8 0 480 250"
+message="72 8 338 66"
+
+see_title() {
+  wait_for 20 "the title" has_window Orvane
+  wait_for 10 "the focus" has_focus Orvane
+  sleep 0.3
+  shot 1-title
+}
+
+enter_names() {
+  click Orvane 252 200
+  wait_for 10 "the name entry" has_window "$names_title"
+  wait_for 10 "the focus of the name entry" has_focus "$names_title"
+  # The first field has the focus already.
+  xdotool type --delay 30 Gou
+  click "$names_title" 150 128
+  xdotool type --delay 30 Rin
+  sleep 0.2
+  shot 2-names
+  click "$names_title" 280 92
+  wait_for 10 "the end of the name entry" lacks_window "$names_title"
+  sleep 0.5
+  shot 3-opening
+}
+
+# Each click changes the line of the message; after the last the message goes.
+click_through_opening() {
+  local line before
+  for line in $(seq 1 20); do
+    # shellcheck disable=SC2086
+    before=$(sum Orvane $message)
+    click Orvane 40 150
+    # shellcheck disable=SC2086
+    wait_for 5 "line $line of the opening" changes "$before" Orvane $message
+    sleep 0.1
+  done
+  sleep 0.3
+  shot 4-field
+}
+
+# walk_until_still: the field does not change any more.
+is_still() {
+  local before
+  # shellcheck disable=SC2086
+  before=$(sum Orvane $field)
+  sleep 0.4
+  # shellcheck disable=SC2086
+  ! changes "$before" Orvane $field
+}
+
+walk() {
+  local before key
+  wait_for 5 "a field at rest" is_still
+  for key in Left Right; do
+    # shellcheck disable=SC2086
+    before=$(sum Orvane $field)
+    xdotool keydown $key
+    sleep 0.4
+    xdotool keyup $key
+    # shellcheck disable=SC2086
+    changes "$before" Orvane $field || fail "the party does not walk by the $key key"
+    wait_for 3 "the party's halt" is_still
+  done
+  shot 5-walk
+}
+
+# A key that is released while a box has the keyboard does not leave the party walking.
+hold_key_under_box() {
+  xdotool keydown Right
+  sleep 0.1
+  xdotool key alt+F4
+  wait_for 5 "the quit question" has_window ゲームの終了
+  wait_for 5 "the focus of the quit question" has_focus ゲームの終了
+  shot 6-question
+  xdotool keyup Right
+  sleep 0.1
+  xdotool key Escape
+  wait_for 5 "the end of the quit question" lacks_window ゲームの終了
+  wait_for 3 "the party's halt after the box" is_still
+}
+
+find_battle() {
+  local end=$((SECONDS + 120)) key
+  while lacks_window "BATTLE !"; do
+    [ $SECONDS -ge $end ] && fail "no battle came within 120 s of walking"
+    for key in Left Right; do
+      xdotool keydown $key
+      sleep 0.6
+      xdotool keyup $key
+    done
+  done
+  wait_for 5 "the battle's focus" has_focus "BATTLE !"
+  lacks_window Orvane || fail "the field's window stays beside the battle"
+  sleep 0.5
+  shot 7-battle
+}
+
+# Both heroes strike the first enemy that lives, until the panel has come and a click beside it
+# leads back to the field.
+win_battle() {
+  local end=$((SECONDS + 240)) row=1 listed=no acted=no
+  while has_window "BATTLE !"; do
+    [ $SECONDS -ge $end ] && fail "the battle was not won within 240 s"
+    kill -0 "$game_pid" 2>/dev/null || fail "the game ended in the battle"
+    if has_window 警告; then
+      xdotool key Return  # that enemy is dead already
+      row=$((row % 4 + 1))
+      continue
+    fi
+    click "BATTLE !" 48 328
+    sleep 0.15
+    [ $listed = no ] && shot 8-targets && listed=yes
+    click "BATTLE !" 60 $((290 + row * 16))
+    sleep 0.3
+    [ $acted = no ] && shot 9-action && acted=yes
+    # Only the victory's panel makes the scene take clicks; a shot before each keeps the last one.
+    shot 10-victory
+    click "BATTLE !" 20 250
+    sleep 0.1
+  done
+  wait_for 5 "the field after the battle" has_window Orvane
+  wait_for 5 "the focus after the battle" has_focus Orvane
+  wait_for 5 "the party at rest after the battle" is_still
+  shot 11-field-again
+}
+
+quit_game() {
+  local status=0
+  xdotool key alt+F4
+  wait_for 5 "the quit question" has_window ゲームの終了
+  wait_for 5 "the focus of the quit question" has_focus ゲームの終了
+  xdotool key Return
+  for _ in $(seq 100); do
+    kill -0 "$game_pid" 2>/dev/null || break
+    sleep 0.1
+  done
+  kill -0 "$game_pid" 2>/dev/null && fail "the game did not end within 10 s"
+  wait "$game_pid" || status=$?
+  game_pid=
+  [ $status = 0 ] || fail "the game ended with status $status"
+}

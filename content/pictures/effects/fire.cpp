@@ -14,9 +14,9 @@ using std::numbers::pi;
 double InTongue(double x, double y, double root_x, double root_y, double height, double width,
                 double bend) {
   const double t = (root_y - y) / height;
-  if (t < -0.35 || t > 1) return -1;
+  if (t < -0.2 || t > 1) return -1;
   const double middle = root_x + bend * std::sin(2.4 * t) * t;
-  const double swell = t < 0.1 ? std::sqrt(std::max(0.0, 1 - std::pow((0.1 - t) / 0.45, 2)))
+  const double swell = t < 0.1 ? std::sqrt(std::max(0.0, 1 - std::pow((0.1 - t) / 0.3, 2)))
                                : std::pow(1 - (t - 0.1) / 0.9, 0.75);
   return 1 - std::abs(x - middle) / std::max(0.4, width * swell);
 }
@@ -38,13 +38,13 @@ Shape FireBall() {
 
 Shape Flame(int frame) {
   return [frame](double x, double y) -> std::optional<Colour> {
-    const double tall = frame == 0 ? 11 : frame == 1 ? 20 : 17;
-    const double wide = frame == 0 ? 4.6 : 6.6;
-    const double depth = std::max({InTongue(x, y, 0, 8, tall, wide, 2.6),
-                                   InTongue(x, y, -4.4, 8.6, tall * 0.6, wide * 0.55, -2.5),
-                                   InTongue(x, y, 4.6, 8.6, tall * 0.7, wide * 0.5, 2.0)});
+    const double tall = frame == 0 ? 11 : 17;
+    const double wide = frame == 0 ? 5.0 : 7.0;
+    const double depth = std::max({InTongue(x, y, 0, 7.2, tall, wide, 2.6),
+                                   InTongue(x, y, -4.6, 8, tall * 0.6, wide * 0.6, -2.5),
+                                   InTongue(x, y, 4.8, 8, tall * 0.72, wide * 0.55, 2.0)});
     if (depth <= 0) return std::nullopt;
-    const double high = (8 - y) / tall;
+    const double high = (7.2 - y) / tall;
     if (frame == 2 && high > 0.45) return Smoke(1.2 + 2.6 * depth);
     return Fire(0.4 + 5.8 * depth * (1.15 - 0.75 * high));
   };
@@ -83,16 +83,23 @@ Shape Atom(int frame) {
 
 Shape Sun() {
   return [](double x, double y) -> std::optional<Colour> {
+    // Folded into one eighth, so that it stays true when a pixel grows to eighteen.
+    const double far = std::max(std::abs(x), std::abs(y));
+    const double near = std::min(std::abs(x), std::abs(y));
     const double distance = std::hypot(x, y);
-    const double turn = std::atan2(y, x) + 0.2;
-    // Twelve rays, long and short in turn, around a disc.
-    const double ray = std::fmod(turn / (2 * pi) * 12 + 24, 12);
-    const bool longer = static_cast<int>(ray) % 2 == 0;
-    const double aside = std::abs(ray - std::floor(ray) - 0.5) * 2;
-    const double rim = 7.2 + (longer ? 4.1 : 2.2) * (1 - aside);
-    if (distance > rim) return std::nullopt;
-    if (distance < 6.4) return Star(5.8 - 0.42 * std::max(0.0, distance - 2.6));
-    return Star(distance > rim - 0.9 ? 0.5 : 2.4 - (distance - 6.4) * 0.2);
+    if (distance < 7.6) {
+      const double tone = distance < 3.3 ? 5.5 : distance < 4.7 ? 4.5 : distance < 6.7 ? 3.4 : 1.6;
+      return Star(tone);
+    }
+    // A long ray along each axis, a shorter one between, a stub on each side of both.
+    const double between = (far - near) * 0.7071;
+    const double slanted = (far + near) * 0.7071;
+    const bool long_ray = near < (11.6 - far) * 0.95;
+    const bool short_ray = between < (11.2 - slanted) * 0.9;
+    if (!long_ray && !short_ray) return std::nullopt;
+    const double heart =
+        long_ray ? near / ((11.6 - far) * 0.95) : between / ((11.2 - slanted) * 0.9);
+    return Star(heart < 0.5 ? 2.6 : 0.9);
   };
 }
 

@@ -72,21 +72,20 @@ Shape Impact(int frame) {
     const double distance = std::hypot(x, y);
     const double turn = std::atan2(y, x);
     if (frame < 2) {
-      const double rim =
-          (frame == 0 ? 5.6 : 8.2) + (frame == 0 ? 1.6 : 3.0) * std::cos(turn * 7 + 1);
+      const double points = frame == 0 ? 1.6 : 3.2;
+      const double rim = (frame == 0 ? 5.8 : 8.0) + points * std::cos(turn * 6 + 0.5);
       if (distance > rim) return std::nullopt;
-      return Star(5.9 - 5.2 * std::pow(distance / rim, 1.6));
+      return Force(5.9 - 5.4 * std::pow(distance / rim, 1.5));
     }
     // A ring that runs outward and breaks into shards.
-    const double shards = std::cos(turn * 9 + frame * 1.3);
-    const double rim = frame == 2 ? 10.4 + shards : 11.2;
-    const double thick = frame == 2 ? 4.6 : frame == 3 ? 4.4 + 1.4 * shards : 2.6 + 1.8 * shards;
-    if (frame > 2 && shards < (frame == 3 ? -0.55 : 0.1)) return std::nullopt;
-    if (distance > rim || distance < rim - thick) {
-      if (frame == 2 && distance < 3.2) return Star(5);
-      return std::nullopt;
-    }
-    return Star(5.4 - 5.0 * (rim - distance) / thick + (frame == 4 ? -1 : 0));
+    const double shards = std::cos(turn * 8 + frame * 0.8);
+    const double rim = frame == 2 ? 10.2 + 1.2 * shards : 11.3;
+    const double thick = frame == 2 ? 5.4 : 4.8 + 1.8 * shards;
+    if (frame == 2 && distance < 2.8) return Force(5);
+    if (frame > 2 && shards < -0.35) return std::nullopt;
+    if (distance > rim || distance < rim - thick) return std::nullopt;
+    if (rim - distance < 0.9) return Force(1);
+    return Force(5.6 - 5.2 * (rim - distance) / thick);
   };
 }
 
@@ -121,32 +120,39 @@ Shape DarkOrb(int frame) {
 
 Shape Slash(int frame) {
   return [frame](double x, double y) -> std::optional<Colour> {
-    // A crescent from the upper right to the lower left.
-    const double distance = std::hypot(x + 7.5, y + 7.5);
-    const double turn = std::atan2(y + 7.5, x + 7.5) / (pi / 2);
-    const double from = frame == 0 ? -0.12 : frame == 1 ? -0.16 : 0.42;
-    const double to = frame == 0 ? 0.52 : frame == 1 ? 1.16 : 1.2;
+    // A crescent from the upper right to the lower left; its outer edge is the bright one.
+    const double distance = std::hypot(x + 8.5, y + 8.5);
+    const double turn = std::atan2(y + 8.5, x + 8.5) / (pi / 2);
+    const double from = frame == 0 ? -0.14 : frame == 1 ? -0.17 : 0.40;
+    const double to = frame == 0 ? 0.55 : frame == 1 ? 1.17 : 1.14;
     const double along = (turn - from) / (to - from);
     if (along <= 0 || along >= 1) return std::nullopt;
-    const double thick = (frame == 1 ? 7.2 : 4.4) * std::pow(std::sin(pi * along), 0.8);
-    const double inward = 17.6 - distance;
+    const double thick = (frame == 1 ? 9.0 : 5.6) * std::pow(std::sin(pi * along), 0.75);
+    const double inward = 19.0 - distance;
     if (inward < 0 || inward > thick) return std::nullopt;
     const double share = inward / std::max(thick, 0.1);
-    return Steel(share < 0.16 ? 2.4 : share < 0.55 ? 5 : share < 0.76 ? 3 : share < 0.9 ? 1.4 : 0);
+    return Steel(share < 0.14   ? 1.4
+                 : share < 0.50 ? 5
+                 : share < 0.68 ? 3.4
+                 : share < 0.84 ? 2.4
+                                : 0.6);
   };
 }
 
 Shape Thrust() {
   return [](double x, double y) -> std::optional<Colour> {
-    // A lance of light to the left with a burst behind its point.
-    const double along = (x + 11.2) / 22.4;
-    const double width =
-        along < 0.34 ? 4.6 * along / 0.34 : 4.6 * std::pow((1 - along) / 0.66, 0.7);
-    const double lance = 1 - std::abs(y) / std::max(0.4, width);
-    const double ring = 1 - std::abs(std::hypot((x + 3.0) * 2.1, y) - 8.6) / 2.0;
-    const double depth = std::max(lance, 0.8 * ring);
-    if (along < 0 || along > 1 || depth <= 0) return std::nullopt;
-    return Steel(0.4 + 6.4 * depth);
+    // Three lances of light that drive to the left, the middle one longest, from one burst.
+    const auto lance = [&](double middle, double tip, double tail, double half) {
+      const double along = (x - tip) / (tail - tip);
+      if (along < 0 || along > 1) return -1.0;
+      const double width =
+          along < 0.55 ? half * along / 0.55 : half * std::sqrt((1 - along) / 0.45);
+      return 1 - std::abs(y - middle) / std::max(0.5, width);
+    };
+    const double depth = std::max(
+        {lance(0, -11.2, 11.0, 4.6), lance(-6.2, -6.5, 10.0, 2.7), lance(6.2, -6.5, 10.0, 2.7)});
+    if (depth <= 0) return std::nullopt;
+    return Steel(0.5 + 6.2 * depth);
   };
 }
 

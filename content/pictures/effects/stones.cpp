@@ -97,13 +97,13 @@ Shape IceBreaking(int frame) {
     const int count = frame == 1 ? 7 : 6;
     for (int i = 0; i < count; ++i) {
       const double turn = i * 2 * pi / count + 0.4;
-      const double away = frame == 1 ? (i % 2 == 0 ? 6.2 : 8.0) : 7.8;
+      const double away = frame == 1 ? (i % 2 == 0 ? 5.4 : 7.2) : 7.4;
       const double dx = x - away * std::cos(turn);
       const double dy = y - away * std::sin(turn);
       const double along = std::abs(dx * std::cos(turn) + dy * std::sin(turn));
       const double across = -dx * std::sin(turn) + dy * std::cos(turn);
-      const double length = frame == 1 ? 3.3 : 2.2;
-      const double width = (frame == 1 ? 2.3 : 1.5) * (1 - along / length);
+      const double length = frame == 1 ? 4.2 : 3.2;
+      const double width = (frame == 1 ? 3.0 : 2.4) * (1 - along / length);
       if (along > length || std::abs(across) > width) continue;
       return Ice(across < -0.2 ? 5 : across < 0.6 ? 3.5 : 1.5);
     }
@@ -112,12 +112,12 @@ Shape IceBreaking(int frame) {
 }
 
 Shape RockSpire() {
-  return Cluster({{-6.2, 10.6, -0.42, 12, 3.4},
-                  {6.4, 10.6, 0.4, 11, 3.4},
-                  {-2.6, 10.9, -0.14, 18, 4.0},
-                  {3.2, 11, 0.16, 15, 4.2},
-                  {0.2, 11.2, 0.02, 21.6, 3.9}},
-                 0.35, Earth);
+  return Cluster({{-0.6, 10.8, -0.02, 21.4, 5.6},
+                  {-6.4, 10.8, -0.30, 13.5, 4.2},
+                  {6.2, 10.8, 0.28, 12.0, 4.4},
+                  {2.6, 10.9, 0.12, 9.0, 4.6},
+                  {-3.0, 10.9, -0.12, 7.0, 4.0}},
+                 0.30, Earth);
 }
 
 Shape Pillar() {

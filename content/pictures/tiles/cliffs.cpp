@@ -1,6 +1,7 @@
 // The raised plateau with its faces, the grey mountains and the dark rock.
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "content/pictures/tiles/families.h"
 #include "content/pictures/tiles/grounds.h"
@@ -45,16 +46,16 @@ int Overhang(int x) {
 
 constexpr int RimWidth = 6;
 
-// The low wall of rock along a rim: `out` pixels from the outer side, `along` it.
-Colour Rim(int out, int along, bool lit) {
+// The row of boulders along a rim: `out` pixels from the outer side, `along` it. Gives no colour
+// where the boulders leave the grass free.
+std::optional<Colour> Rim(int out, int along, bool lit) {
   if (out == 0) return Rock[0];
-  const int rock = along / 6;
-  const int within = along % 6;
-  const bool gap = within == 5;
-  const int rise = Hash(rock % 8, 0, 456) > 0.5 ? 1 : 0;
-  if (gap || out == RimWidth - 1) return Rock[lit && !gap ? 2 : 1];
-  const int tone = (lit ? 6 : 3) - (out - 1) / 2 * (lit ? 1 : 0) + rise - (within == 4 ? 1 : 0);
-  return Rock[within == 0 && lit ? tone + 1 : tone];
+  const Facet stone = FacetAt((along + 0.5) * 3 / TileSize, (out + 0.2) / 7.0, 3, 1, 641);
+  const double reach = RimWidth - 0.5 + 1.6 * (stone.chance - 0.5) - 2.2 * stone.dx * stone.dx * 4;
+  if (out > reach + 1) return std::nullopt;
+  if (out > reach || stone.edge < 0.16) return Rock[lit ? 1 : 0];
+  const double tone = (lit ? 5.4 : 3.2) - 2.6 * stone.dx - 2.4 * stone.dy;
+  return Rock[static_cast<int>(std::floor(tone))];
 }
 
 Image Plateau() {
@@ -71,14 +72,15 @@ Image Plateau() {
     if (y == lip + 1) return Grass[1];
     if (y == lip) return Grass[3];
     if (y > lip - 3) return Grass[Hash(across, y, 455) > 0.35 ? 6 : 5];
-    if (y < RimWidth && x >= y && 47 - x >= y) return Rim(y, across, true);
-    if (x < RimWidth) return Rim(x, y % TileSize, true);
-    if (47 - x < RimWidth) return Rim(47 - x, y % TileSize, false);
-    // Blades lean over the foot of the rim; in its shade they are dark.
-    const int blades = RimWidth + (Hash(across, 0, 458) > 0.5 ? 1 : 0);
-    const int rows = RimWidth + (Hash(y % TileSize, 0, 457) > 0.5 ? 1 : 0);
-    if (y <= blades || x <= rows) return Grass[1];
-    if (47 - x <= rows) return Grass[6];
+    std::optional<Colour> rim;
+    if (x < TileSize) rim = Rim(x, y % TileSize, true);
+    if (47 - x < TileSize) rim = Rim(47 - x, y % TileSize, false);
+    if (y < TileSize && !rim) rim = Rim(y, across, true);
+    if (rim) return *rim;
+    // Grass grows dark in the shade of the boulders.
+    const int blades = RimWidth + 1 + (Hash(across, 0, 458) > 0.5 ? 1 : 0);
+    const int rows = RimWidth + 1 + (Hash(y % TileSize, 0, 457) > 0.5 ? 1 : 0);
+    if (y <= blades || x <= rows || 47 - x <= rows - 1) return Grass[2];
     return Repeated(grass, x, y);
   });
 }

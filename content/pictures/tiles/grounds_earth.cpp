@@ -54,15 +54,30 @@ Image SandTile(int variant) {
   return tile;
 }
 
-Image GravelTile(int variant) {
-  if (variant == 3) {
-    Image tile = GrassTile(0);
-    for (int i = 0; i < 14; ++i) {
-      Pebble(tile, static_cast<int>(Hash(i, 1, 41) * 14), i * 15 / 14, i % 4 == 0, Gravel[5],
-             Gravel[3], Grass[2]);
-    }
-    return tile;
+namespace {
+
+// Half gravel, half grass, ragged on every side, to stand between the two.
+Image GravelInGrass() {
+  const Image grass = GrassTile(0);
+  const Image gravel = GravelTile(0);
+  const auto bare = [](int x, int y) {
+    return 0.65 * Noise(x / 4.0, y / 4.0, 4, 47) + 0.35 * Noise(x / 2.0, y / 2.0, 8, 48) > 0.5;
+  };
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    if (!bare(x, y)) return bare(x, y + 1) || bare(x + 1, y) ? Grass[5] : grass.At(x, y);
+    return bare(x - 1, y) && bare(x, y - 1) ? gravel.At(x, y) : Gravel[1];
+  });
+  for (int i = 0; i < 5; ++i) {
+    Pebble(tile, static_cast<int>(Hash(i, 1, 41) * 13), 1 + i * 14 / 5, i == 2, Gravel[5],
+           Gravel[3], Gravel[0]);
   }
+  return tile;
+}
+
+}  // namespace
+
+Image GravelTile(int variant) {
+  if (variant == 3) return GravelInGrass();
   Image tile = Fill(TileSize, TileSize, [](int x, int y) {
     const double grain = Grain(x, y, 43);
     return Gravel[grain < 0.30 ? 2 : grain < 0.76 ? 3 : 4];

@@ -12,8 +12,8 @@ enum Stuff { kRobe, kFeather, kGold, kSkin, kHair, kBlade, kSash };
 // One wing: three rows of feathers that fan out from a raised arm.
 void AddWing(Model& model, float side, float spread) {
   const Vec shoulder{3.4F * side, 8, -5};
-  const Vec elbow{(9 + spread) * side, 18, -9};
-  const Vec wrist{(16 + spread * 2) * side, 25, -9};
+  const Vec elbow{(8 + spread) * side, 20, -9};
+  const Vec wrist{(12 + spread * 2) * side, 30, -9};
   const auto along = [&](float t) {
     return t < 0.5F ? Mix(shoulder, elbow, t * 2) : Mix(elbow, wrist, t * 2 - 1);
   };
@@ -29,7 +29,7 @@ void AddWing(Model& model, float side, float spread) {
   for (const auto& [count, length, width, depth] : kRows) {
     for (int i = 0; i < count; ++i) {
       const float t = static_cast<float>(i) / static_cast<float>(count - 1);
-      const float angle = Mix(-1.75F, -0.05F, t * t * 0.6F + t * 0.4F);
+      const float angle = Mix(-1.75F, 0.55F, t * t * 0.5F + t * 0.5F);
       const Vec out{std::cos(angle) * side * 0.85F, std::sin(angle), -0.15F};
       const Vec root = along(0.15F + 0.85F * t) + Vec{0, 0, depth};
       model.Add(kFeather).Leaf(root, root + out * (length * (0.72F + 0.28F * t)), width, 0.9F);
@@ -61,13 +61,13 @@ void AddArms(Model& model) {
       .Ball({-6.8F, 1.2F, 12}, {2, 2, 2});
   model.Add(kRobe, 1, 0.5F).Limb({6.4F, 6.6F, 0}, {10.4F, 4, 3}, 2.7F, 3);
   model.Add(kSkin, 0.8F)
-      .Limb({10.4F, 4, 3}, {12, 10, 9}, 1.9F, 1.6F)
-      .Ball({12.2F, 11, 10}, {2, 2, 2});
+      .Limb({10.4F, 4, 3}, {13, 11, 8}, 1.9F, 1.6F)
+      .Ball({13.2F, 12, 9}, {2, 2, 2});
   // The sword points up and ahead.
-  model.Add(kBlade, 0.3F).Leaf({-6.8F, 1, 12.4F}, {-6.2F, 30, 23}, 1.9F, 0.8F, {1, 0, 0});
+  model.Add(kBlade, 0.3F).Leaf({13.2F, 12, 9}, {17, 40, 15}, 2, 0.8F, {0.7F, 0, -0.7F});
   model.Add(kGold)
-      .Limb({-6.8F, 4.8F, 9.6F}, {-6.8F, 1.4F, 16.6F}, 1, 1)
-      .Limb({-6.8F, -1.6F, 11}, {-6.8F, 3, 13}, 1, 1);
+      .Limb({10.4F, 16, 8}, {16.6F, 15, 11}, 1, 1)
+      .Limb({12.8F, 8.6F, 8}, {13.4F, 14, 9.6F}, 1, 1);
 }
 
 Model AngelModel() {
@@ -92,7 +92,7 @@ Model AngelModel() {
       .Limb({0, 21, 3}, {4, 18, 4.6F}, 1.8F, 0.8F);
   model.Add(kSash).Chain(Arc({0, 16.2F, 0.9F}, {0, 0, 4.8F}, {4.7F, 0, 0}, -1.5F, 1.5F, 1.1F, 1.1F),
                          2);
-  model.Add(kGold, 0).Ring({0, 27, -1}, {6.4F, 0, 0}, {0, 1, 6.2F}, 1);
+  model.Add(kGold, 0).Ring({0, 25.6F, -2}, {6.6F, 0, 0}, {0, 2.6F, 6}, 1);
   model.Finish();
   return model;
 }

@@ -9,13 +9,14 @@ namespace {
 
 enum Stuff { kFur, kBone, kSkin, kEar, kMouth, kTooth, kEye, kBelly };
 
+constexpr float kBodySize = 1.25F;
+
 void AddWings(Model& model) {
   const Vec shoulder{7, 4, -3};
-  const Vec elbow{15, 14, -6};
-  const Vec wrist{23, 22, -6};
-  const std::array<Vec, 4> tips{Vec{36, 15, -7}, Vec{35, 0, -8}, Vec{27, -11, -8},
-                                Vec{16, -14, -7}};
-  const Vec flank{5, -8, -4};
+  const Vec elbow{15, 17, -6};
+  const Vec wrist{21, 27, -6};
+  const std::array<Vec, 4> tips{Vec{34, 26, -7}, Vec{37, 8, -8}, Vec{31, -8, -8}, Vec{20, -17, -7}};
+  const Vec flank{6, -12, -4};
   model.AddPair(kBone, 1, 1).Limb(shoulder, elbow, 2.6F, 2).Limb(elbow, wrist, 2, 1.7F);
   for (const Vec& tip : tips) {
     model.AddPair(kBone, 0.5F)
@@ -31,6 +32,8 @@ void AddWings(Model& model) {
 
 Model BatModel() {
   Model model;
+  AddWings(model);
+  model.Enter({{0, 0, 0}, 0, 0, 0, kBodySize});
   model.Add(kFur, 4, 0).Ball({0, 1, 0}, {11.5F, 11, 10.5F}).Ball({0, -8, -1}, {7, 6, 6.6F});
   model.Add(kBelly, 3, 3).Ball({0, -7, 3.6F}, {5.4F, 5.4F, 4.6F});
   // Tufts that break up the round outline.
@@ -42,7 +45,6 @@ Model BatModel() {
   }
   model.AddPair(kFur, 1, 1.5F).Leaf({4, 8, 1}, {11, 24, -1}, 4.6F, 2, {0.2F, 0, 1});
   model.AddPair(kEar).Leaf({5, 10, 2.4F}, {10.4F, 22, 0.6F}, 2.8F, 1.4F, {0.2F, 0, 1});
-  AddWings(model);
   model.Add(kMouth).Ball({0, -2.6F, 8.2F}, {7.8F, 4.4F, 4});
   model.Add(kFur, 0.6F, 1).Ball({0, 2.4F, 10.6F}, {2.2F, 1.6F, 1.6F});
   model.AddPair(kTooth)
@@ -77,8 +79,8 @@ Image PaintBat() {
   View view = MonsterView(0.42F, 0.02F);
   view.OnGround = false;
   Sprite sprite = Render(BatModel(), m, view);
-  StampAt(sprite, {-3.4F, 4.4F, 10.8F}, {"KK", "KK"}, "K", {0x18040C});
-  StampAt(sprite, {5.2F, 4.4F, 10.4F}, {"K", "K"}, "K", {0x18040C});
+  StampAt(sprite, Vec{-3.4F, 4.4F, 10.8F} * kBodySize, {"KK", "KK"}, "K", {0x18040C});
+  StampAt(sprite, Vec{5.2F, 4.4F, 10.4F} * kBodySize, {"K", "K"}, "K", {0x18040C});
   return PairSheet(sprite, 129, 64, 64);
 }
 

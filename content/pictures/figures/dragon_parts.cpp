@@ -73,7 +73,7 @@ View DragonView(int width, int height, float yaw, float pitch) {
   view.Height = height;
   view.Yaw = yaw;
   view.Pitch = pitch;
-  view.Samples = 4;
+  view.Samples = 5;
   view.Margin = 3;
   view.Contour = 7;
   view.Folds = 14;

@@ -13,14 +13,15 @@ void AddMask(Model& model) {
       .Ball({0, -6, 2}, {8, 7.6F, 6})
       .Ball({0, -11, 4}, {4.2F, 3, 3.6F});
   model.AddPair(kIvory, 1.5F, 1.6F)
-      .Limb({2, 5, 8}, {8.6F, 8.6F, 5}, 2.2F, 1.5F)  // brows drawn together
-      .Ball({6.6F, -2.6F, 6}, {3, 2.4F, 2.2F});      // cheeks
+      .Limb({2, 6, 8}, {8.6F, 10, 5}, 2.4F, 1.6F)  // brows drawn together
+      .Ball({6.6F, -2.6F, 6}, {3, 2.4F, 2.2F});    // cheeks
   model.Add(kIvory, 1.5F, 1.2F)
       .Limb({0, 4, 7.6F}, {0, -1.4F, 9.6F}, 1.5F, 2.2F)
       .Ball({1.6F, -1.8F, 8.6F}, {1.4F, 1.2F, 1.4F})
       .Ball({-1.6F, -1.8F, 8.6F}, {1.4F, 1.2F, 1.4F});
-  model.AddPair(kMouth).Leaf({1.8F, 1.6F, 7.6F}, {8.2F, 4, 5.6F}, 2.1F, 1.6F);
-  model.AddPair(kGold).Ball({4.9F, 2.7F, 8.2F}, {1.7F, 1.6F, 1.0F});
+  model.AddPair(kMouth).Leaf({1.4F, 1.2F, 7.8F}, {9, 4.4F, 5.4F}, 2.5F, 1.7F);
+  model.AddPair(kMouth, 0.5F).Limb({1.0F, 4.4F, 10}, {8.4F, 9.4F, 6.6F}, 1.3F, 0.8F);
+  model.AddPair(kGold).Ball({5, 2.6F, 8.4F}, {2.1F, 1.9F, 1.1F});
   // The grin runs from ear to ear.
   model.Add(kLip, 0.6F)
       .Chain({{{-8.4F, -4, 4.4F}, 1.2F},
@@ -50,7 +51,7 @@ void AddMask(Model& model) {
 
 void AddHair(Model& model) {
   Group& hair = model.Add(kHair, 1.5F, 0);
-  hair.Ball({0, 7, -4}, {12, 10, 7});
+  hair.Ball({0, 7, -4}, {11.4F, 10, 7});
   struct Lock {
     float X;
     float Z;

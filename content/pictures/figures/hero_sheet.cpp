@@ -12,9 +12,10 @@ constexpr int kCellWidth = 24;
 constexpr int kCellHeight = 32;
 constexpr int kMaskFrom = 72;
 constexpr float kQuarter = 1.5707963F;
+constexpr float kSideways = 1.2F;  // not a full profile: more of the face shows
 constexpr std::array<float, 3> kSteps{0, 1, -1};
 // Rows of the sheet: up, right, down, left.
-constexpr std::array<float, 4> kYaws{2 * kQuarter, kQuarter, 0, -kQuarter};
+constexpr std::array<float, 4> kYaws{2 * kQuarter, kSideways, 0, -kSideways};
 
 struct Look {
   uint32_t Lash;
@@ -25,15 +26,18 @@ struct Look {
 
 void DrawFace(Sprite& sprite, int row, const Look& look) {
   const std::vector<uint32_t> colours{look.Lash, look.White, look.Iris, look.Mouth};
-  const Vec eyes = sprite.Eye.Project({0, 5.2F, 5.2F});
-  const int y = static_cast<int>(std::floor(eyes.Y));
+  const std::string letters = "LWIM";
+  const int y = static_cast<int>(std::floor(sprite.Eye.Project({0, 5.2F, 5.2F}).Y));
+  // The eyes stand on whole pixels, the same ones in all frames of a row.
   if (row == 2) {
-    Stamp(sprite, 8, y - 1, {"LL....LL", "WL....LW", "WI....IW"}, "LWIM", colours);
-    Stamp(sprite, 11, y + 4, {"MM"}, "LWIM", colours);
+    Stamp(sprite, 8, y - 1, {"LL....LL", "WL....LW", "WI....IW"}, letters, colours);
+    Stamp(sprite, 11, y + 4, {"MM"}, letters, colours);
   } else if (row == 1) {
-    Stamp(sprite, 14, y - 1, {"LL", "LW", "IW"}, "LWIM", colours);
+    Stamp(sprite, 13, y - 1, {"LL", "LW", "IW"}, letters, colours);
+    Stamp(sprite, 16, y + 4, {"M"}, letters, colours);
   } else if (row == 3) {
-    Stamp(sprite, 8, y - 1, {"LL", "WL", "WI"}, "LWIM", colours);
+    Stamp(sprite, 9, y - 1, {"LL", "WL", "WI"}, letters, colours);
+    Stamp(sprite, 7, y + 4, {"M"}, letters, colours);
   }
 }
 

@@ -52,9 +52,9 @@ void AddHead(Model& model) {
   model.Add(kMouth).Ball({0, -3.8F, 6.4F}, {3.8F, 1.7F, 2});
   model.AddPair(kTooth).Limb({2.6F, -4.6F, 7.8F}, {3, -1.6F, 8.6F}, 1.1F, 0.3F);
   model.Add(kHair, 1, 0.5F)
-      .Chain({{{0, 8, -2}, 2.6F}, {{0, 12.6F, -4}, 3}, {{0, 11, -9}, 2.6F}, {{0, 5, -11}, 0.8F}},
+      .Chain({{{0, 8, -3}, 2.4F}, {{0, 11, -7}, 2.8F}, {{-1, 7, -12}, 2.6F}, {{-2, 0, -13}, 0.6F}},
              3);
-  model.Add(kGold).Ball({0, 9, -2.4F}, {2.6F, 1, 2.6F});
+  model.Add(kGold).Ball({0, 9, -4}, {2.6F, 1.4F, 2.6F});
   model.Leave();
 }
 

@@ -35,16 +35,14 @@ void AddFeeler(Model& model, const Feeler& feeler, float thickness, float root) 
              4, {0, 1, 0});
 }
 
-void AddTeeth(Model& model, float y, float z, float step, int pairs) {
+void AddTeeth(Model& model) {
   Group& teeth = model.Add(kTooth);
-  for (int i = -pairs; i <= pairs; ++i) {
-    const float x = static_cast<float>(i) * step;
-    const float back = z - 0.05F * x * x;
-    teeth.Limb({x, y + 2.6F, back}, {x, y - 1.2F, back + 0.6F}, 1.3F, 0.3F);
-    if (i < pairs) {
-      teeth.Limb({x + step * 0.5F, y - 3.4F, back}, {x + step * 0.5F, y - 0.4F, back + 0.4F}, 1.2F,
-                 0.3F);
-    }
+  for (const float x : {-5.0F, 0.2F, 5.4F}) {
+    const float z = 13.4F - 0.06F * x * x;
+    teeth.Limb({x, -3.6F, z}, {x * 0.95F, -8.6F, z + 0.8F}, 1.8F, 0.3F);
+  }
+  for (const float x : {-2.6F, 3.0F}) {
+    teeth.Limb({x, -12.6F, 13}, {x, -8.8F, 13.6F}, 1.6F, 0.3F);
   }
 }
 
@@ -74,8 +72,8 @@ Model GreenRoperModel() {
   for (const Feeler& feeler : kFeelers) AddFeeler(model, feeler, 3.6F, 6);
   model.Add(kBody, 1, 2).Ring({0, 7.5F, 8.6F}, {6.6F, 0, 0}, {0, 5.8F, 0}, 1.7F);
   model.Add(kEye).Ball({0, 7.5F, 8}, {5.8F, 5, 3.6F});
-  model.Add(kMouth).Ball({0, -7, 9.5F}, {7.6F, 4.2F, 4});
-  AddTeeth(model, -7, 13, 3.2F, 2);
+  model.Add(kMouth).Ball({0, -8, 9}, {8.6F, 5.6F, 4.4F});
+  AddTeeth(model);
   model.Finish();
   return model;
 }

@@ -27,28 +27,28 @@ float LegLight(Touch& touch, float light) {
 // The rind: pores, and darker seams from pole to pole.
 float RindLight(Touch& touch, float light) {
   const float pores = Noise(touch.At * 0.9F);
-  const float seam = std::fabs(std::sin(std::atan2(touch.Normal.X, touch.Normal.Y) * 3));
-  return light * (0.86F + 0.2F * pores) * (0.84F + 0.2F * SmoothStep(0, 0.4F, seam));
+  const float seam = std::fabs(std::sin(std::atan2(touch.Normal.X, touch.Normal.Y) * 4));
+  return light * (0.86F + 0.2F * pores) * (0.8F + 0.2F * SmoothStep(0, 0.4F, seam));
 }
 
 Model SpiderModel() {
   Model model;
   model.Add(kLemon, 4)
-      .Ball({0, 7, -17}, {13, 12, 15})
-      .Limb({0, 8.5F, -26}, {0, 10.5F, -35}, 6, 2.2F);
+      .Ball({0, 11, -16}, {14.5F, 13.5F, 15.5F})
+      .Limb({0, 14, -26}, {0, 18, -35}, 6, 2.2F);
   model.Add(kShell, 3, 1.5F)
       .Ball({0, -1, 3}, {8, 6.5F, 9})
-      .Ball({0, 0.5F, 12}, {6.6F, 5.6F, 6})
+      .Ball({0, 0.5F, 13}, {7.2F, 6, 6.6F})
       .Limb({0, 0, -3}, {0, 3, -7}, 4.4F, 4);
   // The left hand is the far side; the near front leg is raised to strike.
-  static constexpr std::array<Leg, 8> kLegs{{{0.95F, 27, 15, -18},
-                                             {0.50F, 28, 17, -19},
-                                             {-0.15F, 29, 18, -19},
-                                             {-0.75F, 33, 17, -18},
-                                             {2.35F, 27, 20, -2},
-                                             {2.85F, 28, 15, -19},
-                                             {3.4F, 30, 16, -19},
-                                             {3.95F, 34, 18, -19}}};
+  static constexpr std::array<Leg, 8> kLegs{{{1.3F, 25, 13, -17},
+                                             {0.8F, 28, 15, -19},
+                                             {0.15F, 29, 16, -19},
+                                             {-0.45F, 32, 15, -18},
+                                             {2.5F, 26, 14, -19},
+                                             {2.9F, 30, 12, -19},
+                                             {3.25F, 32, 13, -19},
+                                             {3.75F, 35, 15, -19}}};
   for (size_t i = 0; i < kLegs.size(); ++i) {
     const Leg& leg = kLegs[i];
     const Vec out = Around(leg.Angle, 1, 0, 1);

@@ -35,27 +35,28 @@ Model StarModel() {
   star.Ball({0, 0, 1.4F}, {9.4F, 9.4F, 6.8F});
   model.Add(kLid, 1, 1).Ring({0, 0.6F, 6.6F}, {6, 0, 0}, {0, 5, 0.6F}, 1.4F);
   model.Add(kEye).Ball({0, 0.6F, 6.2F}, {5.4F, 4.6F, 3});
-  // Three streams behind it, waving apart.
+  // Three streams behind it, falling away to the lower left and waving apart.
   struct Stream {
     int Stuff;
-    float Height;
+    float Aside;
     float Sway;
     float Length;
   };
   static constexpr std::array<Stream, 3> kStreams{
-      {{kTailA, 5, 7, 17}, {kTailB, 0, -3, 22}, {kTailC, -5, -8, 17}}};
-  for (const auto& [stuff, height, sway, length] : kStreams) {
+      {{kTailA, 5.5F, 4, 27}, {kTailB, 0, -3, 34}, {kTailC, -5.5F, -4, 27}}};
+  const Vec along{-0.78F, -0.6F, -0.3F};
+  const Vec aside{-0.6F, 0.78F, 0};
+  for (const auto& [stuff, off, sway, length] : kStreams) {
     model.Add(stuff, 1.5F)
-        .Chain({{{-4, height, -5}, 5.4F},
-                {{-length * 0.45F, height * 1.3F + sway * 0.3F, -8}, 4.4F},
-                {{-length * 0.8F, height * 1.5F + sway, -10}, 2.8F},
-                {{-length * 1.15F, height * 1.5F + sway * 0.3F, -12}, 0.5F}},
+        .Chain({{Vec{0, 0, -5} + aside * off, 6},
+                {along * (length * 0.5F) + aside * (off * 1.5F - sway), 5},
+                {along * (length * 0.85F) + aside * (off * 1.8F + sway), 3.4F},
+                {along * (length * 1.2F) + aside * (off * 1.7F - sway), 0.5F}},
                5);
   }
-  AddSpark(model, {14, 17, 4}, 3.4F);
-  AddSpark(model, {16, -14, 4}, 2.6F);
-  AddSpark(model, {-14, 19, -2}, 2.4F);
-  AddSpark(model, {-17, -18, -2}, 2.6F);
+  AddSpark(model, {-11, 15, 4}, 3.2F);
+  AddSpark(model, {-20, 6, 0}, 2.2F);
+  AddSpark(model, {10, -20, 4}, 2.8F);
   model.Finish();
   return model;
 }

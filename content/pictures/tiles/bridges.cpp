@@ -32,7 +32,7 @@ Image BridgeMiddle(bool level) {
 }
 
 void Post(Image& tile, int x, int y) {
-  Stamp(tile, x, y, {".kkk.", "klhmk", "kmmdk", "khmdk", "klmdk", "klmdk", "kmmdk", "ssss."},
+  Stamp(tile, x, y, {".kkk.", "klhmk", "kmmdk", "khmdk", "klmdk", "klmdk", "kmmdk"},
         {{'k', Wood[0]},
          {'l', Wood[4]},
          {'h', Wood[5]},

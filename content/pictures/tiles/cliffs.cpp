@@ -89,6 +89,7 @@ Image Plateau() {
 struct Massif {
   const Image& Scree;
   const Ramp<8>& Tones;
+  const Ramp<8>& TopTones;  // close to each other, so that large masses stay calm
   double (*TopTone)(int, int);
   int Stratum;
   double Lift;  // added to the tones of the face
@@ -105,11 +106,16 @@ Colour InMassif(const PatchSpot& spot, const Massif& massif) {
   const int brow = 34 + static_cast<int>(2.4 * Noise(spot.x / 4.0, 0.5, 4, massif.Stratum));
   double tone = 0;
   if (spot.y < brow) {
-    tone = massif.TopTone(spot.x, spot.y);
-    if (spot.y >= brow - 2) tone = spot.y == brow - 1 ? 6.6 : 5.2;
-    if (to_light && spot.depth < 2.4) tone = 6;
-    if (to_light && spot.depth >= 2.4 && spot.depth < 4) tone += 1;
-    if (spot.facing_x > 0.6 && spot.depth < 4) tone -= 1.0;
+    // The rims catch the light; only between them lies the calm top.
+    if (spot.y >= brow - 2) {
+      tone = spot.y == brow - 1 ? 6.6 : 5.2;
+    } else if (to_light && spot.depth < 2.4) {
+      tone = 6;
+    } else {
+      const double top = massif.TopTone(spot.x, spot.y) + (to_light && spot.depth < 4 ? 1.5 : 0) -
+                         (spot.facing_x > 0.6 && spot.depth < 4 ? 1.5 : 0);
+      return massif.TopTones[static_cast<int>(std::floor(std::clamp(top, 0.0, 7.0)))];
+    }
   } else {
     tone = FaceTone(spot.x, spot.y, massif.Stratum) + massif.Lift;
     if (spot.y < brow + 2) tone -= 1.4;
@@ -121,12 +127,12 @@ Colour InMassif(const PatchSpot& spot, const Massif& massif) {
 
 Colour Mountain(const PatchSpot& spot) {
   static const Image scree = GravelTile(0);
-  return InMassif(spot, {scree, Rock, PeakTone, LipStratum, 0});
+  return InMassif(spot, {scree, Rock, Summit, SummitTone, LipStratum, 0});
 }
 
 Colour DarkRock(const PatchSpot& spot) {
   static const Image scree = WasteTile(0);
-  return InMassif(spot, {scree, Dark, RoofTone, DarkStratum, -0.2});
+  return InMassif(spot, {scree, Dark, Dark, CaveTopTone, DarkStratum, -0.2});
 }
 
 }  // namespace

@@ -61,7 +61,7 @@ Image GravelInGrass() {
   const Image grass = GrassTile(0);
   const Image gravel = GravelTile(0);
   const auto bare = [](int x, int y) {
-    return 0.65 * Noise(x / 4.0, y / 4.0, 4, 47) + 0.35 * Noise(x / 2.0, y / 2.0, 8, 48) > 0.5;
+    return 0.65 * Noise(x / 4.0, y / 4.0, 4, 47) + 0.35 * Noise(x / 2.0, y / 2.0, 8, 48) > 0.55;
   };
   Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
     if (!bare(x, y)) return bare(x, y + 1) || bare(x + 1, y) ? Grass[5] : grass.At(x, y);

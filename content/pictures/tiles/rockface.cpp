@@ -54,49 +54,18 @@ double FaceTone(int x, int y, int stratum) {
   return 1;
 }
 
-double PeakTone(int x, int y) {
-  // Two peaks in a tile, the later one nearer; each hides what stands behind it.
-  struct Peak {
-    int x;
-    int y;
-    double left;  // how fast its sides spread
-    double right;
-  };
-  constexpr std::array<Peak, 2> Peaks{{{4, 0, 0.62, 0.62}, {12, 8, 0.62, 0.55}}};
-  constexpr std::array<int, 20> Ridge{0, 0, 0, 1, 1, 0, 0, -1, -1, 0, 1, 1, 2, 1, 1, 0, 0, 1, 1, 1};
-  double tone = 1;
-  int nearest = -100;
-  for (int row = -2; row <= 1; ++row) {
-    for (const Peak& peak : Peaks) {
-      for (int column = -2; column <= 2; ++column) {
-        const int py = peak.y + row * TileSize;
-        const int down = Rest(y) - py;
-        const int aside = Rest(x) - peak.x - column * TileSize;
-        if (down < 0 || down >= static_cast<int>(Ridge.size()) || py < nearest) continue;
-        const double left = -down * peak.left - 0.4 - 0.8 * Hash(down, peak.x, 3);
-        const double right = down * peak.right + 0.4 + 0.8 * Hash(down, peak.x, 4);
-        if (aside < left || aside > right) continue;
-        nearest = py;
-        const int ridge = Ridge[static_cast<size_t>(down)];
-        if (aside <= ridge) {
-          // The lit side, with gullies that run down to the left.
-          tone = 5.7 - 0.17 * down;
-          const bool gully = (down * 2 + aside * 2 + 64) % 14 < 4;
-          if (down > 5 && gully && aside < ridge - 2) tone -= 1.5;
-          if (aside == ridge) tone += 0.9;
-          if (down < 2) tone = 7;
-        } else {
-          tone = 2.6 - 0.08 * down;
-          if (down > 5 && (down * 2 - aside * 2 + 64) % 14 < 3) tone += 1.0;
-          if (aside > right - 1) tone -= 1;
-        }
-      }
-    }
-  }
-  return tone;
+double SummitTone(int x, int y) {
+  const double bent_x = x + 0.5 + 3 * (Noise(x / 4.0, y / 4.0, 4, 10) - 0.5);
+  const double bent_y = y + 0.5 + 3 * (Noise(x / 4.0, y / 4.0, 4, 11) - 0.5);
+  const Facet block = FacetAt(bent_x * 3 / TileSize, bent_y * 2 / TileSize, 3, 2, 749);
+  const double slant = block.dx + block.dy;
+  if (block.edge < 0.08) return 0.8;
+  if (block.edge < 0.20 && slant < -0.05) return 5.8;
+  const double grain = Noise(x / 2.0, y / 2.0, 8, 668) - 0.5;
+  return 3.2 - 2.4 * slant + 1.8 * (block.chance - 0.5) + 1.2 * grain;
 }
 
-double RoofTone(int x, int y) {
+double CaveTopTone(int x, int y) {
   const Facet facet = FacetAt((x + 0.5) * 2 / TileSize, (y + 0.5) * 2 / TileSize, 2, 2, 613);
   if (facet.edge < 0.10) return 0.4;
   const double slant = facet.dx + facet.dy;

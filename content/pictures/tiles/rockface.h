@@ -10,9 +10,9 @@ namespace orvane::paint::tiles {
 double FaceTone(int x, int y, int stratum);
 
 // The tone of mountain tops that repeat every tile in both directions.
-double PeakTone(int x, int y);
+double SummitTone(int x, int y);
 
 // The tone of dark rock seen from above, without any light on it; repeats every tile.
-double RoofTone(int x, int y);
+double CaveTopTone(int x, int y);
 
 }  // namespace orvane::paint::tiles

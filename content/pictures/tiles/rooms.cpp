@@ -147,16 +147,16 @@ Image LastStairs() {
   });
 }
 
+// Faint stars only: a bright one would come back in every tile and show the grid.
 Image Void() {
   Image tile = Fill(TileSize, TileSize, [](int x, int y) -> Colour {
     const double cloud =
         0.6 * Noise(x / 4.0, y / 4.0, 4, 531) + 0.4 * Noise(x / 2.0, y / 2.0, 8, 532);
-    return cloud > 0.66 ? 0x281848U : cloud > 0.54 ? 0x1C1038U : 0x100828U;
+    return cloud > 0.62 ? 0x1A1034 : cloud > 0.50 ? 0x150C2C : 0x110926;
   });
-  Set(tile, 3, 4, 0xC8C0F0);
-  Set(tile, 12, 9, 0x8878C8);
-  Set(tile, 8, 13, 0xF4F0FC);
-  Set(tile, 14, 2, 0x5C4C98);
+  Set(tile, 3, 4, 0x4C4080);
+  Set(tile, 12, 10, 0x382C64);
+  Set(tile, 7, 13, 0x2C2254);
   return tile;
 }
 

@@ -71,19 +71,20 @@ Colour MoltenRock(const PatchSpot& spot) {
   return Repeated(waste, spot.x, spot.y);
 }
 
-// Flat stones in deep water.
+// Flat stones in deep water, near enough to each other to step across in any direction.
 Image SteppingStones() {
   Image tile = WaterTile(0);
   const Key key = {{'l', Gravel[5]}, {'m', Gravel[4]}, {'n', Gravel[3]},
                    {'d', Gravel[1]}, {'s', Water[0]},  {'f', Water[6]}};
-  const auto stone = [&](int x, int y) {
-    Stamp(tile, x, y, {".llll..", "lmmmmn.", "lmmmnnd", "mmmnnnd", "dnnnndd", "fdddddf", ".fsssf."},
-          key);
-  };
-  stone(0, 0);
-  stone(8, 1);
-  stone(1, 8);
-  stone(9, 9);
+  Stamp(tile, 0, 0,
+        {"..lllllll..", ".lllmmmmmn.", "llmmmmmmmnn", "lmmmmmmmnnd", "mmmmmmmnnnd", "nmmmmnnnndd",
+         "fnnnnnddddf", ".fddddddff.", "..ssssss..."},
+        key);
+  Stamp(tile, 7, 8,
+        {"..lllll..", ".lllmmmn.", "llmmmmmnd", "mmmmmmnnd", "nmmmnnndd", "fnnddddff", ".fsssss.."},
+        key);
+  Stamp(tile, 0, 9, {".llll.", "llmmnd", "mmmnnd", "nnnddf", ".fsss."}, key);
+  Stamp(tile, 11, 1, {".lll.", "lmmnd", "mmnnd", "ndddf", ".sss."}, key);
   return tile;
 }
 
@@ -118,25 +119,27 @@ Image MarshPlanks() {
   return tile;
 }
 
-// A pool that fills its tile almost whole, so that pools side by side run together.
+// Standing water with moss afloat. It reaches the border all around, so that pools side by side run
+// together; the moss at the border is the same in both and breaks the shore to the wet ground.
 Image MarshPool(int variant) {
   const Image marsh = MarshTile(0);
+  const auto mossy = [&](int x, int y) {
+    const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
+    return 0.6 * Noise(x / 4.0, y / 4.0, 4, 341) + 0.4 * Noise(x / 2.0, y / 2.0, 8, 342) -
+               0.06 * std::min(inward, 4.0) >
+           0.50;
+  };
   Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
-    const double dx = std::max(std::abs(x - 7.5) - 5.0, 0.0);
-    const double dy = std::max(std::abs(y - 7.5) - 4.0, 0.0);
-    const double reach =
-        std::hypot(dx, dy) + 2.2 * (Noise(x / 3.0, y / 3.0, 0, 331 + variant) - 0.5);
-    if (reach > 3.0) return marsh.At(x, y);
-    if (reach > 2.0) return y < 8 ? Marsh[0] : Pool[4];
-    if (reach > 1.0 && y < 8) return Pool[0];
-    const double ripple = Noise(x / 4.0, y / 1.5, 0, 335 + variant);
-    return Pool[ripple > 0.70 ? 3 : ripple > 0.36 ? 2 : 1];
+    if (mossy(x, y)) return mossy(x, y + 1) ? marsh.At(x, y) : Marsh[1];
+    if (mossy(x, y - 1)) return Pool[1];
+    const double ripple = Noise(x / 4.0, y / 1.6, 0, 335 + variant);
+    return Pool[ripple > 0.68 ? 4 : ripple > 0.34 ? 3 : 2];
   });
   if (variant == 0) {
-    for (const int x : {3, 6, 11}) {
-      Stamp(tile, x, x == 6 ? 1 : 4, {"b..", "b.l", "bl.", "l.l", "ll.", "l..", "d.."},
-            {{'b', Wood[2]}, {'l', Leaf[4]}, {'d', Leaf[2]}});
-    }
+    Stamp(tile, 4, 2,
+          {".b...b.", ".b.b.b.", ".lbb.l.", "lllb.ll", ".l.l.l.", ".l.lll.", "..ll.l.", "..llll.",
+           ".dddddd"},
+          {{'b', Wood[2]}, {'l', Leaf[4]}, {'d', Pool[1]}});
   } else {
     Stamp(tile, 2, 8, {".llll.", "lll.ml", "mmmmmm", ".mmmm."}, {{'l', Leaf[5]}, {'m', Leaf[4]}});
     Stamp(tile, 9, 4, {".ll.", "l.ml", "mmmm"}, {{'l', Leaf[5]}, {'m', Leaf[4]}});

@@ -1,6 +1,7 @@
 // The grounds that the game's texts stand on: old paper in a frame of gold.
 #include <array>
 #include <cmath>
+#include <cstdlib>
 #include <string_view>
 
 #include "content/pictures/panels/panels.h"
@@ -118,7 +119,7 @@ Image Window(int width, int height, const Style& style) {
 
 struct Sign {
   std::array<std::string_view, 9> rows;
-  std::array<uint32_t, 4> colours;  // for the letters a to d
+  std::array<uint32_t, 4> colours{};  // for the letters a to d
 };
 
 // Life and magic, beside their numbers.
@@ -151,7 +152,29 @@ Image PaintEnemyName() {
   return Window(200, 48, crimson);
 }
 Image PaintVictoryPanel() {
-  return Window(336, 93, parchment);
+  Canvas canvas(336, 93);
+  DrawWindow(canvas, parchment, {0, 0, 336, 93});
+  // A rule between the gains and the heroes' news, fading to both sides, with a lozenge on it, and
+  // one between the two heroes.
+  constexpr int rule = 36;
+  constexpr int middle = 167;
+  for (int off = -150; off <= 150; ++off) {
+    const float cover = 0.9F - 0.0055F * static_cast<float>(std::abs(off));
+    canvas.Blend(middle + off, rule, Hex(parchment.shaded[1]), cover);
+    canvas.Blend(middle + off, rule + 1, Hex(parchment.lit[1]), cover);
+  }
+  for (int y = rule + 6; y < 84; ++y) {
+    canvas.Blend(middle, y, Hex(parchment.shaded[1]), 0.45F);
+    canvas.Blend(middle + 1, y, Hex(parchment.lit[2]), 0.45F);
+  }
+  for (int y = -4; y <= 4; ++y) {
+    for (int x = std::abs(y) - 4; x <= 4 - std::abs(y); ++x) {
+      const bool border = std::abs(x) + std::abs(y) == 4;
+      const uint32_t inside = x + y < -1 ? parchment.lit[2] : x + y > 1 ? 0xB02838 : 0xE85858;
+      canvas.Blend(middle + x, rule + y, Hex(border ? parchment.lit[4] : inside));
+    }
+  }
+  return scene::ToSheet(canvas);
 }
 
 Image PaintStatusPanel() {

@@ -17,7 +17,7 @@ float Threshold(int x, int y) {
 
 struct Patch {
   Colour mean;
-  float unrest;
+  float unrest = 0;
 };
 
 // The square of radius + 1 pixels with its upper left corner at (left, top), cut at the borders.

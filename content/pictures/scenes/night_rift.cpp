@@ -9,7 +9,7 @@ namespace orvane::paint::scene {
 namespace {
 
 constexpr std::array<uint32_t, 6> rock{0x0C0A24, 0x1C1840, 0x343064, 0x5C5490, 0x9890C0, 0xE8E0F0};
-constexpr std::array<uint32_t, 4> snow{0x3C3C78, 0x6C70A8, 0xB4B8DC, 0xF8F4FC};
+constexpr std::array<uint32_t, 4> snow{0x3C3C78, 0x6C70A8, 0x9CA0CC, 0xD8D8F0};
 constexpr float water_level = -3;
 constexpr Vec moon{-0.262F, 0.512F, 1};  // the way to its middle, one unit deep
 constexpr float moon_radius = 0.088F;
@@ -44,7 +44,7 @@ float NightRift::Height(float x, float z, int octaves) const {
   const float walls = shore * (16 + 120 * Ridges(x * 0.008F + 1.7F, z * 0.008F, octaves, 3));
   const float range = SmoothStep(430, 640, z) *
                       (70 + 210 * Ridges(x * 0.0044F + 6.2F, z * 0.0044F, octaves, 4)) *
-                      (0.55F + 0.45F * SmoothStep(20, 260, std::fabs(x + 40)));
+                      (0.40F + 0.60F * SmoothStep(20, 300, std::fabs(x + 10)));
   return bed + walls * SmoothStep(30, 140, z) + range;
 }
 

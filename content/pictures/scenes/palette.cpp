@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 #include <map>
 
@@ -71,7 +72,7 @@ Box MeasureBox(const std::vector<Bin>& bins, size_t begin, size_t end) {
       box.spread = spread;
       box.channel = channel;
     }
-    mean = mean << 8 | static_cast<uint32_t>(sum / count + 0.5);
+    mean = mean << 8 | static_cast<uint32_t>(std::lround(sum / count));
   }
   box.mean = mean;
   return box;

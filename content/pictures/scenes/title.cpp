@@ -16,9 +16,9 @@ constexpr int down = 4;
 void Quieten(Canvas& canvas) {
   for (int y = 0; y < canvas.height; ++y) {
     for (int x = 0; x < canvas.width; ++x) {
-      const float off_x = (static_cast<float>(x) - 480) / 420;
-      const float off_y = (static_cast<float>(y) - 262) / 190;
-      const float shade = 0.34F * std::exp(-(off_x * off_x + off_y * off_y) * 1.4F);
+      const float off_x = (static_cast<float>(x) - 520) / 430;
+      const float off_y = (static_cast<float>(y) - 290) / 210;
+      const float shade = 0.44F * std::exp(-(off_x * off_x + off_y * off_y) * 1.4F);
       canvas.At(x, y) = Mix(canvas.At(x, y), Hex(0x140C30), shade);
     }
   }

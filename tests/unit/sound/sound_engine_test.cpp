@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <thread>
 
@@ -192,6 +193,32 @@ TEST_F(SoundEngineTest, WithoutADeviceTheClockEndsPieces) {
   }
   EXPECT_NEAR(effect, 0.5, 0.2);
   EXPECT_NEAR(passed(), 4.0, 0.3);
+}
+
+// Channels come and go while another thread plays them and a third reads instruments; a thread
+// sanitizer has something to look at here.
+TEST_F(SoundEngineTest, ChannelsComeAndGoWhileTheyPlay) {
+  SoundOptions options;
+  options.Plays = SoundOptions::Sink::Clock;
+  options.RecordFile = folder_.Path() + "/busy.wav";
+  {
+    SoundEngine engine(options);
+    for (int round = 0; round < 40; ++round) {
+      const bool battle = round % 2 == 1;
+      const std::string music = battle ? "bgm4" : "bgm1";
+      EXPECT_EQ(Open(engine, battle ? "Battle1.mid" : "Round1.mid", music), "1");
+      engine.Send(PlayCommand(music));
+      Open(engine, "Cut.wav", "snd2");
+      engine.Send(PlayCommand("snd2"));
+      std::this_thread::sleep_for(std::chrono::milliseconds(20));
+      EXPECT_EQ(Status(engine, music), "playing");
+      EXPECT_EQ(Status(engine, "snd2"), "playing");
+      engine.Send(CloseCommand(music));
+      if (battle) engine.Send(CloseCommand("snd2"));
+    }
+  }
+  // A header and, at two sides of 16 bits, more than half a second.
+  EXPECT_GT(std::filesystem::file_size(options.RecordFile), 44U + 4 * kRate / 2);
 }
 
 TEST_F(SoundEngineTest, ARecordingHoldsWhatWasPlayed) {

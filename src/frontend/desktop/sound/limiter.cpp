@@ -26,10 +26,10 @@ void Limiter::Process(Block& block) {
   const float step = (end - gain_) / kBlockFrames;
   std::swap(block, held_);
   if (gain_ < 1.0F || end < 1.0F) {
-    for (size_t i = 0; i < block.size(); i += 2) {
-      const float gain = gain_ + step * static_cast<float>(i / 2);
-      block[i] *= gain;
-      block[i + 1] *= gain;
+    for (size_t frame = 0; frame < kBlockFrames; ++frame) {
+      const float gain = gain_ + step * static_cast<float>(frame);
+      block[2 * frame] *= gain;
+      block[2 * frame + 1] *= gain;
     }
   }
   gain_ = end;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 namespace orvane {
 
@@ -9,7 +10,7 @@ namespace orvane {
 // take effect.
 constexpr int kBlockFrames = 64;
 // Left and right in turn, full scale at 1.
-using Block = std::array<float, 2 * kBlockFrames>;
+using Block = std::array<float, std::size_t{2} * kBlockFrames>;
 
 // Looks one block ahead and turns the volume down before a peak arrives, then slowly up again:
 // peaks are rounded off without the crackle of cutting them. Sound that stays below the ceiling

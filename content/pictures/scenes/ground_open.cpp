@@ -47,8 +47,8 @@ class OpenLand : public Terrain {
       return OnRamp(water, 0.35F + 0.5F * (ripple - 0.3F));
     }
     // Bands of cloud shadow lie across the land.
-    const float cloud = SmoothStep(0.50F, 0.64F, Fbm(p.x * 0.006F + 3, p.z * 0.012F, 3, 9));
-    const float lit = light * (1 - 0.22F * cloud);
+    const float cloud = SmoothStep(0.48F, 0.60F, Fbm(p.x * 0.010F + 3, p.z * 0.022F, 3, 9));
+    const float lit = light * (1.04F - 0.36F * cloud);
     Colour ground = OnRamp(grass, lit * 0.62F + (big - 0.5F) * 0.42F + (fine - 0.5F) * 0.26F);
     const float track = std::fabs(p.x - Track(p.z)) + 1.6F * (fine - 0.5F) + 2 * (big - 0.5F);
     const float bare = SmoothStep(2.9F, 1.7F, track) * SmoothStep(360, 240, p.z);

@@ -51,8 +51,8 @@ class Waste : public Terrain {
     Colour ground = OnRamp(soil, lit * 0.66F + (big - 0.5F) * 0.4F + (fine - 0.5F) * 0.28F);
     // Mud plates: dark gaps that fade with the distance and lie in patches.
     const float gap = CellBorder(p.x * 0.22F + 0.35F * fine, p.z * 0.22F + 0.3F * fine, 11);
-    const float patch = SmoothStep(0.44F, 0.56F, big) * SmoothStep(95, 25, spot.distance);
-    ground = Mix(ground, OnRamp(soil, 0.12F), SmoothStep(0.085F, 0.02F, gap) * patch * 0.8F);
+    const float patch = SmoothStep(0.36F, 0.5F, big) * SmoothStep(110, 30, spot.distance);
+    ground = Mix(ground, OnRamp(soil, 0.12F), SmoothStep(0.075F, 0.02F, gap) * patch * 0.62F);
     const float green = SmoothStep(0.54F, 0.62F, Fbm(p.x * 0.03F + 31, p.z * 0.03F, 4, 12));
     ground = Mix(ground, OnRamp(scrub, lit * 0.75F + (fine - 0.5F) * 0.5F), green * 0.6F);
     // Strata follow the height, a little warped.

@@ -42,7 +42,7 @@ Image SandTile(int variant) {
     const double grain = Grain(x, y, 31);
     return Sand[grain < 0.26 ? 2 : grain < 0.80 ? 3 : 4];
   });
-  const Key key = {{'l', Sand[5]}, {'d', Sand[2]}};
+  const Key key = {{'l', Sand[5]}, {'d', 0xD0B880}};
   if (variant == 1) Stamp(tile, 3, 5, {"..llll..", "ldddddll", "d......d"}, key);
   if (variant == 2) Stamp(tile, 5, 10, {".lllll..", "ddddddll"}, key);
   if (variant == 3) {

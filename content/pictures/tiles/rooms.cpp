@@ -1,4 +1,5 @@
 // Rooms behind doors: walls, shelves, boards and the carpet; and the last stage.
+#include <algorithm>
 #include <cmath>
 
 #include "content/pictures/tiles/families.h"
@@ -41,26 +42,27 @@ Image LampFace() {
 }
 
 Image Bookshelf() {
-  Image tile = WallFace();
+  Image tile(TileSize, TileSize, Wood[0]);
   Stamp(tile, 0, 0,
-        {"kkkkkkkkkkkkkkkk", "kllllllllllllllk", "kmddddddddddddmk", "kmrRkgGuUkyYpPmk",
-         "kmrRkgGuUkyYpPmk", "kmrrkgguukyyppmk", "kmllllllllllllmk", "kmddddddddddddmk",
-         "kmuUyYkrRpPkgGmk", "kmuUyYkrRpPkgGmk", "kmuuyykrrppkggmk", "kmllllllllllllmk",
-         "kmddddddddddddmk", "kmpPgGrRkkuUyYmk", "kmppggrrkkuuyymk", "kkkkkkkkkkkkkkkk"},
+        {"llllllllllllllll", "mnnnnnnnnnnnnnnm", "mzzzzzzzzzzzzzzm", "mrrzggzuuuzyypPm",
+         "mRrzGgzUuuzYypPm", "mRrzGgzUuuzYypPm", "mRrzGgzUuuzYypPm", "mrrzggzuuuzyyppm",
+         "mllllllllllllllm", "mzzzzzzzzzzzzzzm", "muuuzyyzrrrzppgm", "mUuuzYyzRrrzPpGm",
+         "mUuuzYyzRrrzPpGm", "muuuzyyzrrrzppgm", "mnnnnnnnnnnnnnnm", "kkkkkkkkkkkkkkkk"},
         {{'k', Wood[0]},
          {'l', Wood[4]},
          {'m', Wood[2]},
-         {'d', 0x20100C},
-         {'r', 0x8C1C24},
-         {'R', 0xE05048},
-         {'g', 0x1C6030},
-         {'G', 0x58B058},
-         {'u', 0x24408C},
-         {'U', 0x6090E0},
-         {'y', 0xB07820},
-         {'Y', 0xF0CC60},
-         {'p', 0x602878},
-         {'P', 0xB070C8}});
+         {'n', Wood[3]},
+         {'z', 0x20100C},
+         {'r', 0x9C2428},
+         {'R', 0xE46858},
+         {'g', 0x246C3C},
+         {'G', 0x68BC68},
+         {'u', 0x2C4C9C},
+         {'U', 0x709CE8},
+         {'y', 0xB88028},
+         {'Y', 0xF4D46C},
+         {'p', 0x682C80},
+         {'P', 0xB878D0}});
   return tile;
 }
 
@@ -77,16 +79,21 @@ Image SideWall(int side) {
   });
 }
 
+// Four long boards in a tile, each with one end; the second variant has its ends elsewhere and a
+// knot. Seams are only a little darker than the wood, so that the floor stays calm.
 Image Boards(int variant) {
-  return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
     const int board = y / 4;
     const int within = y % 4;
-    const int end = (board * 7 + variant * 5 + 3) % 16;
-    if (within == 3 || x == end) return 0xC09258;
-    if (within == 0) return 0xE8C892;
-    if (variant == 1 && board == 2 && std::hypot(x - 9.0, (y - 9.5) * 2) < 2) return Wood[3];
-    return Hash(x / 5, y, 511 + variant) > 0.7 ? 0xDCB47C : 0xE0BC84;
+    const int end = (board * 6 + variant * 5 + 2) % TileSize;
+    if (within == 3) return 0xB4864C;
+    if (x == end) return 0xBC9054;
+    if (within == 0) return 0xE0B87C;
+    const bool grain = within == 2 && Hash(x / 5 + board * 3, board, 511 + variant) > 0.6;
+    return grain ? 0xCCA062 : 0xD6AC6E;
   });
+  if (variant == 1) Stamp(tile, 8, 5, {"kd", "dk"}, {{'d', 0xC09458}, {'k', 0xA87C44}});
+  return tile;
 }
 
 Image CarpetPicture() {
@@ -119,13 +126,21 @@ Image ExitMat() {
   return tile;
 }
 
+// Polished slabs with a slanting sheen; the variants are cut in four or inlaid with a square.
 Image LastFloor(int variant) {
   return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
-    if (x == 15 || y == 15) return 0xA8A0B8;
-    if (x == 0 || y == 0) return 0xE8E4EE;
-    const double vein = Noise(x / 5.0 + variant * 5, y / 5.0, 0, 521 + variant);
-    if (variant > 0 && std::abs(vein - 0.5) < 0.03) return Marble[2];
-    return x + y < 13 - variant * 2 ? 0xD6D1DDU : Marble[3];
+    if (x == 15 || y == 15) return 0xA49CB6;
+    if (x == 0 || y == 0) return 0xECE8F2;
+    if (variant == 1) {
+      if (x == 7 || y == 7) return 0xB6AEC6;
+      if (x == 8 || y == 8) return 0xE2DEEA;
+    }
+    if (variant == 2) {
+      const int inset = std::min(std::min(x, 15 - x), std::min(y, 15 - y));
+      if (inset == 3) return x + y < 15 ? 0xB6AEC6 : 0xE6E2EE;
+      if (inset > 5 && std::abs(x - 7.5) + std::abs(y - 7.5) < 2.6) return Gold[3];
+    }
+    return x + y < 13 ? 0xD8D3DF : x + y < 20 ? Marble[3] : 0xC6C0D0;
   });
 }
 

@@ -117,6 +117,34 @@ Image Window(int width, int height, const Style& style) {
   return scene::ToSheet(canvas);
 }
 
+// A cut stone about (x, y), 9 pixels high; its lit and its shaded face.
+void DrawGem(Canvas& canvas, const Style& style, int x, int y, std::array<uint32_t, 2> faces) {
+  for (int down = -4; down <= 4; ++down) {
+    for (int right = std::abs(down) - 4; right <= 4 - std::abs(down); ++right) {
+      const bool border = std::abs(right) + std::abs(down) == 4;
+      const uint32_t inside = right + down < -1 ? style.lit[2] : faces[right + down > 1 ? 1 : 0];
+      canvas.Blend(x + right, y + down, Hex(border ? style.lit[4] : inside));
+    }
+  }
+}
+
+// A window for a name, with a stone at each side of it.
+Image NameWindow(const Style& style, std::array<uint32_t, 2> faces) {
+  Canvas canvas(200, 48);
+  DrawWindow(canvas, style, {0, 0, 200, 48});
+  for (const int side : {-1, 1}) {
+    const int x = side < 0 ? 15 : 184;
+    DrawGem(canvas, style, x, 24, faces);
+    // A line leads up and down from the stone and fades.
+    for (int off = 6; off < 15; ++off) {
+      const float cover = 0.75F - 0.06F * static_cast<float>(off - 6);
+      canvas.Blend(x, 24 - off, Hex(style.shaded[2]), cover);
+      canvas.Blend(x, 24 + off, Hex(style.shaded[2]), cover);
+    }
+  }
+  return scene::ToSheet(canvas);
+}
+
 struct Sign {
   std::array<std::string_view, 9> rows;
   std::array<uint32_t, 4> colours{};  // for the letters a to d
@@ -146,10 +174,10 @@ Image PaintMessageWindow() {
   return Window(336, 64, parchment);
 }
 Image PaintHeroName() {
-  return Window(200, 48, azure);
+  return NameWindow(azure, {0x4C90E8, 0x2048A8});
 }
 Image PaintEnemyName() {
-  return Window(200, 48, crimson);
+  return NameWindow(crimson, {0xE84858, 0x981838});
 }
 Image PaintVictoryPanel() {
   Canvas canvas(336, 93);
@@ -167,13 +195,7 @@ Image PaintVictoryPanel() {
     canvas.Blend(middle, y, Hex(parchment.shaded[1]), 0.45F);
     canvas.Blend(middle + 1, y, Hex(parchment.lit[2]), 0.45F);
   }
-  for (int y = -4; y <= 4; ++y) {
-    for (int x = std::abs(y) - 4; x <= 4 - std::abs(y); ++x) {
-      const bool border = std::abs(x) + std::abs(y) == 4;
-      const uint32_t inside = x + y < -1 ? parchment.lit[2] : x + y > 1 ? 0xB02838 : 0xE85858;
-      canvas.Blend(middle + x, rule + y, Hex(border ? parchment.lit[4] : inside));
-    }
-  }
+  DrawGem(canvas, parchment, middle, rule, {0xE85858, 0xB02838});
   return scene::ToSheet(canvas);
 }
 

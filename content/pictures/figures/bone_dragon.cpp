@@ -42,13 +42,13 @@ void AddVertebrae(Model& model, const std::vector<Knot>& curve, float spine_leng
   model.Add(kDragonMouth).Chain(cord, 1);
 }
 
-std::vector<Knot> Back() {
+std::vector<Knot> Back(int steps) {
   return Curve({{{0, -58, -28}, 8},
                 {{0, -30, -36}, 8.5F},
                 {{0, 0, -30}, 8.5F},
                 {{0, 28, -14}, 8},
                 {{0, 46, 2}, 7.4F}},
-               3);
+               steps);
 }
 
 std::vector<Knot> Neck() {
@@ -78,9 +78,10 @@ void AddTail(Model& model) {
 }
 
 void AddRibs(Model& model) {
-  const std::vector<Knot> back = Back();
-  for (size_t i = 3; i + 1 < back.size(); ++i) {
-    const float t = static_cast<float>(i - 3) / static_cast<float>(back.size() - 5);
+  const std::vector<Knot> back = Back(2);
+  const float last = static_cast<float>(back.size() - 3);
+  for (size_t i = 2; i + 1 < back.size(); ++i) {
+    const float t = static_cast<float>(i - 2) / last;
     const float wide = 17 + 13 * std::sin(0.4F + 2.1F * t);
     const Vec at = back[i].At;
     const Vec low{0, -16 + 6 * t, 26 + 8 * t};
@@ -93,8 +94,8 @@ void AddRibs(Model& model) {
                5);
   }
   Group& breast = model.Add(kBone, 2);
-  for (size_t i = 3; i + 1 < back.size(); ++i) {
-    const float t = static_cast<float>(i - 3) / static_cast<float>(back.size() - 5);
+  for (size_t i = 2; i + 1 < back.size(); ++i) {
+    const float t = static_cast<float>(i - 2) / last;
     const Vec low{0, -16 + 6 * t, 26 + 8 * t};
     breast.Ball(back[i].At + Vec{0, -2, 35} + low * 0.42F, {3.6F, 4.2F, 2.8F});
   }
@@ -182,7 +183,7 @@ void AddSkull(Model& model) {
 
 Model BoneDragonModel() {
   Model model;
-  AddVertebrae(model, Back(), 9);
+  AddVertebrae(model, Back(3), 9);
   AddVertebrae(model, Neck(), 6);
   AddTail(model);
   AddRibs(model);
@@ -214,7 +215,7 @@ Image PaintBoneDragon() {
   m[kDragonMouth] = {{0x140A1C, 0x2C1834, 0x4C2C48}};
   m[kDragonTooth] = {{0x846C74, 0xE0D4B4, 0xF8F8EC}, 0.2F, 0.2F, 0.2F};
   m[kDragonFire] = {
-      {0x083850, 0x0C6C80, 0x18A8A8, 0x58DCC8, 0xB0F8E0, 0xF0F8F0}, 0, 0, 0, Flames(34)};
+      {0x083850, 0x0C6C80, 0x18A8A8, 0x38CCC0, 0x80ECD8, 0xD0F8E8}, 0, 0, 0, Flames(34)};
   m[kDragonBelly] = m[kDragonPlate] = m[kDragonPupil] = m[kBone];
   View view = DragonView(160, 240, 0.66F, 0.1F);
   view.Margin = 4;

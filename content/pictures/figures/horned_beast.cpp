@@ -51,6 +51,17 @@ Model BeastModel() {
   AddLeg(model, {-7, -4, -20}, {-11, -13, -17}, {-11, -24, -21});
   AddLeg(model, {7, -4, -20}, {10, -13, -16}, {10, -24, -17});
   AddJaws(model);
+  // Tufts at the throat, the shoulders and the haunches.
+  Group& tufts = model.Add(kFur, 0.8F, 1.2F);
+  for (int i = 0; i < 7; ++i) {
+    const float n = static_cast<float>(i);
+    tufts.Limb({-11 + std::sin(n * 2), 2 - n * 2, 3 - n * 1.2F}, {-16, -5 - n * 2, -3 - n * 1.4F},
+               3, 0.3F);
+    tufts.Limb({-10 + std::sin(n * 3), 4 - n * 2, -16 - n}, {-15, -3 - n * 2, -23 - n * 1.2F}, 3,
+               0.3F);
+    tufts.Limb({n * 2.4F - 7, -9, -4 + n}, {n * 2.6F - 9, -17 - 1.5F * std::sin(n * 2), -6 + n},
+               2.6F, 0.3F);
+  }
   // The mane stands up along the back.
   Group& mane = model.Add(kMane, 1.2F, 1);
   for (int i = 0; i < 9; ++i) {

@@ -31,8 +31,8 @@ void AddLeaves(Model& model) {
     const Vec bend = Around(angle, reach * 0.62F, -22 + lift, reach * 0.55F);
     const Vec tip = Around(angle, reach, -27 + lift * 0.3F, reach * 0.85F);
     model.Add(kLeaf, 2)
-        .Leaf(root, bend + (bend - root) * 0.2F, 4.4F, 1.3F, {0, 1, 0})
-        .Leaf(bend - (tip - bend) * 0.2F, tip, 4, 1.1F, {0, 1, 0});
+        .Leaf(root, bend + (bend - root) * 0.2F, 5.6F, 1.3F, {0, 1, 0})
+        .Leaf(bend - (tip - bend) * 0.3F, tip, 4.8F, 1.1F, {0, 1, 0});
   }
 }
 

@@ -32,14 +32,16 @@ void AddTail(Model& model) {
 // The sail runs from the crown down to the small of the back.
 void AddSail(Model& model) {
   const std::vector<Knot> line = Curve({Spine().begin() + 2, Spine().end() - 1}, 2);
+  const Vec lean{-0.5F, 0, 0};  // toward the viewer, or the sail would be seen edge on
   std::vector<Ray> rays;
   for (size_t i = 1; i + 1 < line.size(); ++i) {
     const Vec run = Unit(line[i + 1].At - line[i - 1].At);
     const Vec back = Unit(Cross({1, 0, 0}, run)) * -1;
     const float t = static_cast<float>(i) / static_cast<float>(line.size() - 1);
     const float high = 14 + 120 * t * (1 - t) * (1.2F - 0.4F * t);
-    rays.push_back({line[i].At + back * (line[i].Radius - 2),
-                    line[i].At + back * (line[i].Radius + high) + run * (6 - 26 * t)});
+    rays.push_back(
+        {line[i].At + back * (line[i].Radius - 2),
+         line[i].At + back * (line[i].Radius + high) + run * (6 - 26 * t) + lean * high});
   }
   AddFin(model, rays, 2.0F, 0.10F);
 }
@@ -133,17 +135,29 @@ Model SeaDragonModel() {
   return model;
 }
 
+// Scales with dark bands over the back, and lights that do not burn out on the wet coil.
+Texture SeaSkin() {
+  return [scales = Scales(5, kDragonBelly, 8)](Touch& touch, float light) {
+    float lit = scales(touch, light);
+    if (touch.Material == kDragonBelly) return lit;
+    const float back = SmoothStep(0.2F, -0.5F, Dot(touch.Normal, touch.Place.Side));
+    const float band = SmoothStep(0.1F, 0.6F, std::sin(touch.Place.Along * 0.30F));
+    lit *= 1 - 0.3F * band * (touch.Blend > 7 ? back : 0.0F);
+    return lit < 0.6F ? lit : 0.6F + (lit - 0.6F) * 0.7F;
+  };
+}
+
 }  // namespace
 
 Image PaintSeaDragon() {
   std::vector<Material> m(kDragonMaterials);
   m[kDragonSkin] = {
       {0x0C1830, 0x123050, 0x184C78, 0x226CA0, 0x3890C0, 0x64B8D8, 0xA0DCEC, 0xE4F8F8},
-      0.35F,
+      0.3F,
       0.4F,
       0,
-      Scales(5, kDragonBelly, 8)};
-  m[kDragonBelly] = {{0x283848, 0x486470, 0x789890, 0xACC4AC, 0xDCE4C4, 0xF8F8E8}, 0.15F};
+      SeaSkin()};
+  m[kDragonBelly] = {{0x1C3450, 0x34607C, 0x64949C, 0xA0C4B4, 0xD8E4C8, 0xF8F8E8}, 0.15F};
   m[kDragonMembrane] = {{0x201448, 0x382070, 0x583898, 0x8058B8, 0xB080CC, 0xE4B4DC},
                         0.2F,
                         0.35F,

@@ -65,11 +65,11 @@ Model SpiderModel() {
             5, {0, 0, 1});
   }
   model.AddPair(kEye)
-      .Ball({2.7F, 3.0F, 16.4F}, {2.2F, 2.2F, 1.8F})
-      .Ball({5.6F, 2.8F, 13.4F}, {1.6F, 1.6F, 1.6F})
-      .Ball({2.0F, 6.2F, 13.8F}, {1.4F, 1.3F, 1.3F});
-  model.AddPair(kShell, 1, 0.5F).Limb({3, -3, 16}, {3.6F, -7, 19.4F}, 2.7F, 2.1F);
-  model.AddPair(kFang).Limb({3.6F, -7, 19.6F}, {1.6F, -13.5F, 20}, 1.8F, 0.3F);
+      .Ball({2.8F, 2.6F, 18.6F}, {2.3F, 2.3F, 1.9F})
+      .Ball({6.2F, 3.0F, 15.8F}, {1.6F, 1.6F, 1.6F})
+      .Ball({2.2F, 6.0F, 16.0F}, {1.4F, 1.3F, 1.3F});
+  model.AddPair(kShell, 1, 0.5F).Limb({3, -3, 17}, {3.6F, -7, 20.4F}, 2.7F, 2.1F);
+  model.AddPair(kFang).Limb({3.6F, -7, 20.6F}, {1.6F, -13.5F, 21}, 1.8F, 0.3F);
   model.Add(kAcid).Leaf({-1.6F, -14, 20.4F}, {-1.6F, -18.4F, 20.4F}, 1.5F, 1.5F);
   model.Finish();
   return model;

@@ -140,8 +140,8 @@ void AddHead(Model& model) {
               {{20, -8, 8}, 2},
               {{17, -4, 14}, 0.4F}},
              5);
-  model.AddPair(kDragonEye).Ball({6.6F, 3.0F, 9.6F}, {2.4F, 1.7F, 2.6F});
-  model.AddPair(kDragonPupil).Ball({8.0F, 3.0F, 11}, {0.9F, 1.3F, 0.8F});
+  model.AddPair(kDragonEye).Ball({7.0F, 2.4F, 10}, {2.9F, 2.2F, 3.2F});
+  model.AddPair(kDragonPupil).Ball({9.1F, 2.4F, 11.6F}, {0.9F, 1.8F, 0.9F});
   model.Leave();
 }
 

@@ -64,6 +64,22 @@ double LoudnessOf(const Rendering& rendering) {
   return orvane::effects::WholeLoudness(rendering.left, rendering.right);
 }
 
+// The loudness of each section: the shape of the piece.
+void PrintSections(const orvane::music::PieceNotes& piece, const Rendering& rendering) {
+  std::cout << "  sections";
+  for (size_t i = 0; i < piece.sections.size(); ++i) {
+    const int end = i + 1 < piece.sections.size() ? piece.sections[i + 1].tick : piece.end;
+    const auto from = static_cast<std::ptrdiff_t>(piece.Seconds(piece.sections[i].tick) * 44100);
+    const auto to = std::min(static_cast<std::ptrdiff_t>(piece.Seconds(end) * 44100),
+                             static_cast<std::ptrdiff_t>(rendering.left.size()));
+    Rendering slice;
+    slice.left.assign(rendering.left.begin() + from, rendering.left.begin() + to);
+    slice.right.assign(rendering.right.begin() + from, rendering.right.begin() + to);
+    std::cout << " " << piece.sections[i].text << " " << std::round(LoudnessOf(slice) * 10) / 10;
+  }
+  std::cout << "\n";
+}
+
 void PrintStems(const orvane::music::MidiFile& midi, const orvane::music::PieceNotes& piece) {
   for (size_t track = 1; track < midi.tracks.size(); ++track) {
     orvane::music::MidiFile stem = midi;
@@ -94,6 +110,7 @@ int CheckFile(const std::string& file, const Options& options, std::vector<Loudn
     const double loudness = LoudnessOf(rendering);
     const float peak = Peak(rendering);
     std::cout << "  loudness " << loudness << " LUFS, peak " << peak << "\n";
+    PrintSections(piece, rendering);
     if (options.stems) PrintStems(midi, piece);
     if (peak >= 1) faults.emplace_back("clips");
     all.push_back({name, loudness});

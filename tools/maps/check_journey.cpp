@@ -62,7 +62,9 @@ class JourneyCheck {
       Add(FaultKind::DeadEnd, ground,
           "stuck on tile " + std::to_string(tile) + ": " + Where(party));
     }
-    cells_.insert({ground, party.x / 16, party.y / 16});
+    const Cell cell{ground, party.x / 16, party.y / 16};
+    if (cell != last_cell_) cells_.insert(cell);  // neighbours in the search often share a cell
+    last_cell_ = cell;
     if (tile == kRecovery) recovery_.insert(GridOf(party));
     if (party.in_book && party.room == Room::None) {
       Add(FaultKind::WrongExit, ground, "left a room over its wall: " + Where(party));
@@ -202,7 +204,8 @@ class JourneyCheck {
   const StepRules rules_;
   std::vector<Fault> faults_;
   std::set<std::pair<FaultKind, Place>> named_;
-  std::set<Cell> cells_;    // every cell that the party can stand on
+  std::set<Cell> cells_;  // every cell that the party can stand on
+  Cell last_cell_{{-1, -1}, 0, 0};
   std::set<Cell> entered_;  // every door that the party can go through
   std::set<std::pair<Room, Place>> rooms_;
   std::set<std::pair<Room, Place>> left_;

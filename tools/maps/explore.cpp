@@ -63,6 +63,34 @@ void ForEachWay(const Stand& stand, Visit visit) {
   if (stand.loaded >= 0) visit(stand.loaded);
 }
 
+// All ways, backwards: for every place the places that lead to it, packed one after the other.
+class BackWays {
+ public:
+  explicit BackWays(const Exploration& exploration) : first_(exploration.stands.size() + 1, 0) {
+    for (const Stand& stand : exploration.stands) {
+      ForEachWay(stand, [&](int32_t to) { ++first_[static_cast<size_t>(to) + 1]; });
+    }
+    for (size_t at = 1; at < first_.size(); ++at) first_[at] += first_[at - 1];
+    from_.resize(first_.back());
+    std::vector<size_t> end(first_.begin(), first_.end() - 1);
+    for (size_t from = 0; from < exploration.stands.size(); ++from) {
+      ForEachWay(exploration.stands[from], [&](int32_t to) {
+        from_[end[static_cast<size_t>(to)]++] = static_cast<int32_t>(from);
+      });
+    }
+  }
+
+  template <typename Visit>
+  void ForEach(int32_t to, Visit visit) const {
+    const auto place = static_cast<size_t>(to);
+    for (size_t at = first_[place]; at < first_[place + 1]; ++at) visit(from_[at]);
+  }
+
+ private:
+  std::vector<size_t> first_;
+  std::vector<int32_t> from_;
+};
+
 }  // namespace
 
 std::vector<Journey> AllJourneys() {
@@ -116,25 +144,20 @@ std::vector<int32_t> StepsFrom(const Exploration& exploration, int32_t from) {
 }
 
 std::vector<bool> CanReturn(const Exploration& exploration) {
-  std::vector<std::vector<int32_t>> back(exploration.stands.size());
+  const BackWays back(exploration);
   std::vector<bool> can(exploration.stands.size(), false);
   std::vector<int32_t> queue;
-  for (size_t from = 0; from < exploration.stands.size(); ++from) {
-    const Stand& stand = exploration.stands[from];
-    ForEachWay(stand, [&](int32_t next) {
-      back[static_cast<size_t>(next)].push_back(static_cast<int32_t>(from));
-    });
-    if (SameCell(stand.party, exploration.journey.start)) {
-      can[from] = true;
-      queue.push_back(static_cast<int32_t>(from));
-    }
+  for (size_t number = 0; number < exploration.stands.size(); ++number) {
+    if (!SameCell(exploration.stands[number].party, exploration.journey.start)) continue;
+    can[number] = true;
+    queue.push_back(static_cast<int32_t>(number));
   }
   for (size_t at = 0; at < queue.size(); ++at) {
-    for (const int32_t from : back[static_cast<size_t>(queue[at])]) {
-      if (can[static_cast<size_t>(from)]) continue;
+    back.ForEach(queue[at], [&](int32_t from) {
+      if (can[static_cast<size_t>(from)]) return;
       can[static_cast<size_t>(from)] = true;
       queue.push_back(from);
-    }
+    });
   }
   return can;
 }

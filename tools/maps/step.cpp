@@ -14,8 +14,10 @@ Room BookRoomOf(int round) {
       return Room::Book1;
     case 2:
       return Room::Book2;
-    default:
+    case 3:
       return Room::Book3;
+    default:
+      return Room::None;
   }
 }
 
@@ -26,14 +28,16 @@ Room RoomBehind(const StepRules& rules, const Party& party, int door) {
   return spring ? Room::Fresh : BookRoomOf(rules.round);
 }
 
-void BookRoomCheck(const StepRules& rules, int tile_up, Party& party) {
-  if (!IsDoor(tile_up)) return;
+// False when the door leads to a room that does not exist, as those of round 4.
+bool BookRoomCheck(const StepRules& rules, int tile_up, Party& party) {
+  if (!IsDoor(tile_up)) return true;
   party.in_book = true;
   party.room = RoomBehind(rules, party, tile_up);
   party.return_x = party.x;
   party.return_y = party.y;
   party.x = 232;
   party.y = 224;
+  return party.room != Room::None;
 }
 
 void HiddenMapCheck(const StepRules& rules, Party& party) {
@@ -145,12 +149,14 @@ Outcome Step(const World& world, const StepRules& rules, const Party& party, Dir
   const int ahead = TileBeside(*tiles, party, direction);
   if (!Walkable(ahead) || !WithinLimit(party, direction)) return {Event::Blocked, party};
   Party next = party;
-  if (direction == Direction::Up) BookRoomCheck(rules, ahead, next);
+  if (direction == Direction::Up && !BookRoomCheck(rules, ahead, next)) {
+    return {Event::NoSuchMap, next};
+  }
   const bool dragon = AtDragon(rules, next);
   Move(next, direction);
   const bool read = EdgeCheck(rules, next);
-  if (dragon) return {Event::Dragon, next};
   if (read && world.Find(next.Ground()) == nullptr) return {Event::NoSuchMap, next};
+  if (dragon) return {Event::Dragon, next};
   return {Event::Walked, next};
 }
 

@@ -1,0 +1,3 @@
+test("passes", function() expect(1, 1) end)
+start()
+error("outside any test")

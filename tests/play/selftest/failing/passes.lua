@@ -1,0 +1,1 @@
+test("passes", function() start(); expect(get("Round"), 1) end)

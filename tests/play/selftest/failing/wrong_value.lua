@@ -1,0 +1,5 @@
+test("right", function() expect(1, 1) end)
+test("wrong", function()
+  expect(4, 5, "a note")
+end)
+test("right again", function() expect("a", "a") end)

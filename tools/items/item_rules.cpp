@@ -31,11 +31,6 @@ constexpr int32_t kRecovered[] = {200, 500, 9999};
 // The bag compares this many characters when it protects what is worn.
 constexpr size_t kCompared = 5;
 
-// The two draughts that a bag may take for each other: both are "回復の…" and neither can be worn.
-bool MayCountAsAlike(const Item& one, const Item& other) {
-  return one.kind == Kind::Recovery && other.kind == Kind::Recovery;
-}
-
 size_t Characters(const std::string& utf8) {
   size_t count = 0;
   for (const char each : utf8) count += (static_cast<unsigned char>(each) & 0xC0) != 0x80;
@@ -99,9 +94,7 @@ std::vector<std::string> Faults(const std::vector<Item>& items) {
     const auto [found, is_new] = seen.emplace(FirstCharacters(item.name, kCompared), number);
     if (is_new) continue;
     const Item& other = items[static_cast<size_t>(found->second - 1)];
-    if (!MayCountAsAlike(other, item)) {
-      faults.push_back(Named(number, item) + " begins like " + Named(found->second, other));
-    }
+    faults.push_back(Named(number, item) + " begins like " + Named(found->second, other));
   }
   return faults;
 }

@@ -41,6 +41,12 @@ int32_t Least(const std::vector<int32_t>& steps, const Goal& goal) {
   return least;
 }
 
+// A column's head: "c 3,1" for "chest 3,1".
+std::string ShortName(const std::string& name) {
+  const size_t blank = name.find(' ');
+  return blank == std::string::npos ? name : name.substr(0, 1) + name.substr(blank);
+}
+
 std::string Padded(const std::string& text, size_t width) {
   return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
 }
@@ -84,7 +90,7 @@ std::string DistanceTable(const World& world, const Exploration& exploration) {
   const std::vector<Goal> goals = GoalsOf(world, exploration);
   const std::vector<std::vector<int32_t>> table = StepsBetween(exploration, goals);
   std::string text = exploration.journey.name + ", steps of 4 pixels\n" + Padded("", 10);
-  for (const Goal& goal : goals) text += Padded(goal.name.substr(goal.name.find(' ') + 1), 7);
+  for (const Goal& goal : goals) text += Padded(ShortName(goal.name), 7);
   text += '\n';
   for (size_t from = 0; from < goals.size(); ++from) {
     text += goals[from].name + std::string(10 - std::min<size_t>(10, goals[from].name.size()), ' ');

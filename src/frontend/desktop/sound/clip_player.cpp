@@ -24,9 +24,15 @@ void ClipPlayer::Start() {
   if (last.Sounding && last.Position == 0) return;
   const bool close = last.Sounding && static_cast<double>(last.Position) < kRollSeconds * rate_;
   roll_ = close ? roll_ + 1 : 0;
-  if (last.Sounding) FadeOut(last, kFadeOfRestart);
+  // The first start of a roll goes on as its body; without it an effect that swells would never
+  // come further than its beginning.
+  if (roll_ == 1) body_ = newest_;
+  for (size_t i = 0; i < voices_.size(); ++i) {
+    if (roll_ == 0 || i != body_) FadeOut(voices_[i], kFadeOfRestart);
+  }
   // Of eight voices the next is the oldest: it has faded away, or nearly.
   newest_ = (newest_ + 1) % voices_.size();
+  if (roll_ > 0 && newest_ == body_) newest_ = (newest_ + 1) % voices_.size();
   Voice voice;
   voice.Sounding = clip_->Frames() > 0;
   if (roll_ > 0) {

@@ -11,7 +11,8 @@ namespace orvane {
 
 // Some moves start their effect over on every frame. Cut off each time, that would be a row of
 // clicks; so what sounded before dies away under the new start, and starts that follow each other
-// within a tenth of a second come softer and from both sides in turn: a roll, not a fault.
+// within a tenth of a second come softer and from both sides in turn over the first, which goes on:
+// a roll, not a fault.
 class ClipPlayer {
  public:
   ClipPlayer(std::shared_ptr<const Clip> clip, int rate);
@@ -44,7 +45,8 @@ class ClipPlayer {
   int rate_;
   std::array<Voice, 8> voices_{};
   size_t newest_ = 0;
-  int roll_ = 0;  // starts that followed each other closely
+  size_t body_ = 0;  // the voice that a roll began with
+  int roll_ = 0;     // starts that followed each other closely
   bool closed_ = false;
 };
 

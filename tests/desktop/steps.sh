@@ -13,16 +13,16 @@ see_title() {
 
 enter_names() {
   click Orvane 252 200
-  wait_for 10 "the name entry" has_window "$names_title"
-  wait_for 10 "the focus of the name entry" has_focus "$names_title"
+  wait_for 10 "the name entry" has_window 名前の入力
+  wait_for 10 "the focus of the name entry" has_focus 名前の入力
   # The first field has the focus already.
   xdotool type --delay 30 Gou
-  click "$names_title" 150 128
+  click 名前の入力 150 128
   xdotool type --delay 30 Rin
   sleep 0.2
   shot 2-names
-  click "$names_title" 280 92
-  wait_for 10 "the end of the name entry" lacks_window "$names_title"
+  click 名前の入力 280 92
+  wait_for 10 "the end of the name entry" lacks_window 名前の入力
   sleep 0.5
   shot 3-opening
 }

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QMetaObject>
+#include <cstdlib>
+#include <exception>
 
 #include "src/frontend/desktop/signals.h"
 
@@ -39,8 +41,19 @@ int Desktop::Run() {
 void Desktop::Send(const std::function<void(Program&)>& event) {
   // What widgets report while they are being brought up to date is no event of the player's.
   if (following_ || asleep_) return;
-  if (!program_.HasEnded()) event(program_);
+  if (!program_.HasEnded()) Try(event);
   Follow();
+}
+
+void Desktop::Try(const std::function<void(Program&)>& event) {
+  // The game handles the errors that bad data can lead to. What else may come, such as want of
+  // memory, must not fly through the toolkit's loop, which cannot stand it.
+  try {
+    event(program_);
+  } catch (const std::exception& failure) {
+    program_.TheStage().MarkEnded(EXIT_FAILURE);
+    boxes_.ShowError({failure.what(), "Orvane", BoxButtons::Ok});
+  }
 }
 
 void Desktop::Follow() {

@@ -34,6 +34,7 @@ class Desktop : public QObject, public Events, public BoxHost {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void Try(const std::function<void(Program&)>& event);
   void Follow();
   void Sleep(int milliseconds);
   void End();

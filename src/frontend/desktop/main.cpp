@@ -14,7 +14,7 @@
 #include "src/frontend/desktop/scale.h"
 #include "src/frontend/desktop/signals.h"
 #include "src/frontend/desktop/sleeper.h"
-#include "src/frontend/desktop/sound.h"
+#include "src/frontend/desktop/sound/sound_engine.h"
 #include "src/game/program.h"
 
 namespace {
@@ -56,7 +56,7 @@ void ChooseSize(const Options& options, Program& program) {
 
 int RunGame(const Options& options, int argument_count, char** arguments) {
   HoldEndSignals();
-  DesktopSound sound;
+  SoundEngine sound;
   DesktopChance chance(options.Seed);
   MessageBoxes boxes;
   DesktopSleeper sleeper;

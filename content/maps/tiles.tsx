@@ -7,6 +7,9 @@
    <property name="name" value="water deep 1"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="1">
   <properties>
@@ -14,6 +17,9 @@
    <property name="name" value="water deep 2"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="2">
   <properties>
@@ -21,6 +27,9 @@
    <property name="name" value="water bank inner NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="3">
   <properties>
@@ -28,6 +37,9 @@
    <property name="name" value="water bank inner NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="4">
   <properties>
@@ -35,6 +47,9 @@
    <property name="name" value="water bank inner SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="5">
   <properties>
@@ -42,6 +57,9 @@
    <property name="name" value="water bank inner SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="6">
   <properties>
@@ -92,6 +110,11 @@
    <property name="name" value="waste floor 1"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="13">
   <properties>
@@ -100,6 +123,11 @@
    <property name="name" value="waste floor 2"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="14">
   <properties>
@@ -107,6 +135,9 @@
    <property name="name" value="roof lower W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="15">
   <properties>
@@ -114,6 +145,9 @@
    <property name="name" value="roof lower C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="16">
   <properties>
@@ -121,6 +155,9 @@
    <property name="name" value="roof lower E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="17">
   <properties>
@@ -128,6 +165,9 @@
    <property name="name" value="plateau rim NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="18">
   <properties>
@@ -136,6 +176,11 @@
    <property name="name" value="waste floor 3"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="19">
   <properties>
@@ -157,6 +202,9 @@
    <property name="name" value="roof upper W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="22">
   <properties>
@@ -164,6 +212,9 @@
    <property name="name" value="roof upper C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="23">
   <properties>
@@ -171,6 +222,9 @@
    <property name="name" value="roof upper E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="24">
   <properties>
@@ -241,6 +295,9 @@
    <property name="name" value="sign"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="34">
   <properties>
@@ -256,6 +313,11 @@
    <property name="name" value="chest"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="36">
   <properties>
@@ -263,6 +325,9 @@
    <property name="name" value="sea shore inner NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="37">
   <properties>
@@ -270,6 +335,9 @@
    <property name="name" value="sea shore inner NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="38">
   <properties>
@@ -277,6 +345,9 @@
    <property name="name" value="sea shore inner SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="39">
   <properties>
@@ -284,6 +355,9 @@
    <property name="name" value="sea shore inner SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="40">
   <properties>
@@ -291,6 +365,9 @@
    <property name="name" value="fence H"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="41">
   <properties>
@@ -298,6 +375,9 @@
    <property name="name" value="fence post"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="42">
   <properties>
@@ -319,6 +399,9 @@
    <property name="name" value="wall W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="45">
   <properties>
@@ -326,6 +409,9 @@
    <property name="name" value="wall window"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="46">
   <properties>
@@ -334,6 +420,11 @@
    <property name="name" value="door house"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="47">
   <properties>
@@ -341,6 +432,9 @@
    <property name="name" value="wall E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="48">
   <properties>
@@ -348,6 +442,9 @@
    <property name="name" value="bush"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="49">
   <properties>
@@ -355,6 +452,9 @@
    <property name="name" value="marsh pool 1"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="50">
   <properties>
@@ -362,6 +462,9 @@
    <property name="name" value="marsh pool 2"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="51">
   <properties>
@@ -390,6 +493,9 @@
    <property name="name" value="room wall top"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="55">
   <properties>
@@ -397,6 +503,9 @@
    <property name="name" value="room wall face"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="56">
   <properties>
@@ -404,6 +513,9 @@
    <property name="name" value="room wall lamp"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="57">
   <properties>
@@ -411,6 +523,9 @@
    <property name="name" value="bookshelf"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="58">
   <properties>
@@ -418,6 +533,9 @@
    <property name="name" value="room wall W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="59">
   <properties>
@@ -425,6 +543,9 @@
    <property name="name" value="room wall E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="60">
   <properties>
@@ -432,6 +553,9 @@
    <property name="name" value="plateau rim W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="61">
   <properties>
@@ -446,6 +570,9 @@
    <property name="name" value="plateau rim E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="63">
   <properties>
@@ -517,6 +644,11 @@
    <property name="name" value="book chest NW"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="73">
   <properties>
@@ -525,6 +657,11 @@
    <property name="name" value="book chest NE"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="74">
   <properties>
@@ -581,6 +718,9 @@
    <property name="name" value="ruins wall NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="82">
   <properties>
@@ -588,6 +728,9 @@
    <property name="name" value="ruins wall N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="83">
   <properties>
@@ -595,6 +738,9 @@
    <property name="name" value="ruins wall NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="84">
   <properties>
@@ -602,6 +748,9 @@
    <property name="name" value="shrine roof W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="85">
   <properties>
@@ -609,6 +758,9 @@
    <property name="name" value="shrine roof C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="86">
   <properties>
@@ -616,6 +768,9 @@
    <property name="name" value="shrine roof E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="87">
   <properties>
@@ -623,6 +778,9 @@
    <property name="name" value="woods NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="88">
   <properties>
@@ -630,6 +788,9 @@
    <property name="name" value="woods N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="89">
   <properties>
@@ -637,6 +798,9 @@
    <property name="name" value="woods NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="90">
   <properties>
@@ -644,6 +808,9 @@
    <property name="name" value="great tree NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="91">
   <properties>
@@ -651,6 +818,9 @@
    <property name="name" value="great tree NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="92">
   <properties>
@@ -658,6 +828,9 @@
    <property name="name" value="fir upper"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="93">
   <properties>
@@ -729,6 +902,11 @@
    <property name="name" value="book chest SW"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="103">
   <properties>
@@ -737,6 +915,11 @@
    <property name="name" value="book chest SE"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="104">
   <properties>
@@ -793,6 +976,9 @@
    <property name="name" value="ruins wall W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="112">
   <properties>
@@ -807,6 +993,9 @@
    <property name="name" value="ruins wall E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="114">
   <properties>
@@ -814,6 +1003,9 @@
    <property name="name" value="shrine column W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="115">
   <properties>
@@ -822,6 +1014,11 @@
    <property name="name" value="door shrine"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="116">
   <properties>
@@ -829,6 +1026,9 @@
    <property name="name" value="shrine column E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="117">
   <properties>
@@ -836,6 +1036,9 @@
    <property name="name" value="woods W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="118">
   <properties>
@@ -843,6 +1046,9 @@
    <property name="name" value="woods C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="119">
   <properties>
@@ -850,6 +1056,9 @@
    <property name="name" value="woods E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="120">
   <properties>
@@ -857,6 +1066,9 @@
    <property name="name" value="great tree SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="121">
   <properties>
@@ -864,6 +1076,9 @@
    <property name="name" value="great tree SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="122">
   <properties>
@@ -871,6 +1086,9 @@
    <property name="name" value="fir lower"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="123">
   <properties>
@@ -928,6 +1146,11 @@
    <property name="name" value="door gate"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="131">
   <properties>
@@ -957,6 +1180,11 @@
    <property name="name" value="recovery point"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="135">
   <properties>
@@ -1006,6 +1234,9 @@
    <property name="name" value="ruins wall SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="142">
   <properties>
@@ -1013,6 +1244,9 @@
    <property name="name" value="ruins wall S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="143">
   <properties>
@@ -1020,6 +1254,9 @@
    <property name="name" value="ruins wall SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="144">
   <properties>
@@ -1027,6 +1264,9 @@
    <property name="name" value="plateau rim N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="145">
   <properties>
@@ -1041,6 +1281,9 @@
    <property name="name" value="plateau rim NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="147">
   <properties>
@@ -1048,6 +1291,9 @@
    <property name="name" value="woods SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="148">
   <properties>
@@ -1055,6 +1301,9 @@
    <property name="name" value="woods S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="149">
   <properties>
@@ -1062,6 +1311,9 @@
    <property name="name" value="woods SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="150">
   <properties>
@@ -1069,6 +1321,9 @@
    <property name="name" value="water bank NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="151">
   <properties>
@@ -1076,6 +1331,9 @@
    <property name="name" value="water bank N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="152">
   <properties>
@@ -1083,6 +1341,9 @@
    <property name="name" value="water bank NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="153">
   <properties>
@@ -1090,6 +1351,9 @@
    <property name="name" value="sea shore NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="154">
   <properties>
@@ -1097,6 +1361,9 @@
    <property name="name" value="sea shore N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="155">
   <properties>
@@ -1104,6 +1371,9 @@
    <property name="name" value="sea shore NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="156">
   <properties>
@@ -1111,6 +1381,9 @@
    <property name="name" value="plateau lip SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="157">
   <properties>
@@ -1118,6 +1391,9 @@
    <property name="name" value="plateau lip S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="158">
   <properties>
@@ -1125,6 +1401,9 @@
    <property name="name" value="plateau lip SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="159">
   <properties>
@@ -1153,6 +1432,9 @@
    <property name="name" value="crag NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="163">
   <properties>
@@ -1160,6 +1442,9 @@
    <property name="name" value="crag N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="164">
   <properties>
@@ -1167,6 +1452,9 @@
    <property name="name" value="crag NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="165">
   <properties>
@@ -1174,6 +1462,9 @@
    <property name="name" value="dark crag NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="166">
   <properties>
@@ -1181,6 +1472,9 @@
    <property name="name" value="dark crag N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="167">
   <properties>
@@ -1188,6 +1482,9 @@
    <property name="name" value="dark crag NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="168">
   <properties>
@@ -1195,6 +1492,9 @@
    <property name="name" value="statue upper"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="169">
   <properties>
@@ -1209,6 +1509,9 @@
    <property name="name" value="lava NW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="171">
   <properties>
@@ -1216,6 +1519,9 @@
    <property name="name" value="lava N"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="172">
   <properties>
@@ -1223,6 +1529,9 @@
    <property name="name" value="lava NE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="173">
   <properties>
@@ -1230,6 +1539,9 @@
    <property name="name" value="dead tree"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="174">
   <properties>
@@ -1279,6 +1591,9 @@
    <property name="name" value="water bank W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="181">
   <properties>
@@ -1286,6 +1601,9 @@
    <property name="name" value="water bank C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="182">
   <properties>
@@ -1293,6 +1611,9 @@
    <property name="name" value="water bank E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="183">
   <properties>
@@ -1300,6 +1621,9 @@
    <property name="name" value="sea shore W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="184">
   <properties>
@@ -1307,6 +1631,9 @@
    <property name="name" value="sea shore C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="185">
   <properties>
@@ -1314,6 +1641,9 @@
    <property name="name" value="sea shore E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="186">
   <properties>
@@ -1321,6 +1651,9 @@
    <property name="name" value="cliff face W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="187">
   <properties>
@@ -1328,6 +1661,9 @@
    <property name="name" value="cliff face C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="188">
   <properties>
@@ -1335,6 +1671,9 @@
    <property name="name" value="cliff face E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="189">
   <properties>
@@ -1363,6 +1702,9 @@
    <property name="name" value="crag W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="193">
   <properties>
@@ -1370,6 +1712,9 @@
    <property name="name" value="crag C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="194">
   <properties>
@@ -1377,6 +1722,9 @@
    <property name="name" value="crag E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="195">
   <properties>
@@ -1384,6 +1732,9 @@
    <property name="name" value="dark crag W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="196">
   <properties>
@@ -1391,6 +1742,9 @@
    <property name="name" value="dark crag C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="197">
   <properties>
@@ -1398,6 +1752,9 @@
    <property name="name" value="dark crag E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="198">
   <properties>
@@ -1405,6 +1762,9 @@
    <property name="name" value="statue lower"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="199">
   <properties>
@@ -1412,6 +1772,9 @@
    <property name="name" value="ruins pillar"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="200">
   <properties>
@@ -1419,6 +1782,9 @@
    <property name="name" value="lava W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="201">
   <properties>
@@ -1426,6 +1792,9 @@
    <property name="name" value="lava C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="202">
   <properties>
@@ -1433,6 +1802,9 @@
    <property name="name" value="lava E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="203">
   <properties>
@@ -1440,6 +1812,9 @@
    <property name="name" value="room wall S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="204">
   <properties>
@@ -1447,6 +1822,9 @@
    <property name="name" value="void"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="205">
   <properties>
@@ -1489,6 +1867,9 @@
    <property name="name" value="water bank SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="211">
   <properties>
@@ -1496,6 +1877,9 @@
    <property name="name" value="water bank S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="212">
   <properties>
@@ -1503,6 +1887,9 @@
    <property name="name" value="water bank SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="213">
   <properties>
@@ -1510,6 +1897,9 @@
    <property name="name" value="sea shore SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="214">
   <properties>
@@ -1517,6 +1907,9 @@
    <property name="name" value="sea shore S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="215">
   <properties>
@@ -1524,6 +1917,9 @@
    <property name="name" value="sea shore SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="216">
   <properties>
@@ -1531,6 +1927,9 @@
    <property name="name" value="cliff foot W"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="217">
   <properties>
@@ -1538,6 +1937,9 @@
    <property name="name" value="cliff foot C"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="218">
   <properties>
@@ -1545,6 +1947,9 @@
    <property name="name" value="cliff foot E"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="219">
   <properties>
@@ -1573,6 +1978,9 @@
    <property name="name" value="crag SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="223">
   <properties>
@@ -1580,6 +1988,9 @@
    <property name="name" value="crag S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="224">
   <properties>
@@ -1587,6 +1998,9 @@
    <property name="name" value="crag SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="225">
   <properties>
@@ -1594,6 +2008,9 @@
    <property name="name" value="dark crag SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="226">
   <properties>
@@ -1601,6 +2018,9 @@
    <property name="name" value="dark crag S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="227">
   <properties>
@@ -1608,6 +2028,9 @@
    <property name="name" value="dark crag SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="228">
   <properties>
@@ -1615,6 +2038,9 @@
    <property name="name" value="waterfall"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="229">
   <properties>
@@ -1622,6 +2048,9 @@
    <property name="name" value="boulder"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="230">
   <properties>
@@ -1629,6 +2058,9 @@
    <property name="name" value="lava SW"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="231">
   <properties>
@@ -1636,6 +2068,9 @@
    <property name="name" value="lava S"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="232">
   <properties>
@@ -1643,6 +2078,9 @@
    <property name="name" value="lava SE"/>
    <property name="walkable" type="bool" value="false"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="1" y="1" width="14" height="14"/>
+  </objectgroup>
  </tile>
  <tile id="233">
   <properties>
@@ -1651,6 +2089,11 @@
    <property name="name" value="waste floor 4"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
+  <objectgroup draworder="index" id="2">
+   <object id="1" x="3" y="3" width="10" height="10">
+    <ellipse/>
+   </object>
+  </objectgroup>
  </tile>
  <tile id="234">
   <properties>

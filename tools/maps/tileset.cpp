@@ -40,6 +40,17 @@ std::string EventOf(int code) {
   return {};
 }
 
+// Tiled draws these shapes over the map with "Show Tile Collision Shapes": a square where one
+// cannot walk, a circle where something happens.
+std::string Shape(const TileEntry& tile, bool event) {
+  if (tile.walkable && !event) return {};
+  const std::string place =
+      tile.walkable ? "x=\"3\" y=\"3\" width=\"10\" height=\"10\">\n    <ellipse/>\n   </object>\n"
+                    : "x=\"1\" y=\"1\" width=\"14\" height=\"14\"/>\n";
+  return "  <objectgroup draworder=\"index\" id=\"2\">\n   <object id=\"1\" " + place +
+         "  </objectgroup>\n";
+}
+
 std::string Property(const std::string& name, const std::string& type, const std::string& value) {
   return "   <property name=\"" + name + "\"" + type + " value=\"" + value + "\"/>\n";
 }
@@ -81,7 +92,7 @@ std::string WriteTileset(const std::vector<TileEntry>& tiles, const std::string&
     if (!event.empty()) text += Property("event", "", event);
     text += Property("name", "", tile.name);
     text += Property("walkable", " type=\"bool\"", tile.walkable ? "true" : "false");
-    text += "  </properties>\n </tile>\n";
+    text += "  </properties>\n" + Shape(tile, !event.empty()) + " </tile>\n";
   }
   return text + "</tileset>\n";
 }

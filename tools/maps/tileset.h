@@ -20,7 +20,8 @@ struct TileEntry {
 std::vector<TileEntry> ReadCatalogue(std::string_view csv);
 
 // The text of the Tiled tileset: each tile with its name, whether it can be walked on and what it
-// does to the party. `image` is the sheet's path as seen from the tileset's folder.
+// does to the party, in words and as a shape that Tiled can draw over the map. `image` is the
+// sheet's path as seen from the tileset's folder.
 std::string WriteTileset(const std::vector<TileEntry>& tiles, const std::string& image);
 
 // Where the catalogue and the game disagree about walking, one sentence each.

@@ -34,7 +34,7 @@ Rendering Render(const std::string& midi, const std::string& sound_font, double 
   if (settings == nullptr) throw std::runtime_error("no settings of the synthesizer");
   fluid_settings_setnum(settings.get(), "synth.sample-rate", 44100);
   fluid_settings_setnum(settings.get(), "synth.gain", RenderGain);
-  fluid_settings_setint(settings.get(), "synth.polyphony", 256);
+  fluid_settings_setint(settings.get(), "synth.polyphony", 128);
   fluid_settings_setstr(settings.get(), "player.timing-source", "sample");
   fluid_settings_setint(settings.get(), "synth.lock-memory", 0);
   const std::unique_ptr<fluid_synth_t, Closer> synth(new_fluid_synth(settings.get()));

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "tools/music/checks.h"
+#include "tools/music/performance.h"
+
+namespace orvane::music {
+namespace {
+
+constexpr uint8_t On = 0x90;
+constexpr uint8_t Off = 0x80;
+
+// A sound file of one part: a flute that plays quarter notes for a whole bar.
+MidiFile Plain() {
+  MidiFile file;
+  MidiTrack conductor;
+  conductor.end = Whole;
+  conductor.events.push_back({0, 0xFF, MetaTempo, 0, std::string("\x07\xA1\x20", 3)});
+  conductor.events.push_back({0, 0xFF, MetaKey, 0, std::string("\x02\x00", 2)});
+  MidiTrack flute;
+  flute.end = Whole;
+  flute.events.push_back({0, 0xFF, MetaName, 0, "flute"});
+  flute.events.push_back({0, 0xC0, 73, 0, {}});
+  for (int i = 0; i < 4; ++i) {
+    flute.events.push_back({i * Quarter, On, 74, 80, {}});
+    flute.events.push_back({(i + 1) * Quarter - 1, Off, 74, 0, {}});
+  }
+  file.tracks = {conductor, flute};
+  return file;
+}
+
+bool Finds(const MidiFile& file, const std::string& words) {
+  for (const std::string& fault : CheckPiece("Test", ReadMidi(WriteMidi(file)))) {
+    if (fault.find(words) != std::string::npos) return true;
+  }
+  return false;
+}
+
+TEST(MidiFile, ReadsWhatItWrites) {
+  const std::string bytes = WriteMidi(Plain());
+  const MidiFile read = ReadMidi(bytes);
+  EXPECT_EQ(read.format, 1);
+  EXPECT_EQ(read.ticks_per_quarter, 480);
+  ASSERT_EQ(read.tracks.size(), 2U);
+  EXPECT_EQ(read.tracks[1].end, Whole);
+  EXPECT_EQ(read.tracks[1].events.size(), Plain().tracks[1].events.size());
+  EXPECT_EQ(WriteMidi(read), bytes);
+}
+
+TEST(MidiFile, RefusesADamagedFile) {
+  const std::string bytes = WriteMidi(Plain());
+  EXPECT_THROW(ReadMidi(""), std::runtime_error);
+  EXPECT_THROW(ReadMidi("MThd"), std::runtime_error);
+  EXPECT_THROW(ReadMidi(bytes.substr(0, bytes.size() - 1)), std::runtime_error);
+  EXPECT_THROW(ReadMidi(bytes + "x"), std::runtime_error);
+  std::string no_end = bytes;
+  no_end[no_end.size() - 2] = 0x01;  // the end of the last track made a text
+  EXPECT_THROW(ReadMidi(no_end), std::runtime_error);
+}
+
+TEST(Checks, PassASoundFile) {
+  EXPECT_TRUE(CheckPiece("Test", Plain()).empty());
+}
+
+TEST(Checks, FindEveryFault) {
+  MidiFile file = Plain();
+  file.format = 0;
+  EXPECT_TRUE(Finds(file, "format 1"));
+
+  file = Plain();
+  file.tracks[1].events[2].tick = Quarter / 2;
+  EXPECT_TRUE(Finds(file, "silence at the start"));
+
+  file = Plain();
+  file.tracks[1].events.back().tick -= Quarter / 2;
+  EXPECT_TRUE(Finds(file, "silence at the end"));
+
+  file = Plain();
+  file.tracks[1].events.pop_back();
+  EXPECT_TRUE(Finds(file, "never ended"));
+
+  file = Plain();
+  file.tracks[1].events[3].tick = Quarter + 10;
+  EXPECT_TRUE(Finds(file, "struck while it sounds"));
+
+  file = Plain();
+  for (MidiEvent& event : file.tracks[1].events) {
+    if ((event.status & 0xE0) == 0x80) event.data1 = 40;
+  }
+  EXPECT_TRUE(Finds(file, "leaves the range of flute"));
+
+  file = Plain();
+  for (uint8_t i = 0; i < 25; ++i) {
+    file.tracks[1].events.push_back(
+        {100, On, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 60, {}});
+    file.tracks[1].events.push_back(
+        {200, Off, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 0, {}});
+  }
+  EXPECT_TRUE(Finds(file, "notes at once"));
+
+  file = Plain();
+  file.tracks[0].events.push_back({Quarter, 0xFF, MetaKey, 0, std::string("\x03\x00", 2)});
+  EXPECT_TRUE(Finds(file, "key at the end"));
+
+  file = Plain();
+  file.tracks[0].events.push_back({Quarter, 0xFF, MetaTempo, 0, std::string("\x1E\x84\x80", 3)});
+  EXPECT_TRUE(Finds(file, "tempo at the end"));
+
+  file = Plain();
+  file.tracks[0].end -= 1;
+  EXPECT_TRUE(Finds(file, "different lengths"));
+
+  file = Plain();
+  bool too_short = false;
+  for (const std::string& fault : CheckPiece("Round1", file)) {
+    too_short = too_short || fault.find("lasts") != std::string::npos;
+  }
+  EXPECT_TRUE(too_short);
+}
+
+TEST(Checks, HearASemitoneBetweenTwoParts) {
+  MidiFile file = Plain();
+  MidiTrack other = file.tracks[1];
+  for (MidiEvent& event : other.events) {
+    if ((event.status & 0xE0) == 0x80) event.data1 = 75;
+    if (event.status != 0xFF) event.status = static_cast<uint8_t>(event.status | 1);
+  }
+  EXPECT_TRUE(Frictions(CollectNotes(file)).empty());
+  file.tracks.push_back(other);
+  EXPECT_EQ(Frictions(CollectNotes(file)).size(), 4U);
+}
+
+TEST(Performance, IsTheSameEveryTimeAndKeepsToItsEnds) {
+  const Score score = ReadScore(
+      "piece Test\nkey D major\ntempo 120\nmeter 4/4\npoll 100\npart tune flute home 5 feel 20 "
+      "vibrato 30\n"
+      "form A\nsection A 2\n  tune (d8 d d d d2) | d1 |\n");
+  const MidiFile file = Perform(WriteOut(score));
+  EXPECT_EQ(WriteMidi(file), WriteMidi(Perform(WriteOut(score))));
+  // Half of the 100 ms at 120 quarters a minute are 48 ticks.
+  EXPECT_EQ(file.tracks[1].end, 2 * Whole - 48);
+  EXPECT_TRUE(CheckPiece("Test", file).empty());
+}
+
+}  // namespace
+}  // namespace orvane::music

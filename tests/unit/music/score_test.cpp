@@ -1,0 +1,109 @@
+#include "tools/music/score.h"
+
+#include <gtest/gtest.h>
+
+#include "tools/music/sheet.h"
+
+namespace orvane::music {
+namespace {
+
+const std::string Head =
+    "piece Test \"A test\"\n"
+    "key D major\n"
+    "tempo 120\n"
+    "meter 4/4\n"
+    "part tune flute home 5\n"
+    "part low finger-bass home 2 floor e1\n"
+    "part kit standard-kit\n"
+    "pattern beat\n"
+    "  kick  X...o...\n"
+    "  hat   xxxxxxxx\n";
+
+// The whole score: the head, the form and the sections.
+std::string WholeScore(const std::string& form, const std::string& sections) {
+  return Head + "form " + form + "\n" + sections;
+}
+
+std::string Fault(const std::string& text) {
+  try {
+    const Score score = ReadScore(text);
+    WriteOut(score);
+  } catch (const ScoreError& problem) {
+    return problem.what();
+  }
+  return {};
+}
+
+TEST(Score, PlacesSectionsByTheForm) {
+  const Score score = ReadScore(
+      WholeScore("A B A", "section A 1\n  tune d1 |\nsection B 2\n  tune e2 f# | g1 |\n"));
+  const Sheet sheet = WriteOut(score);
+  EXPECT_EQ(sheet.end, 4 * Whole);
+  ASSERT_EQ(sheet.sections.size(), 3U);
+  EXPECT_EQ(sheet.sections[2].start, 3 * Whole);
+  ASSERT_EQ(sheet.parts[0].notes.size(), 5U);
+  EXPECT_EQ(sheet.parts[0].notes[0].pitch, 74);
+  EXPECT_EQ(sheet.parts[0].notes[4].start, 3 * Whole);
+}
+
+TEST(Score, JoinsTiedNotesAcrossTheBar) {
+  const Score score = ReadScore(WholeScore("A", "section A 2\n  tune d1~ | d2 e |\n"));
+  const Sheet sheet = WriteOut(score);
+  ASSERT_EQ(sheet.parts[0].notes.size(), 2U);
+  EXPECT_EQ(sheet.parts[0].notes[0].length, Whole + Whole / 2);
+}
+
+TEST(Score, FillsALineThatRepeats) {
+  const Score score =
+      ReadScore(WholeScore("A", "section A 4\n  chords D | A/C# | ...|\n  low R4 F R2 | ...|\n"));
+  const Sheet sheet = WriteOut(score);
+  ASSERT_EQ(sheet.parts[1].notes.size(), 12U);
+  EXPECT_EQ(sheet.parts[1].notes[0].pitch, 38);  // d
+  EXPECT_EQ(sheet.parts[1].notes[1].pitch, 45);  // its fifth
+  EXPECT_EQ(sheet.parts[1].notes[3].pitch, 37);  // c#, the bass of the second chord
+}
+
+TEST(Score, LeansOnAnotherSectionAndTransposes) {
+  const Score score = ReadScore(WholeScore(
+      "A B",
+      "section A 1\n  chords D\n  tune d1 |\n  kit beat |\nsection B 1 like A +2\n  low R1 |\n"));
+  const Sheet sheet = WriteOut(score);
+  EXPECT_EQ(sheet.parts[0].notes[1].pitch, 76);
+  EXPECT_EQ(sheet.parts[1].notes[0].pitch, 28);  // e, the lowest above the floor
+  EXPECT_EQ(sheet.parts[2].notes.size(), 20U);
+  EXPECT_EQ(sheet.parts[2].notes.back().pitch, 42);  // drums stay
+}
+
+TEST(Score, GrowsADynamicOverItsStretch) {
+  const Score score = ReadScore(WholeScore("A", "section A 2\n  tune \\p..f d1 | e2 \\mf f# |\n"));
+  const Sheet sheet = WriteOut(score);
+  const auto& notes = sheet.parts[0].notes;
+  EXPECT_DOUBLE_EQ(notes[0].loudness, 50);
+  EXPECT_GT(notes[1].loudness, 70);
+  EXPECT_LT(notes[1].loudness, 88);
+  EXPECT_DOUBLE_EQ(notes[2].loudness, 75);
+}
+
+TEST(Score, NamesTheLineOfAFault) {
+  EXPECT_EQ(Fault(WholeScore("A", "section A 1\n  tune d1 |\n")), "");
+  EXPECT_NE(Fault(WholeScore("A", "section A 1\n  tune d2 |\n")).find("line 13"),
+            std::string::npos);
+  EXPECT_NE(Fault(WholeScore("A", "section A 2\n  tune d1 |\n")).find("1 bars and not 2"),
+            std::string::npos);
+  EXPECT_NE(Fault(WholeScore("A", "section A 1\n  flute d1 |\n")).find("no part"),
+            std::string::npos);
+  EXPECT_NE(Fault(WholeScore("X", "section A 1\n  tune d1 |\n")).find("no section"),
+            std::string::npos);
+  EXPECT_NE(Fault(WholeScore("A", "section A 1\n  tune R1 |\n")).find("no chord"),
+            std::string::npos);
+  EXPECT_NE(Fault(WholeScore("A", "section A 1\n  kit boom |\n")).find("no pattern"),
+            std::string::npos);
+  EXPECT_NE(Fault(WholeScore("A", "section A 1\n  tune d1~ |\n")).find("tie"), std::string::npos);
+  EXPECT_NE(Fault(WholeScore("A", "section A 2\n  tune d1~ | e1 |\n")).find("tie"),
+            std::string::npos);
+  EXPECT_NE(Fault("piece X\npart a kazoo\n").find("unknown instrument"), std::string::npos);
+  EXPECT_NE(Fault("piece X\npart a flute volume 200\n").find("0 to 127"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace orvane::music

@@ -38,27 +38,31 @@ void StartHero(GameRecord& record, int hero) {
 
 }  // namespace
 
+void FreshRecord(GameRecord& record) {
+  StartHero(record, 0);
+  StartHero(record, 1);
+  record.Round = 1;
+  record.StoryNo = 0;
+  record.SaveX = 13;
+  record.SaveY = 7;
+  for (int i = 0; i < kSkills; ++i) record.WazaKnown[i] = record.MagicKnown[i] = False;
+  for (int slot = 0; slot < BagSize; ++slot) {
+    record.Items[slot] = slot < kStarterItems ? kStarterItem : NoItem;
+  }
+  record.ItemCount = kStarterItems;
+  record.TreasureNo = 0;
+  for (int i = 0; i < kChests; ++i) record.TreasureLeft[i] = True;
+  for (int i = 0; i < kBookChests; ++i) record.BookLeft[i] = True;
+}
+
 void NewGameDefaults(Game& game) {
   State& state = game.state;
   state.KeyUpWaiting = state.KeyDownWaiting = state.KeyLeftWaiting = state.KeyRightWaiting = False;
   state.OnRecovery = state.OnChest = False;
   game.links.SetBattleInterval(kBattleInterval);
-  StartHero(state, 0);
-  StartHero(state, 1);
+  FreshRecord(state);
   state.MapA = 3;
   state.MapB = 3;
-  state.Round = 1;
-  state.StoryNo = 0;
-  state.SaveX = 13;
-  state.SaveY = 7;
-  for (int i = 0; i < kSkills; ++i) state.WazaKnown[i] = state.MagicKnown[i] = False;
-  for (int slot = 0; slot < BagSize; ++slot) {
-    state.Items[slot] = slot < kStarterItems ? kStarterItem : NoItem;
-  }
-  state.ItemCount = kStarterItems;
-  state.TreasureNo = 0;
-  for (int i = 0; i < kChests; ++i) state.TreasureLeft[i] = True;
-  for (int i = 0; i < kBookChests; ++i) state.BookLeft[i] = True;
   state.ActionState = 0;
   game.Main.Timer1.SetEnabled(false);
 }

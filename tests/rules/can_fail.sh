@@ -1,0 +1,66 @@
+#!/bin/bash
+# The rule tests catch what they are there to catch.
+#   can_fail.sh COMPILER AR
+set -u
+here=$(dirname "$(realpath "$0")")
+trial=$(mktemp -d)
+trap 'rm -rf "$trial"' EXIT
+faults=0
+
+refuses() {
+  if "${@:2}" >/dev/null 2>&1; then
+    echo "not caught: $1"
+    faults=$((faults + 1))
+  fi
+}
+passes() {
+  if ! "${@:2}" >"$trial/log" 2>&1; then
+    echo "wrongly caught: $1"
+    cat "$trial/log"
+    faults=$((faults + 1))
+  fi
+}
+
+tree() {
+  rm -rf "$trial/src"
+  for floor in platform core field battle screens ending game; do
+    mkdir -p "$trial/src/$floor"
+    printf '#include <string>\n' >"$trial/src/$floor/a.h"
+    printf '#include "src/%s/a.h"\n' "$floor" >"$trial/src/$floor/a.cpp"
+  done
+}
+
+tree
+passes "a clean tree" "$here/floors.sh" "$trial"
+echo '#include "src/battle/a.h"' >>"$trial/src/core/a.cpp"
+refuses "an include that runs up" "$here/floors.sh" "$trial"
+tree
+echo '#include "src/field/a.h"' >>"$trial/src/battle/a.cpp"
+refuses "an include across" "$here/floors.sh" "$trial"
+tree
+echo '#include <QWidget>' >>"$trial/src/screens/a.h"
+refuses "a toolkit's header" "$here/floors.sh" "$trial"
+tree
+echo '#  include <unistd.h>' >>"$trial/src/platform/a.h"
+refuses "an operating-system header" "$here/floors.sh" "$trial"
+
+library() {
+  printf '%s\n' "$1" >"$trial/a.cpp"
+  "$compiler" -std=c++20 -O0 -c "$trial/a.cpp" -o "$trial/a.o" && rm -f "$trial/a.a" &&
+    "$archiver" rcs "$trial/a.a" "$trial/a.o"
+}
+compiler=$1
+archiver=$2
+library 'namespace orvane { extern const int a[3] = {1, 2, 3}; int F() { return a[1]; } }'
+passes "a constant" "$here/globals.sh" "$trial/a.a"
+library 'namespace orvane { int counter = 1; int F() { return counter++; } }'
+refuses "a global with a value" "$here/globals.sh" "$trial/a.a"
+library 'namespace orvane { namespace { int counter; } int F() { return counter++; } }'
+refuses "a hidden global" "$here/globals.sh" "$trial/a.a"
+library 'namespace orvane { int F() { static int counter; return counter++; } }'
+refuses "a static of a function" "$here/globals.sh" "$trial/a.a"
+library 'namespace orvane { int F() { thread_local int counter = 3; return counter++; } }'
+refuses "a thread's global" "$here/globals.sh" "$trial/a.a"
+
+[ "$faults" -eq 0 ] && echo "the rules can fail"
+[ "$faults" -eq 0 ]

@@ -31,7 +31,9 @@ class TileMap {
   }
 
  private:
-  static size_t Index(int column, int row) { return static_cast<size_t>(column * kRows + row); }
+  static size_t Index(int column, int row) {
+    return static_cast<size_t>(column) * size_t{kRows} + static_cast<size_t>(row);
+  }
 
   std::array<int, kCells> codes_{};
 };

@@ -268,6 +268,23 @@ TEST(MapCheck, FindsTooLongAWayToRecovery) {
   EXPECT_TRUE(WalkingFault(world, FaultKind::FarFromRecovery));
 }
 
+// The wastes keep their battle ground to themselves, and the dragon is met on it.
+TEST(MapCheck, TheWastesAreARegionOfTheirOwn) {
+  for (const auto& [place, map] : GameWorld().maps) {
+    int cells = 0;
+    for (int column = 0; column < kColumns; ++column) {
+      for (int row = 0; row < kRows; ++row) cells += IsOtherGround(map.At(column, row)) ? 1 : 0;
+    }
+    const bool wastes = place == kDragonMap || place == Place{4, 2} || place == Place{5, 2};
+    EXPECT_EQ(cells > 0, wastes) << PlaceName(place);
+  }
+  const Exploration exploration = Explore(GameWorld(), JourneyNamed("round 1"));
+  for (const Stand& stand : exploration.stands) {
+    if (std::count(stand.next.begin(), stand.next.end(), kToDragon) == 0) continue;
+    EXPECT_TRUE(IsOtherGround(TileUnder(GameWorld(), stand.party)));
+  }
+}
+
 TEST(Distances, AreToldForEveryGoal) {
   const Exploration exploration =
       Explore(GameWorld(), JourneyNamed("round 3 with nine techniques"));

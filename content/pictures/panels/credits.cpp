@@ -30,12 +30,12 @@ constexpr std::array<Strip, 3> coloured{
     {{0, 128, 200, 32, "STAFF", 26, 5},
      {200, 128, 200, 32, "SPECIAL THANKS", 20, 0.9},
      {0, 288, 400, 32, "最後まで旅してくれたあなたへ", 24, 1.5}}};
-constexpr std::array<Strip, 7> plain{{{0, 192, 200, 32, "企画・脚本・プログラム", 17, 0.5},
-                                      {200, 192, 200, 32, "グラフィック・マップ", 17, 0.5},
-                                      {0, 224, 200, 32, "音楽・効果音", 17, 2},
-                                      {200, 224, 200, 32, "テストプレイのみなさん", 17, 0.5},
-                                      {0, 256, 200, 32, "道具を作ったみなさん", 17, 0.5},
-                                      {200, 256, 200, 32, "龍の狭間の龍たち", 17, 1.5},
+constexpr std::array<Strip, 7> plain{{{0, 192, 200, 32, "企画・脚本・プログラム", 18, 0.5},
+                                      {200, 192, 200, 32, "グラフィック・マップ", 18, 0.5},
+                                      {0, 224, 200, 32, "音楽・効果音", 18, 2},
+                                      {200, 224, 200, 32, "テストプレイのみなさん", 18, 0.5},
+                                      {0, 256, 200, 32, "道具を作ったみなさん", 18, 0.5},
+                                      {200, 256, 200, 32, "龍の狭間の龍たち", 18, 1.5},
                                       {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}};
 constexpr const char* serif = "IPAPMincho";
 constexpr const char* plain_face = "IPAPGothic";
@@ -85,7 +85,7 @@ void PaintColoured(Image& sheet, const Strip& strip) {
 
 void PaintPlain(Image& sheet, const Strip& strip) {
   Drawing drawing(strip.width, strip.height);
-  StrokeText(drawing, strip, plain_face, white, 0.9);
+  StrokeText(drawing, strip, plain_face, white, 1.0);
   Trace(drawing, strip, plain_face);
   drawing.FillTraced(white);
   const Cover body = drawing.Coverage();

@@ -1,52 +1,13 @@
 #include "content/pictures/scenes/drawing.h"
 
 #include <array>
-#include <charconv>
 #include <cstring>
 #include <numbers>
-#include <stdexcept>
-#include <string>
+
+#include "content/pictures/scenes/path.h"
 
 namespace orvane::paint::scene {
 namespace {
-
-// Reads a path's commands and numbers one after the other.
-class PathReader {
- public:
-  explicit PathReader(std::string_view text) : rest_(text) {}
-
-  // False at the end of the text; otherwise the command, the last one again before a number.
-  bool NextCommand(char& command) {
-    SkipBlanks();
-    if (rest_.empty()) return false;
-    const char first = rest_.front();
-    if (std::strchr("MLHVQCZ", first) != nullptr) {
-      command = first;
-      rest_.remove_prefix(1);
-    }
-    return true;
-  }
-
-  double Number() {
-    SkipBlanks();
-    double value = 0;
-    const auto [end, error] = std::from_chars(rest_.data(), rest_.data() + rest_.size(), value);
-    if (error != std::errc())
-      throw std::invalid_argument("path: number expected: " + std::string(rest_));
-    rest_.remove_prefix(static_cast<size_t>(end - rest_.data()));
-    return value;
-  }
-
- private:
-  void SkipBlanks() {
-    while (!rest_.empty() &&
-           (rest_.front() == ' ' || rest_.front() == ',' || rest_.front() == '\n')) {
-      rest_.remove_prefix(1);
-    }
-  }
-
-  std::string_view rest_;
-};
 
 double Level(uint32_t colour, int shift) {
   return static_cast<double>(colour >> shift & 0xFF) / 255;
@@ -64,47 +25,6 @@ Drawing::Drawing(int width, int height, int fine)
   cairo_set_line_join(context_.get(), CAIRO_LINE_JOIN_ROUND);
   cairo_set_line_cap(context_.get(), CAIRO_LINE_CAP_ROUND);
   cairo_set_fill_rule(context_.get(), CAIRO_FILL_RULE_EVEN_ODD);
-}
-
-void Drawing::Trace(std::string_view path) {
-  cairo_t* const c = context_.get();
-  cairo_new_path(c);
-  PathReader reader(path);
-  char command = ' ';
-  double x = 0;
-  double y = 0;
-  while (reader.NextCommand(command)) {
-    std::array<double, 4> guide{};
-    const size_t guides = command == 'C' ? 4 : command == 'Q' ? 2 : 0;
-    for (size_t i = 0; i < guides; ++i) guide[i] = reader.Number();
-    const double from_x = x;
-    const double from_y = y;
-    if (command != 'Z' && command != 'V') x = reader.Number();
-    if (command != 'Z' && command != 'H') y = reader.Number();
-    switch (command) {
-      case 'M':
-        cairo_move_to(c, x, y);
-        break;
-      case 'L':
-      case 'H':
-      case 'V':
-        cairo_line_to(c, x, y);
-        break;
-      case 'C':
-        cairo_curve_to(c, guide[0], guide[1], guide[2], guide[3], x, y);
-        break;
-      case 'Q':
-        cairo_curve_to(c, from_x + (guide[0] - from_x) * 2 / 3,
-                       from_y + (guide[1] - from_y) * 2 / 3, x + (guide[0] - x) * 2 / 3,
-                       y + (guide[1] - y) * 2 / 3, x, y);
-        break;
-      case 'Z':
-        cairo_close_path(c);
-        break;
-      default:
-        throw std::invalid_argument("path: command expected: " + std::string(path));
-    }
-  }
 }
 
 void Drawing::Use(const Fill& fill, double opacity) {
@@ -138,13 +58,13 @@ void Drawing::StrokeTraced(uint32_t colour, double width) {
 }
 
 void Drawing::Shape(std::string_view path, const Fill& fill, double opacity) {
-  Trace(path);
+  TracePath(context_.get(), path);
   Use(fill, opacity);
   cairo_fill(context_.get());
 }
 
 void Drawing::Line(std::string_view path, uint32_t colour, double width, double opacity) {
-  Trace(path);
+  TracePath(context_.get(), path);
   Use(colour, opacity);
   cairo_set_line_width(context_.get(), width);
   cairo_stroke(context_.get());
@@ -170,7 +90,7 @@ void Drawing::Ellipse(double x, double y, double across, double down, const Fill
 
 void Drawing::Clip(std::string_view path) {
   cairo_save(context_.get());
-  Trace(path);
+  TracePath(context_.get(), path);
   cairo_clip(context_.get());
 }
 

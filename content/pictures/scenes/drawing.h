@@ -90,7 +90,6 @@ class Drawing {
     float cover;
   };
 
-  void Trace(std::string_view path);
   void Use(const Fill& fill, double opacity);
   Mean PixelMean(int x, int y) const;
 

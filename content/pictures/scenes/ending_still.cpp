@@ -118,7 +118,8 @@ void DrawHill(Canvas& canvas) {
     const float foot = HillTop(x) + depth * 150;
     const float length = 5 + 9 * Hash(k, 3, 92) + 10 * depth;
     const float lean = (Hash(k, 4, 92) - 0.35F) * 0.9F;
-    for (float up = 0; up < length; up += 0.7F) {
+    for (int step = 0; step < static_cast<int>(length / 0.7F); ++step) {
+      const float up = static_cast<float>(step) * 0.7F;
       const float share = up / length;
       const float tone = 0.25F + 0.75F * share - 0.62F * depth - 0.12F * Hash(k, 5, 92);
       canvas.Blend(static_cast<int>(x + lean * share * up), static_cast<int>(foot - up),

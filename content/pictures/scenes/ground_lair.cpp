@@ -3,7 +3,7 @@
 #include <array>
 
 #include "content/pictures/scenes/canvas.h"
-#include "content/pictures/scenes/hall.h"
+#include "content/pictures/scenes/hall_light.h"
 #include "content/pictures/scenes/noise.h"
 #include "content/pictures/scenes/scenes.h"
 #include "content/pictures/scenes/terrain.h"
@@ -19,65 +19,6 @@ constexpr std::array<uint32_t, 5> crystal{0x106080, 0x18A0B0, 0x40DCD0, 0xA8F8E8
 constexpr std::array<uint32_t, 6> radiance{0x184878, 0x2088A0, 0x58C8B8,
                                            0xC8E8A0, 0xFCF0B0, 0xFFFFF0};
 constexpr Vec key{-0.55F, 0.78F, -0.3F};
-constexpr float sight = 320;
-
-struct Hit {
-  Vec place;
-  float distance = 0;
-  Stuff stuff = Stuff::Disc;
-};
-
-Hit March(Vec from, Vec direction, int steps) {
-  float reach = 0.5F;
-  Solid solid;
-  for (int step = 0; step < steps && reach < sight; ++step) {
-    solid = HallAt(from + direction * reach);
-    if (solid.distance < 0.01F + reach * 0.0006F) break;
-    reach += solid.distance;
-  }
-  return {from + direction * reach, reach, solid.stuff};
-}
-
-Vec NormalAt(Vec p, float gap) {
-  const auto at = [&](Vec offset) { return HallAt(p + offset * gap).distance; };
-  const Vec a{1, -1, -1};
-  const Vec b{-1, -1, 1};
-  const Vec c{-1, 1, -1};
-  const Vec d{1, 1, 1};
-  const Vec sum = a * at(a) + b * at(b) + c * at(c) + d * at(d);
-  return Length(sum) > 0 ? Unit(sum) : Vec{0, 1, 0};
-}
-
-// Only what stands near throws a shadow: the light is the vault's own shimmer.
-float Shadow(Vec from, Vec towards) {
-  float open = 1;
-  float reach = 1;
-  for (int step = 0; step < 24 && reach < 60; ++step) {
-    const float distance = HallAt(from + towards * reach).distance;
-    open = std::min(open, 7 * distance / reach);
-    if (open < 0.02F) return 0;
-    reach += std::max(distance, 0.6F);
-  }
-  return open;
-}
-
-float Openness(Vec p, Vec normal) {
-  float closed = 0;
-  float weight = 0.5F;
-  for (int step = 1; step <= 4; ++step) {
-    const float reach = 1.6F * static_cast<float>(step);
-    closed += weight * Clamp((reach - HallAt(p + normal * reach).distance) / reach);
-    weight *= 0.72F;
-  }
-  return Clamp(1 - closed * 0.75F);
-}
-
-// The light of a point: how squarely it falls on the surface, weaker with the square of the way.
-float Glow(Vec p, Vec normal, Vec source, float strength) {
-  const Vec way = source - p;
-  const float squared = Dot(way, way);
-  return Clamp(Dot(normal, way) / std::sqrt(squared) * 0.7F + 0.3F) * strength / (1 + squared);
-}
 
 // The disc: rings and rays that brighten towards the middle.
 Colour DiscColour(Vec p) {

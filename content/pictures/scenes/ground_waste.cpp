@@ -5,6 +5,7 @@
 
 #include "content/pictures/scenes/details.h"
 #include "content/pictures/scenes/noise.h"
+#include "content/pictures/scenes/remains.h"
 #include "content/pictures/scenes/scenes.h"
 #include "content/pictures/scenes/sky.h"
 
@@ -14,9 +15,6 @@ namespace {
 constexpr std::array<uint32_t, 6> rock{0x2C2038, 0x543848, 0x8C5850, 0xBC8460, 0xDCB07C, 0xF4DCA8};
 constexpr std::array<uint32_t, 6> soil{0x3C2C38, 0x644844, 0x906850, 0xB48C64, 0xD0AC80, 0xE8CCA0};
 constexpr std::array<uint32_t, 4> scrub{0x343028, 0x5C5838, 0x8C8450, 0xB8AC70};
-constexpr std::array<uint32_t, 5> bone{0x4C3C48, 0x847070, 0xBCA890, 0xE4D8B8, 0xFCF8E4};
-constexpr std::array<uint32_t, 2> hollow{0x2C1C2C, 0x50383C};
-constexpr std::array<uint32_t, 4> wood{0x241C2C, 0x44343C, 0x6C5450, 0xA08470};
 constexpr std::array<uint32_t, 5> stone{0x38283C, 0x60484C, 0x907060, 0xC09C7C, 0xE8CCA0};
 constexpr std::array<uint32_t, 4> blades{0x3C3428, 0x645C38, 0x988C4C, 0xCCC078};
 
@@ -82,98 +80,11 @@ class Waste : public Terrain {
   }
 };
 
-// The ribs and the skull of something huge, half sunk in the ground, seen from the side.
-void Skeleton(Dresser& dresser) {
-  constexpr float z = 116;
-  constexpr float start = 9;
-  const auto spine_height = [](float along) {
-    return 16.5F - 0.022F * (along - 17) * (along - 17);
-  };
-  const auto ribs = [&](float depth) {
-    for (int rib = 0; rib < 7; ++rib) {
-      const auto number = static_cast<float>(rib);
-      const float along = 4 + number * 5.2F;
-      const float tall = spine_height(along);
-      const float length =
-          1 - 0.10F * std::fabs(number - 2.5F) - 0.16F * Hash(rib, depth < 0 ? 1 : 0, 70);
-      std::vector<Joint> joints;
-      for (int k = 0; k <= 12; ++k) {
-        const float t = static_cast<float>(k) / 12 * length;
-        const float bow = std::sin(t * 3.0F);
-        joints.push_back(
-            {{start + along - 3.4F * bow + 1.6F * t,
-              tall - (tall + 1) * t * t * 0.25F - (tall + 1) * t * 0.75F, z + depth * bow},
-             (1.05F - 0.55F * t) * (0.82F + 0.3F * Hash(rib, 2, 70))});
-      }
-      dresser.Limb(joints, bone);
-    }
-  };
-  dresser.Shade(start + 24, z, 30, 13, Hex(0x443040));
-  dresser.Shade(-3, z - 10, 13, 4, Hex(0x443040));
-  ribs(8);
-  std::vector<Joint> spine;
-  for (int k = 0; k <= 30; ++k) {
-    const float along = static_cast<float>(k) * 1.55F;
-    const float thick = k % 2 == 0 ? 1.75F : 1.05F;
-    spine.push_back(
-        {{start + along, spine_height(along), z}, std::max(0.35F, thick * (1 - 0.016F * along))});
-  }
-  dresser.Limb(spine, bone);
-  // Thorns of the spine.
-  for (int k = 1; k < 11; ++k) {
-    const float along = static_cast<float>(k) * 3.1F;
-    const Vec root{start + along, spine_height(along) + 1, z};
-    const std::array<Joint, 2> thorn{
-        {{root, 0.8F}, {root + Vec{1.4F, 2.6F - 0.12F * static_cast<float>(k), 0}, 0.15F}}};
-    dresser.Limb(thorn, bone);
-  }
-  ribs(-7);
-  // The skull lies before the ribs: cranium, muzzle, jaw, horns, and the hollow of the eye.
-  const Vec skull{-5, 3.2F, z - 10};
-  const auto part = [&](Vec from, Vec to, float radius_from, float radius_to, Ramp tones) {
-    const std::array<Joint, 2> joints{{{skull + from, radius_from}, {skull + to, radius_to}}};
-    dresser.Limb(joints, tones);
-  };
-  part({2.4F, 2, 0}, {7, 5.6F, 0}, 0.9F, 0.7F, bone);
-  part({7, 5.6F, 0}, {11.5F, 5.6F, 0}, 0.7F, 0.15F, bone);
-  part({1.6F, -2.2F, 0}, {-8.4F, -3.4F, 0}, 1.1F, 0.8F, bone);
-  part({0, 0, 0}, {2, 0.6F, 0}, 3.2F, 2.4F, bone);
-  part({-1, -0.2F, 0}, {-8.8F, -1.4F, 0}, 2.5F, 1.3F, bone);
-  for (int tooth = 0; tooth < 5; ++tooth) {
-    const float x = -3.4F - 1.3F * static_cast<float>(tooth);
-    part({x, -1.9F, -0.4F}, {x - 0.1F, -3.4F, -0.4F}, 0.5F, 0.15F, bone);
-  }
-  part({-0.9F, 0.7F, -0.5F}, {-0.2F, 0.9F, -0.5F}, 0.95F, 0.85F, hollow);
-  part({-8.2F, -0.7F, -0.5F}, {-7.7F, -0.5F, -0.5F}, 0.4F, 0.35F, hollow);
-}
-
-void DeadTree(Dresser& dresser, float x, float z, float size, int seed) {
-  const auto bough = [&](Vec from, float lean, float length, float radius, int chance) {
-    std::vector<Joint> joints;
-    for (int k = 0; k <= 6; ++k) {
-      const float t = static_cast<float>(k) / 6;
-      const float bend = (Hash(k, chance, seed) - 0.5F) * 0.18F * length;
-      joints.push_back({{from.x + lean * length * t * (0.6F + 0.5F * t) + bend * t,
-                         from.y + length * t * (1 - 0.25F * t * std::fabs(lean)), z},
-                        radius * (1 - 0.8F * t)});
-    }
-    dresser.Limb(joints, wood);
-    return joints[4].place;
-  };
-  const Vec fork = bough({x, -0.5F, z}, 0.15F, 6 * size, 0.55F * size, 1);
-  bough(fork, -0.9F, 3.6F * size, 0.28F * size, 2);
-  bough(fork, 0.8F, 3.2F * size, 0.3F * size, 3);
-  bough({fork.x - 0.2F * size, fork.y - 1.3F * size, z}, 1.2F, 2.6F * size, 0.22F * size, 4);
-  bough({fork.x - 0.3F * size, fork.y - 1.9F * size, z}, -1.3F, 2.2F * size, 0.2F * size, 5);
-}
-
 void Dress(Dresser& dresser, const Waste& land) {
-  DeadTree(dresser, -72, 190, 2.2F, 80);
-  Skeleton(dresser);
-  dresser.Shade(-33, 112, 4, 2, Hex(0x443040));
-  DeadTree(dresser, -34, 112, 1.7F, 81);
-  dresser.Shade(58, 92, 4, 2, Hex(0x443040));
-  DeadTree(dresser, 57, 92, 1.5F, 82);
+  DrawDeadTree(dresser, -72, 190, 2.2F, 80);
+  DrawSkeleton(dresser);
+  DrawDeadTree(dresser, -34, 112, 1.7F, 81);
+  DrawDeadTree(dresser, 57, 92, 1.5F, 82);
   std::vector<Standing> things;
   for (int k = 0; k < 800; ++k) {
     const float chance = Hash(k, 3, 60);

@@ -1,0 +1,125 @@
+#include <cmath>
+
+#include "content/pictures/scenes/details.h"
+#include "content/pictures/scenes/noise.h"
+
+namespace orvane::paint::scene {
+namespace {
+
+constexpr float fine = 0.6F;       // the step of strokes, so that none has holes
+constexpr float turn = 2.399963F;  // the golden angle spreads things evenly
+
+int Cells(float length) {
+  return static_cast<int>(std::ceil(length));
+}
+
+float Chance(const Standing& at, int number) {
+  return Hash(number, at.seed, 91);
+}
+
+}  // namespace
+
+void Dresser::Tree(const Standing& at, Ramp leaves) {
+  const Foot foot = FootOf(at);
+  const float radius = at.size * foot.scale;
+  if (radius < 0.7F) return;
+  const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
+  for (int y = Cells(-radius * 0.3F); y <= Cells(radius * 0.3F); ++y) {
+    for (int x = Cells(-radius * 1.4F); x <= Cells(radius * 1.4F); ++x) {
+      const float across = static_cast<float>(x) / (radius * 1.3F);
+      const float down = static_cast<float>(y) / (radius * 0.26F);
+      if (across * across + down * down < 1) {
+        Put(foot.column + radius * 0.45F * side + static_cast<float>(x),
+            foot.row + static_cast<float>(y), at.z, OnRamp(leaves, 0.06F), 0.5F);
+      }
+    }
+  }
+  for (int up = 0; up < Cells(radius * 0.7F); ++up) {
+    for (int x = Cells(-radius * 0.12F); x <= Cells(radius * 0.12F); ++x) {
+      Put(foot.column + static_cast<float>(x), foot.row - static_cast<float>(up), at.z,
+          OnRamp(leaves, 0.02F));
+    }
+  }
+  constexpr int clusters = 15;
+  for (int k = 0; k < clusters; ++k) {
+    const float angle = static_cast<float>(k) * turn;
+    const float spread = std::sqrt(static_cast<float>(k) / clusters);
+    const float offset_x = std::cos(angle) * spread * radius * 0.8F;
+    const float offset_y =
+        -radius * (1.15F + 0.2F * Chance(at, 3)) + std::sin(angle) * spread * radius * 0.72F;
+    const float leaf = radius * (0.34F + 0.16F * Chance(at, k + 20));
+    for (int y = Cells(-leaf); y <= Cells(leaf); ++y) {
+      for (int x = Cells(-leaf); x <= Cells(leaf); ++x) {
+        const float fx = static_cast<float>(x);
+        const float fy = static_cast<float>(y);
+        const float rough = 0.4F * (Hash(x + k * 31, y, at.seed) - 0.5F);
+        if ((fx * fx + fy * fy) / (leaf * leaf) + rough > 1) continue;
+        const float light = 0.4F - 0.28F * side * (fx + offset_x) / radius -
+                            0.30F * (fy + offset_y + radius) / radius - 0.16F * fy / leaf +
+                            0.12F * (Hash(x, y, at.seed + k) - 0.5F);
+        Put(foot.column + offset_x + fx, foot.row + offset_y + fy, at.z, OnRamp(leaves, light));
+      }
+    }
+  }
+}
+
+void Dresser::Fir(const Standing& at, Ramp needles) {
+  const Foot foot = FootOf(at);
+  const float tall = 3 * at.size * foot.scale;
+  if (tall < 1.5F) return;
+  const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
+  for (int line = 0; line < Cells(tall / fine); ++line) {
+    const float up = static_cast<float>(line) * fine;
+    const float share = up / tall;
+    const float tier = share * 5 - std::floor(share * 5);
+    const float half = tall * 0.24F * (1 - share) * (1.15F - 0.5F * tier) + 0.3F;
+    for (int step = 0; step <= Cells(2 * half / fine); ++step) {
+      const float x = static_cast<float>(step) * fine - half;
+      const float ragged = Hash(static_cast<int>(up * 2), static_cast<int>(x * 2), at.seed);
+      if (std::fabs(x) > half * (0.75F + 0.25F * ragged)) continue;
+      const float light = 0.42F - 0.4F * side * x / (half + 0.5F) - 0.35F * (1 - tier) * 0.6F +
+                          0.2F * share + 0.2F * (ragged - 0.5F);
+      Put(foot.column + x, foot.row - up, at.z, OnRamp(needles, light));
+    }
+  }
+}
+
+void Dresser::Tuft(const Standing& at, Ramp blades) {
+  const Foot foot = FootOf(at);
+  const float longest = at.size * foot.scale;
+  if (longest < 1) return;
+  const int count = 3 + static_cast<int>(foot.scale * 0.3F);
+  for (int blade = 0; blade < count; ++blade) {
+    const float lean = (Chance(at, blade * 4) - 0.5F) * 1.3F;
+    const float start = (Chance(at, blade * 4 + 1) - 0.5F) * at.size * foot.scale * 1.3F;
+    const float length = longest * (0.5F + 0.5F * Chance(at, blade * 4 + 2));
+    const float tone = 0.3F * (Chance(at, blade * 4 + 3) - 0.5F);
+    for (int step = 0; step < Cells(length / fine); ++step) {
+      const float up = static_cast<float>(step) * fine;
+      const float share = up / length;
+      Put(foot.column + start + lean * share * share * length, foot.row - up, at.z,
+          OnRamp(blades, share * 0.75F + 0.15F + tone));
+    }
+  }
+}
+
+void Dresser::Flowers(const Standing& at, Colour petal, Ramp blades) {
+  Tuft(at, blades);
+  const Foot foot = FootOf(at);
+  const float length = at.size * foot.scale;
+  const int count = 1 + static_cast<int>(3 * Chance(at, 50));
+  for (int k = 0; k < count; ++k) {
+    const float x = foot.column + (Chance(at, 60 + k) - 0.5F) * length * 1.6F;
+    const float y = foot.row - length * (0.6F + 0.6F * Chance(at, 70 + k));
+    const float radius = std::max(0.6F, length * 0.13F);
+    const int reach = Cells(radius / fine);
+    for (int down = -reach; down <= reach; ++down) {
+      for (int across = -reach; across <= reach; ++across) {
+        Put(x + static_cast<float>(across) * fine, y + static_cast<float>(down) * fine, at.z,
+            petal * (down > 0 ? 0.85F : 1.0F));
+      }
+    }
+  }
+}
+
+}  // namespace orvane::paint::scene

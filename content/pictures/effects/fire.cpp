@@ -1,14 +1,11 @@
 // Flames, explosions and the great blasts.
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "content/pictures/effects/shapes.h"
 
 namespace orvane::paint::effects {
 namespace {
-
-using std::numbers::pi;
 
 // How deep (x, y) lies in a tongue that stands on (root_x, root_y): 1 in its heart, 0 at its rim.
 double InTongue(double x, double y, double root_x, double root_y, double height, double width,

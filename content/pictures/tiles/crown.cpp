@@ -14,8 +14,9 @@ std::vector<LeafDisc> Heap(const Crown& crown) {
   const int around = 9;
   for (int i = 0; i < around; ++i) {
     // From the back to the front, so that the near discs lie on top.
+    const int step = (i + 1) / 2;
     const double turn =
-        -std::numbers::pi / 2 + (i % 2 == 0 ? 1 : -1) * (i + 1) / 2 * 2 * std::numbers::pi / around;
+        -std::numbers::pi / 2 + (i % 2 == 0 ? 2.0 : -2.0) * step * std::numbers::pi / around;
     const double radius = size * (0.34 + 0.12 * Hash(i, crown.seed, 461));
     discs.push_back(
         {std::cos(turn) * (crown.wide - radius), std::sin(turn) * (crown.high - radius), radius});

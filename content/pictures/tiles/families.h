@@ -12,9 +12,11 @@ void PaintBridges(Sheet& sheet);  // bridges and stairs
 void PaintCliffs(Sheet& sheet);   // plateau, cliff faces, mountains, cave rock
 void PaintTrees(Sheet& sheet);    // woods, great tree, fir, bush, dead tree
 void PaintHouse(Sheet& sheet);    // roof, walls, door
-void PaintRuins(Sheet& sheet);    // ruined walls, pillar, statue, shrine, gate
+void PaintRuins(Sheet& sheet);    // ruined walls, pillar, statue
+void PaintShrine(Sheet& sheet);   // rock-cut shrine, gate
 void PaintRooms(Sheet& sheet);    // inside walls and floors, carpet
 void PaintLastStage(Sheet& sheet);  // marble floor above the stars
-void PaintObjects(Sheet& sheet);    // chest, book chest, recovery point, sign, fence, boulder
+void PaintEvents(Sheet& sheet);     // chest, book chest, recovery point
+void PaintObjects(Sheet& sheet);    // sign, fence, boulder
 
 }  // namespace orvane::paint::tiles

@@ -44,7 +44,7 @@ Image ShallowTile() {
 Image LavaTile() {
   Image tile = Fill(TileSize, TileSize, [](int x, int y) {
     const double swell = Swell(x + 5, y + 3);
-    return Lava[swell > 1.15 ? 4 : swell > 0.25 ? 3 : swell > -0.9 ? 2 : 1];
+    return Lava[swell > 1.35 ? 4 : swell > 0.65 ? 3 : swell > -0.5 ? 2 : 1];
   });
   const Key key = {{'k', Lava[0]}, {'d', Lava[1]}, {'y', Lava[5]}, {'o', Lava[4]}};
   Stamp(tile, 2, 9, {".kkkk..", "kkddkkk", "ydkkkdy", ".oyyyo."}, key);

@@ -15,8 +15,10 @@ void AddTileRecipes(std::vector<Recipe>& recipes) {
                        tiles::PaintTrees(sheet);
                        tiles::PaintHouse(sheet);
                        tiles::PaintRuins(sheet);
+                       tiles::PaintShrine(sheet);
                        tiles::PaintRooms(sheet);
                        tiles::PaintLastStage(sheet);
+                       tiles::PaintEvents(sheet);
                        tiles::PaintObjects(sheet);
                        return sheet.Picture;
                      }});

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "content/pictures/tiles/noise.h"
+#include "content/pictures/tiles/palette.h"
 
 namespace orvane::paint::tiles {
 namespace {
@@ -71,6 +72,17 @@ double CaveTopTone(int x, int y) {
   const double slant = facet.dx + facet.dy;
   if (facet.edge < 0.24 && slant < -0.1) return 2.4;
   return slant < -0.25 ? 1.9 : slant < 0.3 ? 1.4 : 0.8;
+}
+
+// Dressed blocks of a wall's front: `down` from its top.
+Colour BlockColour(int x, int down) {
+  const int course = down / 4;
+  const int along = (x + course % 2 * 4) % 8;
+  if (down % 4 == 3 || along == 7) return Stone[0];
+  const bool mossy = Noise(x / 3.0, down / 3.0, 0, 491) > 0.70;
+  if (mossy) return Leaf[down % 4 == 0 ? 4 : 3];
+  if (down % 4 == 0 || along == 0) return Stone[3];
+  return Stone[Hash(x / 8, course, 493) > 0.5 ? 2 : 1];
 }
 
 }  // namespace orvane::paint::tiles

@@ -15,4 +15,7 @@ double SummitTone(int x, int y);
 // The tone of dark rock seen from above, without any light on it; repeats every tile.
 double CaveTopTone(int x, int y);
 
+// The colour of an old wall of dressed blocks: `down` pixels, 0 or more, from its top.
+Colour BlockColour(int x, int down);
+
 }  // namespace orvane::paint::tiles

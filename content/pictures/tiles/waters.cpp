@@ -133,7 +133,7 @@ Image MarshPool(int variant) {
     if (mossy(x, y)) return mossy(x, y + 1) ? marsh.At(x, y) : Marsh[1];
     if (mossy(x, y - 1)) return Pool[1];
     const double ripple = Noise(x / 4.0, y / 1.6, 0, 335 + variant);
-    return Pool[ripple > 0.68 ? 4 : ripple > 0.34 ? 3 : 2];
+    return Pool[ripple > 0.70 ? 3 : ripple > 0.30 ? 2 : 1];
   });
   if (variant == 0) {
     Stamp(tile, 4, 2,

@@ -137,16 +137,12 @@ std::vector<paint::Material> Materials() {
 Sprite RenderTitleDragon() {
   Model model;
   AddBody(model);
+  // Half folded, so that it stays in the picture: the fingers hang from the wrist.
   AddWing(model, {{24, -56, -26},
-                  {40, -2, -44},
-                  {30, 62, -30},
-                  {{{66, 104, -66}, {104, 52, -84}, {104, -10, -80}, {88, -62, -66}}},
-                  {26, -104, -44}});
-  AddWing(model, {{-20, -50, -28},
-                  {-24, 10, -60},
-                  {-30, 66, -84},
-                  {{{-70, 106, -104}, {-96, 50, -92}, {-84, 0, -80}, {-62, -36, -66}}},
-                  {-24, -90, -44}});
+                  {44, 6, -38},
+                  {14, 82, -44},
+                  {{{74, 64, -58}, {84, 4, -52}, {70, -56, -46}, {50, -100, -40}}},
+                  {26, -112, -40}});
   AddHead(model);
   model.Finish();
   paint::View view;

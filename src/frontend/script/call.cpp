@@ -91,7 +91,7 @@ bool Call::Option(int at, const char* key) const {
 std::string Call::TextOption(int at, const char* key) const {
   if (lua_type(lua_, at) != LUA_TTABLE) return "";
   const int type = PushKey(lua_, at, key);
-  const std::string text(type == LUA_TSTRING ? TextAt(lua_, -1) : std::string_view());
+  std::string text(type == LUA_TSTRING ? TextAt(lua_, -1) : std::string_view());
   lua_pop(lua_, 1);
   if (type != LUA_TNIL && text.empty()) {
     throw ScriptError(std::string("a text as ") + key,

@@ -107,7 +107,7 @@ void Session::Run(const Handler& event) {
   }
   --depth_;
   if (HasEnded()) Sound.Silence();
-  if (const std::optional<ScriptError> failure = Boxes.TakeFailure()) throw *failure;
+  if (const std::optional<ScriptError> failure = Boxes.TakeFailure()) throw ScriptError(*failure);
 }
 
 void Session::Tick(Timer& timer) {

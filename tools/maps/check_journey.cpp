@@ -1,6 +1,7 @@
 // The rules that are proved by walking.
 #include <algorithm>
 #include <set>
+#include <tuple>
 
 #include "tools/maps/check.h"
 #include "tools/maps/tile_codes.h"
@@ -27,7 +28,10 @@ struct Cell {
   Place place;
   int column;
   int row;
-  auto operator<=>(const Cell&) const = default;
+  bool operator==(const Cell&) const = default;
+  bool operator<(const Cell& other) const {
+    return std::tie(place, column, row) < std::tie(other.place, other.column, other.row);
+  }
 };
 
 class JourneyCheck {

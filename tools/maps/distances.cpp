@@ -65,6 +65,7 @@ std::vector<Goal> GoalsOf(const World& world, const Exploration& exploration) {
     found[name].stands.push_back(static_cast<int32_t>(number));
   }
   std::vector<Goal> goals;
+  goals.reserve(found.size() + 2);
   for (const auto& [name, goal] : found) goals.push_back(goal);
   std::sort(goals.begin(), goals.end(), Before);
   goals.insert(goals.begin(), Goal{"start", {0}});

@@ -30,7 +30,7 @@ struct Party {
   bool in_book = false;
   int return_x = 0;  // where the party stands again on leaving the room
   int return_y = 0;
-  auto operator<=>(const Party&) const = default;
+  bool operator==(const Party&) const = default;
 
   Place Ground() const { return room == Room::None ? Place{map_a, map_b} : Place{0, 0, room}; }
 };

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "tools/maps/tile_map.h"
@@ -17,7 +18,10 @@ struct Place {
   int map_a = 0;
   int map_b = 0;
   Room room = Room::None;
-  auto operator<=>(const Place&) const = default;
+  bool operator==(const Place&) const = default;
+  bool operator<(const Place& other) const {
+    return std::tie(map_a, map_b, room) < std::tie(other.map_a, other.map_b, other.room);
+  }
 };
 
 constexpr Place kStartMap{3, 3};

@@ -83,6 +83,20 @@ TEST_P(PieceTest, LoopsWithoutAGapOrAClick) {
               0.35);
 }
 
+TEST_P(PieceTest, ClosesQuicklyWithoutAClick) {
+  const std::string alias = GetParam().Alias;
+  SoundEngine engine(ForCaller());
+  engine.Send(OpenCommand(kFolder, SoundFile(alias), alias));
+  engine.WaitUntilReady();
+  engine.Send(PlayCommand(alias));
+  const Recording before = Pull(engine, 8);
+  engine.Send(CloseCommand(alias));
+  const Recording after = Pull(engine, 1);
+  EXPECT_GT(test::LevelOf(before), 0.005);
+  EXPECT_TRUE(test::FindClicks(after).empty());
+  EXPECT_LT(test::LevelOf(after.Part(0.3, 1)), test::LevelOf(before) / 20);
+}
+
 INSTANTIATE_TEST_SUITE_P(All, PieceTest,
                          testing::Values(Kept{"bgm1", 0.033}, Kept{"bgm2", 0.033},
                                          Kept{"bgm3", 0.033}, Kept{"bgm4", 0.1}, Kept{"bgm5", 0.1},

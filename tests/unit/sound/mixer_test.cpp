@@ -202,6 +202,30 @@ TEST(Mixer, MusicStartedOverJustBeforeItsEndKeepsTheBar) {
   EXPECT_FALSE(mixer.Playing(0));
 }
 
+// Half a second is no whole number of blocks: what a round is late must not add up.
+TEST(Mixer, ManyRoundsOfMusicDoNotDrift) {
+  constexpr int kRounds = 60;
+  Mixer mixer(kRate);
+  auto piece = std::make_shared<Piece>();
+  const test::Bytes beat{0, 0x90, 60, 100, 96, 0x80, 60, 0};
+  piece->Notes = *ReadSong(test::Join({test::MidiHeader(0, 1, 96), test::MidiTrack(beat)}));
+  piece->Ready = true;
+  mixer.Open(0, std::shared_ptr<const Piece>(piece));
+  int rounds = 0;
+  int blocks = 0;
+  std::vector<float> out(2 * static_cast<size_t>(kBlockFrames));
+  while (rounds < kRounds || mixer.Playing(0)) {
+    if (!mixer.Playing(0)) {
+      mixer.Play(0);
+      ++rounds;
+    }
+    mixer.Pull(out.data(), kBlockFrames);
+    ++blocks;
+  }
+  // The last end is told an eighth of its half second early.
+  EXPECT_NEAR(blocks * static_cast<double>(kBlockFrames) / kRate, kRounds * 0.5 - 0.0625, 0.005);
+}
+
 TEST(Mixer, MusicRestartedInTheMiddleBeginsAtOnce) {
   Mixer mixer(kRate);
   mixer.Open(0, ReadyPiece(2));

@@ -237,6 +237,9 @@ TEST_F(SoundEngineTest, ARecordingHoldsWhatWasPlayed) {
   ASSERT_EQ(bytes.size(), 44 + 2 * played.size());
   EXPECT_EQ(bytes.substr(0, 4), "RIFF");
   EXPECT_EQ(bytes.substr(36, 4), "data");
+  test::Bytes size;
+  test::PutLittle(size, static_cast<std::uint32_t>(2 * played.size()), 4);
+  EXPECT_EQ(bytes.substr(40, 4), std::string(size.begin(), size.end()));
   for (size_t i = 0; i < played.size(); ++i) {
     const auto low = static_cast<unsigned char>(bytes[44 + 2 * i]);
     const auto high = static_cast<unsigned char>(bytes[45 + 2 * i]);
@@ -298,6 +301,18 @@ TEST_F(SoundEngineFontTest, CloseSilencesMusicAndTheNextPieceSounds) {
   engine.WaitUntilReady();
   engine.Send(PlayCommand("bgm4"));
   EXPECT_GT(LevelOf(Pull(engine, 1)), 0.01);
+}
+
+TEST_F(SoundEngineFontTest, ANoteWithoutAnEndEndsWithItsPiece) {
+  const test::Bytes stuck{0, 0xc0, 16, 0, 0x90, 60, 100};  // an organ: it would sound for ever
+  folder_.Write("Boss.mid", test::Join({test::MidiHeader(0, 1, 96), test::MidiTrack(stuck, 96)}));
+  SoundEngine engine(ForCaller());
+  Open(engine, "Boss.mid", "bgm5");
+  engine.WaitUntilReady();
+  engine.Send(PlayCommand("bgm5"));
+  EXPECT_GT(LevelOf(Pull(engine, 0.5)), 0.01);
+  Pull(engine, 2);
+  EXPECT_LT(LevelOf(Pull(engine, 0.5)), 0.0001);
 }
 
 TEST_F(SoundEngineFontTest, PiecesOnTwoChannelsAreIndependent) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <cstdlib>
 #include <map>
 
 #include "tools/music/instruments.h"
@@ -55,7 +57,7 @@ void CheckRanges(const PieceNotes& piece, std::vector<std::string>& faults) {
 }
 
 std::string Fixed(double value) {
-  const auto tenths = static_cast<int>(value * 10 + 0.5);
+  const auto tenths = std::lround(value * 10);
   return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
 }
 
@@ -63,7 +65,7 @@ std::string Fixed(double value) {
 
 Span SpanOf(const std::string& name) {
   struct Row {
-    const char* name;
+    const char* name = nullptr;
     Span span;
   };
   static constexpr std::array<Row, 8> table = {{{"Round1", {60, 120}},

@@ -21,9 +21,10 @@ std::string KeyText(const std::string& bytes) {
   static constexpr std::array<const char*, 15> Minors = {
       "Ab", "Eb", "Bb", "F", "C", "G", "D", "A", "E", "B", "F#", "C#", "G#", "D#", "A#"};
   if (bytes.size() != 2) return "?";
-  const int sharps = static_cast<signed char>(bytes[0]);
+  const int byte = Unsigned(bytes[0]);
+  const int sharps = byte < 128 ? byte : byte - 256;
   if (sharps < -7 || sharps > 7) return "?";
-  const auto index = static_cast<size_t>(sharps + 7);
+  const size_t index = static_cast<size_t>(sharps) + 7;
   return bytes[1] == 0 ? std::string(Majors[index]) + " major"
                        : std::string(Minors[index]) + " minor";
 }

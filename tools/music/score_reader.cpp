@@ -274,9 +274,10 @@ class Reader {
           for (size_t i = given; i < bars; ++i) line.bars.push_back(line.bars[i - given]);
         }
         if (line.bars.size() != bars) {
-          throw ScoreError(section.line, "section " + name + ": " + part + " has " +
-                                             std::to_string(line.bars.size()) + " bars and not " +
-                                             std::to_string(bars));
+          std::ostringstream what;
+          what << "section " << name << ": " << part << " has " << line.bars.size()
+               << " bars and not " << bars;
+          throw ScoreError(section.line, what.str());
         }
       }
     }

@@ -88,6 +88,7 @@ Image Plateau() {
 // What a massif is made of.
 struct Massif {
   const Image& Scree;
+  double ScreeShade;  // so that the scree does not show as a pale box where it lies on other ground
   const Ramp<8>& Tones;
   const Ramp<8>& TopTones;  // close to each other, so that large masses stay calm
   double (*TopTone)(int, int);
@@ -99,7 +100,7 @@ struct Massif {
 Colour InMassif(const PatchSpot& spot, const Massif& massif) {
   if (spot.depth < 0) {
     const Colour scree = Repeated(massif.Scree, spot.x, spot.y);
-    return spot.depth > -1.2 ? Shaded(scree, 0.55) : scree;
+    return Shaded(scree, spot.depth > -1.2 ? 0.55 : massif.ScreeShade);
   }
   const bool to_light = spot.facing_x + spot.facing_y < -0.3;
   if (spot.depth < 1) return massif.Tones[to_light ? 2 : 0];
@@ -127,12 +128,12 @@ Colour InMassif(const PatchSpot& spot, const Massif& massif) {
 
 Colour Mountain(const PatchSpot& spot) {
   static const Image scree = GravelTile(0);
-  return InMassif(spot, {scree, Rock, Summit, SummitTone, LipStratum, 0});
+  return InMassif(spot, {scree, 0.22, Rock, Summit, SummitTone, LipStratum, 0});
 }
 
 Colour DarkRock(const PatchSpot& spot) {
   static const Image scree = WasteTile(0);
-  return InMassif(spot, {scree, Dark, Dark, CaveTopTone, DarkStratum, -0.2});
+  return InMassif(spot, {scree, 0, Dark, Dark, CaveTopTone, DarkStratum, -0.2});
 }
 
 }  // namespace

@@ -92,11 +92,11 @@ Image Waterfall() {
   // Every column falls at its own beat; the beats fit the tile, so falls of any height join.
   return Fill(TileSize, TileSize, [](int x, int y) {
     const double turn = 2 * std::numbers::pi * y / TileSize;
-    const double strand = Noise(x / 2.0, 0.5, 8, 321);
-    const double beat =
-        std::sin(turn + 7 * Hash(x / 2, 1, 323)) + 0.6 * std::sin(2 * turn + 7 * Hash(x, 2, 323));
-    const double fall = strand + 0.16 * beat;
-    return Water[fall < 0.22 ? 2 : fall < 0.40 ? 3 : fall < 0.60 ? 4 : fall < 0.80 ? 5 : 6];
+    const double strand = 0.5 * Noise(x / 2.0, 0.5, 8, 325) + 0.5 * Hash(x, 3, 325);
+    const double beat = std::sin(turn + 6.3 * Hash(x / 3, 1, 323)) +
+                        0.7 * std::sin(2 * turn + 6.3 * Hash(x, 2, 323));
+    const double fall = strand + 0.13 * beat;
+    return Water[fall < 0.24 ? 2 : fall < 0.44 ? 3 : fall < 0.62 ? 4 : fall < 0.80 ? 5 : 6];
   });
 }
 

@@ -10,6 +10,7 @@ namespace orvane::maps {
 namespace {
 
 constexpr const char* kRecoveryName = "rest";
+constexpr int kStepsToAFight = 150;
 
 std::string NameOf(const World& world, const Party& party) {
   const int tile = TileUnder(world, party);
@@ -87,6 +88,27 @@ std::vector<std::vector<int32_t>> StepsBetween(const Exploration& exploration,
   return table;
 }
 
+int32_t StepsOfATour(const std::vector<Goal>& goals,
+                     const std::vector<std::vector<int32_t>>& steps_between) {
+  std::vector<size_t> left;
+  for (size_t goal = 0; goal < goals.size(); ++goal) {
+    if (goals[goal].name[0] == 'c' || goals[goal].name[0] == 'b') left.push_back(goal);
+  }
+  size_t here = 0;
+  int32_t steps = 0;
+  while (!left.empty()) {
+    const auto nearest = std::min_element(left.begin(), left.end(), [&](size_t one, size_t other) {
+      return steps_between[here][one] < steps_between[here][other];
+    });
+    if (steps_between[here][*nearest] < 0) return -1;
+    steps += steps_between[here][*nearest];
+    here = *nearest;
+    left.erase(nearest);
+  }
+  const int32_t last = steps_between[here].back();
+  return last < 0 ? -1 : steps + last;
+}
+
 std::string DistanceTable(const World& world, const Exploration& exploration) {
   const std::vector<Goal> goals = GoalsOf(world, exploration);
   const std::vector<std::vector<int32_t>> table = StepsBetween(exploration, goals);
@@ -98,6 +120,9 @@ std::string DistanceTable(const World& world, const Exploration& exploration) {
     for (const int32_t steps : table[from]) text += Padded(std::to_string(steps), 7);
     text += '\n';
   }
+  const int32_t tour = StepsOfATour(goals, table);
+  text += "all chests, the nearest first, then the dragon: " + std::to_string(tour) + " steps, " +
+          std::to_string(tour / kStepsToAFight) + " fights on the way\n";
   return text;
 }
 

@@ -20,6 +20,11 @@ std::vector<Goal> GoalsOf(const World& world, const Exploration& exploration);
 std::vector<std::vector<int32_t>> StepsBetween(const Exploration& exploration,
                                                const std::vector<Goal>& goals);
 
+// Steps of a walk from the start to all chests and book chests, always to the nearest one left, and
+// from the last one to the dragon; -1 when one of them cannot be reached.
+int32_t StepsOfATour(const std::vector<Goal>& goals,
+                     const std::vector<std::vector<int32_t>>& steps_between);
+
 // A table for reading: for every goal the steps from the start, the nearest recovery point, and the
 // steps to each other goal. A step is 4 pixels; a fight comes once in 150 steps.
 std::string DistanceTable(const World& world, const Exploration& exploration);

@@ -308,6 +308,20 @@ TEST(Distances, AreToldForEveryGoal) {
   }
   const std::string text = DistanceTable(GameWorld(), exploration);
   EXPECT_NE(text.find("chest 5,1"), std::string::npos);
+  EXPECT_GT(StepsOfATour(goals, table), 2000);
+}
+
+TEST(Distances, ATourGoesToTheNearestChestFirst) {
+  const std::vector<Goal> goals = {
+      {"start", {}}, {"chest 1,1", {}}, {"book 1,3", {}}, {"rest 1,1", {}}, {"dragon", {}}};
+  std::vector<std::vector<int32_t>> steps = {{0, 50, 20, 1, 9},
+                                             {50, 0, 30, 1, 400},
+                                             {20, 30, 0, 1, 9},
+                                             {1, 1, 1, 0, 1},
+                                             {-1, -1, -1, -1, 0}};
+  EXPECT_EQ(StepsOfATour(goals, steps), 20 + 30 + 400);
+  steps[2][1] = -1;
+  EXPECT_EQ(StepsOfATour(goals, steps), -1);
 }
 
 }  // namespace

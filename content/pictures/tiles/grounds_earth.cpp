@@ -149,7 +149,7 @@ Image PavingTile(int variant) {
     Stamp(tile, 3, 1, {"d......", ".dd....", "..ldd..", "....ld.", "...dd..", "..dl...", "...d..."},
           {{'d', Paving[0]}, {'l', Paving[5]}});
     Stamp(tile, 9, 9, {".gg..", "gGggg", ".ggGg", "..dgd"},
-          {{'g', Grass[3]}, {'G', Grass[5]}, {'d', Paving[1]}});
+          {{'g', 0x7C9458}, {'G', 0x98B068}, {'d', Paving[1]}});
   }
   return tile;
 }

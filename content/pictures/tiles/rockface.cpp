@@ -80,7 +80,7 @@ Colour BlockColour(int x, int down) {
   const int along = (x + course % 2 * 4) % 8;
   if (down % 4 == 3 || along == 7) return Stone[0];
   const bool mossy = Noise(x / 3.0, down / 3.0, 0, 491) > 0.70;
-  if (mossy) return Leaf[down % 4 == 0 ? 4 : 3];
+  if (mossy) return down % 4 == 0 ? 0x6C8850 : 0x4C6840;
   if (down % 4 == 0 || along == 0) return Stone[3];
   return Stone[Hash(x / 8, course, 493) > 0.5 ? 2 : 1];
 }

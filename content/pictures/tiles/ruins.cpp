@@ -12,7 +12,7 @@ namespace {
 
 Colour Top(int x, int y) {
   const double moss = Noise(x / 4.0, y / 3.0, 0, 495);
-  if (moss > 0.74) return Leaf[moss > 0.84 ? 5 : 4];
+  if (moss > 0.74) return moss > 0.84 ? 0x84A058 : 0x6C8850;
   if (Noise(x / 2.0, y / 2.0, 0, 498) > 0.80) return Stone[1];
   return Noise(x / 3.0, y / 3.0, 0, 497) > 0.42 ? Stone[3] : Stone[2];
 }
@@ -40,8 +40,7 @@ Image Walls() {
   slab(2, 1, 44, 6, 9);
   slab(2, 7, 9, 34, 0);
   slab(37, 7, 9, 34, 0);
-  Box(walls, 11, 16, 26, 2, Stone[1]);
-  Box(walls, 11, 18, 2, 15, Stone[1]);
+  Box(walls, 11, 16, 2, 17, Stone[1]);
   slab(2, 33, 44, 6, 8);
   Box(walls, 2, 47, 44, 1, Stone[0]);
   return walls;

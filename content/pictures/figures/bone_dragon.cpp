@@ -211,7 +211,7 @@ Image PaintBoneDragon() {
       {0x180C24, 0x2C1838, 0x48284C, 0x683C5C, 0x8C5868}, 0, 0.3F, 0, Membrane(2)};
   m[kDragonHorn] = {
       {0x1C1828, 0x3C3448, 0x68586C, 0xA08C94, 0xDCD0C8}, 0.4F, 0.35F, 0, Rings(3, 0.3F)};
-  m[kDragonEye] = {{0x20A0B0, 0x80F0E0, 0xE8F8F0}, 0.2F, 0, 0.5F};
+  m[kDragonEye] = {{0x18A8A8, 0x38CCC0, 0x80ECD8, 0xD0F8E8}, 0.3F, 0, 0.15F};
   m[kDragonMouth] = {{0x140A1C, 0x2C1834, 0x4C2C48}};
   m[kDragonTooth] = {{0x846C74, 0xE0D4B4, 0xF8F8EC}, 0.2F, 0.2F, 0.2F};
   m[kDragonFire] = {

@@ -93,6 +93,8 @@ void AddHead(Model& model) {
       .Limb({4.2F, -14.6F, 14}, {4.6F, -10, 14.6F}, 1.6F, 0.3F);
   model.AddPair(kDragonEye).Ball({6.6F, 2.6F, 10}, {3, 2.9F, 3.9F});
   model.AddPair(kDragonPupil).Ball({8.9F, 2.5F, 11.6F}, {1.2F, 2.4F, 1.1F});
+  model.AddPair(kDragonMouth).Ball({3.8F, 3.4F, 31}, {1.5F, 1.4F, 1.5F});
+  model.AddPair(kDragonSkin, 1, 1.5F).Limb({4.6F, 5.2F, 14}, {8, 6, 8}, 1.6F, 1.8F);
   // Brows like flames, antlers, whiskers, beard.
   model.AddPair(kMane, 1, 1)
       .Limb({3, 5.8F, 14}, {8, 8.4F, 7}, 2, 2.4F)
@@ -105,11 +107,12 @@ void AddHead(Model& model) {
       .Limb({8.4F, 23, -15}, {6, 33, -13}, 1.9F, 0.4F);
   model.AddPair(kDragonSkin, 1, 1.5F).Leaf({8, 2, -4}, {18, 6, -14}, 3, 1.4F, {0, 1, 0.3F});
   model.AddPair(kMane, 0.8F)
-      .Chain({{{6, -1, 28}, 1.7F},
-              {{14, -8, 34}, 1.4F},
-              {{16, -22, 36}, 1.2F},
-              {{24, -34, 32}, 1},
-              {{22, -44, 36}, 0.3F}},
+      .Chain({{{6, -0.5F, 29}, 1.7F},
+              {{11, 3, 36}, 1.5F},
+              {{15, -3, 44}, 1.3F},
+              {{17, -18, 44}, 1.1F},
+              {{22, -30, 40}, 0.9F},
+              {{20, -42, 43}, 0.3F}},
              5);
   model.Add(kMane, 1, 0.5F)
       .Chain({{{0, -18, 16}, 3}, {{0, -24, 17}, 2.4F}, {{1, -31, 14}, 0.4F}}, 3)
@@ -158,7 +161,7 @@ Image PaintDivineDragon() {
                     0.4F,
                     0.35F,
                     0,
-                    Scales(6, kDragonBelly, 8)};
+                    Scales(9, kDragonBelly, 9)};
   m[kDragonBelly] = {{0x481C30, 0x84343C, 0xBC6450, 0xE49C74, 0xF4CCA4, 0xF8F0A8}, 0.15F};
   m[kCloud] = {{0x584C88, 0x8C84B8, 0xBCB8DC, 0xE0E0F0, 0xF8F8F8}, 0, 0.3F, 0.08F};
   m[kDragonHorn] = {

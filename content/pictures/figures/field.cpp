@@ -95,8 +95,9 @@ const Group* Field::Owner(Vec point, Spot& place) const {
     mean.Along += spot.Along * weight;
     mean.Out += spot.Out * weight;
     mean.Side = mean.Side + spot.Side * weight;
+    mean.Run = mean.Run + spot.Run * weight;
   }
-  place = {mean.Along / sum, mean.Out / sum, Unit(mean.Side)};
+  place = {mean.Along / sum, mean.Out / sum, Unit(mean.Side), Unit(mean.Run)};
   return owner;
 }
 

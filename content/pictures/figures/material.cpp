@@ -33,8 +33,8 @@ Texture Scales(float size, int belly, float plate, float belly_blend) {
     float column = (touch.At.X + touch.At.Z) / size;
     if (body) {
       row = touch.Place.Along / size;
-      const Vec side = Unit(Vec{touch.Place.Side.Z, 0, -touch.Place.Side.X} + Vec{0.01F, 0, 0});
-      column = std::atan2(front, Dot(touch.Normal, side)) * 4.5F;
+      const Vec across = Cross(touch.Place.Run, touch.Place.Side);
+      column = std::atan2(front, Dot(touch.Normal, across)) * (22 / size);
     }
     const float line = std::floor(row);
     const float x = Fraction(column + 0.5F * std::fmod(std::fabs(line), 2.0F)) - 0.5F;
@@ -44,11 +44,11 @@ Texture Scales(float size, int belly, float plate, float belly_blend) {
   };
 }
 
-Texture Membrane(float folds) {
+Texture Membrane(float folds, float floor) {
   return [=](Touch& touch, float light) {
     const float fold = std::fabs(std::sin(touch.Place.Along * kPi * folds));
     const float through = std::fabs(touch.Facing) * Mix(0.5F, 1, touch.Shadow);
-    float skin = 0.14F + 0.26F * touch.Open + 0.48F * through + 0.2F * touch.Rim;
+    float skin = floor + 0.26F * touch.Open + 0.48F * through + 0.2F * touch.Rim;
     skin *= 0.80F + 0.25F * fold;
     skin *= 1.14F - 0.42F * touch.Place.Out + 0.10F * std::sin(touch.Place.Out * 20);
     return Mix(light, skin, 0.9F);

@@ -42,7 +42,8 @@ float PlainLight(const Touch& touch, const Material& material);
 // becomes `belly` (none when below 0), with plates across it every `plate` units.
 Texture Scales(float size, int belly = -1, float plate = 8, float belly_blend = 7.5F);
 // A wing's skin: lit from both sides, folded between the fingers, darker toward its free edge.
-Texture Membrane(float folds = 3);
+// `floor` is the light that it never loses.
+Texture Membrane(float folds = 3, float floor = 0.14F);
 // Growth rings along a horn or a tentacle, every `step` units, `depth` 0 to 1 deep.
 Texture Rings(float step, float depth);
 // Uneven dark and light patches of the given size.

@@ -5,7 +5,7 @@
 namespace orvane::paint {
 namespace {
 
-enum Stuff { kSkin, kBelly, kFin, kEye, kMouth, kTooth, kGold, kShell };
+enum Stuff { kSkin, kBelly, kFin, kEye, kMouth, kTooth, kGold };
 
 void AddLeg(Model& model, Vec hip, Vec knee, Vec ankle) {
   model.Add(kSkin, 3, 3).Limb(hip, knee, 5.6F, 4).Limb(knee, ankle, 3.8F, 2.4F);
@@ -65,7 +65,6 @@ Model MermanModel() {
   model.Add(kFin).Panel({-2, -18, -16}, {-3, -14, -28}, {-3, -27, -25}, 0.25F, 0, 0.8F);
   AddArm(model, {-10, 9, 1}, {-15, 1, 3}, {-12, -1, 13});
   AddArm(model, {10, 9, 1}, {16, 4, 4}, {15, 6, 15});
-  model.Add(kShell, 1).Ball({-10, 11, 0}, {5, 4, 5}).Limb({-11, 13, 0}, {-14, 18, -1}, 2, 0.3F);
   model.Add(kGold).Ring({0, -8, 0}, {8.2F, 0, 0}, {0, 0.6F, 7.8F}, 1.1F);
   AddHead(model);
   // The trident stands in the far hand.
@@ -88,19 +87,18 @@ Model MermanModel() {
 }  // namespace
 
 Image PaintMerman() {
-  std::vector<Material> m(8);
+  std::vector<Material> m(7);
   m[kSkin] = {{0x0C2030, 0x103C48, 0x1C6464, 0x2C907C, 0x58BC90, 0xA0E0A8},
               0.4F,
               0.4F,
               0,
               Scales(3, kBelly, 3.4F)};
   m[kBelly] = {{0x48483C, 0x807C54, 0xBCB474, 0xE8E0A0, 0xF8F4CC}, 0.2F, 0.2F};
-  m[kFin] = {{0x481428, 0x842430, 0xC4442C, 0xEC7C38, 0xF8BC68}, 0.1F, 0.3F, 0.04F, Membrane(3)};
+  m[kFin] = {{0x481428, 0x842430, 0xC4442C, 0xEC7C38, 0xF8BC68}, 0.1F, 0.3F, 0, Membrane(3, 0.30F)};
   m[kEye] = {{0x806008, 0xE8C820, 0xF8F078, 0xF8F8D8}, 0.8F, 0, 0.2F};
   m[kMouth] = {{0x14040C, 0x481020}};
   m[kTooth] = {{0x908868, 0xF0ECD0}, 0, 0, 0.3F};
   m[kGold] = {{0x3C2C30, 0x786040, 0xC0A058, 0xF0E098}, 0.6F};
-  m[kShell] = {{0x583048, 0x98587C, 0xD494AC, 0xF8D0D4}, 0.4F};
   Sprite sprite = Render(MermanModel(), m, MonsterView(0.6F, 0.1F));
   StampAt(sprite, {-6.2F, 22, 13}, {"KK", "KK"}, "K", {0x100814});
   return PairSheet(sprite, 128, 64, 64);

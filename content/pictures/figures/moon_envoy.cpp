@@ -5,7 +5,7 @@
 namespace orvane::paint {
 namespace {
 
-enum Stuff { kRobe, kLining, kVoid, kMoon, kEye, kWood, kHand };
+enum Stuff { kRobe, kLining, kVoid, kMoon, kWood, kHand };
 
 constexpr float kPi = 3.14159265F;
 
@@ -70,12 +70,11 @@ Model MoonModel() {
 }  // namespace
 
 Image PaintMoonEnvoy() {
-  std::vector<Material> m(7);
+  std::vector<Material> m(6);
   m[kRobe] = {{0x14122C, 0x241F4C, 0x3A3478, 0x5650A4, 0x8480CC, 0xBCC0EC}, 0.1F, 0.45F};
   m[kLining] = {{0x3C1440, 0x682460, 0x9C4084, 0xD07CAC}, 0, 0.2F};
   m[kVoid] = {{0x08060F, 0x120D20}, 0, 0};
   m[kMoon] = {{0x6C4818, 0xB88828, 0xE8C850, 0xF8F0A8, 0xF8F8E0}, 0.5F, 0.4F, 0.12F};
-  m[kEye] = {{0xF8F080}};
   m[kWood] = {{0x2C1820, 0x583430, 0x906048}};
   m[kHand] = {{0x384868, 0x6C8CA8, 0xB4D0DC}, 0, 0.2F};
   View view = MonsterView(0.55F, 0.06F);

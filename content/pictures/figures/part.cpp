@@ -9,7 +9,7 @@ float CapsuleDistance(const Part& part, Vec point, Spot* spot) {
   const Vec axis = part.B - part.A;
   const Vec from = point - part.A;
   const float t = Clamp(Dot(from, axis) / std::max(1e-6F, Dot(axis, axis)));
-  if (spot != nullptr) *spot = {Mix(part.AlongA, part.AlongB, t), 0, part.Side};
+  if (spot != nullptr) *spot = {Mix(part.AlongA, part.AlongB, t), 0, part.Side, Unit(axis)};
   return Length(from - axis * t) - Mix(part.RadiusA, part.RadiusB, t);
 }
 
@@ -18,7 +18,7 @@ float EllipsoidDistance(const Part& part, Vec point, Spot* spot) {
   const Vec from = point - part.A;
   const Vec q{Dot(from, part.Axis[0]), Dot(from, part.Axis[1]), Dot(from, part.Axis[2])};
   const Vec r = part.Radii;
-  if (spot != nullptr) *spot = {q.Y, 0, part.Side};
+  if (spot != nullptr) *spot = {q.Y, 0, part.Side, part.Axis[1]};
   const float k0 = Length({q.X / r.X, q.Y / r.Y, q.Z / r.Z});
   const float k1 = Length({q.X / (r.X * r.X), q.Y / (r.Y * r.Y), q.Z / (r.Z * r.Z)});
   if (k1 < 1e-6F) return -std::min({r.X, r.Y, r.Z});
@@ -48,7 +48,7 @@ float PanelDistance(const Part& part, Vec point, Spot* spot) {
   const float longest = std::sqrt(std::max(d11, d22));
   const float edge = std::max(std::max(-a * std::sqrt(area / d22), -b * std::sqrt(area / d11)),
                               (out - 1 + cut * out) * longest * 0.8F);
-  if (spot != nullptr) *spot = {across, out, part.Side};
+  if (spot != nullptr) *spot = {across, out, part.Side, Unit(e1)};
   const float thick = std::fabs(lift) - part.RadiusA;
   if (edge <= 0) return std::max(thick, edge);
   return thick > 0 ? std::sqrt(thick * thick + edge * edge) : edge;

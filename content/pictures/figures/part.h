@@ -15,6 +15,7 @@ struct Spot {
   float Along = 0;  // units from the start of the chain; on panels 0 to 1 across, finger to finger
   float Out = 0;    // on panels 0 at the root, 1 at the free edge
   Vec Side;         // the part's own front: the belly of a body
+  Vec Run;          // along the chain
 };
 
 struct Part {

@@ -42,7 +42,8 @@ void Stamp(Sprite& sprite, int x, int y, const std::vector<std::string>& rows,
       if (letter == std::string::npos || px < 0 || py < 0) continue;
       if (px >= sprite.Picture.width || py >= sprite.Picture.height) continue;
       sprite.Picture.At(px, py) = colours[letter];
-      sprite.Solid[static_cast<size_t>(py * sprite.Picture.width + px)] = true;
+      sprite.Solid[static_cast<size_t>(py) * static_cast<size_t>(sprite.Picture.width) +
+                   static_cast<size_t>(px)] = true;
     }
   }
 }

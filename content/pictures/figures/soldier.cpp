@@ -5,7 +5,7 @@
 namespace orvane::paint {
 namespace {
 
-enum Stuff { kSteel, kMail, kLeather, kGold, kSkin, kRed, kDark };
+enum Stuff { kSteel, kMail, kLeather, kGold, kSkin, kRed };
 
 void AddLeg(Model& model, float side, Vec hip, Vec knee, Vec ankle) {
   model.Add(kMail, 1.5F, 1).Limb(hip, knee, 4.4F, 3.4F).Limb(knee, ankle, 3.2F, 2.6F);
@@ -98,14 +98,13 @@ Model SoldierModel() {
 }  // namespace
 
 Image PaintSoldier() {
-  std::vector<Material> m(7);
+  std::vector<Material> m(6);
   m[kSteel] = {{0x1C2034, 0x384258, 0x5C6C84, 0x8C9CAC, 0xC0CCD0, 0xF4F8F8}, 0.75F, 0.4F};
   m[kMail] = {{0x14182C, 0x243450, 0x3C5878, 0x6C8CA4}, 0.2F, 0.3F};
   m[kLeather] = {{0x24140C, 0x442814, 0x6C4420, 0x9C6C38, 0xCCA068}, 0.1F};
   m[kGold] = {{0x5C3C08, 0xA07010, 0xD8A824, 0xF4DC60, 0xF8F8B0}, 0.5F};
   m[kSkin] = {{0x3C2028, 0x7C4838, 0xBC7C58, 0xE8B088}};
   m[kRed] = {{0x340814, 0x640C1C, 0x981C20, 0xCC3C2C, 0xEC7048}, 0.15F};
-  m[kDark] = m[kMail];
   Sprite sprite = Render(SoldierModel(), m, MonsterView(0.55F, 0.12F));
   StampAt(sprite, {-2.2F, 19, 7}, {"K"}, "K", {0x180C14});
   StampAt(sprite, {2.6F, 19, 7}, {"K"}, "K", {0x180C14});

@@ -41,8 +41,9 @@ class Tracer {
     TracedPixel pixel{-1, 0, 1e9F};
     const int n = view_.Samples;
     for (int i = 0; i < n * n; ++i) {
+      const int row = i / n;
       const float u = (static_cast<float>(i % n) + 0.5F) / static_cast<float>(n);
-      const float v = (static_cast<float>(i / n) + 0.5F) / static_cast<float>(n);
+      const float v = (static_cast<float>(row) + 0.5F) / static_cast<float>(n);
       const Sample sample = Shoot(static_cast<float>(x) + u, static_cast<float>(y) + v);
       if (sample.Material < 0) continue;
       ++covered;

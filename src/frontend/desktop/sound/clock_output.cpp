@@ -11,7 +11,7 @@ namespace orvane {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr auto kPause = std::chrono::milliseconds(10);
+constexpr auto kPause = std::chrono::milliseconds(5);
 // What a machine that was asleep has missed beyond this is left out.
 constexpr double kMostBehind = 0.5;
 

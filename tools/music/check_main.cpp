@@ -109,7 +109,8 @@ int CheckFile(const std::string& file, const Options& options, std::vector<Loudn
     const Rendering rendering = orvane::music::Render(bytes, orvane::music::FindSoundFont(), 0.5);
     const double loudness = LoudnessOf(rendering);
     const float peak = Peak(rendering);
-    std::cout << "  loudness " << loudness << " LUFS, peak " << peak << "\n";
+    std::cout << "  loudness " << loudness << " LUFS, peak " << peak << ", " << rendering.voices
+              << " voices of the synthesizer\n";
     PrintSections(piece, rendering);
     if (options.stems) PrintStems(midi, piece);
     if (peak >= 1) faults.emplace_back("clips");

@@ -2,6 +2,7 @@
 
 #include <fluidsynth.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <memory>
@@ -53,6 +54,7 @@ Rendering Render(const std::string& midi, const std::string& sound_font, double 
   auto rest = static_cast<int>(tail * 44100);
   while (rest > 0) {
     if (fluid_player_get_status(player.get()) != FLUID_PLAYER_PLAYING) rest -= Block;
+    out.voices = std::max(out.voices, fluid_synth_get_active_voice_count(synth.get()));
     fluid_synth_write_float(synth.get(), Block, left.data(), 0, 1, right.data(), 0, 1);
     out.left.insert(out.left.end(), left.begin(), left.end());
     out.right.insert(out.right.end(), right.begin(), right.end());

@@ -10,6 +10,7 @@ namespace orvane::music {
 struct Rendering {
   std::vector<float> left;
   std::vector<float> right;
+  int voices = 0;  // the most voices that the synthesizer had at work
 };
 
 // The gain that the pieces are balanced for.

@@ -82,7 +82,7 @@ struct Score {
   double tempo = 100;
   Meter meter;
   double level = 0;  // dB added to every part: brings the pieces to one loudness
-  int poll = 0;   // milliseconds within which the player notices the end; half is cut off the end
+  int poll = 0;  // milliseconds within which the player notices the end; half is cut off the end
   std::vector<Part> parts;
   std::map<std::string, std::vector<DrumRow>> patterns;
   std::map<std::string, Section> sections;

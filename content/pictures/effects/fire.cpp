@@ -84,19 +84,18 @@ Shape Sun() {
     const double far = std::max(std::abs(x), std::abs(y));
     const double near = std::min(std::abs(x), std::abs(y));
     const double distance = std::hypot(x, y);
-    if (distance < 7.6) {
-      const double tone = distance < 3.3 ? 5.5 : distance < 4.7 ? 4.5 : distance < 6.7 ? 3.4 : 1.6;
-      return Star(tone);
+    if (distance < 7.2) {
+      const double tone = distance < 3.3 ? 5 : distance < 4.9 ? 4 : distance < 6.3 ? 3 : 2;
+      return Sunlight(tone);
     }
-    // A long ray along each axis, a shorter one between, a stub on each side of both.
+    // A long ray along each axis and a shorter one between; both pale to orange outward.
     const double between = (far - near) * 0.7071;
     const double slanted = (far + near) * 0.7071;
-    const bool long_ray = near < (11.6 - far) * 0.95;
-    const bool short_ray = between < (11.2 - slanted) * 0.9;
-    if (!long_ray && !short_ray) return std::nullopt;
-    const double heart =
-        long_ray ? near / ((11.6 - far) * 0.95) : between / ((11.2 - slanted) * 0.9);
-    return Star(heart < 0.5 ? 2.6 : 0.9);
+    const double long_ray = near - (11.8 - far) * 0.72;
+    const double short_ray = between - (10.7 - slanted) * 0.85;
+    const double depth = -std::min(long_ray, short_ray);
+    if (depth < 0) return std::nullopt;
+    return Sunlight(depth > 1.4 && distance < 9.2 ? 2 : depth > 0.7 ? 1 : 0);
   };
 }
 

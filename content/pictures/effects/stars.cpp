@@ -78,9 +78,10 @@ Shape Impact(int frame) {
       return Force(5.9 - 5.4 * std::pow(distance / rim, 1.5));
     }
     // A ring that runs outward and breaks into shards.
-    const double shards = std::cos(turn * 8 + frame * 0.8);
-    const double rim = frame == 2 ? 10.2 + 1.2 * shards : 11.3;
-    const double thick = frame == 2 ? 5.4 : 4.8 + 1.8 * shards;
+    const double part = std::fmod(turn / (2 * pi) * 9 + frame * 0.4 + 18, 1.0);
+    const double shards = 1 - 4 * std::abs(part - 0.5);  // 1 in the middle of a shard
+    const double rim = frame == 2 ? 9.4 + 2.0 * shards : 11.3;
+    const double thick = frame == 2 ? 5.6 : 5.4 + 1.6 * shards;
     if (frame == 2 && distance < 2.8) return Force(5);
     if (frame > 2 && shards < -0.35) return std::nullopt;
     if (distance > rim || distance < rim - thick) return std::nullopt;

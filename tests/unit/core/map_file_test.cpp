@@ -1,0 +1,98 @@
+#include "src/core/map_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "src/platform/error.h"
+
+namespace orvane {
+namespace {
+
+class MapFileTest : public testing::Test {
+ protected:
+  MapFileTest()
+      : path_(std::filesystem::temp_directory_path() /
+              ("orvane-map-" +
+               std::string(testing::UnitTest::GetInstance()->current_test_info()->name()))) {
+    std::filesystem::create_directories(path_ / "Mapdata");
+  }
+  ~MapFileTest() override { std::filesystem::remove_all(path_); }
+
+  void Write(const std::string& text) { std::ofstream(path_ / "Mapdata/map1-2.dat") << text; }
+  void Read() { ReadMapFile(GameFolder(path_), GridMapFile(2, 1), state); }
+  ErrorKind KindOfError() {
+    try {
+      Read();
+    } catch (const RunError& error) {
+      return error.Kind;
+    }
+    ADD_FAILURE() << "no error";
+    return ErrorKind::File;
+  }
+
+  // The numbers 0 to count - 1 with what stands between them.
+  static std::string Numbers(int count, const char* between) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text += std::to_string(i) + between;
+    return text;
+  }
+
+  SharedState state;
+
+ private:
+  std::filesystem::path path_;
+};
+
+TEST_F(MapFileTest, RunsDownTheColumns) {
+  Write(Numbers(480, ","));
+  Read();
+  EXPECT_EQ(int{state.MapTile[0][0]}, 0);
+  EXPECT_EQ(int{state.MapTile[0][15]}, 15);
+  EXPECT_EQ(int{state.MapTile[1][0]}, 16);
+  EXPECT_EQ(int{state.MapTile[29][15]}, 479);
+  EXPECT_EQ(int{state.MapTile[30][16]}, 0) << "the spare column and row are never written";
+}
+
+TEST_F(MapFileTest, CommasBlanksAndLineEndsAllSeparate) {
+  for (const char* between : {",", " ", "\n", "\r\n", " , ", "\t", ",\r\n", "   \n\n"}) {
+    Write(Numbers(480, between));
+    Read();
+    EXPECT_EQ(int{state.MapTile[29][15]}, 479) << "separated by [" << between << "]";
+  }
+}
+
+TEST_F(MapFileTest, WhatFollowsIsIgnored) {
+  Write(Numbers(480, " ") + "the end");
+  EXPECT_NO_THROW(Read());
+}
+
+TEST_F(MapFileTest, TooFewNumbersAreAFileError) {
+  Write(Numbers(479, " "));
+  EXPECT_EQ(KindOfError(), ErrorKind::File);
+  Write("");
+  EXPECT_EQ(KindOfError(), ErrorKind::File);
+}
+
+TEST_F(MapFileTest, AMissingFileIsAFileError) {
+  EXPECT_EQ(KindOfError(), ErrorKind::File);
+}
+
+TEST_F(MapFileTest, AWordIsATypeError) {
+  Write("1 2 three " + Numbers(480, " "));
+  EXPECT_EQ(KindOfError(), ErrorKind::Type);
+}
+
+TEST_F(MapFileTest, ANumberBeyondSixteenBitsIsAnOverflow) {
+  Write("40000 " + Numbers(480, " "));
+  EXPECT_EQ(KindOfError(), ErrorKind::Overflow);
+}
+
+TEST_F(MapFileTest, TheRowComesFirstInTheName) {
+  EXPECT_EQ(GridMapFile(4, 1), "Mapdata/map1-4.dat");
+  EXPECT_EQ(GridMapFile(0, 0), "Mapdata/map0-0.dat");
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,133 @@
+#include "src/field/direction_keys.h"
+
+#include <gtest/gtest.h>
+
+#include "src/core/shared_state.h"
+#include "src/field/walkable.h"
+
+namespace orvane {
+namespace {
+
+// The driving directions as letters, then the waiting ones in small letters, then LastKey.
+std::string Keys(const SharedState& state) {
+  std::string keys;
+  if (state.KeyUp == True) keys += 'U';
+  if (state.KeyDown == True) keys += 'D';
+  if (state.KeyLeft == True) keys += 'L';
+  if (state.KeyRight == True) keys += 'R';
+  if (state.KeyUpWaiting == True) keys += 'u';
+  if (state.KeyDownWaiting == True) keys += 'd';
+  if (state.KeyLeftWaiting == True) keys += 'l';
+  if (state.KeyRightWaiting == True) keys += 'r';
+  return keys + std::to_string(state.LastKey);
+}
+
+// Plays presses (capitals) and releases (small letters) and returns the state after the last.
+std::string After(const char* events, SharedState& state) {
+  for (const char* event = events; *event != 0; ++event) {
+    switch (*event) {
+      case 'U':
+        DirectionDown(state, Direction::Up);
+        break;
+      case 'D':
+        DirectionDown(state, Direction::Down);
+        break;
+      case 'L':
+        DirectionDown(state, Direction::Left);
+        break;
+      case 'R':
+        DirectionDown(state, Direction::Right);
+        break;
+      case 'u':
+        DirectionUp(state, Direction::Up);
+        break;
+      case 'd':
+        DirectionUp(state, Direction::Down);
+        break;
+      case 'l':
+        DirectionUp(state, Direction::Left);
+        break;
+      case 'r':
+        DirectionUp(state, Direction::Right);
+        break;
+    }
+  }
+  return Keys(state);
+}
+
+std::string After(const char* events) {
+  SharedState state;
+  return After(events, state);
+}
+
+TEST(DirectionKeys, TheNewestKeyDrives) {
+  EXPECT_EQ(After("U"), "U0");
+  EXPECT_EQ(After("UR"), "Ru1");
+  EXPECT_EQ(After("URD"), "Dur4");
+}
+
+TEST(DirectionKeys, ReleasingItReturnsToTheLastDisplaced) {
+  EXPECT_EQ(After("URr"), "U1");
+  EXPECT_EQ(After("URDd"), "Ru1");
+  EXPECT_EQ(After("URDdr"), "U1");
+  EXPECT_EQ(After("URDdru"), "0");
+}
+
+TEST(DirectionKeys, ReleasingAWaitingKeyForgetsIt) {
+  EXPECT_EQ(After("URu"), "R0");
+  EXPECT_EQ(After("URDr"), "Du1") << "the first other that waits";
+  EXPECT_EQ(After("URDu"), "Dr4");
+}
+
+TEST(DirectionKeys, ARepeatedPressChangesNothing) {
+  EXPECT_EQ(After("UU"), "U0");
+  EXPECT_EQ(After("URR"), "Ru1");
+}
+
+TEST(DirectionKeys, APressClearsItsOwnWaitingFlag) {
+  SharedState state;
+  state.KeyUpWaiting = True;
+  EXPECT_EQ(After("U", state), "U0");
+}
+
+TEST(DirectionKeys, AStoppedHeroWaitsForTheNextPress) {
+  SharedState state;
+  After("UR", state);
+  state.KeyRight = False;  // as opening a menu does, and LastKey with it
+  state.LastKey = 0;
+  EXPECT_EQ(After("r", state), "u0");
+  EXPECT_EQ(After("u", state), "0");
+}
+
+TEST(DirectionKeys, TheSpriteFollows) {
+  SharedState state;
+  After("U", state);
+  EXPECT_EQ(int{state.HeroSpriteY}, 0);
+  After("R", state);
+  EXPECT_EQ(int{state.HeroSpriteY}, 32);
+  After("D", state);
+  EXPECT_EQ(int{state.HeroSpriteY}, 64);
+  After("L", state);
+  EXPECT_EQ(int{state.HeroSpriteY}, 96);
+  After("l", state);
+  EXPECT_EQ(int{state.HeroSpriteY}, 64);
+}
+
+TEST(Walkable, CountsTheCodesAtTheEdgesOfTheRanges) {
+  for (const int code :
+       {7,   14,  19,  21,  25,  33,  35,  36,  43,  44,  47,  52,  54,  62,  64,  81,  94,  111,
+        113, 116, 124, 141, 146, 160, 162, 170, 175, 180, 190, 192, 206, 210, 220, 222, 234, 240}) {
+    EXPECT_TRUE(IsWalkable(code)) << code;
+  }
+  for (const int code : {0,   1,   6,   15,  18,  22,  24,  34,  37,  42,  45,  46,  48,  51,
+                         55,  61,  63,  82,  93,  112, 114, 115, 117, 123, 142, 145, 147, 159,
+                         163, 169, 171, 174, 181, 189, 193, 205, 211, 219, 223, 233, 241, -1}) {
+    EXPECT_FALSE(IsWalkable(code)) << code;
+  }
+  int walkable = 0;
+  for (int code = 0; code <= 300; ++code) walkable += IsWalkable(code) ? 1 : 0;
+  EXPECT_EQ(walkable, 114);
+}
+
+}  // namespace
+}  // namespace orvane

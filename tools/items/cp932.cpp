@@ -8,7 +8,7 @@ namespace orvane::items {
 
 std::string Cp932Of(std::string_view utf8) {
   // The game's own conversion puts a "？" for what CP932 lacks; a name must survive whole.
-  const std::string bytes = ToCp932(utf8);
+  std::string bytes = ToCp932(utf8);
   if (FromCp932(bytes) != utf8) {
     throw std::runtime_error("CP932 cannot hold \"" + std::string(utf8) + "\"");
   }

@@ -92,7 +92,7 @@ Shape Sun() {
     const double between = (far - near) * 0.7071;
     const double slanted = (far + near) * 0.7071;
     const double long_ray = near - (11.8 - far) * 0.72;
-    const double short_ray = between - (10.7 - slanted) * 0.85;
+    const double short_ray = between - (10.4 - slanted) * 0.85;
     const double depth = -std::min(long_ray, short_ray);
     if (depth < 0) return std::nullopt;
     return Sunlight(depth > 1.4 && distance < 9.2 ? 2 : depth > 0.7 ? 1 : 0);

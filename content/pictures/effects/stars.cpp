@@ -130,7 +130,7 @@ Shape Slash(int frame) {
     if (along <= 0 || along >= 1) return std::nullopt;
     const double thick = (frame == 1 ? 9.0 : 5.6) * std::pow(std::sin(pi * along), 0.75);
     const double inward = 19.0 - distance;
-    if (inward < 0 || inward > thick) return std::nullopt;
+    if (thick < 1.6 || inward < 0 || inward > thick) return std::nullopt;
     const double share = inward / std::max(thick, 0.1);
     return Steel(share < 0.14   ? 1.4
                  : share < 0.50 ? 5
@@ -142,18 +142,20 @@ Shape Slash(int frame) {
 
 Shape Thrust() {
   return [](double x, double y) -> std::optional<Colour> {
-    // Three lances of light that drive to the left, the middle one longest, from one burst.
-    const auto lance = [&](double middle, double tip, double tail, double half) {
-      const double along = (x - tip) / (tail - tip);
-      if (along < 0 || along > 1) return -1.0;
-      const double width =
-          along < 0.55 ? half * along / 0.55 : half * std::sqrt((1 - along) / 0.45);
-      return 1 - std::abs(y - middle) / std::max(0.5, width);
-    };
-    const double depth = std::max(
-        {lance(0, -11.2, 11.0, 4.6), lance(-6.2, -6.5, 10.0, 2.7), lance(6.2, -6.5, 10.0, 2.7)});
+    // A lance of light that drives to the left and bursts where its point strikes.
+    const double along = (x + 11.2) / 22.4;
+    if (along < 0 || along > 1) return std::nullopt;
+    const double width = along < 0.3 ? 4.0 * along / 0.3 : 4.0 * std::pow((1 - along) / 0.7, 0.6);
+    const double lance = 1 - std::abs(y) / std::max(0.5, width);
+    const double dx = x + 4.5;
+    const double burst =
+        1 - std::pow(std::abs(dx) / 6.8, 0.72) - std::pow(std::abs(y) / 11.4, 0.72);
+    const double slanted_x = std::abs(dx + y) * 0.7071;
+    const double slanted_y = std::abs(dx - y) * 0.7071;
+    const double rays = 1 - std::pow(slanted_x / 7.4, 0.62) - std::pow(slanted_y / 7.4, 0.62);
+    const double depth = std::max({lance, 1.6 * burst, 1.6 * rays});
     if (depth <= 0) return std::nullopt;
-    return Steel(0.5 + 6.2 * depth);
+    return Steel(depth < 0.16 ? 0.5 : 1.0 + 5.6 * depth);
   };
 }
 

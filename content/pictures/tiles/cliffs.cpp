@@ -149,8 +149,8 @@ void PaintCliffs(Sheet& sheet) {
     sheet.Put(157 + column, plateau, column * TileSize, 32);
   sheet.PutBlock(187, FaceRow(false));
   sheet.PutBlock(217, FaceRow(true));
-  PaintPatch(sheet, {.first = 163, .inset = 1.5, .radius = 5, .waver = 1.2, .seed = 231}, Mountain);
-  PaintPatch(sheet, {.first = 166, .inset = 1.5, .radius = 5, .waver = 1.2, .seed = 233}, DarkRock);
+  PaintPatch(sheet, {.first = 163, .inset = 0.7, .radius = 4, .waver = 0.9, .seed = 231}, Mountain);
+  PaintPatch(sheet, {.first = 166, .inset = 0.9, .radius = 4, .waver = 1.0, .seed = 233}, DarkRock);
 }
 
 }  // namespace orvane::paint::tiles

@@ -80,7 +80,7 @@ TEST(Mixer, TheSameSoundWhateverThePullSizes) {
     Mixer mixer(kRate);
     mixer.Open(0, ToneClip(500, 0.05, 0.5));
     mixer.Play(0);
-    std::vector<float> out(2 * 4410);
+    std::vector<float> out(std::size_t{2} * 4410);
     for (size_t done = 0; done < 4410;) {
       const size_t count = std::min(size, 4410 - done);
       mixer.Pull(out.data() + 2 * done, count);

@@ -17,6 +17,8 @@ constexpr std::array<uint32_t, 6> rock{0x303450, 0x4C5470, 0x748090, 0xA4ACB0, 0
 constexpr std::array<uint32_t, 4> snow{0x7C8CC0, 0xACC0E0, 0xECF4FC, 0xFFFFFF};
 constexpr std::array<uint32_t, 3> forest{0x1C4048, 0x306054, 0x5C8C60};
 constexpr std::array<uint32_t, 4> water{0x2C6CA8, 0x5CA0D0, 0xA8D8F0, 0xF0FCFF};
+constexpr std::array<uint32_t, 6> warm_leaves{0x1C2C28, 0x2C4428, 0x4C6C2C,
+                                              0x789038, 0xACBC4C, 0xE4E47C};
 constexpr std::array<uint32_t, 6> leaves{0x0C2C30, 0x144430, 0x246434,
                                          0x448C38, 0x7CB848, 0xBCE064};
 constexpr std::array<uint32_t, 5> blades{0x1C5830, 0x307C34, 0x60AC40, 0xA0D454, 0xE0F098};
@@ -99,7 +101,7 @@ void Dress(Dresser& dresser, const OpenLand& land) {
     if (Hash(at.seed, 3, 40) < 0.3F)
       dresser.Fir({at.x, at.z, at.size * 1.4F, at.seed}, leaves);
     else
-      dresser.Tree(at, leaves);
+      dresser.Tree(at, Hash(at.seed, 4, 40) < 0.22F ? Ramp(warm_leaves) : Ramp(leaves));
   }
   things.clear();
   for (int k = 0; k < 1500; ++k) {

@@ -40,14 +40,18 @@ void Dresser::Tree(const Standing& at, Ramp leaves) {
           OnRamp(leaves, 0.02F));
     }
   }
-  constexpr int clusters = 15;
+  // Some crowns are broad, some tall, and each leans a little.
+  const float broad = 0.68F + 0.34F * Chance(at, 4);
+  const float tall = 0.98F - 0.34F * Chance(at, 4) * Chance(at, 5);
+  const float lean = 0.3F * (Chance(at, 6) - 0.5F);
+  constexpr int clusters = 19;
   for (int k = 0; k < clusters; ++k) {
     const float angle = static_cast<float>(k) * turn;
     const float spread = std::sqrt(static_cast<float>(k) / clusters);
-    const float offset_x = std::cos(angle) * spread * radius * 0.8F;
-    const float offset_y =
-        -radius * (1.15F + 0.2F * Chance(at, 3)) + std::sin(angle) * spread * radius * 0.72F;
-    const float leaf = radius * (0.34F + 0.16F * Chance(at, k + 20));
+    const float up = -std::sin(angle) * spread * tall;
+    const float offset_x = (std::cos(angle) * spread * broad + lean * up) * radius;
+    const float offset_y = -radius * (0.52F + tall * 0.66F + up);
+    const float leaf = radius * (0.26F + 0.20F * Chance(at, k + 20));
     for (int y = Cells(-leaf); y <= Cells(leaf); ++y) {
       for (int x = Cells(-leaf); x <= Cells(leaf); ++x) {
         const float fx = static_cast<float>(x);
@@ -55,7 +59,7 @@ void Dresser::Tree(const Standing& at, Ramp leaves) {
         const float rough = 0.4F * (Hash(x + k * 31, y, at.seed) - 0.5F);
         if ((fx * fx + fy * fy) / (leaf * leaf) + rough > 1) continue;
         const float light = 0.4F - 0.28F * side * (fx + offset_x) / radius -
-                            0.30F * (fy + offset_y + radius) / radius - 0.16F * fy / leaf +
+                            0.26F * (fy + offset_y + radius * 1.1F) / radius - 0.20F * fy / leaf +
                             0.12F * (Hash(x, y, at.seed + k) - 0.5F);
         Put(foot.column + offset_x + fx, foot.row + offset_y + fy, at.z, OnRamp(leaves, light));
       }

@@ -76,6 +76,8 @@ Model AngelModel() {
   AddWing(model, 1, 1);
   AddBody(model);
   AddArms(model);
+  // The head is a little large for the body, as the style of the figures wants it.
+  model.Enter({{0, -2.6F, 0}, 0, 0, 0, 1.22F});
   model.Add(kSkin, 1)
       .Limb({0, 9, 0}, {0, 12, 0.6F}, 2.2F, 2.2F)
       .Ball({0, 16, 1}, {4.6F, 5.2F, 4.8F})
@@ -93,6 +95,7 @@ Model AngelModel() {
   model.Add(kSash).Chain(Arc({0, 16.2F, 0.9F}, {0, 0, 4.8F}, {4.7F, 0, 0}, -1.5F, 1.5F, 1.1F, 1.1F),
                          2);
   model.Add(kGold, 0).Ring({0, 25.6F, -2}, {6.6F, 0, 0}, {0, 2.6F, 6}, 1);
+  model.Leave();
   model.Finish();
   return model;
 }

@@ -1,4 +1,4 @@
-// The retching slime: a heap of mustard mire with stalked eyes and a dripping mouth.
+// The retching slime: a heap of sallow mire with stalked eyes and a dripping mouth.
 #include <array>
 
 #include "content/pictures/figures/figures.h"
@@ -61,8 +61,8 @@ Model SlimeModel() {
 
 Image PaintSlime() {
   std::vector<Material> m(6);
-  m[kMire] = {{0x2C1820, 0x503020, 0x805420, 0xB08428, 0xD4B03C, 0xECD874, 0xF8F4C0},
-              0.6F,
+  m[kMire] = {{0x281C28, 0x443824, 0x6C6424, 0x98942C, 0xBCBC3C, 0xDCDC70, 0xF4F4B8},
+              0.4F,
               0.3F,
               0,
               Mottle(6, 0.08F)};
@@ -70,7 +70,7 @@ Image PaintSlime() {
   m[kMouth] = {{0x200818, 0x481028, 0x701C38}};
   m[kTongue] = {{0x701840, 0xB83060, 0xE86888, 0xF8B0B0}, 0.5F};
   m[kTooth] = {{0x908060, 0xE0D8B0, 0xF8F8E8}, 0, 0.1F, 0.2F};
-  m[kBubble] = {{0x805420, 0xD4B03C, 0xECD874, 0xF8F8E0}, 0.9F, 0.5F};
+  m[kBubble] = {{0x6C6424, 0xBCBC3C, 0xDCDC70, 0xF8F8E0}, 0.9F, 0.5F};
   Sprite sprite = Render(SlimeModel(), m, MonsterView(0.5F, 0.2F));
   StampAt(sprite, {-10.8F, 20.6F, 9.6F}, {"KK", "KK", "KK"}, "K", {0x200818});
   StampAt(sprite, {7.8F, 16.6F, 9.8F}, {"KK", "KK"}, "K", {0x200818});

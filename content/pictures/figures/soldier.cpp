@@ -82,9 +82,9 @@ Model SoldierModel() {
       .Ball({10.5F, 12, 0}, {5, 4.2F, 5})
       .Ball({11.8F, 8.6F, 0}, {4.4F, 3.2F, 4.4F});
   model.AddPair(kGold).Limb({7.2F, 15.4F, -1}, {11.4F, 15.9F, 0}, 1.1F, 1);
-  AddArm(model, {11, 9, 1}, {16, 1, 5}, {14, 2, 15});
+  AddArm(model, {11, 9, 1}, {16, 1, 4}, {15, 0, 14});
   AddArm(model, {-11, 9, 1}, {-15, 0, 4}, {-11, -1, 12});
-  AddHalberd(model, {15.5F, -26, 12}, {13.6F, 23, 17.4F});
+  AddHalberd(model, {17, -17, -2}, {13, 23, 34});
   AddHead(model);
   AddShield(model, {-12, -3, 15});
   model.Add(kRed, 2)

@@ -34,21 +34,21 @@ float RindLight(Touch& touch, float light) {
 Model SpiderModel() {
   Model model;
   model.Add(kLemon, 4)
-      .Ball({0, 11, -16}, {14.5F, 13.5F, 15.5F})
-      .Limb({0, 14, -26}, {0, 18, -35}, 6, 2.2F);
+      .Ball({0, 10, -16}, {14.5F, 13, 15})
+      .Limb({0, 13, -26}, {0, 17, -35}, 6, 2.2F);
   model.Add(kShell, 3, 1.5F)
       .Ball({0, -1, 3}, {8, 6.5F, 9})
       .Ball({0, 0.5F, 13}, {7.2F, 6, 6.6F})
       .Limb({0, 0, -3}, {0, 3, -7}, 4.4F, 4);
-  // The left hand is the far side; the near front leg is raised to strike.
-  static constexpr std::array<Leg, 8> kLegs{{{1.3F, 25, 13, -17},
-                                             {0.8F, 28, 15, -19},
-                                             {0.15F, 29, 16, -19},
-                                             {-0.45F, 32, 15, -18},
-                                             {2.5F, 26, 14, -19},
-                                             {2.9F, 30, 12, -19},
-                                             {3.25F, 32, 13, -19},
-                                             {3.75F, 35, 15, -19}}};
+  // The left hand is the far side; its front leg is raised to strike.
+  static constexpr std::array<Leg, 8> kLegs{{{0.62F, 32, 17, 4},
+                                             {1.15F, 26, 12, -17},
+                                             {0.3F, 27, 13, -17},
+                                             {-0.45F, 32, 12, -16},
+                                             {2.3F, 22, 13, -17},
+                                             {2.75F, 30, 12, -18},
+                                             {3.2F, 35, 16, -19},
+                                             {3.8F, 37, 20, -17}}};
   for (size_t i = 0; i < kLegs.size(); ++i) {
     const Leg& leg = kLegs[i];
     const Vec out = Around(leg.Angle, 1, 0, 1);
@@ -87,7 +87,7 @@ Image PaintSpider() {
   m[kFang] = {{0x5C5048, 0xB8A888, 0xF4ECC8}, 0.3F};
   m[kBand] = {{0x583410, 0x987018, 0xD8B030, 0xF4DC60}};
   m[kAcid] = {{0x4C8418, 0xA0D830, 0xE8F888}, 0.6F, 0.2F, 0.2F};
-  View view = MonsterView(0.5F, 0.3F);
+  View view = MonsterView(0.55F, 0.24F);
   view.Height = 50;
   return PairSheet(Render(SpiderModel(), m, view), 128, 50, 64);
 }

@@ -102,7 +102,7 @@ Image PaintHannya() {
   std::vector<Material> m(7);
   m[kIvory] = {{0x4C2C38, 0x846058, 0xB89878, 0xDCC8A0, 0xF0E8CC, 0xF8F8EC}, 0.35F, 0.25F, 0.1F};
   m[kHorn] = {{0x38200C, 0x7C5418, 0xC8982C, 0xF0D878}, 0.4F, 0.3F, 0, Rings(2.4F, 0.2F)};
-  m[kHair] = {{0x0C0A14, 0x1C1828, 0x302C44, 0x544C70}, 0.3F, 0.5F, 0, Strands(1.6F, 0.3F)};
+  m[kHair] = {{0x0C0A14, 0x1C1828, 0x38345C, 0x686098}, 0.4F, 0.7F, 0, Strands(1.6F, 0.3F)};
   m[kMouth] = {{0x10040C, 0x30081C}};
   m[kGold] = {{0x805010, 0xE0A820, 0xF8E060, 0xF8F8C0}, 0.5F, 0.1F, 0.3F};
   m[kLip] = {{0x501018, 0x981C24, 0xD83C38}, 0.4F};

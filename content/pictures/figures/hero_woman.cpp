@@ -17,10 +17,10 @@ void AddDress(Model& model, float step) {
   // The hem swings after the feet.
   Group& dress = model.Add(kCloth, 1.6F);
   dress.Limb({0, -1.4F, 0}, {0, -4.6F, 0}, 3.3F, 2.7F);
-  dress.Limb({0, -5.2F, 0}, {0.3F * step, -8.6F, 0}, 2.8F, 4.2F);
+  dress.Limb({0, -5.2F, 0}, {0.3F * step, -8.0F, 0}, 2.8F, 4.0F);
   for (const float side : {-1.0F, 1.0F}) {
     const float swing = step * side;
-    dress.Limb({1.0F * side, -6.0F, 0}, {2.2F * side, -9.0F, swing * 1.1F}, 2.4F, 3.1F);
+    dress.Limb({1.0F * side, -6.0F, 0}, {2.2F * side, -8.4F, swing * 1.1F}, 2.4F, 2.9F);
   }
   model.Add(kLining, 1).Limb({0, -4.8F, 1.6F}, {0.3F * step, -9.8F, 3.4F}, 1.2F, 1.4F);
   model.Add(kMetal).Ball({0, -4.6F, 0}, {3.2F, 0.8F, 3.1F});

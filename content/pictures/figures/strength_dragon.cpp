@@ -102,7 +102,7 @@ void AddShell(Model& model) {
     const float n = static_cast<float>(i);
     const float high = 44 - n * 24;
     const float reach = 52 - n * 5;
-    for (const float x : {-17.0F, 17.0F}) {
+    for (const float x : {-24.0F, 20.0F}) {
       const Vec root{x * (1 - n * 0.06F), high, -26 - 3 * std::sin(n)};
       spires.Limb(root, root + Vec{x * 0.6F, reach * (0.95F - n * 0.12F), -reach * 0.62F},
                   8.4F - n * 0.7F, 0.6F);

@@ -54,6 +54,7 @@ class LineReader {
       now_ = placed.start;
       length_ = Quarter;
       octave_ = part_.home;
+      slur_ = -1;
       SetDynamic(ReadDynamic("mf"), ReadDynamic("mf"));
       for (const Bar& bar : line->second.bars) ReadBar(bar);
       if (!tied_.empty()) throw ScoreError(line->second.bars.back().line, "a tie leads nowhere");
@@ -134,6 +135,17 @@ class LineReader {
     return 12 * (octave_ + 1 + tone.octaves) + tone.semitone + section_->transpose;
   }
 
+  // Under a slur the common tones of two chords are held: the note of this pitch that ends now, or
+  // the number of notes where there is none.
+  size_t HeldUnderSlur(int pitch) const {
+    for (size_t i = out_.notes.size(); slur_ >= 0 && i > 0; --i) {
+      const Note& note = out_.notes[i - 1];
+      if (note.start < slur_) break;
+      if (note.pitch == pitch && note.start + note.length == now_) return i - 1;
+    }
+    return out_.notes.size();
+  }
+
   void Play(const Token& token, int line) {
     if (token.length > 0) length_ = token.length;
     std::vector<int> pitches;
@@ -146,8 +158,12 @@ class LineReader {
       size_t index = out_.notes.size();
       if (tie != tied_.end()) {
         index = tie->second;
-        out_.notes[index].length += length_;
         tied_.erase(tie);
+      } else if (token.whole_chord) {
+        index = HeldUnderSlur(pitch);
+      }
+      if (index < out_.notes.size()) {
+        out_.notes[index].length += length_;
       } else {
         if (pitch < 0 || pitch > 127) throw std::invalid_argument("a pitch out of MIDI");
         Note note;

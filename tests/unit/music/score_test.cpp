@@ -74,6 +74,18 @@ TEST(Score, LeansOnAnotherSectionAndTransposes) {
   EXPECT_EQ(sheet.parts[2].notes.back().pitch, 42);  // drums stay
 }
 
+TEST(Score, HoldsTheCommonTonesOfSlurredChords) {
+  const std::string bars = "section A 2\n  chords C | Am |\n  tune ";
+  const Score struck = ReadScore(WholeScore("A", bars + "*1 | * |\n"));
+  EXPECT_EQ(WriteOut(struck).parts[0].notes.size(), 6U);
+  const Score slurred = ReadScore(WholeScore("A", bars + "(*1 | *) |\n"));
+  const Sheet sheet = WriteOut(slurred);
+  EXPECT_EQ(sheet.parts[0].notes.size(), 4U);  // c and e stay, g goes to a
+  int held = 0;
+  for (const Note& note : sheet.parts[0].notes) held += note.length == 2 * Whole ? 1 : 0;
+  EXPECT_EQ(held, 2);
+}
+
 TEST(Score, GrowsADynamicOverItsStretch) {
   const Score score = ReadScore(WholeScore("A", "section A 2\n  tune \\p..f d1 | e2 \\mf f# |\n"));
   const Sheet sheet = WriteOut(score);

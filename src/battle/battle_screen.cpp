@@ -29,7 +29,7 @@ const Font kPanelFont{Gothic, 11.25, true};
 // The fixed captions of a status pane.
 struct PaneCaption {
   Place At;
-  const char* Text;
+  const char* Text = "";
 };
 
 constexpr PaneCaption kPane[] = {

@@ -34,14 +34,12 @@ void EncounterCheck(Game& game) {
   State& state = game.state;
   Randomize(game);
   state.EncounterRoll = RoundToInt16(Int(Rnd(game) * kRollSize));
-  if (state.EncounterRoll == kEncounter && state.InBook == False && state.LastBossFight == False) {
-    EnterBattle(game);
-  } else if (state.MapA == 4 && state.MapB == 1 && StandsBefore(state, 116)) {
-    state.BossFight = True;
-    EnterBattle(game);
-  } else if (state.LastBossFight == True && StandsBefore(state, 48)) {
-    EnterBattle(game);
-  }
+  const bool random_battle =
+      state.EncounterRoll == kEncounter && state.InBook == False && state.LastBossFight == False;
+  const bool dragon = state.MapA == 4 && state.MapB == 1 && StandsBefore(state, 116);
+  const bool last_dragon = state.LastBossFight == True && StandsBefore(state, 48);
+  if (!random_battle && dragon) state.BossFight = True;
+  if (random_battle || dragon || last_dragon) EnterBattle(game);
 }
 
 void EnterBattle(Game& game) {

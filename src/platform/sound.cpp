@@ -38,7 +38,7 @@ std::string NextWord(std::string_view& rest) {
   const bool quoted = !rest.empty() && rest.front() == '"';
   if (quoted) rest.remove_prefix(1);
   const size_t end = std::min(rest.find(quoted ? '"' : ' '), rest.size());
-  const std::string word(rest.substr(0, end));
+  std::string word(rest.substr(0, end));
   rest.remove_prefix(std::min(end + 1, rest.size()));
   return word;
 }

@@ -1,6 +1,8 @@
 #include "src/frontend/desktop/button_view.h"
 
 #include <QKeyEvent>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <algorithm>
 
 #include "src/frontend/desktop/events.h"
@@ -30,6 +32,22 @@ class Button : public QPushButton {
     const int room = std::max(6, height() - 2 * frame + 2);
     if (room < face.pixelSize()) face.setPixelSize(room);
     setFont(face);
+  }
+
+  // A text wider than its button runs over two lines.
+  void paintEvent(QPaintEvent* event) override {
+    constexpr int margin = 4;
+    const QRect inside = rect().adjusted(margin, 0, -margin, 0);
+    if (fontMetrics().horizontalAdvance(text()) <= inside.width()) {
+      return QPushButton::paintEvent(event);
+    }
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text.clear();
+    painter.drawControl(QStyle::CE_PushButton, option);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(inside, Qt::AlignCenter | Qt::TextWordWrap, text());
   }
 };
 

@@ -1,5 +1,6 @@
 #include "src/frontend/desktop/list_view.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -39,6 +40,13 @@ class ListWidget : public QListWidget {
     QListWidget::mouseReleaseEvent(event);
     if (event->button() != Qt::LeftButton) return;
     Choose(row(itemAt(event->position().toPoint())));
+  }
+
+  // The toolkit would mark the first row of a list without a selection as if it were selected.
+  void focusInEvent(QFocusEvent* event) override {
+    const bool none = !currentIndex().isValid();
+    QListWidget::focusInEvent(event);
+    if (none) Select(-1);
   }
 
   void keyPressEvent(QKeyEvent* event) override {

@@ -1,0 +1,252 @@
+-- The whole game, from the title to the last card.
+local world = require "bot.world"
+local walk = require "bot.walk"
+local fight = require "bot.fight"
+local forecast = require "bot.forecast"
+local pack = require "bot.pack"
+local saves = require "bot.saves"
+local rules = require "bot.rules"
+local journey = {}
+
+-- Chest and book chest maps by their numbers.
+local chests = { [0] = "3,3", "2,1", "2,2", "3,1", "1,1", "1,3", "1,4", "1,5", "2,4", "4,5", "4,4", "5,3", "4,2", "4,1", "5,1" }
+local books = { [0] = "1,3", "3,4", "3,2", "6,4" }
+
+-- Round 1 is explored as strength allows: the level wanted before the n-th chest or book.
+local caution = { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 6, 7, 7, 7, 8, 8, 8 }
+
+-- The odds at which a dragon is tried.
+local courage = 0.8
+
+local function level() return math.min(get("Level[0]"), get("Level[1]")) end
+
+-- The closed chests of the round, and how many have been opened.
+local function closed(w)
+  local list, opened = {}, 0
+  for number = 0, 14 do
+    if get("TreasureLeft[" .. number .. "]") ~= 0 then list[#list + 1] = "chest " .. chests[number] else opened = opened + 1 end
+  end
+  for number = 0, 3 do
+    local goal = "book " .. books[number]
+    if w.goals[goal] then
+      if get("BookLeft[" .. number .. "]") ~= 0 then list[#list + 1] = goal else opened = opened + 1 end
+    end
+  end
+  return list, opened
+end
+
+local function nearest(w, goals)
+  local cell = walk.cell(w)
+  local best, best_distance
+  for _, goal in ipairs(goals) do
+    local distance = world.field(w, goal).distance[cell]
+    if distance and (not best or distance < best_distance) then best, best_distance = goal, distance end
+  end
+  return best, best_distance
+end
+
+-- Whether the heroes need a recovery point. `share` of HP, half of it of MP once there are skills.
+local function weary(share)
+  for hero = 0, 1 do
+    local at = "[" .. hero .. "]"
+    if get("HP" .. at) < share * get("MaxHP" .. at) then return true end
+    if get("MagicKnown[0]") + get("MagicKnown[1]") ~= 0 and get("MP" .. at) < 0.5 * share * get("MaxMP" .. at) then
+      return true
+    end
+  end
+  return false
+end
+
+-- Goes to the goal whatever comes, but turns to the nearest recovery point when weary. Returns true
+-- once there, false when something else is to be thought of first.
+local function go(w, goal, log)
+  local outcome = walk.to(w, goal, log)
+  return outcome == "there" or outcome == "message"
+end
+
+local function rest(w, log)
+  local goal, distance = nearest(w, w.rests)
+  if distance > 12 then
+    -- A long way with little life: a fruit first, where there is one.
+    for hero = 0, 1 do
+      local at = "[" .. hero .. "]"
+      if get("HP" .. at) < 0.3 * get("MaxHP" .. at) then pack.drink(47, hero) end
+    end
+  end
+  log.rests = log.rests + 1
+  while weary(0.99) do
+    local outcome = walk.to(w, goal, log)
+    if outcome == "story" then return end
+  end
+end
+
+-- The first step of the plan that the present state asks for.
+local plan = {}
+
+local function save(state, log)
+  if state.fights_at_save and log.ordinary - state.fights_at_save < 5 and state.saved_round == get("Round") then return end
+  if weary(0.8) then return end
+  if saves.save() then
+    state.fights_at_save, state.saved_round = log.ordinary, get("Round")
+    log.saves = log.saves + 1
+  end
+end
+
+-- Plays on in a second run of the program, once a round, half way through the chests.
+local function new_day(state, log, opened)
+  local round = get("Round")
+  if opened < 9 or state.day == round or get("InBook") ~= 0 or weary(0.8) then return false end
+  state.day = round
+  state.fights_at_save = nil
+  save(state, log)
+  saves.quit()
+  saves.load()
+  log:loaded()
+  return true
+end
+
+-- Walks to and fro beside a recovery point until enemies come. None come in rooms.
+local function train(w, log)
+  local outdoors = {}
+  for _, each in ipairs(w.rests) do
+    if not each:find("room") then outdoors[#outdoors + 1] = each end
+  end
+  local goal = nearest(w, outdoors)
+  for _ = 1, 2000 do
+    if walk.pace(w, goal, log) then return end
+  end
+end
+
+-- Whether the party is up to the round's dragon, as a player would guess.
+local function ready(state, log)
+  local s = fight.look()
+  local round = s.round
+  if level() < (state.wanted[round] or 0) then return false end
+  local key = round .. ":" .. s.level[0] .. "," .. s.level[1] .. "," .. tostring(s.waza_mastered[9])
+  if state.guess_key ~= key then
+    state.guess_key = key
+    state.guess = forecast.odds(s, round - 1, round, 20)
+    if round == 3 then state.guess = math.min(state.guess, forecast.odds(s, rules.last, 4, 20)) end
+  end
+  return state.guess >= courage
+end
+
+local function face_dragon(w, state, log)
+  local round = get("Round")
+  if state.rested_for ~= round or weary(0.6) then
+    if round < 4 then
+      -- The recovery point nearest to the dragon's stair.
+      local best, best_distance
+      for _, each in ipairs(w.rests) do
+        local field = world.field(w, each)
+        local distance = field.distance[w.index["4,1"] * 480 + 14 * 16 + 9]
+        if distance and (not best or distance < best_distance) then best, best_distance = each, distance end
+      end
+      local outcome = walk.to(w, best, log)
+      if (outcome == "there" or outcome == "message") and not weary(0.99) then state.rested_for = round end
+    else
+      rest(w, log)
+      state.rested_for = round
+    end
+    return
+  end
+  save(state, log)
+  log.thrift = true -- the strength is for the dragon
+  walk.to(w, "dragon", log)
+  log.thrift = false
+end
+
+local function think(state, log)
+  if get("Main.Timer3.Enabled") then
+    walk.release()
+    click("Main.Picture1")
+    state.rested_for = nil
+    return
+  end
+  local w = walk.world()
+  if get("Round") == 4 then
+    face_dragon(w, state, log)
+    return
+  end
+  pack.dress()
+  if get("ItemCount") >= 18 then
+    pack.make_room(14)
+    -- A bag full of books and gear in use: a fruit is eaten for the next chest.
+    if get("ItemCount") >= 20 and not pack.drink(47, 0) then pack.drink(48, 0) end
+  end
+  if weary(0.5) then
+    rest(w, log)
+    return
+  end
+  local list, opened = closed(w)
+  save(state, log)
+  if new_day(state, log, opened) then return end
+  if #list > 0 then
+    if get("Round") == 1 and level() < (caution[opened + 1] or 1) then
+      train(w, log)
+      return
+    end
+    local before = #list
+    walk.to(w, nearest(w, list), log)
+    if #closed(w) < before then log:news() end
+    return
+  end
+  if ready(state, log) then
+    face_dragon(w, state, log)
+  else
+    state.rested_for = nil
+    train(w, log)
+  end
+end
+
+local function begin(seed_number)
+  start()
+  walk.forget()
+  saves.answer_boxes()
+  seed(seed_number)
+  math.randomseed(seed_number)
+  click("Main.Command1")
+  enter("InputName.Text1(0)", "カイ")
+  enter("InputName.Text1(1)", "リナ")
+  click("InputName.OKButton")
+  while get("OpeningDone") == 0 do click("Main.Picture1") end
+end
+
+-- The credits, to the press on the last card.
+local function credits()
+  expect(active(), "Ending")
+  run("Ending.Timer1")
+  expect(get("Ending.CreditsDone"), -1)
+  press("Ending")
+  expect(ended(), true)
+  expect(exit_status(), 0)
+end
+
+-- Plays the game with a seed; `log` takes down what happens.
+function journey.play(seed_number, log)
+  begin(seed_number)
+  local state = { wanted = {} }
+  for turn = 1, 6000 do
+    if os.getenv("BOT_TRACE") and turn % tonumber(os.getenv("BOT_TRACE")) == 0 then print(turn, log.steps, log.ordinary, get("Round"), get("Level[0]"), get("HP[0]"), get("HP[1]"), get("MP[0]"), get("MP[1]"), get("MapA"), get("MapB"), get("HeroX"), get("HeroY"), get("ItemCount"), #closed(walk.world()), active(), state.guess, get("InBook")) end
+    if active() == "Ending" then
+      credits()
+      return
+    end
+    local fine, problem = pcall(think, state, log)
+    if not fine then
+      if problem ~= fight.wiped_out then error(problem, 0) end
+      expect(boxes()[#boxes()].text, "全滅しました。")
+      if log.foe.boss then
+        local round = math.min(3, log.foe.round)
+        state.wanted[round] = math.min(log.foe.level[0], log.foe.level[1]) + (round == 1 and 1 or 2)
+      end
+      saves.load()
+      log:loaded()
+      log.thrift = false
+      state.guess_key, state.rested_for = nil, nil
+    end
+  end
+  error("the game does not come to an end")
+end
+
+return journey

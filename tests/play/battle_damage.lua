@@ -1,0 +1,382 @@
+local steps = require "lib.steps"
+
+-- The second hero casts; `target` for spells 1 and 2.
+local function cast(spell, target)
+  tab("Battle.SSTab1", 1)
+  click("Battle.Command2")
+  choose("Battle.List1", spell)
+  if target then choose("Battle.List2", target) end
+end
+
+local function technique(row, target)
+  click("Battle.Command3")
+  choose("Battle.List1", row)
+  choose("Battle.List2", target or 1)
+end
+
+local function use_item(slot, hero)
+  click("Battle.Command4")
+  choose("Battle.List3", slot)
+  choose("Battle.List4", hero + 1)
+end
+
+-- Messengers of the moon (life 280, defence 10) against two heroes who know everything.
+local function skilled(count)
+  steps.arena()
+  steps.learn_all()
+  steps.battle_with(3, count or 1)
+  set("MP[0]", 500)
+  set("MP[1]", 500)
+  set("MaxMP[0]", 500)
+  set("MaxMP[1]", 500)
+  set("Spirit[0]", 5)
+  set("Spirit[1]", 5)
+end
+
+test("the first spell strikes with 12.5 times 8, once mastered 1.3 times as hard, rounded down", function()
+  for _, case in ipairs { { 0, 100 }, { 19, 100 }, { 20, 129 }, { 21, 129 } } do
+    skilled()
+    set("MagicUse[0]", case[1])
+    cast(1, 1)
+    steps.play_with(26, 0.99, 0.99)
+    steps.state { ["MagicDamage[0]"] = case[2], ["Battle.Label15(0).Caption"] = tostring(case[2]) }
+    steps.play_to(48)
+    expect(get("EnemyLife[0]"), 280)
+    tick("Battle.Timer1")
+    expect(get("EnemyLife[0]"), 280 - case[2])
+  end
+end)
+
+test("a spell's spread is a fifth of the level", function()
+  for _, case in ipairs { { 4, 100 }, { 6, 108 }, { 50, 172 } } do
+    skilled()
+    set("Level[1]", case[1])
+    cast(1, 1)
+    steps.play_with(26, 0.99, 0.99)
+    expect(get("MagicDamage[0]"), case[2], "level " .. case[1])
+  end
+end)
+
+test("a one-target spell takes twice from a big enemy what its number shows", function()
+  for _, case in ipairs { { 0, "100", 200 }, { 20, "129", 258 } } do
+    for _, enter in ipairs { steps.boss, steps.last_boss, steps.bone_dragon } do
+      steps.arena()
+      steps.learn_all()
+      set("Spirit[1]", 5)
+      set("MagicUse[0]", case[1])
+      enter()
+      local life = get("EnemyLife[4]")
+      cast(1, 1)
+      steps.play_with(26, 0.99)
+      steps.state { ["Battle.Label15(4).Caption"] = case[2], ["Battle.Label15(4).Visible"] = true,
+        ["Battle.Label15(0).Visible"] = false }
+      steps.play_to(48)
+      tick("Battle.Timer1")
+      expect(get("EnemyLife[4]"), life - case[3])
+    end
+  end
+end)
+
+test("a big enemy takes a spell on all once, and the empty slot 1 a stale number", function()
+  steps.arena()
+  steps.learn_all()
+  steps.bone_dragon()
+  set("Spirit[1]", 5)
+  set("MP[1]", 500)
+  set("MaxMP[1]", 500)
+  set("EnemyLife[0]", 70)
+  set("MagicDamage[0]", 20)
+  cast(4)
+  steps.play_with(26, 0.99)
+  steps.state { ["MagicDamage[4]"] = 858, ["MagicDamage[0]"] = 20 }
+  steps.play_to(48)
+  tick("Battle.Timer1")
+  steps.state { ["EnemyLife[4]"] = 42000 - 858, ["EnemyLife[0]"] = 50, ["EnemyAlive[0]"] = 0, ["EnemyAlive[4]"] = -1 }
+end)
+
+test("a spell on all strikes every slot, the dead without a number", function()
+  skilled(4)
+  set("Level[1]", 50)
+  steps.leave_alive(1, 2, 4)
+  cast(4)
+  steps.play_with(26, 0.25, 0.25, 0.25, 0.25, 0.25)
+  -- 48 + 2.5 + 2, times 17
+  for slot = 1, 4 do
+    steps.state { ["MagicDamage[" .. slot - 1 .. "]"] = 892, ["Battle.Label15(" .. slot - 1 .. ").Visible"] = slot ~= 3 }
+    expect(get("Battle.Label15(" .. slot - 1 .. ").Caption"), "892")
+  end
+  for index, life in ipairs { 1000, 892, 1000, 893 } do set("EnemyLife[" .. index - 1 .. "]", life) end
+  steps.play_to(44)
+  expect(get("Battle.Label15(3).Visible"), true)
+  tick("Battle.Timer1")
+  for slot = 1, 4 do expect(get("Battle.Label15(" .. slot - 1 .. ").Visible"), false) end
+  steps.play_to(48)
+  tick("Battle.Timer1")
+  steps.state { ["EnemyLife[0]"] = 108, ["EnemyLife[1]"] = 0, ["EnemyAlive[1]"] = 0, ["EnemyLife[2]"] = 108,
+    ["EnemyAlive[2]"] = 0, ["EnemyLife[3]"] = 1, ["EnemyAlive[3]"] = -1 }
+end)
+
+test("the enemy's defence plays no part in a spell", function()
+  steps.arena(2)
+  steps.learn_all()
+  set("Spirit[1]", 5)
+  steps.battle_with(12, 1)
+  cast(1, 1)
+  steps.play_with(26, 0, 0)
+  expect(get("MagicDamage[0]"), 100)
+end)
+
+test("a technique adds eight times the attack to its own stroke", function()
+  -- Row, uses, draw, damage, with attack 10, spirit 5 against defence 10.
+  local cases = {
+    { 1, 0, 0.5, 14 * 4 - 20 + 10 + 80 }, { 1, 19, 0.5, 126 }, { 1, 20, 0.5, 62 + 80 },
+    { 2, 0, 0.5, 16 * 8 - 20 + 40 + 80 }, { 5, 0, 0, 28 * 20 - 20 + 80 }, { 9, 0, 0.99, 52 * 36 - 20 + 1603 + 80 },
+    { 10, 0, 0.5, 92 * 80 - 20 + 1000 }, { 10, 500, 0.5, 10547 },
+  }
+  for _, case in ipairs(cases) do
+    skilled()
+    steps.attack(0, 10)
+    set("WazaUse[" .. case[1] - 1 .. "]", case[2])
+    technique(case[1])
+    steps.play_with(26, case[3])
+    steps.state({ WazaDamage = case[4], ["EnemyLife[0]"] = 280 }, "technique " .. case[1])
+    expect(get("Battle.Label15(0).Caption"), tostring(case[4]))
+  end
+end)
+
+test("below zero a technique's stroke is rounded down before the attack is added", function()
+  skilled()
+  steps.attack(0, 1)
+  set("Spirit[0]", 1)
+  technique(1)
+  steps.play_with(26, 0)
+  expect(get("WazaDamage"), 3 * 4 - 20 + 8)
+  skilled()
+  steps.attack(0, 1)
+  set("Spirit[0]", 1)
+  set("WazaUse[0]", 20)
+  technique(1)
+  steps.play_with(26, 0)
+  expect(get("WazaDamage"), -5 + 8)
+end)
+
+test("a technique against a strong defence gives life", function()
+  steps.arena(3)
+  steps.learn_all()
+  steps.attack(0, 1)
+  steps.battle_with(14, 1)
+  technique(1)
+  steps.play_with(26, 0)
+  expect(get("WazaDamage"), 3 * 4 - 90 + 8)
+  steps.play_to(48)
+  tick("Battle.Timer1")
+  expect(get("EnemyLife[0]"), 4070)
+end)
+
+test("a technique lands on its one target at frame 50", function()
+  skilled(3)
+  steps.attack(0, 10)
+  technique(1, 2)
+  steps.play_with(26, 0.5)
+  expect(get("Battle.Label15(1).Top"), 224 - 9)
+  steps.play_to(34)
+  expect(get("Battle.Label15(1).Top"), 224 - 25)
+  steps.play_to(48)
+  expect(get("Battle.Label15(1).Top"), 224)
+  expect(get("Battle.Label15(1).Visible"), false)
+  tick("Battle.Timer1")
+  steps.state { ["EnemyLife[0]"] = 280, ["EnemyLife[1]"] = 280 - 126, ["EnemyLife[2]"] = 280, HeroesActed = 1,
+    ["Battle.SSTab1.Tab"] = 1 }
+end)
+
+test("eight times the attack is a 16-bit product", function()
+  skilled()
+  steps.attack(0, 4095)
+  technique(1)
+  steps.play_with(26, 0)
+  expect(get("WazaDamage"), 4099 * 4 - 20 + 32760)
+  skilled()
+  steps.attack(0, 4096)
+  technique(1)
+  steps.play_to(24)
+  tick("Battle.Timer1")
+  expect(error_kind(), "overflow")
+end)
+
+test("a healing spell heals both, an eighth and a ninth of their points and the spirit times the row", function()
+  -- Row, uses, first, second; points of 127 and 80, spirit 12.
+  local cases = { { 3, 49, 51, 44 }, { 3, 50, 66, 57 }, { 8, 249, 111, 104 }, { 8, 250, 144, 135 } }
+  for _, case in ipairs(cases) do
+    skilled()
+    set("Spirit[1]", 12)
+    set("MaxHP[0]", 127)
+    set("HP[0]", 1)
+    set("HP[1]", 60)
+    set("MagicUse[" .. case[1] - 1 .. "]", case[2])
+    cast(case[1])
+    steps.play_to(24)
+    expect(get("HP[0]"), 1)
+    tick("Battle.Timer1")
+    steps.state { ["HealAmount[0]"] = case[3], ["HealAmount[1]"] = case[4],
+      ["Battle.Label16(0).Caption"] = tostring(case[3]), ["Battle.Label16(1).Caption"] = tostring(case[4]),
+      ["HP[0]"] = math.min(127, 1 + case[3]), ["HP[1]"] = 80 }
+    local first = get("HP[0]")
+    steps.play_to(48)
+    tick("Battle.Timer1")
+    expect(get("HP[0]"), first, "once only")
+  end
+end)
+
+test("a healing spell writes its two numbers again in every later frame", function()
+  skilled()
+  cast(3)
+  steps.play_to(26)
+  set("Battle.Label16(0).Caption", "?")
+  set("Battle.Label16(1).Caption", "?")
+  tick("Battle.Timer1")
+  expect(get("Battle.Label16(0).Caption"), tostring(15 + 15))
+  expect(get("Battle.Label16(1).Caption"), tostring(8 + 15))
+end)
+
+test("a healing spell has no target list and strikes no enemy", function()
+  skilled(2)
+  set("MagicDamage[0]", 50)
+  cast(3)
+  expect(get("Battle.List2.ListCount"), 0)
+  steps.play_to(48)
+  tick("Battle.Timer1")
+  steps.state { ["EnemyLife[0]"] = 280, ["EnemyLife[1]"] = 280, HeroesActed = 1, ["Battle.Timer1.Enabled"] = false }
+end)
+
+test("a healing spell revives the fainted hero at once and gives the pane its name back", function()
+  skilled()
+  set("HP[0]", 0)
+  set("HeroFainted[0]", -1)
+  set("HeroesActed", 1)
+  cast(3)
+  set("Battle.SSTab1.TabCaption(0)", "気絶")
+  set("Battle.SSTab1.TabEnabled(0)", false)
+  steps.play_to(24)
+  expect(get("HeroFainted[0]"), -1)
+  tick("Battle.Timer1")
+  steps.state { ["HeroFainted[0]"] = 0, ["HP[0]"] = 30, ["Battle.SSTab1.TabEnabled(0)"] = false }
+  expect(steps.trimmed(get("Battle.SSTab1.TabCaption(0)")), "カイ")
+end)
+
+test("a hero revived while the round is open gets the pane", function()
+  skilled()
+  set("HP[0]", 0)
+  set("HeroFainted[0]", -1)
+  cast(3)
+  run("Battle.Timer1")
+  steps.state { ["Battle.SSTab1.Tab"] = 0, ["Battle.SSTab1.TabEnabled(0)"] = true, ["Battle.Command3.Enabled"] = true,
+    HeroesActed = 1 }
+end)
+
+test("a healing number is green and the next stroke of an enemy on the label is white", function()
+  skilled()
+  cast(3)
+  steps.play_to(26)
+  for hero = 0, 1 do
+    expect(get("Battle.Label16(" .. hero .. ").ForeColor"), "00FF00")
+    expect(get("Battle.Label16(" .. hero .. ").Visible"), true)
+    expect(get("Battle.Label16(" .. hero .. ").Top"), hero == 0 and 175 or 231)
+  end
+  steps.play_to(46)
+  for hero = 0, 1 do expect(get("Battle.Label16(" .. hero .. ").Visible"), false) end
+  tick("Battle.Timer1", 2)
+  for hero = 0, 1 do expect(get("Battle.Label16(" .. hero .. ").ForeColor"), "FFFFFF") end
+  steps.to_enemy_phase()
+  steps.play_with(16, 0.45)
+  steps.state { ["Battle.Label16(0).ForeColor"] = "FFFFFF", ["Battle.Label16(0).Visible"] = true }
+end)
+
+test("items 47, 48 and 49 give points of life and magic, held to their bounds, and show what they are worth", function()
+  for _, case in ipairs { { 47, 200, 20 }, { 48, 500, 50 }, { 49, 9999, 999 } } do
+    for hero = 0, 1 do
+      steps.arena()
+      set("Items[4]", case[1])
+      for index = 0, 1 do
+        set("MaxHP[" .. index .. "]", 9000)
+        set("MaxMP[" .. index .. "]", 900)
+        set("HP[" .. index .. "]", 5)
+        set("MP[" .. index .. "]", 3)
+      end
+      steps.battle(0, 0)
+      use_item(5, hero)
+      steps.play_to(24)
+      expect(get("HP[" .. hero .. "]"), 5)
+      tick("Battle.Timer1")
+      local label = "Battle.Label16(" .. hero .. ")."
+      steps.state {
+        ["HP[" .. hero .. "]"] = math.min(9000, 5 + case[2]), ["MP[" .. hero .. "]"] = math.min(900, 3 + case[3]),
+        ["HP[" .. 1 - hero .. "]"] = 5, ["MP[" .. 1 - hero .. "]"] = 3, [label .. "Caption"] = tostring(case[2]),
+        [label .. "ForeColor"] = "00FF00", [label .. "Visible"] = true,
+        ["Battle.Label16(" .. 1 - hero .. ").Visible"] = false,
+        ["Battle.Label3(" .. hero .. ").Caption"] = math.min(9000, 5 + case[2]) .. "/9000",
+      }
+    end
+  end
+end)
+
+test("item 49 on a hero at 5 of 120 shows 9999 and leaves the hero at 120", function()
+  steps.arena()
+  set("HP[0]", 5)
+  set("Items[0]", 49)
+  steps.battle(0, 0)
+  use_item(1, 0)
+  steps.play_to(26)
+  steps.state { ["Battle.Label16(0).Caption"] = "9999", ["HP[0]"] = 120, ["MP[0]"] = 10 }
+end)
+
+test("an item revives a fainted hero", function()
+  steps.arena()
+  set("HP[1]", 0)
+  steps.battle(0, 0)
+  set("HeroFainted[1]", -1)
+  set("Battle.SSTab1.TabCaption(1)", "気絶")
+  set("HeroesActed", 1)
+  use_item(1, 1)
+  steps.play_to(26)
+  steps.state { ["HeroFainted[1]"] = 0, ["HP[1]"] = 80 }
+  expect(steps.trimmed(get("Battle.SSTab1.TabCaption(1)")), "リナ")
+end)
+
+test("another item of number 47 and up has no effect", function()
+  steps.arena()
+  set("HP[1]", 0)
+  set("MP[1]", 3)
+  set("Items[0]", 50)
+  steps.battle(0, 0)
+  set("HeroFainted[1]", -1)
+  use_item(1, 1)
+  steps.play_to(28)
+  steps.state { ["HeroFainted[1]"] = -1, ["HP[1]"] = 0, ["MP[1]"] = 3 }
+end)
+
+test("an item is spent on its last frame and leaves a hole", function()
+  steps.arena()
+  steps.battle(0, 0)
+  use_item(2, 0)
+  steps.play_to(48)
+  steps.state { ["Items[1]"] = 47, ItemCount = 3 }
+  tick("Battle.Timer1")
+  steps.state { ["Items[0]"] = 47, ["Items[1]"] = 99, ["Items[2]"] = 47, ItemCount = 2,
+    ["Battle.Label16(0).ForeColor"] = "FFFFFF" }
+end)
+
+test("magic is paid at the first frame", function()
+  skilled()
+  cast(2, 1)
+  expect(get("MP[1]"), 500)
+  tick("Battle.Timer1")
+  steps.state { ["MP[1]"] = 484, ["MP[0]"] = 500, ["Battle.Label4(1).Caption"] = "484/500" }
+  run("Battle.Timer1")
+  technique(3)
+  tick("Battle.Timer1")
+  steps.state { ["MP[1]"] = 484, ["MP[0]"] = 484 }
+  skilled()
+  cast(8)
+  tick("Battle.Timer1")
+  expect(get("MP[1]"), 440)
+end)

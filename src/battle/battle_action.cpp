@@ -96,21 +96,25 @@ void CalcFight(BattleScreen& battle) {
   Write(battle.Label15[TargetSlot(battle) - 1], state.AttackDamage);
 }
 
-void CalcMagicFor(BattleScreen& battle, int slot) {
+void CalcMagicFor(BattleScreen& battle, int slot, double draw) {
   State& state = battle.state;
   const int n = battle.List1.ListIndex;
   const double factor = FactorOf(state.MagicUse[n - 1], state.MagicMaster[n - 1]);
-  state.MagicDamage[slot - 1] =
-      SpellDamage(n, state.MagicMP[n - 1], state.Spirit[1], state.Level[battle.SSTab1.Tab()],
-                  factor, Rnd(battle.game));
+  state.MagicDamage[slot - 1] = SpellDamage(n, state.MagicMP[n - 1], state.Spirit[1],
+                                            state.Level[battle.SSTab1.Tab()], factor, draw);
   Write(battle.Label15[slot - 1], state.MagicDamage[slot - 1]);
 }
 
+// The first draw is for a big enemy; in other fights it goes unused, and every target takes a fresh
+// one.
 void CalcMagic(BattleScreen& battle) {
-  if (IsBigFight(battle.state) || battle.List1.ListIndex <= kLastTargetSpell) {
-    return CalcMagicFor(battle, TargetSlot(battle));
+  const double draw = Rnd(battle.game);
+  if (IsBigFight(battle.state)) return CalcMagicFor(battle, BigSlot, draw);
+  if (battle.List1.ListIndex <= kLastTargetSpell) {
+    return CalcMagicFor(battle, TargetSlot(battle), Rnd(battle.game));
   }
-  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) CalcMagicFor(battle, slot);
+  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot)
+    CalcMagicFor(battle, slot, Rnd(battle.game));
 }
 
 void CalcWaza(BattleScreen& battle) {

@@ -219,6 +219,9 @@ end
 -- Wins at once: the enemies are gone and the open hero's stroke ends the battle.
 function steps.win()
   local row = 1
+  for slot = 4, 1, -1 do
+    if get("EnemyAlive[" .. slot - 1 .. "]") == -1 then row = slot end
+  end
   click("Battle.Command1")
   choose("Battle.List2", row)
   steps.play_to(28)

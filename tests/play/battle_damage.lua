@@ -380,3 +380,33 @@ test("magic is paid at the first frame", function()
   tick("Battle.Timer1")
   expect(get("MP[1]"), 440)
 end)
+
+test("the panes show an item at once and a healing spell at the end of its action", function()
+  steps.arena()
+  steps.learn_all()
+  set("HP[0]", 5)
+  set("HP[1]", 5)
+  steps.battle_with(3, 4)
+  cast(3)
+  steps.play_to(48)
+  steps.state { ["HP[0]"] = 56, ["Battle.Label3(0).Caption"] = "5/120" }
+  tick("Battle.Timer1")
+  steps.state { ["Battle.Label3(0).Caption"] = "56/120", ["Battle.Label3(1).Caption"] = "49/80" }
+  use_item(1, 1)
+  steps.play_to(26)
+  expect(get("Battle.Label3(1).Caption"), "80/80")
+end)
+
+test("a technique or a spell that fells the last enemy wins at frame 50", function()
+  skilled(1)
+  set("EnemyLife[0]", 1)
+  technique(1)
+  steps.play_to(48)
+  expect(get("Battle.Picture10.Visible"), false)
+  tick("Battle.Timer1")
+  steps.state { ["Battle.Picture10.Visible"] = true, ["Battle.Timer1.Enabled"] = false, ["Exp[0]"] = 62 }
+  skilled(4)
+  cast(4)
+  run("Battle.Timer1")
+  steps.state { ["Battle.Picture10.Visible"] = true, ["Exp[1]"] = 248 }
+end)

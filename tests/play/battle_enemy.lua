@@ -475,3 +475,19 @@ test("a special that fells both ends the game", function()
   expect(ended(), true)
   expect(exit_status(), 0)
 end)
+
+test("with the second hero alone the phase's end opens her spells though the pane did not change", function()
+  phase(1)
+  set("HP[0]", 1)
+  steps.enemy_attack(0)
+  click("Battle.Command1")
+  choose("Battle.List2", 1)
+  tick("Battle.Timer1", 15)
+  expect(get("Battle.SSTab1.Tab"), 1)
+  tick("Battle.Timer1", 17)
+  for n = 1, 4 do expect(get("Battle.Command" .. n .. ".Enabled"), false) end
+  set("HP[1]", 80)
+  tick("Battle.Timer1")
+  steps.state { ["Battle.Command1.Enabled"] = true, ["Battle.Command2.Enabled"] = true,
+    ["Battle.Command3.Enabled"] = false, ["Battle.Command4.Enabled"] = true, ["Battle.Timer1.Enabled"] = false }
+end)

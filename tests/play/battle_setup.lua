@@ -323,3 +323,62 @@ test("a new screen plays its actions at the design interval of 1 ms, its music a
   expect(get("Battle.Timer2.Enabled"), true)
   steps.state { ["Battle.SSTab1.Tab"] = 0, ["Battle.Command1.Enabled"] = true, ["Battle.Command2.Enabled"] = false }
 end)
+
+test("a hero who fainted in an abandoned battle is still down in the next", function()
+  steps.arena()
+  steps.battle(0, 0)
+  set("HeroFainted[1]", -1)
+  set("HP[1]", 0)
+  close("Battle")
+  steps.flatten()
+  steps.put(100, 100)
+  steps.battle(0, 0)
+  steps.state { ["HeroFainted[1]"] = -1, ["HP[1]"] = 0 }
+  expect(steps.trimmed(get("Battle.SSTab1.TabCaption(1)")), "リナ")
+  steps.strike()
+  steps.state { ["Battle.SSTab1.Tab"] = 0, ["Battle.SSTab1.TabEnabled(1)"] = false }
+end)
+
+test("music of an abandoned battle plays on into the next", function()
+  steps.arena()
+  steps.battle(0, 0)
+  tick("Battle.Timer2")
+  close("Battle")
+  steps.flatten()
+  steps.put(100, 100)
+  steps.battle(0, 0)
+  clear_sounds()
+  tick("Battle.Timer2")
+  expect(music(), "status bgm4 mode")
+end)
+
+test("closing the window on a dragon leaves its flag, and the walk runs beside the scene", function()
+  steps.arena()
+  steps.boss()
+  close("Battle")
+  steps.state { BossFight = -1, ["Main.Timer3.Enabled"] = true, ["Main.Timer1.Enabled"] = true, ["Exp[0]"] = 0 }
+end)
+
+test("closing the window on the last boss does not count as his fall", function()
+  steps.arena()
+  steps.last_boss()
+  close("Battle")
+  steps.state { LastBossFight = -1, LastBossDown = 0, ["Main.Timer3.Enabled"] = false, ["Main.Timer1.Enabled"] = true }
+end)
+
+test("a window left open and clicked during a battle does not form the group again", function()
+  steps.arena()
+  click("Main.m32")
+  answer("Cancel")
+  click("Main.m14")
+  steps.flatten()
+  steps.battle(0, 0.99)
+  set("EnemyLife[0]", 5)
+  steps.strike(2)
+  expect(get("Battle.SSTab1.Tab"), 1)
+  activate("Chardata")
+  expect(active(), "Chardata")
+  activate("Battle")
+  expect(active(), "Battle")
+  steps.state { ["EnemyLife[0]"] = 5, ["Battle.SSTab1.Tab"] = 1, HeroesActed = 1 }
+end)

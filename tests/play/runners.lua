@@ -169,14 +169,14 @@ test("every damage spell is its cost, half the spirit and a draw by level, times
   end
 end)
 
-test("a spell that strikes all strikes every slot, and shows the numbers of the living", function()
+test("a spell that strikes all draws anew for every slot, dead ones included, after a first draw", function()
   tough_group(4, { ["Spirit[1]"] = 12, ["Level[1]"] = 50, ["MP[1]"] = 100, ["MaxMP[1]"] = 100 })
   steps.leave_alive(1, 2, 4)
   begin_magic(4)
-  reckon(0.5, 0.5, 0.5, 0.5, 0.5)
-  for slot = 1, 4 do
-    expect(get("MagicDamage[" .. slot - 1 .. "]"), 59 * 17, "slot " .. slot)
-    expect(get("Battle.Label15(" .. slot - 1 .. ").Caption"), tostring(59 * 17))
+  reckon(0.95, 0, 0.25, 0.5, 0.75)
+  for slot, r in ipairs { 0, 2, 5, 7 } do
+    expect(get("MagicDamage[" .. slot - 1 .. "]"), (6 + 48 + r) * 17, "slot " .. slot)
+    expect(get("Battle.Label15(" .. slot - 1 .. ").Caption"), tostring((6 + 48 + r) * 17))
     expect(get("Battle.Label15(" .. slot - 1 .. ").Visible"), slot ~= 3, "slot " .. slot)
   end
   expect(get("Battle.Label15(4).Visible"), false)
@@ -184,9 +184,16 @@ test("a spell that strikes all strikes every slot, and shows the numbers of the 
   for slot = 0, 4 do expect(get("Battle.Label15(" .. slot .. ").Visible"), false) end
   steps.play_to(48)
   tick("Battle.Timer1")
-  expect(lost(1), 59 * 17)
-  expect(lost(2), 59 * 17)
-  expect(lost(4), 59 * 17)
+  expect(lost(1), 54 * 17)
+  expect(lost(2), 56 * 17)
+  expect(lost(4), 61 * 17)
+end)
+
+test("a one-target spell takes the second of two draws", function()
+  tough_group(2, { ["Level[1]"] = 50, ["Spirit[1]"] = 0 })
+  begin_magic(1, 1)
+  reckon(0.95, 0.3)
+  expect(get("MagicDamage[0]"), (10 + 3) * 8)
 end)
 
 test("the defence of the enemy plays no part in a spell", function()

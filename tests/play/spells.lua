@@ -51,18 +51,31 @@ test("the first spell burns on its target in all ten frames", function()
   end
 end)
 
+-- The second spell's four crystals around (x, y) in frame `c`.
+local function crystals(scene, c, x, y)
+  local d = c <= 12 and c or 16
+  for k = 0, 3 do
+    local right, down = k % 2, k // 2
+    scene:rect(x + (right == 0 and -60 + 4 * d or 60 - 4 * d), y + (down == 0 and -60 + 4 * d or 60 - 4 * d), 48, 48,
+      blue)
+  end
+end
+
 test("against a single big enemy the first two spells strike at 120, 140, whatever the row", function()
   for name, enter in pairs { boss = canvas.boss, last = canvas.last_boss, dragon = canvas.bone_dragon } do
-    enter()
-    canvas.cell(4, 4, red)
-    canvas.begin_magic(1, 1)
-    local scene = canvas.scene()
-    canvas.play(function(c)
-      scene:rect(120, 140, 96, 96, red)
-      scene:check(name .. ", frame " .. c)
-    end)
-    expect(get("MagicBossX"), 120)
-    expect(get("MagicBossY"), 140)
+    for row = 1, 2 do
+      enter()
+      canvas.cell(4, 4, red)
+      canvas.cell(4, 5, blue)
+      canvas.begin_magic(row, 1)
+      local scene = canvas.scene()
+      canvas.play(function(c)
+        if row == 1 then scene:rect(120, 140, 96, 96, red) else crystals(scene, c, 120, 140) end
+        scene:check(("%s, spell %d, frame %d"):format(name, row, c))
+      end)
+      expect(get("MagicBossX"), 120)
+      expect(get("MagicBossY"), 140)
+    end
   end
 end)
 
@@ -72,12 +85,7 @@ test("the second spell's four crystals run in from the corners, leap once, and h
   canvas.begin_magic(2, 3)
   local scene = canvas.scene()
   canvas.play(function(c, sent)
-    local d = c <= 12 and c or 16
-    for k = 0, 3 do
-      local right, down = k % 2, k // 2
-      scene:rect(120 + (right == 0 and -60 + 4 * d or 60 - 4 * d),
-        90 + (down == 0 and -60 + 4 * d or 60 - 4 * d), 48, 48, blue)
-    end
+    crystals(scene, c, 120, 90)
     scene:check("frame " .. c)
     expect(sent, plays(10, c == 14))
   end)

@@ -20,14 +20,14 @@ class MainScreen : public Screen {
   Label Label2;
   CommandButton Command1;
   PictureBox Picture5;  // the message window
-  ControlArray<Label> Label6{*this, "Label6"};
+  ControlArray<Label> Label6{"Label6"};
   Label Label8;
   PictureBox Picture9;  // the speaker's face
   Label Label7;
   PictureBox Picture6;  // the status panel
   PictureBox Picture7;
   PictureBox Picture8;
-  ControlArray<Label> Label5{*this, "Label5"};
+  ControlArray<Label> Label5{"Label5"};
   PictureBox Picture2;  // sheets: the man, the woman, the tiles
   PictureBox Picture3;
   PictureBox Picture4;

@@ -6,8 +6,9 @@ namespace orvane {
 struct Game;
 struct GameRecord;
 
-// Fills the record for a game from the beginning: heroes, bag, chests, skills. Leaves alone the names, the
-// copies for the load screen and the proficiency counters. SaveX and SaveY become tile numbers.
+// Fills the record for a game from the beginning: heroes, bag, chests, skills. Leaves alone the
+// names, the copies for the load screen and the proficiency counters. SaveX and SaveY become tile
+// numbers.
 void FreshRecord(GameRecord& record);
 
 // Fills the record and the state around it for a game from the beginning. Leaves alone the names,

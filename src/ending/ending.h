@@ -14,7 +14,7 @@ class EndingScreen : public Screen {
   PictureBox Picture2;  // the still picture
   PictureBox Picture1;  // the strips of the credits
   Label Label1;
-  ControlArray<Label> Label2{*this, "Label2"};
+  ControlArray<Label> Label2{"Label2"};
   Timer Timer1;
 
   Array<Int16, 11> CreditY;  // top edge of each strip on the screen

@@ -171,7 +171,7 @@ class MenuItem : public ControlOf<MenuValues, ControlKind::Menu> {
 template <class Kind>
 class ControlArray {
  public:
-  ControlArray(Screen& screen, std::string name) : screen_(&screen), name_(std::move(name)) {}
+  explicit ControlArray(std::string name) : name_(std::move(name)) {}
 
   // Makes the element `index`.
   template <class... Arguments>
@@ -190,7 +190,6 @@ class ControlArray {
   }
 
  private:
-  Screen* screen_;
   std::string name_;
   std::map<int, std::unique_ptr<Kind>> elements_;
 };

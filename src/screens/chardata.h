@@ -15,21 +15,21 @@ class ChardataScreen : public Screen {
   explicit ChardataScreen(Game& game);
 
   TabStrip SSTab1;
-  PictureBox Picture1, Picture2;         // the faces, scaled up when the screen loads
-  Frame Frame3, Frame1, Frame7, Frame2;  // the man's status, equipment, next level, techniques
-  Frame Frame4, Frame5, Frame8, Frame6;  // the woman's, with spells
-  CommandButton Command1, Command2;      // close
-  ControlArray<Label> Label10{*this, "Label10"};  // status values
-  ControlArray<Label> Label11{*this, "Label11"};
-  ControlArray<Label> Label14{*this, "Label14"};  // equipment
-  ControlArray<Label> Label15{*this, "Label15"};
-  ControlArray<Label> Label16{*this, "Label16"};  // experience to the next level
-  ControlArray<Label> Label21{*this, "Label21"};  // the man's skills: name, count, master value
-  ControlArray<Label> Label23{*this, "Label23"};
-  ControlArray<Label> Label22{*this, "Label22"};
-  ControlArray<Label> Label24{*this, "Label24"};  // the woman's
-  ControlArray<Label> Label28{*this, "Label28"};
-  ControlArray<Label> Label27{*this, "Label27"};
+  PictureBox Picture1, Picture2;           // the faces, scaled up when the screen loads
+  Frame Frame3, Frame1, Frame7, Frame2;    // the man's status, equipment, next level, techniques
+  Frame Frame4, Frame5, Frame8, Frame6;    // the woman's, with spells
+  CommandButton Command1, Command2;        // close
+  ControlArray<Label> Label10{"Label10"};  // status values
+  ControlArray<Label> Label11{"Label11"};
+  ControlArray<Label> Label14{"Label14"};  // equipment
+  ControlArray<Label> Label15{"Label15"};
+  ControlArray<Label> Label16{"Label16"};  // experience to the next level
+  ControlArray<Label> Label21{"Label21"};  // the man's skills: name, count, master value
+  ControlArray<Label> Label23{"Label23"};
+  ControlArray<Label> Label22{"Label22"};
+  ControlArray<Label> Label24{"Label24"};  // the woman's
+  ControlArray<Label> Label28{"Label28"};
+  ControlArray<Label> Label27{"Label27"};
 
  protected:
   void OnLoad() override;

@@ -12,8 +12,8 @@ class CustomScreen : public Screen {
   explicit CustomScreen(Game& game);
 
   Frame Frame2;
-  ControlArray<TextBox> Text1{*this, "Text1"};
-  ControlArray<PictureBox> Picture1{*this, "Picture1"};
+  ControlArray<TextBox> Text1{"Text1"};
+  ControlArray<PictureBox> Picture1{"Picture1"};
   Frame Frame1;
   Slider Slider1;  // ms of the battle's action timer
   Label Label1, Label2;

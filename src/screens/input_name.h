@@ -12,7 +12,7 @@ class InputNameScreen : public Screen {
   explicit InputNameScreen(Game& game);
 
   Label Label1, Label4, Label2;
-  ControlArray<TextBox> Text1{*this, "Text1"};
+  ControlArray<TextBox> Text1{"Text1"};
   Label Label3;
   PictureBox Picture1, Picture2;
   CommandButton OKButton, CancelButton;

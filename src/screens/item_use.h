@@ -12,9 +12,9 @@ class ItemUseScreen : public Screen {
   Label Label3, Label4, Label5;
   Frame Frame1;
   PictureBox Picture1, Picture2;
-  ControlArray<CommandButton> Command1{*this, "Command1"};
-  ControlArray<Label> Label1{*this, "Label1"};
-  ControlArray<Label> Label2{*this, "Label2"};
+  ControlArray<CommandButton> Command1{"Command1"};
+  ControlArray<Label> Label1{"Label1"};
+  ControlArray<Label> Label2{"Label2"};
 
  protected:
   void OnActivate(bool entered) override;

@@ -20,9 +20,9 @@ class SaveDialog : public Screen {
   CommandButton OKButton;
   Frame Frame1;
   Label Label4;
-  ControlArray<PictureBox> Picture1{*this, "Picture1"};
-  ControlArray<Label> Label2{*this, "Label2"};
-  ControlArray<Label> Label3{*this, "Label3"};
+  ControlArray<PictureBox> Picture1{"Picture1"};
+  ControlArray<Label> Label2{"Label2"};
+  ControlArray<Label> Label3{"Label3"};
 
  protected:
   // The files that are there now.

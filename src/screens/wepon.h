@@ -17,16 +17,16 @@ class WeponScreen : public Screen {
   Label Label5;
   ListBox List1;  // row n is slot n of the bag
   TabStrip SSTab1;
-  CommandButton Command1, Command2, Command5;   // the man's: equip, remove all, close
-  CommandButton Command3, Command4, Command6;   // the woman's
-  ControlArray<Label> Label2{*this, "Label2"};  // the man's weapon, armour, book
-  ControlArray<Label> Label7{*this, "Label7"};  // the woman's
-  ControlArray<Label> Label4{*this, "Label4"};  // the man's attack, defence, spirit
-  ControlArray<Label> Label9{*this, "Label9"};  // the woman's
-  ControlArray<Label> Label1{*this, "Label1"};  // captions
-  ControlArray<Label> Label6{*this, "Label6"};
-  ControlArray<Label> Label3{*this, "Label3"};
-  ControlArray<Label> Label8{*this, "Label8"};
+  CommandButton Command1, Command2, Command5;  // the man's: equip, remove all, close
+  CommandButton Command3, Command4, Command6;  // the woman's
+  ControlArray<Label> Label2{"Label2"};        // the man's weapon, armour, book
+  ControlArray<Label> Label7{"Label7"};        // the woman's
+  ControlArray<Label> Label4{"Label4"};        // the man's attack, defence, spirit
+  ControlArray<Label> Label9{"Label9"};        // the woman's
+  ControlArray<Label> Label1{"Label1"};        // captions
+  ControlArray<Label> Label6{"Label6"};
+  ControlArray<Label> Label3{"Label3"};
+  ControlArray<Label> Label8{"Label8"};
   PictureBox Picture1, Picture2;
   Int16 LastRow;  // the row last selected
 

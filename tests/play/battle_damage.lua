@@ -410,3 +410,19 @@ test("a technique or a spell that fells the last enemy wins at frame 50", functi
   run("Battle.Timer1")
   steps.state { ["Battle.Picture10.Visible"] = true, ["Exp[1]"] = 248 }
 end)
+
+test("a spell draws once for a big enemy, and against others once more for each enemy it strikes", function()
+  skilled(4)
+  set("Level[1]", 50)
+  cast(4)
+  steps.play_with(26, 0.05, 0.15, 0.25, 0.35, 0.45)
+  -- 48 + 2.5 + r, times 17; the first draw serves a big enemy only.
+  for slot, value in ipairs { 875, 892, 909, 926 } do expect(get("MagicDamage[" .. slot - 1 .. "]"), value) end
+  expect(random_left(), 0)
+  skilled(4)
+  set("Level[1]", 50)
+  cast(1, 2)
+  steps.play_with(26, 0.05, 0.15)
+  expect(get("MagicDamage[1]"), 108)
+  expect(random_left(), 0)
+end)

@@ -382,3 +382,26 @@ test("a window left open and clicked during a battle does not form the group aga
   expect(active(), "Battle")
   steps.state { ["EnemyLife[0]"] = 5, ["Battle.SSTab1.Tab"] = 1, HeroesActed = 1 }
 end)
+
+test("a screen closed in the middle of an action comes back with its timer off", function()
+  steps.arena()
+  steps.battle(0, 0)
+  click("Battle.Command1")
+  choose("Battle.List2", 1)
+  steps.play_to(4)
+  close("Battle")
+  set("Main.Timer1.Enabled", false)
+  set("ActionKind", 2)
+  clear_sounds()
+  wait(500)
+  steps.state { ActionState = 0, ["EnemyLife[0]"] = 280 }
+  expect(#sounds(), 0)
+  set("Main.Timer1.Enabled", true)
+  steps.flatten()
+  steps.put(100, 100)
+  set("HeroesActed", 0)
+  steps.battle(0, 0)
+  steps.state { ["Battle.Timer1.Enabled"] = false, ActionState = 0, ["Battle.List2.ListCount"] = 0 }
+  steps.strike()
+  expect(get("HeroesActed"), 1)
+end)

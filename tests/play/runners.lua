@@ -641,3 +641,27 @@ test("using a skill raises no counter", function()
     expect(get("MagicUse[" .. skill .. "]"), 0)
   end
 end)
+
+test("points above 32767 end the program, by a spell and by a thing", function()
+  local rich = { ["HP[0]"] = 32000, ["MaxHP[0]"] = 32000, ["Items[0]"] = 49 }
+  tough_group(1, rich)
+  begin_magic(3)
+  steps.play_to(24)
+  tick("Battle.Timer1")
+  expect(error_kind(), "overflow")
+  tough_group(1, rich)
+  begin_item(1, 1)
+  steps.play_to(24)
+  tick("Battle.Timer1")
+  expect(error_kind(), "overflow")
+end)
+
+test("the spirit times the row is a 16-bit product", function()
+  for spirit, kind in pairs { [3000] = false, [4096] = "overflow" } do
+    tough_group(1, { ["Spirit[1]"] = spirit, ["MP[1]"] = 60, ["MaxMP[1]"] = 60, ["HP[0]"] = 1, ["HP[1]"] = 1 })
+    begin_magic(8)
+    steps.play_to(24)
+    tick("Battle.Timer1")
+    expect(error_kind() or false, kind, "spirit " .. spirit)
+  end
+end)

@@ -636,3 +636,73 @@ test("a loaded record is saved byte for byte as it was, the reserved fields too"
   end
   expect(read_file("Save01.sav"), bytes)
 end)
+
+test("characters that the files' encoding lacks become wide question marks", function()
+  start()
+  steps.enter_names("aäb", "😀")
+  for _ = 1, 20 do click("Main.Picture1") end
+  save()
+  local bytes = read_file("Save01.sav")
+  expect(bytes:sub(59, 66), "a\x81\x48b    ")
+  expect(bytes:sub(67, 74), "\x81\x48      ")
+  expect(trimmed(get("HeroName[0]")), "aäb", "in memory the name stays")
+end)
+
+test("each opening of a dialog begins without a chosen file", function()
+  steps.plain_world()
+  click("Main.m12")
+  pick("Save")
+  close("Save")
+  click("Main.m12")
+  answer("OK")
+  click("Save.OKButton")
+  expect(boxes()[1].text, "ファイルを選択してください")
+end)
+
+test("a save takes the place where the party stands at OK", function()
+  steps.plain_world()
+  click("Main.m12")
+  pick("Save")
+  activate("Main")
+  steps.walk("Right", 2)
+  answer("Yes")
+  click("Save.OKButton")
+  expect(number_at(read_file("Save01.sav"), 2), 200)
+end)
+
+test("a place off the map ends the program at the first step", function()
+  for _, place in ipairs { { 2, -5 }, { 2, 32767 }, { 4, 3 }, { 4, 272 } } do
+    title { ["Save01.sav"] = small_record { [place[1]] = string.pack("<i2", place[2]) } }
+    load()
+    expect(ended(), false)
+    tick("Main.Timer1")
+    expect(error_kind(), "subscript", "place " .. place[2])
+    expect(exit_status() ~= 0, true)
+  end
+end)
+
+test("a story number beyond the lines ends the program when a scene begins", function()
+  for number, kind in pairs { [46] = false, [47] = "subscript", [-1] = "subscript" } do
+    title { ["Save01.sav"] = small_record { [506] = string.pack("<i2", number) } }
+    load()
+    set("BossFight", -1)
+    click("Main.m32")
+    click("Chardata.Command1")
+    expect(ended(), false)
+    tick("Main.Timer3")
+    expect(error_kind() or false, kind, "line " .. number)
+  end
+end)
+
+test("a trained skill that is none ends the program at the first win", function()
+  title { ["Save01.sav"] = small_record { [124] = string.pack("<i2", 50), [2] = string.pack("<i2", 100) } }
+  load()
+  steps.battle(0, 0)
+  for slot = 0, 3 do set("EnemyLife[" .. slot .. "]", -10000) end
+  steps.leave_alive(1)
+  click("Battle.Command1")
+  choose("Battle.List2", 1)
+  steps.play_to(28)
+  tick("Battle.Timer1")
+  expect(error_kind(), "subscript")
+end)

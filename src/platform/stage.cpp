@@ -80,6 +80,9 @@ void Stage::Hide(Screen& screen) {
 void Stage::Unload(Screen& screen) {
   if (!screen.loaded_) return;
   screen.OnUnload();
+  for (Control* control : screen.controls_) {
+    if (control->Kind() == ControlKind::Timer) static_cast<Timer*>(control)->SetEnabled(false);
+  }
   screen.loaded_ = false;
   if (screen.visible_) Leave(screen);
 }

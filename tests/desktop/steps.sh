@@ -68,12 +68,22 @@ walk() {
   shot 5-walk
 }
 
+# Asks the window manager to close the window that has the keyboard, until the game asks back.
+asks_to_quit() {
+  has_window ゲームの終了 && return 0
+  xdotool key alt+F4
+  for _ in 1 2 3 4 5 6 7 8 9 10; do
+    sleep 0.1
+    has_window ゲームの終了 && return 0
+  done
+  return 1
+}
+
 # A key that is released while a box has the keyboard does not leave the party walking.
 hold_key_under_box() {
   xdotool keydown Right
   sleep 0.1
-  xdotool key alt+F4
-  wait_for 5 "the quit question" has_window ゲームの終了
+  wait_for 10 "the quit question" asks_to_quit
   wait_for 5 "the focus of the quit question" has_focus ゲームの終了
   shot 6-question
   xdotool keyup Right
@@ -130,8 +140,7 @@ win_battle() {
 
 quit_game() {
   local status=0
-  xdotool key alt+F4
-  wait_for 5 "the quit question" has_window ゲームの終了
+  wait_for 10 "the quit question" asks_to_quit
   wait_for 5 "the focus of the quit question" has_focus ゲームの終了
   xdotool key Return
   for _ in $(seq 100); do

@@ -1,9 +1,11 @@
 #include "src/frontend/desktop/boxes.h"
 
 #include <QAbstractButton>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpacerItem>
 #include <algorithm>
 #include <utility>
 
@@ -33,6 +35,15 @@ const std::vector<Choice>& Choices(BoxButtons buttons) {
       break;
   }
   return ok;
+}
+
+// Makes a box wide enough for its title between the window manager's icons.
+void WidenForTitle(QMessageBox& box) {
+  constexpr int icons = 110;
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + icons;
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 // A message box that a key still held down from before does not answer.
@@ -66,6 +77,7 @@ BoxAnswer MessageBoxes::Run(const Box& box, QWidget* parent) {
   }
   shown.setDefaultButton(static_cast<QPushButton*>(buttons.front().first));
   shown.setEscapeButton(buttons.back().first);
+  WidenForTitle(shown);
   standing_.push_back(&shown);
   shown.exec();
   std::erase(standing_, &shown);

@@ -44,17 +44,7 @@ bool Keys::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease: {
       // Each key comes to its window first and then goes on to the control that has the focus.
       if (!watched->isWindowType()) break;
-      const auto* key_event = static_cast<QKeyEvent*>(event);
-      const auto key = ArrowKey(key_event->key());
-      if (!key || key_event->isAutoRepeat()) break;
-      if (event->type() == QEvent::KeyPress) {
-        Press(*key, key_event->nativeScanCode());
-      } else if (!IsKeyDown(key_event->nativeScanCode()).value_or(false)) {
-        // A repeat comes as a release and a press, and the toolkit does not always see that they
-        // belong together; but the key is still down then.
-        Release(*key);
-      }
-      break;
+      return TakeKey(*static_cast<const QKeyEvent*>(event));
     }
     case QEvent::ApplicationDeactivate:
       ForgetKeys();
@@ -72,9 +62,28 @@ bool Keys::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
+bool Keys::TakeKey(const QKeyEvent& event) {
+  const auto key = ArrowKey(event.key());
+  if (!key) return false;
+  KeyState& state = keys_[static_cast<size_t>(*key)];
+  const bool press = event.type() == QEvent::KeyPress;
+  // A repeat comes as a release and a press, and the toolkit does not always see that they belong
+  // together; but the key is still down then.
+  const bool repeat = event.isAutoRepeat() ||
+                      (press ? state.Down : IsKeyDown(event.nativeScanCode()).value_or(false));
+  // What was pressed to walk goes on repeating when a battle comes, and must not move anything
+  // there.
+  if (repeat) return state.Held && !reaches_();
+  if (press) {
+    Press(*key, event.nativeScanCode());
+  } else {
+    Release(*key);
+  }
+  return false;
+}
+
 void Keys::Press(Key key, uint32_t native_code) {
   KeyState& state = keys_[static_cast<size_t>(key)];
-  if (state.Down) return;  // a repeat
   state.Down = true;
   state.NativeCode = native_code;
   if (!reaches_()) return;

@@ -8,6 +8,8 @@
 
 #include "src/game/program.h"
 
+class QKeyEvent;
+
 namespace orvane {
 
 class Events;
@@ -34,6 +36,8 @@ class Keys : public QObject {
     uint32_t NativeCode = 0;  // the key as the window system numbers it
   };
 
+  // Whether the event must go no further.
+  bool TakeKey(const QKeyEvent& event);
   void Press(Key key, uint32_t native_code);
   void Release(Key key);
   void Settle();

@@ -63,7 +63,10 @@ void ScreenWindow::Follow() {
   FollowTitle();
   if (menu_ != nullptr) menu_->Follow();
   client_->Follow(false);
+  const QWidget* before = focusWidget();
   for (const auto& view : views_) view->Follow();
+  // Keys go on to what has come in place of the control that had them.
+  if (before != nullptr && !(before->isVisible() && before->isEnabled())) FocusFirst();
 }
 
 void ScreenWindow::FollowAll() {
@@ -73,19 +76,29 @@ void ScreenWindow::FollowAll() {
   for (const auto& view : views_) view->FollowAll();
 }
 
-void ScreenWindow::Present(const QWidget* over) {
+void ScreenWindow::Present(const ScreenWindow* over) {
   // The screen may have been loaded afresh since it was seen last.
   FollowAll();
   setWindowModality(screen_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
   winId();  // makes the window, so that it can be tied to the one that it belongs to
-  const bool belongs = over != nullptr && over->isVisible();
-  windowHandle()->setTransientParent(belongs ? over->windowHandle() : nullptr);
+  TieTo(over);
   PutOver(over);
   show();
   FocusFirst();
 }
 
-void ScreenWindow::PutOver(const QWidget* over) {
+void ScreenWindow::TieTo(const ScreenWindow* over) {
+  windowHandle()->setTransientParent(nullptr);
+  // A window that is about to go is no owner, and a circle of owners would hang the toolkit.
+  if (over == nullptr || !over->screen_.IsVisible()) return;
+  for (const QWindow* each = over->windowHandle(); each != nullptr;
+       each = each->transientParent()) {
+    if (each == windowHandle()) return;
+  }
+  windowHandle()->setTransientParent(over->windowHandle());
+}
+
+void ScreenWindow::PutOver(const ScreenWindow* over) {
   if (placed_) return move(pos());  // says that the place is meant, lest the window manager choose
   placed_ = true;
   const QSize size = sizeHint() + QSize(0, TitleBar);
@@ -98,14 +111,16 @@ void ScreenWindow::PutOver(const QWidget* over) {
 }
 
 void ScreenWindow::FocusFirst() {
-  // Typing goes to the first field, otherwise keys go to the first control that takes them.
+  const auto takes_keys = [](const QWidget& widget) {
+    return widget.focusPolicy() != Qt::NoFocus && widget.isVisible() && widget.isEnabled();
+  };
+  // Lists and fields are there to be answered; otherwise keys go to the first that takes them.
   QWidget* first = nullptr;
   for (const auto& view : views_) {
-    QWidget* widget = view->Widget();
-    const bool takes_keys = widget->focusPolicy() != Qt::NoFocus;
-    if (!takes_keys || !widget->isVisible() || !widget->isEnabled()) continue;
-    if (view->Model().Kind() == ControlKind::Field) return widget->setFocus();
-    if (first == nullptr) first = widget;
+    if (!takes_keys(*view->Widget())) continue;
+    const ControlKind kind = view->Model().Kind();
+    if (kind == ControlKind::Field || kind == ControlKind::List) return view->Widget()->setFocus();
+    if (first == nullptr) first = view->Widget();
   }
   if (first != nullptr) first->setFocus();
 }

@@ -22,7 +22,7 @@ class ScreenWindow : public QMainWindow {
 
   // Shows the window over the middle of `over`, or of the screen where that is null; moves it only
   // the first time.
-  void Present(const QWidget* over);
+  void Present(const ScreenWindow* over);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -31,7 +31,8 @@ class ScreenWindow : public QMainWindow {
   void MakeViews();
   void FollowTitle();
   void FollowAll();
-  void PutOver(const QWidget* over);
+  void TieTo(const ScreenWindow* over);
+  void PutOver(const ScreenWindow* over);
   void FocusFirst();
 
   Screen& screen_;

@@ -33,8 +33,7 @@ void Windows::Follow() {
 void Windows::ShowNew() {
   for (const auto& window : windows_) {
     if (!window->Model().IsVisible() || window->isVisible()) continue;
-    const ScreenWindow* before = Of(active_);
-    window->Present(before);
+    window->Present(Of(active_));
   }
 }
 

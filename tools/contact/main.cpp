@@ -21,14 +21,14 @@ struct Group {
 // Which sheets share a page; "sheets_other" takes what no group names.
 const std::vector<Group>& Groups() {
   static const std::vector<Group> groups = {
-      {"sheets_dragons", {"enemy_00", "enemy_01", "enemy_02", "enemy_13", "enemy_18"}, 2160},
+      {"sheets_dragons", {"enemy_00", "enemy_01", "enemy_02", "enemy_13", "enemy_18"}, 2150},
       {"sheets_enemies", {"enemy_"}, 1680},
-      {"sheets_heroes", {"hero_", "face_"}, 1300},
+      {"sheets_heroes", {"hero_", "face_"}, 1220},
       {"sheets_grounds", {"ground_", "title", "ending_"}, 1940},
-      {"sheets_panels", {"message_", "name_", "status_", "victory_"}, 1500},
-      {"sheets_icons", {"icon_"}, 1320},
-      {"sheets_tiles", {"tiles", "effects"}, 1480},
-      {"sheets_other", {""}, 1480},
+      {"sheets_panels", {"message_", "name_", "status_", "victory_"}, 1940},
+      {"sheets_icons", {"icon_"}, 1640},
+      {"sheets_tiles", {"tiles", "effects"}, 1950},
+      {"sheets_other", {""}, 1640},
   };
   return groups;
 }
@@ -77,8 +77,7 @@ void WriteSheets(const Sheets& sheets, const std::string& folder) {
         others.emplace(name, sheet);
         continue;
       }
-      page.Add(name, sheet);
-      page.Add(name + " 3x", Enlarged(sheet, 3));
+      page.AddTwice(name, sheet);
     }
     page.Write(folder + "/" + group.Page + ".png");
     left = std::move(others);
@@ -96,12 +95,11 @@ void WriteEnemies(const Sheets& sheets, const std::string& folder) {
     }
     page.Write(folder + "/place_enemies_" + ground + ".png");
   }
-  Page page(1320);
+  Page page(1760);
   Surface scene = Ground(sheets, "ground_lair");
   PutEnemies(scene, sheets, 18);
   PutHeroes(scene, sheets);
-  page.Add("enemy 18 on ground_lair", scene);
-  page.Add("enemy 18 on ground_lair 3x", Enlarged(scene, 3));
+  page.AddTwice("enemy 18 on ground_lair", scene);
   page.Write(folder + "/place_enemies_ground_lair.png");
 }
 

@@ -11,6 +11,10 @@ namespace {
 constexpr int kGap = 8;
 constexpr Colour kGround = 0x585460;
 
+int WidthOf(const std::string& name, const Surface& picture) {
+  return std::max(picture.Width(), LabelWidth(name));
+}
+
 }  // namespace
 
 Surface ReadSheet(const std::string& file) {
@@ -26,11 +30,20 @@ Surface Enlarged(const Surface& picture, int times) {
 }
 
 void Page::Add(const std::string& name, const Surface& picture) {
-  const int width = std::max(picture.Width(), LabelWidth(name));
+  const int width = WidthOf(name, picture);
   if (x_ > 0 && x_ + kGap + width + kGap > width_) Break();
   items_.push_back({name, picture, x_ + kGap, y_ + kGap});
   x_ += kGap + width;
   row_height_ = std::max(row_height_, kGap + kLabelHeight + picture.Height());
+}
+
+void Page::AddTwice(const std::string& name, const Surface& picture) {
+  const Surface large = Enlarged(picture, 3);
+  const std::string large_name = name + " 3x";
+  const int width = kGap + WidthOf(name, picture) + kGap + WidthOf(large_name, large);
+  if (x_ > 0 && x_ + width + kGap > width_) Break();
+  Add(name, picture);
+  Add(large_name, large);
 }
 
 void Page::Break() {

@@ -21,14 +21,16 @@ class Page {
 
   // Appends a picture with its name above it.
   void Add(const std::string& name, const Surface& picture);
-  // Begins a new row, unless the row is empty.
-  void Break();
+  // Appends a picture at 1x and at 3x, both in the same row where that is wide enough.
+  void AddTwice(const std::string& name, const Surface& picture);
 
   // Sets everything on a plain grey that shows both white and black grounds, and writes a PNG;
   // throws std::runtime_error when it cannot be written.
   void Write(const std::string& file) const;
 
  private:
+  void Break();  // begins a new row
+
   struct Item {
     std::string Name;
     Surface Picture;

@@ -13,7 +13,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr SpritePair kSpider{"spider", {0, 0, 64, 50}, 64, 0, 700};
+const SpritePair kSpider{"spider", {0, 0, 64, 50}, 64, 0, 700};
 
 void Dot(Surface& sheet, int x, int y, Colour colour) {
   FillBox(sheet, x, y, x, y, colour);

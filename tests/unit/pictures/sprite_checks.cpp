@@ -43,10 +43,15 @@ void ReportFew(const std::string& name, const std::string& what, int count, int 
                    std::to_string(least));
 }
 
+// Where a pixel stands in a list of all pixels of the sheet.
+size_t PlaceOf(const Surface& sheet, int x, int y) {
+  return static_cast<size_t>(y) * static_cast<size_t>(sheet.Width()) + static_cast<size_t>(x);
+}
+
 void Cover(std::vector<int>& covers, const Surface& sheet, const Rect& cell) {
   for (int y = cell.Y; y < cell.Y + cell.Height; ++y) {
     for (int x = cell.X; x < cell.X + cell.Width; ++x) {
-      if (sheet.Contains(x, y)) ++covers[static_cast<size_t>(y * sheet.Width() + x)];
+      if (sheet.Contains(x, y)) ++covers[PlaceOf(sheet, x, y)];
     }
   }
 }
@@ -129,7 +134,7 @@ Faults StripFaults(const Surface& sheet, const WhiteStrip& strip) {
 
 Faults OutsideFaults(const Surface& sheet, const std::vector<SpritePair>& pairs,
                      const std::vector<WhiteStrip>& strips) {
-  std::vector<int> covers(static_cast<size_t>(sheet.Width() * sheet.Height()));
+  std::vector<int> covers(PlaceOf(sheet, 0, sheet.Height()));
   for (const SpritePair& pair : pairs) {
     Cover(covers, sheet, pair.Image);
     Cover(covers, sheet, {pair.MaskX, pair.MaskY, pair.Image.Width, pair.Image.Height});
@@ -139,7 +144,7 @@ Faults OutsideFaults(const Surface& sheet, const std::vector<SpritePair>& pairs,
   Tally twice("pixels in two cells");
   for (int y = 0; y < sheet.Height(); ++y) {
     for (int x = 0; x < sheet.Width(); ++x) {
-      const int count = covers[static_cast<size_t>(y * sheet.Width() + x)];
+      const int count = covers[PlaceOf(sheet, x, y)];
       if (count == 0 && sheet.At(x, y) != kBlack) stray.Add(x, y);
       if (count > 1) twice.Add(x, y);
     }

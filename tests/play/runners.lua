@@ -2,7 +2,8 @@ local steps = require "lib.steps"
 local canvas = require "lib.canvas"
 local skills = require "lib.skills"
 
-local tough_group, tough_boss, begin_waza, begin_magic = skills.tough_group, skills.tough_boss, skills.begin_waza, skills.begin_magic
+local tough_group, tough_boss = skills.tough_group, skills.tough_boss
+local begin_waza, begin_magic = skills.begin_waza, skills.begin_magic
 local begin_item, reckon = skills.begin_item, skills.reckon
 
 test("a technique takes its MP on frame 2, before its picture", function()
@@ -180,5 +181,31 @@ test("using a skill raises no counter", function()
   for skill = 0, 9 do
     expect(get("WazaUse[" .. skill .. "]"), 0)
     expect(get("MagicUse[" .. skill .. "]"), 0)
+  end
+end)
+
+test("every skill runs to its end in every kind of fight, and leaves scene and numbers at rest", function()
+  for name, enter in pairs { group = canvas.group, boss = canvas.boss, last = canvas.last_boss, dragon = canvas.bone_dragon } do
+    for row = 1, 10 do
+      local note = ("%s, row %d"):format(name, row)
+      enter()
+      for slot = 0, 4 do set("EnemyLife[" .. slot .. "]", 10000000) end
+      canvas.begin_waza(row, 1)
+      run("Battle.Timer1")
+      expect(get("ActionState"), 0, note)
+      expect(get("Battle.SSTab1.Tab"), 1, note)
+      begin_magic(row, 1)
+      run("Battle.Timer1")
+      expect(ended(), false, note)
+      expect(get("ActionState"), 0, note)
+      expect_near(get("Battle.Picture1.Left"), 8, 1e-9, note)
+      expect_near(get("Battle.Picture1.Top"), 8, 1e-9, note)
+      expect(get("Battle.Label16(0).Top"), 184, note)
+      expect(get("Battle.Label16(1).Top"), 240, note)
+      for slot, top in ipairs { 144, 224, 144, 224, 192 } do
+        expect(get("Battle.Label15(" .. slot - 1 .. ").Visible"), false, note)
+        expect(get("Battle.Label15(" .. slot - 1 .. ").Top"), top, note)
+      end
+    end
   end
 end)

@@ -1,7 +1,8 @@
 local steps = require "lib.steps"
 local skills = require "lib.skills"
 
-local mastery, tough_group, begin_magic, begin_item = skills.mastery, skills.tough_group, skills.begin_magic, skills.begin_item
+local mastery, tough_group = skills.mastery, skills.tough_group
+local begin_magic, begin_item = skills.begin_magic, skills.begin_item
 
 test("a healing spell gives an eighth and a ninth of the maxima and the spirit times the row", function()
   for row, use in pairs { [3] = 50, [8] = 250 } do

@@ -2,7 +2,8 @@ local steps = require "lib.steps"
 local canvas = require "lib.canvas"
 local skills = require "lib.skills"
 
-local mastery, field_with, tough_group, tough_boss = skills.mastery, skills.field_with, skills.tough_group, skills.tough_boss
+local mastery, field_with = skills.mastery, skills.field_with
+local tough_group, tough_boss = skills.tough_group, skills.tough_boss
 local begin_magic, reckon, lost = skills.begin_magic, skills.reckon, skills.lost
 
 test("the first spell of spirit 5 deals 100, and 129 once mastered", function()

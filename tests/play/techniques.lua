@@ -345,3 +345,21 @@ test("a skill's last frame leaves the channels as the battle opened them", funct
     for channel = 2, 10 do expect(sound_mode("snd" .. channel) ~= "", true, "snd" .. channel) end
   end
 end)
+
+test("ticks that fell into the fifth technique's pause are not made up for", function()
+  begin(5, 1)
+  wait(7 * 15 - 1)
+  expect(get("ActionState"), 12)
+  clear_sounds()
+  local before = clock()
+  wait(1)
+  wait(1)
+  expect(clock() - before >= 400, true)
+  expect(get("ActionState") >= 14, true)
+  expect(get("ActionState") <= 16, true, "one late tick at most")
+  local queries = 0
+  for _, command in ipairs(sounds { status = true }) do
+    if command == "status bgm4 mode" then queries = queries + 1 end
+  end
+  expect(queries <= 1, true, "and one of the music's timer")
+end)

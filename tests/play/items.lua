@@ -316,3 +316,18 @@ test("a thing number beyond the file is a nameless row that can be discarded but
     expect(enabled(2), true)
   end
 end)
+
+test("a question whose row has gone from the list gives nothing and spends nothing", function()
+  opened { ["HP[0]"] = 5 }
+  pick(potion)
+  click("Item.Command1")
+  activate("Main")
+  click("Main.m22")
+  expect(get("Item.List1.ListIndex"), -1)
+  activate("ItemUse")
+  click("ItemUse.Command1(0)")
+  expect(ended(), false)
+  expect(get("HP[0]"), 5)
+  expect(get("ItemCount"), 10)
+  expect(get("Items[5]"), 6)
+end)

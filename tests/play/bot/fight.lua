@@ -76,14 +76,13 @@ local function act(choice, log)
   run("Battle.Timer1")
 end
 
--- The bone dragon alone can be fled from. It is fought when that goes surely and not for ever.
+-- The bone dragon alone can be fled from. It is fought when that will likely go well, as one may
+-- still flee when it does not.
 local function flees(s, opening)
   if s.kind ~= rules.bone or s.boss then return false end
   if opening then
-    local odds, rounds = forecast.odds(s, rules.bone, s.round, 12)
-    local rested = s.hp[0] > 0.6 * s.max_hp[0] and s.hp[1] > 0.6 * s.max_hp[1] and s.mp[0] > 0.4 * s.max_mp[0]
-        and s.mp[1] > 0.4 * s.max_mp[1]
-    return odds < 1 or rounds > 9 or not rested
+    local odds, rounds = forecast.odds(s, rules.bone, s.round, 8)
+    return odds < 0.75 or rounds > 12
   end
   return s.fainted[0] or s.fainted[1]
 end

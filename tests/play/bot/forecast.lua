@@ -10,12 +10,13 @@ local function copied(t)
   return copy
 end
 
--- The state of a fight that is yet to come, against row `kind`, the heroes rested.
-function forecast.against(s, kind, round)
+-- The state of a fight that is yet to come, against row `kind`; the heroes as they are, or rested.
+function forecast.against(s, kind, round, rested)
   local f = copied(s)
   f.kind, f.enemy, f.big, f.boss, f.round = kind, rules.enemies[kind], true, kind ~= rules.bone, round
   f.count, f.life, f.carried = 1, { rules.enemies[kind][1] }, 0
-  f.hp, f.mp, f.items = copied(s.max_hp), copied(s.max_mp), copied(s.items)
+  f.hp, f.mp = copied(rested and s.max_hp or s.hp), copied(rested and s.max_mp or s.mp)
+  f.items = copied(s.items)
   f.fainted = { [0] = false, false }
   return f
 end
@@ -67,7 +68,8 @@ end
 local function play(f)
   for round = 1, 80 do
     local first = tactics.first(f)
-    for turn = 0, 1 do
+    -- With one down at its beginning a round has one action, even if that one is raised by it.
+    for turn = 0, (f.fainted[0] or f.fainted[1]) and 0 or 1 do
       local hero = turn == 0 and first or 1 - first
       if not f.fainted[hero] then
         act(f, hero, tactics.choose(f, hero))
@@ -81,10 +83,10 @@ local function play(f)
 end
 
 -- The share of `count` fights that are won, and their rounds on the average.
-function forecast.odds(s, kind, round, count)
+function forecast.odds(s, kind, round, count, rested)
   local won, rounds = 0, 0
   for _ = 1, count do
-    local win, took = play(forecast.against(s, kind, round))
+    local win, took = play(forecast.against(s, kind, round, rested))
     if win then won, rounds = won + 1, rounds + took end
   end
   return won / count, won > 0 and rounds / won or 80

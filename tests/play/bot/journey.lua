@@ -12,8 +12,13 @@ local journey = {}
 local chests = { [0] = "3,3", "2,1", "2,2", "3,1", "1,1", "1,3", "1,4", "1,5", "2,4", "4,5", "4,4", "5,3", "4,2", "4,1", "5,1" }
 local books = { [0] = "1,3", "3,4", "3,2", "6,4" }
 
--- Round 1 is explored as strength allows: the level wanted before the n-th chest or book.
-local caution = { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 6, 7, 7, 7, 8, 8, 8 }
+-- A round is explored as strength allows: the level wanted before the n-th chest or book. Until
+-- then the party fights beside a recovery point.
+local caution = {
+  { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 6, 7, 7, 7, 8, 8, 8 },
+  { 1, 14, 14, 14, 15, 15, 15, 16, 16, 16, 17, 17, 17, 18, 18, 18, 18, 18 },
+  { 1, 27, 27, 28, 28, 29, 29, 30, 30, 31, 31, 32, 32, 33, 33, 34, 34, 34, 34 },
+}
 
 -- The odds at which a dragon is tried.
 local courage = 0.8
@@ -125,15 +130,21 @@ local function ready(state, log)
   local key = round .. ":" .. s.level[0] .. "," .. s.level[1] .. "," .. tostring(s.waza_mastered[9])
   if state.guess_key ~= key then
     state.guess_key = key
-    state.guess = forecast.odds(s, round - 1, round, 20)
-    if round == 3 then state.guess = math.min(state.guess, forecast.odds(s, rules.last, 4, 20)) end
+    state.guess = forecast.odds(s, round - 1, round, 16, true)
+    if round == 3 and state.guess >= courage then state.guess = math.min(state.guess, forecast.odds(s, rules.last, 4, 16, true)) end
   end
   return state.guess >= courage
 end
 
+-- Whether enough strength is left for the dragon, on the way to it.
+local function strong_enough(round)
+  if not weary(0.9) then return true end
+  return forecast.odds(fight.look(), round == 4 and rules.last or round - 1, round, 16) >= courage - 0.1
+end
+
 local function face_dragon(w, state, log)
   local round = get("Round")
-  if state.rested_for ~= round or weary(0.6) then
+  if state.rested_for ~= round or not strong_enough(round) then
     if round < 4 then
       -- The recovery point nearest to the dragon's stair.
       local best, best_distance
@@ -174,15 +185,19 @@ local function think(state, log)
     -- A bag full of books and gear in use: a fruit is eaten for the next chest.
     if get("ItemCount") >= 20 and not pack.drink(47, 0) then pack.drink(48, 0) end
   end
-  if weary(0.5) then
+  local list, opened = closed(w)
+  local training = #list == 0 or level() < (caution[get("Round")][opened + 1] or 1)
+  -- Beside a recovery point there is no reason to go on weakened; far from one, enemies may come
+  -- on the way back.
+  local climbing = #list == 0 and state.rested_for == get("Round")
+  if not climbing and weary(training and 0.75 or get("Round") == 3 and 0.6 or 0.5) then
     rest(w, log)
     return
   end
-  local list, opened = closed(w)
   save(state, log)
   if new_day(state, log, opened) then return end
   if #list > 0 then
-    if get("Round") == 1 and level() < (caution[opened + 1] or 1) then
+    if training then
       train(w, log)
       return
     end
@@ -222,17 +237,21 @@ local function credits()
   expect(exit_status(), 0)
 end
 
+-- A fault of the script is told with the way to it; a wiped-out party is none.
+local function with_place(problem)
+  return problem == fight.wiped_out and problem or debug.traceback(problem, 2)
+end
+
 -- Plays the game with a seed; `log` takes down what happens.
 function journey.play(seed_number, log)
   begin(seed_number)
   local state = { wanted = {} }
-  for turn = 1, 6000 do
-    if os.getenv("BOT_TRACE") and turn % tonumber(os.getenv("BOT_TRACE")) == 0 then print(turn, log.steps, log.ordinary, get("Round"), get("Level[0]"), get("HP[0]"), get("HP[1]"), get("MP[0]"), get("MP[1]"), get("MapA"), get("MapB"), get("HeroX"), get("HeroY"), get("ItemCount"), #closed(walk.world()), active(), state.guess, get("InBook")) end
+  for _ = 1, 6000 do
     if active() == "Ending" then
       credits()
       return
     end
-    local fine, problem = pcall(think, state, log)
+    local fine, problem = xpcall(think, with_place, state, log)
     if not fine then
       if problem ~= fight.wiped_out then error(problem, 0) end
       expect(boxes()[#boxes()].text, "全滅しました。")

@@ -9,7 +9,7 @@ Log.__index = Log
 function report.new(seed)
   local log = setmetatable({ seed = seed, steps = 0, fights = {}, rounds = {}, bones = 0, fled = 0, dragons = {},
     lost_ordinary = 0, lost_dragon = 0, ordinary = 0, items = { [47] = 0, [48] = 0, [49] = 0 }, waza = {}, magic = {},
-    since = 0, longest = { 0, 0, 0 }, rests = 0, saves = 0, loads = 0, level = { [0] = 1, 1 } }, Log)
+    since = 0, longest = { 0, 0, 0, 0 }, rests = 0, saves = 0, loads = 0, level = { [0] = 1, 1 } }, Log)
   for round = 1, 4 do log.fights[round], log.rounds[round] = 0, {} end
   for n = 1, 10 do log.waza[n], log.magic[n] = 0, 0 end
   return log
@@ -26,7 +26,6 @@ function Log:met(s)
     self.fights[s.round] = self.fights[s.round] + 1
     if s.kind ~= rules.bone then self.ordinary = self.ordinary + 1 end
     self.since = self.since + 1
-    self.longest[s.round] = math.max(self.longest[s.round], self.since)
   else
     local dragon = self.dragons[s.round] or { tries = 0 }
     self.dragons[s.round] = dragon
@@ -56,10 +55,16 @@ function Log:won(rounds)
   else
     table.insert(self.rounds[s.round], rounds)
   end
+  self.longest[s.round] = math.max(self.longest[s.round], self.since)
   levels(self)
 end
 
-function Log:ran() self.fled = self.fled + 1 end
+-- A flight takes no time and brings nothing: it is counted apart from the fights.
+function Log:ran()
+  self.fled = self.fled + 1
+  self.fights[self.round] = self.fights[self.round] - 1
+  self.since = self.since - 1
+end
 
 function Log:lost(rounds)
   if self.foe.boss then

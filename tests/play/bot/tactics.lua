@@ -1,21 +1,29 @@
 -- What to do in a fight. Each choice is a table: do = "fight", "waza", "magic", "heal" or "item",
 -- with n the skill, slot the enemy, item and hero.
 local rules = require "bot.rules"
-local tactics = {}
+local tactics = { her_margin = 1.5, kept = 1 }
 
--- HP at or below which a hero may fall before the next command.
+-- HP at or below which a hero may well fall before the next command.
 local function peril(s, hero)
   local most = rules.blow(s, hero)
   local attacks = rules.attacks(s)
   if s.big then
-    -- She carries the healing: she is kept safe from two blows in one round.
-    local blows = (attacks == 2 and hero == 1) and 2 or 1
-    return math.max(most * blows, rules.special(s, hero))
+    -- She carries the healing: she is kept safer from two blows in one round.
+    return most * ((attacks == 2 and hero == 1) and tactics.her_margin or 1)
   end
   return most * math.ceil(attacks * 0.75)
 end
 
-local function in_peril(s, hero) return s.fainted[hero] or s.hp[hero] <= peril(s, hero) end
+-- Whether one special would fell both.
+local function both_in_reach(s)
+  return s.boss and s.hp[0] <= rules.special(s, 0) and s.hp[1] <= rules.special(s, 1)
+end
+
+-- A hero who is nearly whole gains nothing from healing, however strong the enemy.
+local function in_peril(s, hero)
+  if s.fainted[hero] then return true end
+  return s.hp[hero] < 0.75 * s.max_hp[hero] and (s.hp[hero] <= peril(s, hero) or both_in_reach(s))
+end
 
 -- The healing spell that does, or nil.
 local function healing(s)
@@ -39,16 +47,16 @@ end
 
 -- An item that lifts a hero above a need; the smallest that does, else the greatest.
 local function potion(s, hero, need, kept)
-  for item = 47, 49 do
-    if s.items[item] > 0 and item <= (kept or 49) and s.hp[hero] + rules.item_hp[item] > need then return item end
+  for item = 47, kept do
+    if s.items[item] > 0 and s.hp[hero] + rules.item_hp[item] > need then return item end
   end
-  for item = kept or 49, 47, -1 do
+  for item = kept, 47, -1 do
     if s.items[item] > 0 then return item end
   end
 end
 
 -- The costliest item that a fight is worth: the great ones are for dragons.
-local function worth_item(s) return s.boss and 49 or s.big and 48 or 47 end
+local function worth_item(s) return s.kind == rules.last and 49 or s.boss and 48 or s.big and 0 or 47 end
 
 local function targets(s)
   local list = {}
@@ -72,12 +80,14 @@ local function good(s, list, damage)
   return sum
 end
 
--- Against a group: the most good for the least share of MP.
+-- Against a group: the most good for the least share of MP. MP are spent on the large groups; on
+-- the way to a dragon they are saved.
 local function against_group(s, hero)
   local best, best_value
   local list = targets(s)
+  local price = s.thrift and 12 or #list <= 2 and 7 or 3
   local function consider(choice, struck, damage, mp)
-    local value = good(s, struck, damage) - (s.thrift and 5 or 1.3) * mp / s.max_mp[hero]
+    local value = good(s, struck, damage) - price * mp / s.max_mp[hero]
     -- Strike where others have struck before.
     if #struck == 1 then value = value + 0.05 * (1 - s.life[struck[1]] / s.enemy[1]) end
     if not best or value > best_value then best, best_value = choice, value end
@@ -103,40 +113,85 @@ local function against_group(s, hero)
   return best
 end
 
--- Against one big enemy: the skill with which it falls in the fewest rounds, if it is used as long
--- as the MP last and the other hero does `other` a round.
-local function against_one(s, hero, mp, other)
-  local plain = math.max(1, rules.plain(s, hero))
-  local best, best_rounds, best_cost = { act = "fight", slot = 1 }, s.life[1] / (plain + other), 0
+-- The skills against one big enemy that are worth their MP: cost, damage, choice, cheapest first,
+-- each step up dearer by the MP than the one before.
+local function ladder(s, hero)
+  local steps = { { cost = 0, damage = math.max(1, rules.plain(s, hero)), choice = { act = "fight", slot = 1 } } }
+  local skills = {}
   for n = 1, 10 do
-    local known = hero == 0 and s.waza_known[n] or hero == 1 and s.magic_known[n] and n ~= 3 and n ~= 8
-    local cost = hero == 0 and rules.waza_mp[n] or rules.magic_mp[n]
-    if known and mp >= cost then
-      local damage = hero == 0 and rules.waza(s, n) or rules.magic(s, n)
-      local casts = mp // cost
-      local rounds
-      if casts * (damage + other) >= s.life[1] then
-        rounds = math.ceil(s.life[1] / (damage + other))
-      else
-        rounds = casts + (s.life[1] - casts * (damage + other)) / (plain + other)
-      end
-      if rounds < best_rounds - 0.01 or (rounds < best_rounds + 0.01 and cost < best_cost) then
-        best, best_rounds, best_cost = { act = hero == 0 and "waza" or "magic", n = n, slot = 1 }, rounds, cost
-      end
+    if hero == 0 and s.waza_known[n] then
+      skills[#skills + 1] = { cost = rules.waza_mp[n], damage = rules.waza(s, n), choice = { act = "waza", n = n, slot = 1 } }
+    elseif hero == 1 and s.magic_known[n] and n ~= 3 and n ~= 8 then
+      skills[#skills + 1] = { cost = rules.magic_mp[n], damage = rules.magic(s, n), choice = { act = "magic", n = n, slot = 1 } }
     end
   end
-  return best
+  while true do
+    local last, best, best_slope = steps[#steps], nil, nil
+    for _, skill in ipairs(skills) do
+      if skill.cost > last.cost and skill.damage > last.damage then
+        local slope = (skill.damage - last.damage) / (skill.cost - last.cost)
+        if not best or slope > best_slope then best, best_slope = skill, slope end
+      end
+    end
+    if not best then return steps end
+    steps[#steps + 1] = best
+  end
 end
 
--- What the other hero will do in a round, roughly.
+-- What an action does on the average when `budget` MP are there for each.
+local function with_budget(steps, budget)
+  for index = 2, #steps do
+    local low, high = steps[index - 1], steps[index]
+    if budget < high.cost then
+      return low.damage + (high.damage - low.damage) * (budget - low.cost) / (high.cost - low.cost), high
+    end
+  end
+  return steps[#steps].damage, steps[#steps]
+end
+
+-- Against one big enemy: the MP are spread over as few rounds as it may fall in, the dearer skills
+-- first. `mp` may be more than is there now, when items will bring more.
+local function against_one(s, hero, mp, other)
+  local steps = ladder(s, hero)
+  local dearest
+  for rounds = 1, 60 do
+    local damage, step = with_budget(steps, mp / rounds)
+    dearest = step
+    if rounds * (damage + other) >= s.life[1] then break end
+  end
+  local best = steps[1]
+  for _, step in ipairs(steps) do
+    if step.cost <= s.mp[hero] and step.cost <= dearest.cost and (hero == 0 or step.cost <= math.max(0, mp)) then best = step end
+  end
+  -- The last blow is not dearer than it need be.
+  for _, step in ipairs(steps) do
+    if step.cost < best.cost and step.damage * 0.95 >= s.life[1] then
+      best = step
+      break
+    end
+  end
+  return best.choice, best.damage
+end
+
+-- MP that a hero may still get from items.
+local function mp_to_come(s, hero)
+  if hero ~= 0 or not s.boss then return 0 end
+  local great = s.kind == rules.last and s.items[49] * s.max_mp[0] * 0.8 or 0
+  return great + s.items[48] * 50
+end
+
+-- The MP that may go into attacks: she keeps some for healing.
+local function to_spend(s, hero)
+  if hero == 0 then return s.mp[0] + mp_to_come(s, 0) end
+  local spell = s.magic_known[8] and 8 or s.magic_known[3] and 3
+  return s.mp[1] - (spell and tactics.kept * rules.magic_mp[spell] or 0)
+end
+
+-- What the other hero will do in a round, roughly: she heals in part of them.
 local function share(s, hero)
   if s.fainted[hero] then return 0 end
-  if hero == 0 then
-    local choice = against_one(s, 0, s.mp[0], 0)
-    return choice.act == "waza" and rules.waza(s, choice.n) or rules.plain(s, 0)
-  end
-  local choice = against_one(s, 1, s.mp[1], 0)
-  return choice.act == "magic" and rules.magic(s, choice.n) * 0.6 or math.max(0, rules.plain(s, 1))
+  local _, damage = against_one(s, hero, to_spend(s, hero), 0)
+  return hero == 0 and damage or damage * 0.5
 end
 
 -- Whether a choice ends the fight.
@@ -154,11 +209,7 @@ end
 
 local function strike(s, hero)
   if not s.big then return against_group(s, hero) end
-  local mp = s.mp[hero]
-  if hero == 1 and (s.magic_known[3] or s.magic_known[8]) then
-    mp = mp - 2 * rules.magic_mp[s.magic_known[8] and 8 or 3] -- kept for healing
-  end
-  return against_one(s, hero, mp, share(s, 1 - hero))
+  return (against_one(s, hero, to_spend(s, hero), share(s, 1 - hero)))
 end
 
 local function use(item, hero) return { act = "item", item = item, hero = hero } end
@@ -173,13 +224,16 @@ local function her_turn(s)
     local item = potion(s, hero, peril(s, hero), worth_item(s))
     if item then return use(item, hero) end
   end
-  if s.boss and s.life[1] > 3 * (share(s, 0) + rules.plain(s, 1)) then
+  if s.boss and s.life[1] > 2.5 * share(s, 0) then
     -- The great items bring MP: to herself for healing, to him for his techniques.
-    local great = s.items[49] > 0 and 49 or s.items[48] > 0 and s.max_mp[0] < 250 and 48
-    if great and s.mp[1] < 0.25 * s.max_mp[1] and s.mp[1] < 2 * rules.magic_mp[s.magic_known[8] and 8 or 3] then
-      return use(great, 1)
+    local great = s.kind == rules.last and s.items[49] > 0 and 49
+    local small = s.items[48] > 0 and 48
+    local spell = s.magic_known[8] and 8 or 3
+    if (great or small) and s.mp[1] < rules.magic_mp[spell] then return use(great or small, 1) end
+    if not s.fainted[0] then
+      if great and s.mp[0] < 0.2 * s.max_mp[0] then return use(great, 0) end
+      if small and s.mp[0] < math.min(50, 0.3 * s.max_mp[0]) then return use(small, 0) end
     end
-    if great and s.mp[0] < 0.25 * s.max_mp[0] and not s.fainted[0] then return use(great, 0) end
   end
   return attack
 end
@@ -194,6 +248,12 @@ local function his_turn(s)
       local item = potion(s, hero, peril(s, hero), worth_item(s))
       if item then return use(item, hero) end
     end
+  end
+  if s.boss and s.life[1] > 2.5 * share(s, 0) then
+    -- Without MP his blows are nothing against a dragon.
+    if s.kind == rules.last and s.items[49] > 0 and s.mp[0] < 0.2 * s.max_mp[0] then return use(49, 0) end
+    if s.items[48] > 0 and s.mp[0] < math.min(50, 0.3 * s.max_mp[0]) then return use(48, 0) end
+    if s.kind == 0 and s.items[47] > 0 and s.mp[0] < 8 then return use(47, 0) end
   end
   return attack
 end

@@ -181,8 +181,10 @@ function world.field(w, name, cells)
     for _, packed in ipairs(w.from[cell] or {}) do
       local before = packed // 8
       local at = before % 480
-      if not field.distance[before]
-          and (name == "dragon" or not in_strip(w.ids[before // 480], at // 16, at % 16)) then
+      local barred = name ~= "dragon" and in_strip(w.ids[before // 480], at // 16, at % 16)
+      -- Who has met enemies at the strip's foot may turn back.
+      if barred and at % 16 == 7 and packed % 8 == down then barred = false end
+      if not field.distance[before] and not barred then
         field.distance[before] = field.distance[cell] + 1
         field.direction[before] = packed % 8
         queue[#queue + 1] = before

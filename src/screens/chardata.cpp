@@ -89,7 +89,7 @@ void ChardataScreen::AddPane(int hero) {
   AddCaption(pane.Skills, {136, 16, 57, 17}, "熟練度");
   for (int skill = 0; skill < kSkills; ++skill) {
     const double top = 48 + 24 * skill;
-    pane.SkillNames.Add(skill, pane.Skills, Place{8, top, 113, 17});
+    pane.SkillNames.Add(skill, pane.Skills, Place{8, top, 105, 17});
     pane.SkillCounts.Add(skill, pane.Skills, Place{120, top, 41, 17}).Alignment = Align::Right;
     pane.SkillMasters.Add(skill, pane.Skills, Place{152, top, 57, 17}).Alignment = Align::Right;
   }

@@ -15,7 +15,7 @@ local books = { [0] = "1,3", "3,4", "3,2", "6,4" }
 -- A round is explored as strength allows: the level wanted before the n-th chest or book. Until
 -- then the party fights beside a recovery point.
 local caution = {
-  { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 6, 7, 7, 7, 8, 8, 8 },
+  { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 7, 7, 7, 8, 8, 9, 9 },
   { 1, 14, 14, 14, 15, 15, 15, 16, 16, 16, 17, 17, 17, 18, 18, 18, 18, 18 },
   { 1, 27, 27, 28, 28, 29, 29, 30, 30, 31, 31, 32, 32, 33, 33, 34, 34, 34, 34 },
 }
@@ -62,13 +62,7 @@ local function weary(share)
   return false
 end
 
--- Goes to the goal whatever comes, but turns to the nearest recovery point when weary. Returns true
--- once there, false when something else is to be thought of first.
-local function go(w, goal, log)
-  local outcome = walk.to(w, goal, log)
-  return outcome == "there" or outcome == "message"
-end
-
+-- Goes to the nearest recovery point and stays until whole.
 local function rest(w, log)
   local goal, distance = nearest(w, w.rests)
   if distance > 12 then
@@ -85,9 +79,7 @@ local function rest(w, log)
   end
 end
 
--- The first step of the plan that the present state asks for.
-local plan = {}
-
+-- Saves when some fights have passed since the last time and the party is well.
 local function save(state, log)
   if state.fights_at_save and log.ordinary - state.fights_at_save < 5 and state.saved_round == get("Round") then return end
   if weary(0.8) then return end
@@ -123,7 +115,7 @@ local function train(w, log)
 end
 
 -- Whether the party is up to the round's dragon, as a player would guess.
-local function ready(state, log)
+local function ready(state)
   local s = fight.look()
   local round = s.round
   if level() < (state.wanted[round] or 0) then return false end
@@ -206,7 +198,8 @@ local function think(state, log)
     if #closed(w) < before then log:news() end
     return
   end
-  if ready(state, log) then
+  log.opened[get("Round")] = opened
+  if ready(state) then
     face_dragon(w, state, log)
   else
     state.rested_for = nil

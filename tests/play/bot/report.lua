@@ -9,7 +9,7 @@ Log.__index = Log
 function report.new(seed)
   local log = setmetatable({ seed = seed, steps = 0, fights = {}, rounds = {}, bones = 0, fled = 0, dragons = {},
     lost_ordinary = 0, lost_dragon = 0, ordinary = 0, items = { [47] = 0, [48] = 0, [49] = 0 }, waza = {}, magic = {},
-    since = 0, longest = { 0, 0, 0, 0 }, rests = 0, saves = 0, loads = 0, level = { [0] = 1, 1 } }, Log)
+    since = 0, longest = { 0, 0, 0, 0 }, opened = {}, rests = 0, saves = 0, loads = 0, level = { [0] = 1, 1 } }, Log)
   for round = 1, 4 do log.fights[round], log.rounds[round] = 0, {} end
   for n = 1, 10 do log.waza[n], log.magic[n] = 0, 0 end
   return log
@@ -188,6 +188,47 @@ function report.skills(logs)
       spread(each(logs, function(log) return log.magic[n] end)) }
   end
   return lines
+end
+
+-- The rows as a table of the page.
+function report.table(logs)
+  local lines = { ("%d journeys. Medians, with the tenth and the ninetieth percentile."):format(#logs), "",
+    "| what | found | target | |", "|---|---|---|---|" }
+  for _, row in ipairs(report.rows(logs)) do lines[#lines + 1] = "| " .. table.concat(row, " | ") .. " |" end
+  table.move({ "", "| skill | technique used, times a journey | spell used, times a journey |", "|---|---|---|" }, 1, 3,
+    #lines + 1, lines)
+  for _, row in ipairs(report.skills(logs)) do lines[#lines + 1] = "| " .. table.concat(row, " | ") .. " |" end
+  return table.concat(lines, "\n")
+end
+
+-- docs/balance.md.
+function report.page(logs)
+  return [[
+# Balance
+
+Made by `tools/balance.sh`: the whole game played from the title to the last card by the bot of
+`tests/play/playthrough.lua`, which uses the same keys, buttons and lists as a player and sets no value.
+It opens every chest, wears the best gear, trains with books, rests when weakened, trains beside
+recovery points until it holds a dragon to be beatable four times in five, and flees from bone dragons
+that are too strong. It knows the numbers of the game, and that a fourth dragon follows the third.
+
+A target is met when it holds for the median (fights, turns of ordinary fights), for the tenth
+to the ninetieth percentile (turns against dragons), or for all journeys together (the rest). Flights
+are not counted as fights.
+
+]] .. report.table(logs) .. "\n"
+end
+
+-- A value of plain tables, numbers and texts as Lua source.
+function report.text(value)
+  if type(value) ~= "table" then return type(value) == "string" and ("%q"):format(value) or tostring(value) end
+  local parts = {}
+  for key, each in pairs(value) do
+    if type(each) ~= "function" and key ~= "foe" then
+      parts[#parts + 1] = "[" .. report.text(key) .. "]=" .. report.text(each)
+    end
+  end
+  return "{" .. table.concat(parts, ",") .. "}"
 end
 
 -- One line about one journey.

@@ -1,0 +1,26 @@
+#!/bin/sh
+# Plays the whole game over many seeds and writes what it was like to docs/balance.md.
+# usage: tools/balance.sh [SEEDS] [JOBS], from anywhere, after a build; 50 seeds, as many jobs as cores
+set -eu
+root=$(cd "$(dirname "$0")/.." && pwd)
+seeds=${1:-50}
+jobs=${2:-$(nproc)}
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+# Each job plays its share of the seeds and leaves the logs; one more run makes the table of all.
+job=0
+pids=
+while [ "$job" -lt "$jobs" ]; do
+  ORVANE_FIRST=$((job * seeds / jobs + 1)) ORVANE_LAST=$(((job + 1) * seeds / jobs)) \
+    ORVANE_LOGS="$work/$job.lua" \
+    "$root/build/bin/orvane-script" "$root/tests/play/playthrough.lua" >"$work/$job.txt" &
+  pids="$pids $!"
+  job=$((job + 1))
+done
+for pid in $pids; do wait "$pid" || failed=1; done
+if [ "${failed:-0}" = 1 ]; then
+  grep -hv '^|' "$work"/*.txt >&2
+  exit 1
+fi
+ORVANE_READ=$(echo "$work"/*.lua) ORVANE_TABLE="$root/docs/balance.md" \
+  "$root/build/bin/orvane-script" "$root/tests/play/playthrough.lua"

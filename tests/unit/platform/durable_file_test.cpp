@@ -1,0 +1,116 @@
+#include "src/platform/durable_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace orvane {
+namespace {
+
+class DurableFileTest : public testing::Test {
+ protected:
+  DurableFileTest()
+      : folder_(std::filesystem::temp_directory_path() /
+                ("orvane-durable-" + std::to_string(getpid()))) {
+    std::filesystem::create_directories(folder_);
+    std::ofstream(File()) << old_record;
+  }
+  ~DurableFileTest() override { std::filesystem::remove_all(folder_); }
+
+  std::string File() const { return (folder_ / "Save01.sav").string(); }
+  std::string Content() const {
+    std::ifstream file(File(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  }
+  int FilesInFolder() const {
+    return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder_), {}));
+  }
+
+  const std::string old_record = std::string(540, 'o');
+  const std::string new_record = std::string(540, 'n');
+
+ private:
+  std::filesystem::path folder_;
+};
+
+TEST_F(DurableFileTest, ReplacesTheFile) {
+  EXPECT_TRUE(ReplaceFileDurably(File(), new_record));
+  EXPECT_EQ(Content(), new_record);
+  EXPECT_EQ(FilesInFolder(), 1) << "nothing is left beside it";
+}
+
+TEST_F(DurableFileTest, MakesAFileThatIsNotThere) {
+  std::filesystem::remove(File());
+  EXPECT_TRUE(ReplaceFileDurably(File(), new_record));
+  EXPECT_EQ(Content(), new_record);
+}
+
+TEST_F(DurableFileTest, RefusesAFolderThatIsNotThere) {
+  EXPECT_FALSE(ReplaceFileDurably(File() + "/no/such", new_record));
+}
+
+// Stops a child that saves at its k-th way into or out of the system, and kills it there. Returns
+// false when the child came to its end before.
+bool KillAtStep(int step, const std::string& file, const std::string& record) {
+  const pid_t child = fork();
+  if (child == 0) {
+    ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+    raise(SIGSTOP);
+    ReplaceFileDurably(file, record);
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  for (int i = 0; i < step; ++i) {
+    ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+    waitpid(child, &status, 0);
+    if (WIFEXITED(status)) return false;
+  }
+  kill(child, SIGKILL);
+  waitpid(child, &status, 0);
+  return true;
+}
+
+TEST_F(DurableFileTest, AWriterKilledAtAnyStepLeavesTheOldOrTheNewRecordWhole) {
+  int old_ones = 0;
+  int new_ones = 0;
+  int step = 1;
+  while (KillAtStep(step, File(), new_record)) {
+    const std::string content = Content();
+    ASSERT_TRUE(content == old_record || content == new_record) << "killed at step " << step;
+    (content == old_record ? old_ones : new_ones) += 1;
+    ASSERT_TRUE(ReplaceFileDurably(File(), old_record)) << "after a kill at step " << step;
+    ASSERT_LT(++step, 1000);
+  }
+  EXPECT_EQ(Content(), new_record) << "the last run came to its end";
+  EXPECT_GT(old_ones, 5) << "it was stopped before, within";
+  EXPECT_GT(new_ones, 1) << "and after the rename";
+}
+
+TEST_F(DurableFileTest, ADiskThatIsFullLeavesTheOldRecord) {
+  // A limit on the size of files stops the write as a full disk does, after a part or at once.
+  for (const rlim_t room : {0u, 1u, 100u, 539u}) {
+    const pid_t child = fork();
+    if (child == 0) {
+      signal(SIGXFSZ, SIG_IGN);
+      const rlimit limit{room, room};
+      setrlimit(RLIMIT_FSIZE, &limit);
+      _exit(ReplaceFileDurably(File(), new_record) ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "room for " << room << " bytes";
+    EXPECT_EQ(Content(), old_record);
+    EXPECT_EQ(FilesInFolder(), 1);
+  }
+}
+
+}  // namespace
+}  // namespace orvane

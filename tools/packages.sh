@@ -4,19 +4,18 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-qpa-plugins li
   libfluidsynth-dev libpng-dev libgl-dev)
 play_packages=(fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
-  binutils xvfb openbox xdotool x11-utils x11-xserver-utils imagemagick clang-format-14)
+  binutils xvfb openbox xdotool x11-utils imagemagick clang-format-14)
 thorough_packages=(clang-14 clang-tidy-14 libclang-rt-14-dev)
 
 # Installs what is missing of the packages named, as root or by sudo, and says so. Asks the network for
 # nothing when nothing is missing.
 need_packages() {
-  local missing=() package
+  local installed package missing=() as_root=()
+  installed=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null)
   for package in "$@"; do
-    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
-      missing+=("$package")
+    [[ $'\n'$installed$'\n' == *$'\n'"$package installed"$'\n'* ]] || missing+=("$package")
   done
   [ ${#missing[@]} -eq 0 ] && return 0
-  local as_root=()
   if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || {
       echo "These packages are missing, and installing them takes root or sudo: ${missing[*]}" >&2
@@ -24,8 +23,13 @@ need_packages() {
     }
     as_root=(sudo)
   fi
-  echo "Installing with apt-get: ${missing[*]}"
-  "${as_root[@]}" apt-get update -qq &&
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-      apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+  echo "Installing with apt-get, which may take some minutes: ${missing[*]}"
+  # A source that fails, a foreign one perhaps, need not keep these packages from coming; and a machine that
+  # has just started may be updating itself.
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq -o DPkg::Lock::Timeout=300 --no-install-recommends "${missing[@]}" >/dev/null &&
+    return 0
+  echo "Orvane cannot go on without these packages: ${missing[*]}" >&2
+  return 1
 }

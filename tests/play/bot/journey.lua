@@ -82,7 +82,8 @@ end
 -- Saves when some fights have passed since the last time and the party is well.
 local function save(state, log)
   if state.fights_at_save and log.ordinary - state.fights_at_save < 5 and state.saved_round == get("Round") then return end
-  if weary(0.8) then return end
+  -- A dragon beaten is worth saving at once, whatever the heroes' state.
+  if weary(0.8) and state.saved_round == get("Round") then return end
   if saves.save() then
     state.fights_at_save, state.saved_round = log.ordinary, get("Round")
     log.saves = log.saves + 1

@@ -29,9 +29,11 @@ function Log:met(s)
   else
     local dragon = self.dragons[s.round] or { tries = 0 }
     self.dragons[s.round] = dragon
-    dragon.tries = dragon.tries + 1
     dragon.levels = dragon.levels or { s.level[0], s.level[1] }
-    dragon.won_at = { s.level[0], s.level[1] }
+    if not dragon.rounds then -- one beaten before a game over that undid it counts no more
+      dragon.tries = dragon.tries + 1
+      dragon.won_at = { s.level[0], s.level[1] }
+    end
   end
 end
 

@@ -1,6 +1,7 @@
 #include "src/frontend/desktop/button_view.h"
 
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <algorithm>
@@ -17,6 +18,11 @@ class Button : public QPushButton {
  public:
   using QPushButton::QPushButton;
 
+  void SetCaption(const std::string& caption) {
+    caption_ = ToQtCaption(caption);
+    Fit();
+  }
+
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -24,31 +30,31 @@ class Button : public QPushButton {
     if (!event->isAutoRepeat()) click();
   }
 
-  // The game has buttons of a text line's height; their text is made to fit.
   void resizeEvent(QResizeEvent* event) override {
     QPushButton::resizeEvent(event);
+    Fit();
+  }
+
+ private:
+  // The game has buttons of a text line's height, whose text is made small enough, and narrow ones,
+  // whose text is broken where it has a blank.
+  void Fit() {
     constexpr int frame = 2;
+    constexpr int margin = 4;
     QFont face = DefaultFont();
     const int room = std::max(6, height() - 2 * frame + 2);
     if (room < face.pixelSize()) face.setPixelSize(room);
     setFont(face);
+    QString text = caption_;
+    static const QRegularExpression blanks("\\s+", QRegularExpression::UseUnicodePropertiesOption);
+    if (fontMetrics().horizontalAdvance(text) > width() - 2 * margin) {
+      const qsizetype at = text.lastIndexOf(blanks);
+      if (at > 0) text = text.left(at).trimmed() + '\n' + text.mid(at).trimmed();
+    }
+    setText(text);
   }
 
-  // A text wider than its button runs over two lines.
-  void paintEvent(QPaintEvent* event) override {
-    constexpr int margin = 4;
-    const QRect inside = rect().adjusted(margin, 0, -margin, 0);
-    if (fontMetrics().horizontalAdvance(text()) <= inside.width()) {
-      return QPushButton::paintEvent(event);
-    }
-    QStylePainter painter(this);
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.text.clear();
-    painter.drawControl(QStyle::CE_PushButton, option);
-    painter.setPen(palette().color(QPalette::ButtonText));
-    painter.drawText(inside, Qt::AlignCenter | Qt::TextWordWrap, text());
-  }
+  QString caption_;
 };
 
 }  // namespace
@@ -65,7 +71,7 @@ ButtonView::ButtonView(CommandButton& model, QWidget* parent, Events& events)
 void ButtonView::FollowValues(bool all) {
   if (!all && seen_ == model_.Caption) return;
   seen_ = model_.Caption;
-  widget_->setText(ToQtCaption(seen_));
+  static_cast<Button*>(widget_)->SetCaption(seen_);
 }
 
 }  // namespace orvane

@@ -8,7 +8,7 @@ namespace orvane {
 namespace {
 
 struct Substitute {
-  const char* Asked;
+  const char* Asked = "";
   QStringList Families;  // best first; the last one every desktop knows
 };
 

@@ -21,7 +21,6 @@ class CalmStyle : public QProxyStyle {
       case SH_DialogButtonLayout:
         return QDialogButtonBox::WinLayout;
       case SH_DialogButtonBox_ButtonsHaveIcons:
-        return 0;
       case SH_UnderlineShortcut:
         return 0;
       default:

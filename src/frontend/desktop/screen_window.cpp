@@ -49,7 +49,8 @@ void ScreenWindow::MakeViews() {
     views_.push_back(std::move(view));
   }
   // Later widgets lie in front of earlier ones, but texts lie behind everything beside them.
-  for (auto view = views_.rbegin(); view != views_.rend(); ++view) {
+  for (auto view = views_.rbegin(); view != views_.rend();
+       ++view) {  // NOLINT: C++20 has no backward range
     if ((*view)->Model().Kind() == ControlKind::Label) (*view)->Widget()->lower();
   }
 }

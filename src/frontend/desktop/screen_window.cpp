@@ -49,10 +49,10 @@ void ScreenWindow::MakeViews() {
     views_.push_back(std::move(view));
   }
   // Later widgets lie in front of earlier ones, but texts lie behind everything beside them.
-  for (auto view = views_.rbegin(); view != views_.rend();
-       ++view) {  // NOLINT: C++20 has no backward range
-    if ((*view)->Model().Kind() == ControlKind::Label) (*view)->Widget()->lower();
-  }
+  const auto lower_if_text = [](const auto& view) {
+    if (view->Model().Kind() == ControlKind::Label) view->Widget()->lower();
+  };
+  std::for_each(views_.rbegin(), views_.rend(), lower_if_text);
 }
 
 void ScreenWindow::FollowTitle() {

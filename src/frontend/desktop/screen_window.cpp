@@ -14,7 +14,7 @@
 namespace orvane {
 namespace {
 
-// What the window manager is likely to add above a window.
+// Room for what the window manager adds above a window.
 constexpr int TitleBar = 28;
 
 }  // namespace
@@ -102,9 +102,10 @@ void ScreenWindow::TieTo(const ScreenWindow* over) {
 void ScreenWindow::PutOver(const ScreenWindow* over) {
   if (placed_) return move(pos());  // says that the place is meant, lest the window manager choose
   placed_ = true;
-  const QSize size = sizeHint() + QSize(0, TitleBar);
-  const QRect available = screen()->availableGeometry();
-  const QPoint centre = over != nullptr ? over->frameGeometry().center() : available.center();
+  // The place is that of the window's inside, so room is left above it for the title bar.
+  const QSize size = sizeHint();
+  const QRect available = screen()->availableGeometry().adjusted(0, TitleBar, 0, 0);
+  const QPoint centre = over != nullptr ? over->geometry().center() : available.center();
   const QPoint furthest = available.bottomRight() - QPoint(size.width(), size.height());
   const QPoint corner = centre - QPoint(size.width() / 2, size.height() / 2);
   move(std::max(available.left(), std::min(corner.x(), furthest.x())),

@@ -17,33 +17,35 @@ bool IsContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
+// Takes the first character off a text that is not empty; a broken byte counts as one.
+std::string_view TakeCharacter(std::string_view& text) {
+  const size_t length = SequenceLength(static_cast<unsigned char>(text.front()));
+  size_t end = 1;
+  while (end < text.size() && end < length && IsContinuation(text[end])) ++end;
+  if (end != length) end = 1;
+  const std::string_view character = text.substr(0, end);
+  text.remove_prefix(end);
+  return character;
+}
+
 }  // namespace
 
 std::vector<std::string_view> Characters(std::string_view text) {
   std::vector<std::string_view> characters;
-  size_t at = 0;
-  while (at < text.size()) {
-    const size_t length = SequenceLength(static_cast<unsigned char>(text[at]));
-    size_t end = at + 1;
-    while (end < text.size() && end < at + length && IsContinuation(text[end])) ++end;
-    if (end != at + length) end = at + 1;
-    characters.push_back(text.substr(at, end - at));
-    at = end;
-  }
+  while (!text.empty()) characters.push_back(TakeCharacter(text));
   return characters;
 }
 
 int CharCount(std::string_view text) {
-  return static_cast<int>(Characters(text).size());
+  int count = 0;
+  for (; !text.empty(); ++count) TakeCharacter(text);
+  return count;
 }
 
 std::string LeftChars(std::string_view text, int count) {
-  std::string left;
-  for (const std::string_view character : Characters(text)) {
-    if (count-- <= 0) break;
-    left += character;
-  }
-  return left;
+  std::string_view rest = text;
+  for (; count > 0 && !rest.empty(); --count) TakeCharacter(rest);
+  return std::string(text.substr(0, text.size() - rest.size()));
 }
 
 std::string Trim(std::string_view text) {

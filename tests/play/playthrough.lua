@@ -7,7 +7,7 @@ local journey = require "bot.journey"
 local report = require "bot.report"
 
 local first = tonumber(os.getenv("ORVANE_FIRST") or "1")
-local last = tonumber(os.getenv("ORVANE_LAST") or os.getenv("ORVANE_SEEDS") or "5")
+local last = tonumber(os.getenv("ORVANE_LAST") or os.getenv("ORVANE_SEEDS") or "10")
 local logs = {}
 
 local function save_logs(name)

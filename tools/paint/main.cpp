@@ -1,7 +1,8 @@
 // orvane-paint: paints the game's picture sheets from their recipes.
 //   orvane-paint --list                 names of all sheets
 //   orvane-paint FOLDER [NAME ...]      paints all sheets, or those named, into FOLDER
-//   orvane-paint --check FOLDER [NAME ...]  paints and compares with the files there; exit 1 on a difference
+//   orvane-paint --check FOLDER [NAME ...]  paints and compares with the files there; exit 1 on a
+//   difference
 #include <cstdio>
 #include <cstdlib>
 #include <exception>

@@ -13,7 +13,9 @@ namespace orvane::paint {
 struct Image {
   Image() = default;
   Image(int wide, int high, uint32_t colour = 0xFFFFFF)
-      : width(wide), height(high), pixels(static_cast<size_t>(wide) * static_cast<size_t>(high), colour) {}
+      : width(wide),
+        height(high),
+        pixels(static_cast<size_t>(wide) * static_cast<size_t>(high), colour) {}
 
   // The pixel at (x, y), which must lie inside.
   uint32_t& At(int x, int y) {
@@ -28,8 +30,8 @@ struct Image {
   std::vector<uint32_t> pixels;
 };
 
-// One sheet of the game: its file below content/pictures/sheets, without the ".png", and its painter.
-// A painter is deterministic: the same pixels on every run and machine.
+// One sheet of the game: its file below content/pictures/sheets, without the ".png", and its
+// painter. A painter is deterministic: the same pixels on every run and machine.
 struct Recipe {
   std::string name;
   std::function<Image()> paint;

@@ -1,6 +1,6 @@
-// orvane-saves FOLDER: makes the save slots Save01.sav to Save10.sav that are not there yet. A slot holds a
-// fresh game as it stands when the opening has ended, so that loading it by mistake starts a game; the
-// copies for the load screen are empty, so that it looks like an empty slot.
+// orvane-saves FOLDER: makes the save slots Save01.sav to Save10.sav that are not there yet. A slot
+// holds a fresh game as it stands when the opening has ended, so that loading it by mistake starts
+// a game; the copies for the load screen are empty, so that it looks like an empty slot.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -33,7 +33,8 @@ int MakeSlots(const std::filesystem::path& folder) {
   const std::string bytes = PackRecord(SlotRecord());
   for (int slot = 1; slot <= kSlots; ++slot) {
     const std::string number = std::to_string(slot);
-    const std::filesystem::path file = folder / ("Save" + std::string(slot < 10 ? "0" : "") + number + ".sav");
+    const std::filesystem::path file =
+        folder / ("Save" + std::string(slot < 10 ? "0" : "") + number + ".sav");
     if (std::filesystem::exists(file)) continue;
     std::ofstream out(file, std::ios::binary);
     out << bytes;

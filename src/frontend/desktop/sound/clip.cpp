@@ -24,19 +24,19 @@ constexpr double kMostSeconds = 120;
 std::shared_ptr<const Clip> ReadClip(std::span<const std::uint8_t> file, int rate) {
   SDL_RWops* source = SDL_RWFromConstMem(file.data(), static_cast<int>(file.size()));
   if (source == nullptr) return nullptr;
-  SDL_AudioSpec spec{};
+  SDL_AudioSpec wave{};
   Uint8* bytes = nullptr;
   Uint32 size = 0;
-  if (SDL_LoadWAV_RW(source, 1, &spec, &bytes, &size) == nullptr) return nullptr;
+  if (SDL_LoadWAV_RW(source, 1, &wave, &bytes, &size) == nullptr) return nullptr;
   const std::unique_ptr<Uint8, FreeWave> wave(bytes);
-  if (spec.freq < kLeastRate || spec.freq > kMostRate || spec.channels == 0) return nullptr;
-  const double frame_bytes = SDL_AUDIO_BITSIZE(spec.format) / 8 * spec.channels;
-  if (size > kMostSeconds * spec.freq * frame_bytes) return nullptr;
+  if (wave.freq < kLeastRate || wave.freq > kMostRate || wave.channels == 0) return nullptr;
+  const double frame_bytes = SDL_AUDIO_BITSIZE(wave.format) / 8 * wave.channels;
+  if (size > kMostSeconds * wave.freq * frame_bytes) return nullptr;
 
   auto clip = std::make_shared<Clip>();
-  clip->Channels = std::min<int>(spec.channels, 2);
+  clip->Channels = std::min<int>(wave.channels, 2);
   const std::unique_ptr<SDL_AudioStream, FreeStream> stream(
-      SDL_NewAudioStream(spec.format, spec.channels, spec.freq, AUDIO_S16SYS,
+      SDL_NewAudioStream(wave.format, wave.channels, wave.freq, AUDIO_S16SYS,
                          static_cast<Uint8>(clip->Channels), rate));
   if (!stream || SDL_AudioStreamPut(stream.get(), wave.get(), static_cast<int>(size)) != 0 ||
       SDL_AudioStreamFlush(stream.get()) != 0) {

@@ -24,19 +24,19 @@ constexpr double kMostSeconds = 120;
 std::shared_ptr<const Clip> ReadClip(std::span<const std::uint8_t> file, int rate) {
   SDL_RWops* source = SDL_RWFromConstMem(file.data(), static_cast<int>(file.size()));
   if (source == nullptr) return nullptr;
-  SDL_AudioSpec wave{};
+  SDL_AudioSpec layout{};
   Uint8* bytes = nullptr;
   Uint32 size = 0;
-  if (SDL_LoadWAV_RW(source, 1, &wave, &bytes, &size) == nullptr) return nullptr;
+  if (SDL_LoadWAV_RW(source, 1, &layout, &bytes, &size) == nullptr) return nullptr;
   const std::unique_ptr<Uint8, FreeWave> wave(bytes);
-  if (wave.freq < kLeastRate || wave.freq > kMostRate || wave.channels == 0) return nullptr;
-  const double frame_bytes = SDL_AUDIO_BITSIZE(wave.format) / 8 * wave.channels;
-  if (size > kMostSeconds * wave.freq * frame_bytes) return nullptr;
+  if (layout.freq < kLeastRate || layout.freq > kMostRate || layout.channels == 0) return nullptr;
+  const double frame_bytes = SDL_AUDIO_BITSIZE(layout.format) / 8 * layout.channels;
+  if (size > kMostSeconds * layout.freq * frame_bytes) return nullptr;
 
   auto clip = std::make_shared<Clip>();
-  clip->Channels = std::min<int>(wave.channels, 2);
+  clip->Channels = std::min<int>(layout.channels, 2);
   const std::unique_ptr<SDL_AudioStream, FreeStream> stream(
-      SDL_NewAudioStream(wave.format, wave.channels, wave.freq, AUDIO_S16SYS,
+      SDL_NewAudioStream(layout.format, layout.channels, layout.freq, AUDIO_S16SYS,
                          static_cast<Uint8>(clip->Channels), rate));
   if (!stream || SDL_AudioStreamPut(stream.get(), wave.get(), static_cast<int>(size)) != 0 ||
       SDL_AudioStreamFlush(stream.get()) != 0) {

@@ -74,6 +74,7 @@ BattleScreen::BattleScreen(Game& the_game)
       Picture8(*this, "Picture8", kOutOfSight, {Sheet("effects")}),
       Timer1(*this, "Timer1", kActionInterval, kActionPace),
       Timer2(*this, "Timer2", kMusicInterval) {
+  IsScene = true;
   AddNumbers();
   AddPane(0);
   AddPane(1);

@@ -70,6 +70,7 @@ MainScreen::MainScreen(Stage& stage, Game& game)
       Timer2(*this, "Timer2", kMessageInterval),
       Timer3(*this, "Timer3", kMessageInterval),
       game_(game) {
+  IsScene = true;
   Label6.Add(0, Picture5, Place{32, 24, 161, 25}, LabelValues{"", Rgb(0, 0, 192), kItemFont});
   Label6.Add(1, Picture5, Place{200, 24, 121, 25}, LabelValues{"", 0, kItemFont});
   Label5.Add(0, Picture6, Place{64, 8, 169, 17}, LabelValues{"", 0, kPanelFont});

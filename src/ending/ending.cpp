@@ -63,6 +63,7 @@ EndingScreen::EndingScreen(Game& game)
       Timer1(*this, "Timer1", kInterval),
       game_(game),
       scene_(kWidth, kHeight) {
+  IsScene = true;
   const LabelValues card{"", Rgb(255, 255, 255), {Gothic, 15.75, true}};
   Label2.Add(0, *this, Place{112, 112, 225, 25}, card).Caption = "Thank you for playing";
   Label2.Add(1, *this, Place{152, 152, 185, 25}, card).Caption = "To be continue...?";

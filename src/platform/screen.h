@@ -38,6 +38,9 @@ class Screen {
   // A surface that the screen itself is drawn on, behind its controls; null where there is none.
   Surface* OwnSurface = nullptr;
 
+  // A place of the game rather than a dialog: fills the whole display if the player wishes so.
+  bool IsScene = false;
+
   // Numbers of the screen's own that can be looked at by name, "CreditY(10)".
   std::vector<std::pair<std::string, Int16*>> Members;
 

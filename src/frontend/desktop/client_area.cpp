@@ -11,6 +11,7 @@ namespace orvane {
 
 ClientArea::ClientArea(Screen& screen, Events& events) : screen_(screen), events_(events) {
   setFixedSize(screen.Width, screen.Height);
+  setAutoFillBackground(true);
 }
 
 void ClientArea::Follow(bool all) {

@@ -2,20 +2,23 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QMetaObject>
 #include <cstdlib>
 #include <exception>
+#include <utility>
 
 #include "src/frontend/desktop/signals.h"
 
 namespace orvane {
 
-Desktop::Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper)
+Desktop::Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper, const Zoom& zoom)
     : program_(program),
       boxes_(boxes),
       sleeper_(sleeper),
       first_(program.TheStage().Active()),
-      windows_(program.TheStage(), *this),
+      zoom_(zoom),
+      windows_(program.TheStage(), *this, zoom),
       ticks_(program.TheStage(), *this),
       keys_(*this, [this] { return KeysReachGame(); }) {
   boxes_.Attach(this);
@@ -58,9 +61,7 @@ void Desktop::Try(const std::function<void(Program&)>& event) {
 
 void Desktop::Follow() {
   if (!program_.HasEnded()) {
-    following_ = true;
-    windows_.Follow();
-    following_ = false;
+    FollowWindows();
     ticks_.Arm();
     keys_.Follow();
     if (program_.TheStage().Active() != nullptr || program_.TheStage().BoxStands()) return;
@@ -106,14 +107,91 @@ bool Desktop::KeysReachGame() const {
 }
 
 bool Desktop::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::WindowActivate || asleep_ || following_) return false;
-  auto* window = dynamic_cast<ScreenWindow*>(watched);
-  if (window == nullptr || program_.HasEnded()) return false;
+  switch (event->type()) {
+    case QEvent::WindowActivate:
+      if (auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeActivation(*window);
+      return false;
+    case QEvent::WindowStateChange: {
+      // The window manager's own control for the largest size.
+      const auto* window = dynamic_cast<ScreenWindow*>(watched);
+      if (window != nullptr && window->isMaximized()) SetFullScreen(true);
+      return false;
+    }
+    case QEvent::KeyPress:
+      // Keys come to their window first.
+      return watched->isWindowType() && TakeZoomKey(*static_cast<const QKeyEvent*>(event));
+    default:
+      return false;
+  }
+}
+
+void Desktop::TakeActivation(ScreenWindow& window) {
+  if (asleep_ || following_ || program_.HasEnded()) return;
   const Stage& stage = program_.TheStage();
-  if (!windows_.IsPlayersChoice(*window) || stage.Active() == &window->Model()) return false;
-  if (stage.BoxStands()) return false;
-  Send([window](Program& program) { program.Activate(window->Model()); });
-  return false;
+  if (!windows_.IsPlayersChoice(window) || stage.Active() == &window.Model()) return;
+  if (stage.BoxStands()) return;
+  Send([&window](Program& program) { program.Activate(window.Model()); });
+}
+
+bool Desktop::TakeZoomKey(const QKeyEvent& event) {
+  const bool control = (event.modifiers() & Qt::ControlModifier) != 0;
+  switch (event.key()) {
+    case Qt::Key_F11:
+      if (!event.isAutoRepeat()) SetFullScreen(!zoom_.IsFullScreen());
+      return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:      // the same key without Shift on many keyboards
+    case Qt::Key_Semicolon:  // and on Japanese ones
+      if (!control) return false;
+      zoom_.Enlarge();
+      break;
+    case Qt::Key_Minus:
+      if (!control) return false;
+      zoom_.Reduce();
+      break;
+    case Qt::Key_0:
+      if (!control) return false;
+      zoom_.Reset();
+      break;
+    default:
+      return false;
+  }
+  RescaleLater();
+  return true;
+}
+
+void Desktop::SetFullScreen(bool full_screen) {
+  zoom_.SetFullScreen(full_screen);
+  RescaleLater();
+}
+
+void Desktop::RescaleLater() {
+  // The event that asks for it may come from a window that is about to be taken down.
+  if (std::exchange(rescaling_later_, true)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { Rescale(); }, Qt::QueuedConnection);
+}
+
+void Desktop::Rescale() {
+  rescaling_later_ = false;
+  if (program_.HasEnded() || !CanRescale() || windows_.Suit(zoom_)) return;
+  following_ = true;
+  windows_.Rescale(zoom_);
+  following_ = false;
+  keys_.Follow();
+}
+
+// A box belongs to a window that must stay.
+bool Desktop::CanRescale() const {
+  return !asleep_ && !program_.TheStage().BoxStands();
+}
+
+void Desktop::FollowWindows() {
+  // New windows show at once in the size that suits them.
+  if (CanRescale() && !windows_.Suit(zoom_)) return RescaleLater();
+  following_ = true;
+  windows_.Follow();
+  following_ = false;
 }
 
 }  // namespace orvane

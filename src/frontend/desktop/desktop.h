@@ -10,14 +10,18 @@
 #include "src/frontend/desktop/sleeper.h"
 #include "src/frontend/desktop/tick_server.h"
 #include "src/frontend/desktop/windows.h"
+#include "src/frontend/desktop/zoom.h"
 #include "src/game/program.h"
+
+class QKeyEvent;
 
 namespace orvane {
 
 class Desktop : public QObject, public Events, public BoxHost {
  public:
-  // Opens the windows of a program that runs. All three must outlive it.
-  Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper);
+  // Opens the windows of a program that runs, with the scale of `zoom`, which is set. The first
+  // three must outlive it.
+  Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper, const Zoom& zoom);
   ~Desktop() override;
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
@@ -30,7 +34,8 @@ class Desktop : public QObject, public Events, public BoxHost {
   void EndBox() override;
 
  protected:
-  // Watches the windows for what the window manager does to them.
+  // Watches the windows for what the window manager does to them, and the keys that change their
+  // size.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -39,16 +44,25 @@ class Desktop : public QObject, public Events, public BoxHost {
   void Sleep(int milliseconds);
   void End();
   bool KeysReachGame() const;
+  void TakeActivation(ScreenWindow& window);
+  bool TakeZoomKey(const QKeyEvent& event);
+  void SetFullScreen(bool full_screen);
+  void RescaleLater();
+  void Rescale();
+  bool CanRescale() const;
+  void FollowWindows();
 
   Program& program_;
   MessageBoxes& boxes_;
   DesktopSleeper& sleeper_;
   const Screen* first_;  // the screen that the game opens with, which the keys belong to
+  Zoom zoom_;
   Windows windows_;
   TickServer ticks_;
   Keys keys_;
   bool following_ = false;
   bool asleep_ = false;
+  bool rescaling_later_ = false;
 };
 
 }  // namespace orvane

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include "src/frontend/desktop/signals.h"
 #include "src/frontend/desktop/sleeper.h"
 #include "src/frontend/desktop/sound/sound_engine.h"
+#include "src/frontend/desktop/zoom.h"
 #include "src/game/program.h"
 
 namespace {
@@ -37,21 +39,22 @@ bool HasDisplay() {
 void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
                       const QString& message) {
   if (type == QtDebugMsg || type == QtInfoMsg) return;
+  // The black backdrop of the full screen stays while the scale changes, and has nothing to scale.
+  if (message.startsWith("QHighDpiScaling::setFactor")) return;
   Complain(message.section('\n', 0, 0).toStdString());
   if (type == QtFatalMsg) std::_Exit(NoDisplay);
 }
 
-// Fixes the size of the windows before the application is made.
-void ChooseSize(const Options& options, Program& program) {
-  if (ScaleIsFixed() && !options.Scale) return;
-  const auto screen = AskScreen();
-  if (!screen) return;
+// How large the windows are to be, by the command line, the player's settings or the screen.
+Zoom ChooseZoom(const Options& options, Program& program) {
+  const ScreenFacts screen = AskScreen().value_or(ScreenFacts{});
+  std::optional<double> start = options.Scale;
+  if (!start && ScaleIsFixed()) start = screen.Scale;
   std::vector<Extent> windows;
   for (const Screen* each : program.TheStage().Screens()) {
     windows.push_back({double(each->Width), double(each->Height)});
   }
-  if (windows.empty()) return;
-  FixScale(options.Scale.value_or(ChooseScale(screen->Available, windows)), *screen);
+  return Zoom(screen, start, windows);
 }
 
 int RunGame(const Options& options, int argument_count, char** arguments) {
@@ -61,14 +64,15 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   MessageBoxes boxes;
   DesktopSleeper sleeper;
   Program program(options.Folder, {sound, chance, boxes, sleeper});
-  ChooseSize(options, program);
   QApplication application(argument_count, arguments);
   SetUpLook(application);
+  const Zoom zoom = ChooseZoom(options, program);
+  SetScale(zoom.ScaleFor({}), zoom.TheScreen());
   if (program.HasEnded()) {
     boxes.ShowKeptError();
     return program.ExitStatus();
   }
-  Desktop desktop(program, boxes, sleeper);
+  Desktop desktop(program, boxes, sleeper, zoom);
   return desktop.Run();
 }
 

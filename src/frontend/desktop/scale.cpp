@@ -1,6 +1,9 @@
 #include "src/frontend/desktop/scale.h"
 
+#include <QtGui/private/qhighdpiscaling_p.h>
+
 #include <QGuiApplication>
+#include <QPixmapCache>
 #include <QScreen>
 #include <algorithm>
 
@@ -9,8 +12,6 @@ namespace {
 
 constexpr const char* ScaleVariable = "QT_SCALE_FACTOR";
 constexpr double LargestPart = 0.9;
-constexpr double MenuHeight = 22;   // enlarged with the window
-constexpr double TitleHeight = 30;  // the window manager's, as large as ever
 
 bool Fits(int scale, const Extent& available, const std::vector<Extent>& windows) {
   const Extent& first = windows.front();
@@ -23,28 +24,46 @@ bool Fits(int scale, const Extent& available, const std::vector<Extent>& windows
   });
 }
 
+Extent InScreenPixels(const QSize& size, double ratio) {
+  return {size.width() * ratio, size.height() * ratio};
+}
+
+// The toolkit's own factor as the player has set it.
+double FixedFactor() {
+  bool is_number = false;
+  const double factor = qEnvironmentVariable(ScaleVariable).toDouble(&is_number);
+  return is_number && factor > 0 ? factor : 1;
+}
+
 }  // namespace
 
 int ChooseScale(const Extent& available, const std::vector<Extent>& windows) {
-  int scale = LargestScale;
+  int scale = windows.empty() ? 1 : LargestScale;
   while (scale > 1 && !Fits(scale, available, windows)) --scale;
   return scale;
 }
 
-std::optional<ScreenFacts> AskScreen() {
-  int argument_count = 1;
-  char name[] = "orvane";
-  char* arguments[] = {name, nullptr};
-  const QGuiApplication probe(argument_count, arguments);
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  if (screen == nullptr) return std::nullopt;
-  const double factor = screen->devicePixelRatio();
-  const QSize size = screen->availableSize();
-  return ScreenFacts{{size.width() * factor, size.height() * factor}, factor};
+double FittingScale(const Extent& display, const std::vector<Span>& windows) {
+  double scale = 2.0 * LargestScale;
+  for (const Span& window : windows) {
+    scale = std::min({scale, display.Width / window.Inside.Width,
+                      (display.Height - window.Title) / window.Inside.Height});
+  }
+  return std::max(1.0, scale);
 }
 
-void FixScale(double scale, const ScreenFacts& screen) {
-  qputenv(ScaleVariable, QByteArray::number(scale / screen.Factor, 'g', 8));
+std::optional<ScreenFacts> AskScreen() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return std::nullopt;
+  const double ratio = screen->devicePixelRatio();
+  return ScreenFacts{InScreenPixels(screen->size(), ratio),
+                     InScreenPixels(screen->availableSize(), ratio), ratio, ratio / FixedFactor()};
+}
+
+void SetScale(double scale, const ScreenFacts& screen) {
+  // The toolkit's public ways take this factor only before the application is made.
+  QHighDpiScaling::setGlobalFactor(scale / screen.Factor);
+  QPixmapCache::clear();  // the style keeps pictures of its buttons
 }
 
 bool ScaleIsFixed() {

@@ -1,9 +1,12 @@
 #include "src/frontend/desktop/screen_window.h"
 
 #include <QCloseEvent>
-#include <QLayout>
+#include <QGridLayout>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QWindow>
+#include <QtMath>
 #include <algorithm>
 #include <map>
 
@@ -14,8 +17,26 @@
 namespace orvane {
 namespace {
 
-// Room for what the window manager adds above a window.
-constexpr int TitleBar = 28;
+// What a window shows its screen on: black where the screen leaves it bare.
+class Backing : public QWidget {
+ public:
+  explicit Backing(QWidget* client) {
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(client, 0, 0, Qt::AlignCenter);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPainter(this).fillRect(event->rect(), Qt::black);
+  }
+};
+
+QPointF CentreOf(const QWidget& window) {
+  // The window manager may not have told the new size of a window that is to cover the screen.
+  if (window.isFullScreen()) return QRectF(window.screen()->geometry()).center();
+  return QRectF(window.geometry()).center();
+}
 
 }  // namespace
 
@@ -24,7 +45,8 @@ ScreenWindow::ScreenWindow(Screen& screen, Events& events)
   setObjectName(ToQt(screen.Name()));
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                  Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                 Qt::WindowCloseButtonHint);
+                 Qt::WindowCloseButtonHint |
+                 (screen.IsScene ? Qt::WindowMaximizeButtonHint : Qt::WindowType(0)));
   const bool has_menu =
       std::any_of(screen.Controls().begin(), screen.Controls().end(),
                   [](const Control* control) { return control->Kind() == ControlKind::Menu; });
@@ -33,8 +55,9 @@ ScreenWindow::ScreenWindow(Screen& screen, Events& events)
     menu_ = std::make_unique<MenuView>(screen, *menuBar(), events);
   }
   setContextMenuPolicy(Qt::NoContextMenu);
-  setCentralWidget(client_);
-  layout()->setSizeConstraint(QLayout::SetFixedSize);
+  setCentralWidget(new Backing(client_));
+  // A scene's window can be made larger than the scene, which then stands in the middle.
+  layout()->setSizeConstraint(screen.IsScene ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
   MakeViews();
 }
 
@@ -77,39 +100,70 @@ void ScreenWindow::FollowAll() {
   for (const auto& view : views_) view->FollowAll();
 }
 
-void ScreenWindow::Present(const ScreenWindow* over) {
+void ScreenWindow::Present(ScreenWindow* over, QWindow* backdrop) {
   // The screen may have been loaded afresh since it was seen last.
   FollowAll();
-  setWindowModality(screen_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
-  winId();  // makes the window, so that it can be tied to the one that it belongs to
-  TieTo(over);
-  PutOver(over);
-  show();
+  owner_ = over;
+  Open(backdrop);
   FocusFirst();
 }
 
-void ScreenWindow::TieTo(const ScreenWindow* over) {
-  windowHandle()->setTransientParent(nullptr);
+void ScreenWindow::Dismiss() {
+  if (!isFullScreen()) centre_ = CentreOf(*this) * devicePixelRatio();
+  hide();
+}
+
+void ScreenWindow::TakeDown() {
+  focus_ = focusWidget();
+  Dismiss();
+  destroy();
+}
+
+void ScreenWindow::PutBack(QWindow* backdrop) {
+  Open(backdrop);
+  if (focus_ != nullptr) focus_->setFocus();
+}
+
+void ScreenWindow::Open(QWindow* backdrop) {
+  setWindowModality(screen_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
+  const bool covers = backdrop != nullptr && screen_.IsScene;
+  setWindowState(covers ? Qt::WindowFullScreen : Qt::WindowNoState);
+  winId();  // makes the window, so that it can be tied to the one that it belongs to
+  Tie(backdrop);
+  if (!covers) PutInPlace();
+  show();
+}
+
+void ScreenWindow::Tie(QWindow* backdrop) {
+  windowHandle()->setTransientParent(backdrop);
   // A window that is about to go is no owner, and a circle of owners would hang the toolkit.
-  if (over == nullptr || !over->screen_.IsVisible()) return;
-  for (const QWindow* each = over->windowHandle(); each != nullptr;
+  if (owner_ == nullptr || !owner_->screen_.IsVisible()) return;
+  for (const QWindow* each = owner_->windowHandle(); each != nullptr;
        each = each->transientParent()) {
     if (each == windowHandle()) return;
   }
-  windowHandle()->setTransientParent(over->windowHandle());
+  windowHandle()->setTransientParent(owner_->windowHandle());
 }
 
-void ScreenWindow::PutOver(const ScreenWindow* over) {
-  if (placed_) return move(pos());  // says that the place is meant, lest the window manager choose
-  placed_ = true;
-  // The place is that of the window's inside, so room is left above it for the title bar.
+void ScreenWindow::PutInPlace() {
+  const double ratio = devicePixelRatio();
   const QSize size = sizeHint();
-  const QRect available = screen()->availableGeometry().adjusted(0, TitleBar, 0, 0);
-  const QPoint centre = over != nullptr ? over->geometry().center() : available.center();
+  // The place is that of the window's inside, so room is left above it for the title bar.
+  const QRect available =
+      screen()->availableGeometry().adjusted(0, qCeil(TitleHeight / ratio), 0, 0);
+  QPointF centre = owner_ != nullptr ? CentreOf(*owner_) : QRectF(available).center();
+  if (centre_) centre = *centre_ / ratio;
+  const QPoint corner = (centre - QRectF(QPointF(), size).center()).toPoint();
   const QPoint furthest = available.bottomRight() - QPoint(size.width(), size.height());
-  const QPoint corner = centre - QPoint(size.width() / 2, size.height() / 2);
-  move(std::max(available.left(), std::min(corner.x(), furthest.x())),
-       std::max(available.top(), std::min(corner.y(), furthest.y())));
+  const QPoint place(std::max(available.left(), std::min(corner.x(), furthest.x())),
+                     std::max(available.top(), std::min(corner.y(), furthest.y())));
+  setGeometry(QRect(place, size));
+}
+
+Span ScreenWindow::TakenSpan(bool full_screen) const {
+  const int menu = menu_ == nullptr ? 0 : menuWidget()->sizeHint().height();
+  const bool covers = full_screen && screen_.IsScene;
+  return {{double(screen_.Width), double(screen_.Height + menu)}, covers ? 0 : TitleHeight};
 }
 
 void ScreenWindow::FocusFirst() {

@@ -2,12 +2,15 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "src/frontend/desktop/client_area.h"
 #include "src/frontend/desktop/control_view.h"
 #include "src/frontend/desktop/menu_view.h"
+#include "src/frontend/desktop/scale.h"
 
 namespace orvane {
 
@@ -20,9 +23,19 @@ class ScreenWindow : public QMainWindow {
   // Brings the window's title, menus and controls up to date.
   void Follow();
 
-  // Shows the window over the middle of `over`, or of the screen where that is null; moves it only
-  // the first time.
-  void Present(const ScreenWindow* over);
+  // Shows the window over the middle of `over`, or of the screen where that is null; where it has
+  // been before, it comes back to that place. Where there is a backdrop, which covers the display,
+  // it stands before that, and a scene covers all of the display as well.
+  void Present(ScreenWindow* over, QWindow* backdrop);
+  // Takes the window off the screen.
+  void Dismiss();
+  // The same, and away from the window system, so that the scale can change.
+  void TakeDown();
+  // Presents it as it was, after TakeDown.
+  void PutBack(QWindow* backdrop);
+
+  // What the window takes of the display; `full_screen` tells whether a scene covers it.
+  Span TakenSpan(bool full_screen) const;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -31,8 +44,9 @@ class ScreenWindow : public QMainWindow {
   void MakeViews();
   void FollowTitle();
   void FollowAll();
-  void TieTo(const ScreenWindow* over);
-  void PutOver(const ScreenWindow* over);
+  void Open(QWindow* backdrop);
+  void Tie(QWindow* backdrop);
+  void PutInPlace();
   void FocusFirst();
 
   Screen& screen_;
@@ -40,7 +54,9 @@ class ScreenWindow : public QMainWindow {
   ClientArea* client_;
   std::unique_ptr<MenuView> menu_;
   std::vector<std::unique_ptr<ControlView>> views_;
-  bool placed_ = false;
+  QPointer<ScreenWindow> owner_;   // the window that this one was opened over
+  QPointer<QWidget> focus_;        // had the keyboard when the window was taken down
+  std::optional<QPointF> centre_;  // of the window, in the screen's own pixels, once it has a place
 };
 
 }  // namespace orvane

@@ -1,6 +1,7 @@
 #include "src/frontend/desktop/surface_image.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace orvane {
@@ -54,8 +55,15 @@ QRect SurfaceImage::Follow(const Surface& surface, bool all) {
 void SurfaceImage::Paint(QPainter& painter, const QPoint& corner, const QRect& part) const {
   const QRect source = part & image_.rect();
   if (source.isEmpty()) return;
-  painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
-  painter.drawImage(source.translated(corner), image_, source);
+  const double scale = painter.device()->devicePixelRatio();
+  const bool is_whole = scale == std::floor(scale);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, !is_whole);
+  if (is_whole) return painter.drawImage(source.translated(corner), image_, source);
+  // Between two whole scales pixels stay sharp and even: first enlarged beyond, then reduced. The
+  // ring around what is asked for keeps the seams of parts invisible.
+  const QRect ring = source.adjusted(-1, -1, 1, 1) & image_.rect();
+  const QImage beyond = image_.copy(ring).scaled(ring.size() * static_cast<int>(std::ceil(scale)));
+  painter.drawImage(ring.translated(corner), beyond);
 }
 
 }  // namespace orvane

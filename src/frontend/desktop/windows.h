@@ -6,16 +6,22 @@
 #include <vector>
 
 #include "src/frontend/desktop/screen_window.h"
+#include "src/frontend/desktop/zoom.h"
 #include "src/platform/stage.h"
 
 namespace orvane {
 
 class Windows {
  public:
-  Windows(Stage& stage, Events& events);
+  // The windows start with the scale that is set.
+  Windows(Stage& stage, Events& events, const Zoom& zoom);
 
   // Brings all that can be seen up to date.
   void Follow();
+  // Whether the windows are as large as the player wants those that are visible to be.
+  bool Suit(const Zoom& zoom) const;
+  // Makes them so. None of them may be within a handler: all are taken down and put back.
+  void Rescale(const Zoom& zoom);
   // Brings the active screen's window to the front again, after a box.
   void RaiseActive();
   // Paints at once what waits for painting.
@@ -32,12 +38,18 @@ class Windows {
  private:
   void ShowNew();
   void HideOld();
+  QWindow* Backdrop() const;
+  void FollowBackdrop(bool full_screen);
+  // What the windows of all visible screens take of the display.
+  std::vector<Span> TakenSpans(bool full_screen) const;
 
   Stage& stage_;
   std::vector<std::unique_ptr<ScreenWindow>> windows_;
   const Screen* active_ = nullptr;    // as the windows stand
   ScreenWindow* expected_ = nullptr;  // asked to the front and not there yet
   QElapsedTimer since_asked_;
+  double scale_;
+  std::unique_ptr<QWidget> backdrop_;  // there while the game has the full screen
 };
 
 }  // namespace orvane

@@ -1,0 +1,358 @@
+# Each screen opened, used and closed, in the order of screens.sh.
+
+# A game folder of our own with the saves of states.lua, and one that is no save.
+make_folder() {
+  folder=$run_folder/game
+  cp -r "$(dirname "$program")/game" "$folder"
+  ORVANE_STATES=$folder ORVANE_PLAY=$here/../play "$player" "$here/states.lua" >"$log" 2>&1 ||
+    fail "the saves could not be made"
+  head -c 100 "$folder/Save01.sav" >"$folder/Save09.sav"
+}
+
+# number FILE OFFSET: a 16-bit number of a save.
+number() { od -An -t d2 -j "$2" -N 2 "$folder/$1" | tr -d ' '; }
+# bytes FILE OFFSET COUNT: in hexadecimal.
+bytes() { od -An -v -t x1 -j "$2" -N "$3" "$folder/$1" | tr -d ' \n'; }
+
+# menu TITLE_X ITEM: chooses the ITEM-th usable item of the menu at that place of the menu bar.
+menu() {
+  local left top height step
+  wait_for 5 "the focus before a menu" has_focus Orvane
+  measure Orvane
+  xdotool mousemove $((left + $1 * scale)) $((top + 11 * scale)) click 1
+  sleep 0.2
+  for step in $(seq "$2"); do xdotool key --delay 20 Down; done
+  [ -n "${3:-}" ] && shot "$3"
+  xdotool key Return
+}
+file_menu=30 item_menu=83 info_menu=132
+
+opens() {
+  wait_for 5 "$1" has_window "$1"
+  wait_for 5 "the focus of $1" has_focus "$1"
+  sleep 0.2
+}
+closes() { wait_for 5 "the end of $1" lacks_window "$1"; }
+
+# answer TITLE KEY: a message box comes and is answered.
+answer() {
+  opens "$1"
+  [ -n "${3:-}" ] && shot "$3"
+  xdotool key "$2"
+  closes "$1"
+}
+
+# The window does not change any more.
+rests() {
+  local before
+  before=$(sum "$@")
+  sleep 0.5
+  ! changes "$before" "$@"
+}
+
+load_broken_file() {
+  menu $file_menu 1 01-file-menu
+  opens ファイルのロード
+  click ファイルのロード 190 68
+  answer 警告 Return 02-nothing-chosen
+  # The list shows four rows; the keys go to the last but one, which Enter then chooses.
+  click ファイルのロード 40 42
+  sleep 0.2
+  shot 03-load
+  xdotool key --delay 30 End Up Return
+  sleep 0.2
+  shot 04-broken
+}
+
+# load_row ROW: loads a save, rows counted from 0.
+load_row() {
+  xdotool key Home
+  click ファイルのロード 40 $((40 + $1 * 12))
+  sleep 0.2
+  click ファイルのロード 190 68
+  closes ファイルのロード
+  wait_for 5 "the party at rest" is_still
+}
+
+load_party() {
+  load_row 0
+  shot 05-field
+}
+
+use_equipment() {
+  menu $item_menu 1 06-item-menu
+  opens 装備
+  shot 07-equipment
+  # Rows are 12 pixels high. The sword and his armour to him, by his tab.
+  click 装備 60 $((56 + 12))
+  click 装備 212 64
+  click 装備 60 $((56 + 3 * 12))
+  click 装備 212 64
+  sleep 0.2
+  shot 08-his-things
+  click 装備 388 19
+  sleep 0.2
+  click 装備 60 $((56 + 2 * 12))
+  click 装備 212 64
+  click 装備 60 $((56 + 4 * 12))
+  click 装備 212 64
+  sleep 0.2
+  shot 09-her-things
+  click 装備 212 204
+  closes 装備
+}
+
+use_items() {
+  menu $item_menu 2
+  opens アイテム
+  shot 10-items
+  # The coin goes, at the second thought.
+  click アイテム 60 40
+  click アイテム 212 96
+  answer アイテム削除 Escape 11-discard
+  click アイテム 212 96
+  answer アイテム削除 Return
+  click アイテム 212 136
+  sleep 0.2
+  shot 12-tidy
+  # The fruit goes to him. The coin was the last; the list stands in the order of numbers now.
+  click アイテム 60 $((40 + 6 * 12))
+  sleep 0.2
+  click アイテム 212 56
+  opens アイテムの使用
+  closes アイテム
+  shot 13-use
+  click アイテムの使用 48 164
+  closes アイテムの使用
+  wait_for 5 "the field" has_focus Orvane
+  menu $item_menu 2
+  opens アイテム
+  shot 14-items-again
+  xdotool key alt+F4
+  closes アイテム
+}
+
+see_heroes() {
+  menu $info_menu 1 15-info-menu
+  opens キャラデータ
+  shot 16-him
+  click キャラデータ 300 10
+  sleep 0.2
+  shot 17-her
+  click キャラデータ 192 412
+  closes キャラデータ
+}
+
+change_settings() {
+  menu $info_menu 2
+  opens 環境設定
+  shot 18-settings
+  click 環境設定 120 41
+  xdotool key ctrl+a
+  xdotool type --delay 30 Gou
+  # To the slider, and to its quick end.
+  click 環境設定 48 176
+  xdotool key Home
+  sleep 0.2
+  shot 19-settings-changed
+  click 環境設定 336 32
+  closes 環境設定
+}
+
+see_version() {
+  menu $info_menu 3
+  opens バージョン情報
+  shot 20-version
+  click バージョン情報 134 115
+  closes バージョン情報
+}
+
+# wrote OFFSET VALUE WHAT: the number in the save that was written.
+wrote() {
+  local found
+  found=$(number Save03.sav "$1")
+  [ "$found" = "$2" ] || fail "$3: $found is saved, not $2"
+}
+
+save_party() {
+  menu $file_menu 1
+  opens ファイルのセーブ
+  click ファイルのセーブ 190 68
+  answer 警告 Return
+  click ファイルのセーブ 40 $((40 + 2 * 12))
+  shot 21-save
+  click ファイルのセーブ 190 68
+  answer ゲームのセーブ Escape 22-sure
+  click ファイルのセーブ 190 68
+  answer ゲームのセーブ Return
+  closes ファイルのセーブ
+  [ "$(stat -c %s "$folder/Save03.sav")" = 540 ] || fail "the save has not 540 bytes"
+  wrote 82 19 "his level"
+  wrote 88 521 "his HP after the fruit"
+  wrote 450 8 "the number of things"
+  wrote 112 15 "his sword"
+  wrote 114 14 "her staff"
+  wrote 118 12 "his armour"
+  wrote 120 13 "her armour"
+  [ "$(bytes Save03.sav 58 4)" = 476f7520 ] || fail "his new name is not saved"
+}
+
+# In the field there is no loading: a second run of the program.
+load_before_dragon() {
+  quit_game
+  start_game --scale "$scale" --seed 5 --folder "$folder"
+  see_title
+  menu $file_menu 1
+  opens ファイルのロード
+  load_row 1
+  shot 23-before-dragon
+}
+
+# The scene, the buttons and the pages of a battle do not move any more.
+battle_rests() { rests "BATTLE !" 8 8 436 380; }
+wait_for_command() { wait_for 60 "the end of $1" battle_rests; }
+
+# Up into the strip before the dragon.
+meet_dragon() {
+  local end=$((SECONDS + 30))
+  xdotool keydown Up
+  while lacks_window "BATTLE !"; do
+    [ $SECONDS -ge $end ] && fail "no dragon came"
+    sleep 0.1
+  done
+  xdotool keyup Up
+  wait_for 5 "the battle's focus" has_focus "BATTLE !"
+  wait_for_command "the dragon's coming"
+}
+
+# The rows of a battle's lists, counted from 0: "キャンセル" is the first.
+row() { click "BATTLE !" 60 $((288 + $1 * 13)); }
+
+# command X Y ROWS...: a command's button, then a row of each list that comes.
+command() {
+  local at
+  click "BATTLE !" "$1" "$2"
+  shift 2
+  for at in "$@"; do
+    sleep 0.3
+    row "$at"
+  done
+}
+strike() { command 48 328 1; }
+
+# Every kind of command against the dragon: he uses the fifth technique, which stops the time for a
+# moment, and she a spell on it; then both use a thing.
+fight_with_everything() {
+  meet_dragon
+  shot 24-dragon
+  click "BATTLE !" 48 360
+  sleep 0.3
+  shot 25-techniques
+  row 5
+  sleep 0.3
+  shot 26-targets
+  row 1
+  sleep 0.4
+  shot 27-technique
+  wait_for_command "the technique"
+  click "BATTLE !" 112 328
+  sleep 0.3
+  shot 28-spells
+  row 4
+  sleep 0.7
+  shot 29-spell
+  wait_for_command "the spell and the dragon's answer"
+  click "BATTLE !" 112 360
+  sleep 0.3
+  shot 30-things
+  row 1
+  sleep 0.3
+  shot 31-for-whom
+  row 1
+  wait_for_command "the thing"
+  win 32-victory
+}
+
+# He uses the last technique, she strikes, until the panel has come and the click beside it has led
+# away from the battle.
+win() {
+  local end=$((SECONDS + 90)) his=${2:-}
+  while has_window "BATTLE !"; do
+    [ $SECONDS -ge $end ] && fail "the dragon does not fall"
+    if [ -n "$his" ]; then
+      click "BATTLE !" 48 360
+      sleep 0.3
+      xdotool key --delay 50 Down End Return
+      sleep 0.3
+      row 1
+      his=
+    else
+      strike
+      his=yes
+    fi
+    wait_for_command "a blow"
+    shot "${1:-32-victory}"
+    click "BATTLE !" 20 250
+    sleep 0.3
+  done
+  wait_for 5 "the focus after the battle" has_focus Orvane
+}
+
+# The lines after the dragon, to the last stage.
+hear_story() {
+  local line
+  sleep 0.5
+  shot 33-story
+  for line in $(seq 25); do
+    click Orvane 40 150
+    sleep 0.1
+  done
+  wait_for 5 "the party at rest" is_still
+  shot 34-last-stage
+}
+
+fight_last_dragon() {
+  meet_dragon
+  shot 35-last-dragon
+  strike
+  wait_for_command "a blow"
+  strike
+  wait_for_command "a blow and the dragon's answer"
+  win 36-last-victory yes
+}
+
+# The words of the last card stand where they do not move, unlike all before them.
+card="112 112 225 65"
+last_card_stands() {
+  # shellcheck disable=SC2086
+  changes "$bare" ENDING $card && rests ENDING $card
+}
+
+see_ending() {
+  local line status=0 bare
+  for line in $(seq 60); do
+    has_window ENDING && break
+    click Orvane 40 150
+    sleep 0.15
+  done
+  wait_for 5 "the credits" has_window ENDING
+  # shellcheck disable=SC2086
+  bare=$(sum ENDING $card)
+  sleep 4
+  shot 37-credits
+  if [ "$scale" = 1 ]; then
+    wait_for 120 "the last card" last_card_stands
+    shot 38-last-card
+    click ENDING 200 100
+  else
+    xdotool key alt+F4
+  fi
+  for _ in $(seq 100); do
+    kill -0 "$game_pid" 2>/dev/null || break
+    sleep 0.1
+  done
+  kill -0 "$game_pid" 2>/dev/null && fail "the game did not end after the credits"
+  wait "$game_pid" || status=$?
+  game_pid=
+  [ $status = 0 ] || fail "the game ended with status $status after the credits"
+}

@@ -1,0 +1,45 @@
+#!/bin/bash
+# Opens every screen of the real program in a real window, uses it once and closes it; the effect is
+# read from the files that the game saves.
+#   screens.sh PROGRAM SCREENSHOTS SCRIPT_PLAYER [SCALE]
+# Screenshots and needs as in run.sh. At scale 1 the credits run to their last card.
+set -u
+
+program=$(realpath "$1")
+shots=$2
+player=$(realpath "$3")
+scale=${4:-1}
+here=$(dirname "$(realpath "$0")")
+mkdir -p "$shots"
+shots=$(realpath "$shots")
+log=$shots/game.log
+
+for tool in Xvfb openbox xdotool xprop xwininfo import cksum; do
+  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
+done
+
+# shellcheck source=tests/desktop/x_session.sh
+. "$here/x_session.sh"
+# shellcheck source=tests/desktop/steps.sh
+. "$here/steps.sh"
+# shellcheck source=tests/desktop/screen_steps.sh
+. "$here/screen_steps.sh"
+
+open_display $((640 * scale))x$((560 * scale))
+make_folder
+start_game --scale "$scale" --seed 5 --folder "$folder"
+see_title
+load_broken_file
+load_party
+use_equipment
+use_items
+see_heroes
+change_settings
+see_version
+save_party
+load_before_dragon
+fight_with_everything
+hear_story
+fight_last_dragon
+see_ending
+echo "desktop test: every screen opened, used and closed at scale $scale"

@@ -25,6 +25,7 @@ Desktop::Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper,
   sleeper_.Attach([this](int milliseconds) { Sleep(milliseconds); });
   QCoreApplication::instance()->installEventFilter(this);
   OnEndSignals([this] { End(); });
+  OnCallSignal([this] { ComeToFront(); });
 }
 
 Desktop::~Desktop() {
@@ -86,6 +87,15 @@ void Desktop::EndBox() {
   if (!program_.HasEnded()) windows_.RaiseActive();
 }
 
+void Desktop::ComeToFront() {
+  QWidget* box = QApplication::activeModalWidget();
+  QWidget* front = box != nullptr ? box : windows_.Active();
+  if (front == nullptr) return;
+  front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
+  front->raise();
+  front->activateWindow();
+}
+
 void Desktop::Sleep(int milliseconds) {
   following_ = true;
   windows_.Follow();
@@ -117,6 +127,10 @@ bool Desktop::eventFilter(QObject* watched, QEvent* event) {
       if (window != nullptr && window->isMaximized()) SetFullScreen(true);
       return false;
     }
+    case QEvent::Quit:
+      // The session ends; nobody is asked.
+      End();
+      return true;
     case QEvent::KeyPress:
       // Keys come to their window first.
       return watched->isWindowType() && TakeZoomKey(*static_cast<const QKeyEvent*>(event));

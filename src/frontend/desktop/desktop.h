@@ -43,6 +43,7 @@ class Desktop : public QObject, public Events, public BoxHost {
   void Follow();
   void Sleep(int milliseconds);
   void End();
+  void ComeToFront();
   bool KeysReachGame() const;
   void TakeActivation(ScreenWindow& window);
   bool TakeZoomKey(const QKeyEvent& event);

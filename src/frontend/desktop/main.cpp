@@ -10,6 +10,8 @@
 #include "src/frontend/desktop/boxes.h"
 #include "src/frontend/desktop/chance.h"
 #include "src/frontend/desktop/desktop.h"
+#include "src/frontend/desktop/home.h"
+#include "src/frontend/desktop/instance.h"
 #include "src/frontend/desktop/look.h"
 #include "src/frontend/desktop/options.h"
 #include "src/frontend/desktop/scale.h"
@@ -57,13 +59,32 @@ Zoom ChooseZoom(const Options& options, Program& program) {
   return Zoom(screen, start, windows);
 }
 
+// The game cannot start: says so in a box as well as to whoever reads the terminal.
+int TellProblem(const std::string& problem, int argument_count, char** arguments) {
+  Complain(problem);
+  QApplication application(argument_count, arguments);
+  SetUpLook(application);
+  MessageBoxes boxes;
+  boxes.ShowError({problem, "Orvane", BoxButtons::Ok});
+  boxes.ShowKeptError();
+  return EXIT_FAILURE;
+}
+
 int RunGame(const Options& options, int argument_count, char** arguments) {
-  HoldEndSignals();
+  HoldSignals();
+  const Home home = options.Folder ? Home{*options.Folder, {}} : FindHome();
+  const Instance instance(home.Folder);
+  if (!instance.IsFirst()) {
+    instance.CallFirst();
+    return EXIT_SUCCESS;
+  }
+  const std::string problem = MakeReady(home);
+  if (!problem.empty()) return TellProblem(problem, argument_count, arguments);
   SoundEngine sound;
   DesktopChance chance(options.Seed);
   MessageBoxes boxes;
   DesktopSleeper sleeper;
-  Program program(options.Folder, {sound, chance, boxes, sleeper});
+  Program program(home.Folder, {sound, chance, boxes, sleeper});
   QApplication application(argument_count, arguments);
   SetUpLook(application);
   const Zoom zoom = ChooseZoom(options, program);

@@ -6,12 +6,6 @@
 namespace orvane {
 namespace {
 
-std::filesystem::path FolderBesideProgram() {
-  std::error_code failed;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", failed);
-  return failed ? std::filesystem::path("game") : program.parent_path() / "game";
-}
-
 template <class Number>
 std::optional<Number> ReadNumber(const std::string& text) {
   Number number{};
@@ -25,7 +19,6 @@ std::optional<Number> ReadNumber(const std::string& text) {
 
 Options ReadOptions(const std::vector<std::string>& arguments) {
   Options options;
-  options.Folder = FolderBesideProgram();
   for (size_t i = 0; i < arguments.size() && options.Error.empty(); ++i) {
     const std::string& name = arguments[i];
     if (name == "--help" || name == "-h") {
@@ -56,7 +49,7 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
 
 std::string HelpText() {
   return "Usage: orvane [options]\n"
-         "  --folder DIR  the game folder (\"game\" beside the program)\n"
+         "  --folder DIR  the game folder (\"game\" beside the program, or the player's own)\n"
          "  --scale N     size of the windows (chosen by the screen)\n"
          "  --seed N      the same chances in every run, for tests\n"
          "  --help        this text\n";

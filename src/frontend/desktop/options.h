@@ -10,7 +10,7 @@
 namespace orvane {
 
 struct Options {
-  std::filesystem::path Folder;  // the game folder; "game" beside the program unless given
+  std::optional<std::filesystem::path> Folder;  // the game folder; found by itself unless given
   std::optional<double> Scale;   // size of the windows, 0.5 to 8; chosen by the screen unless given
   std::optional<uint32_t> Seed;  // makes chance repeatable, for tests
   bool WantsHelp = false;

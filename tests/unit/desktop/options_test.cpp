@@ -5,11 +5,10 @@
 namespace orvane {
 namespace {
 
-TEST(Options, without_arguments_take_the_folder_beside_the_program) {
+TEST(Options, without_arguments_leave_everything_to_the_program) {
   const Options options = ReadOptions({});
   EXPECT_TRUE(options.Error.empty());
-  EXPECT_TRUE(options.Folder.is_absolute());
-  EXPECT_EQ(options.Folder.filename(), "game");
+  EXPECT_FALSE(options.Folder.has_value());
   EXPECT_FALSE(options.Scale.has_value());
   EXPECT_FALSE(options.Seed.has_value());
   EXPECT_FALSE(options.WantsHelp);

@@ -1,0 +1,40 @@
+# Installing for all users of a machine, and the Debian package. The game folder that is installed is
+# never written to: each player gets one of his own at the first start.
+include(GNUInstallDirs)
+if(NOT TARGET orvane)
+  return()
+endif()
+
+install(TARGETS orvane RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY ${ORVANE_GAME_FOLDER}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/orvane/game
+        FILES_MATCHING PATTERN "Item.dat" PATTERN "*.mid" PATTERN "*.wav" PATTERN "Mapdata/*.dat")
+# The slots as they are before anybody plays; those of the build may have been played with.
+install(CODE "execute_process(COMMAND \"$<TARGET_FILE:orvane-saves>\"
+  \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/orvane/game\"
+  COMMAND_ERROR_IS_FATAL ANY)")
+install(FILES share/orvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES share/orvane.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES share/orvane.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES share/orvane.ja.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/ja/man6 RENAME orvane.6)
+foreach(size 16 24 32 48 64 128 256)
+  install(FILES content/pictures/sheets/icon_${size}.png RENAME orvane.png
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps)
+endforeach()
+install(FILES LICENSE README.md README.ja.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orvane)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME orvane)
+set(CPACK_PACKAGE_CONTACT "Orvane's developers <orvane@example.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "role-playing game in Japanese about two heroes and four dragons")
+set(CPACK_PACKAGE_DESCRIPTION
+    "Two heroes have fallen into a training world and must beat the dragons that guard its way out.
+Walk over single-screen maps, open chests, train with books, and fight long hand-animated battles
+with ten techniques and ten spells. The game's language is Japanese.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION games)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, fonts-ipafont-gothic, fonts-ipafont-mincho")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fluidr3mono-gm-soundfont | timgm6mb-soundfont")
+include(CPack)

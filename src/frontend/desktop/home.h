@@ -1,0 +1,22 @@
+// Where the game folder is.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace orvane {
+
+struct Home {
+  std::filesystem::path Folder;  // empty where the player has no place for one
+  std::filesystem::path
+      Installed;  // what Folder is to be made after; empty where it stands by itself
+};
+
+// The folder "game" beside the program, as in a build or an unpacked archive. Where the program is
+// installed for all, the player's own, $XDG_DATA_HOME/orvane/game.
+Home FindHome();
+
+// Makes or renews the player's own folder. Returns what is wrong, or nothing.
+std::string MakeReady(const Home& home);
+
+}  // namespace orvane

@@ -67,6 +67,7 @@ void Desktop::Follow() {
     keys_.Follow();
     if (program_.TheStage().Active() != nullptr || program_.TheStage().BoxStands()) return;
   }
+  if (last_box_stands_) return;
   // The game has ended, or has left no window by which anyone could end it.
   End();
 }
@@ -79,11 +80,21 @@ void Desktop::End() {
 }
 
 QWidget* Desktop::BeginBox() {
-  Follow();
+  if (program_.HasEnded()) {
+    // The box that says why must be read before the end, which would close it.
+    last_box_stands_ = true;
+    ticks_.Stop();
+    following_ = true;
+    windows_.Follow();
+    following_ = false;
+  } else {
+    Follow();
+  }
   return windows_.Active();
 }
 
 void Desktop::EndBox() {
+  last_box_stands_ = false;
   if (!program_.HasEnded()) windows_.RaiseActive();
 }
 

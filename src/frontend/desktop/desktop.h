@@ -63,6 +63,7 @@ class Desktop : public QObject, public Events, public BoxHost {
   Keys keys_;
   bool following_ = false;
   bool asleep_ = false;
+  bool last_box_stands_ = false;  // the box of an error that has ended the game
   bool rescaling_later_ = false;
 };
 

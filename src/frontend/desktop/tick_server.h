@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+#include "src/frontend/desktop/tick_log.h"
 #include "src/platform/timer_queue.h"
 
 namespace orvane {
@@ -21,6 +22,7 @@ class TickServer {
   void Stop() { alarm_.stop(); }
 
  private:
+  // Milliseconds of the game, which tests let run faster than those of the world.
   double Now() const;
   void Serve();
 
@@ -28,6 +30,8 @@ class TickServer {
   Events& events_;
   QElapsedTimer clock_;
   QTimer alarm_;
+  double speed_;
+  TickLog log_;
 };
 
 }  // namespace orvane

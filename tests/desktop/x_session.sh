@@ -67,8 +67,10 @@ has_focus() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ];
 
 # The corner and the height of a window's inside on the display, into left, top, height.
 measure() {
-  local facts
-  facts=$(xwininfo -id "$(window "$1")" 2>/dev/null)
+  local id facts=
+  id=$(window "$1")
+  # Without a number it would wait for a click for ever.
+  [ -z "$id" ] || facts=$(xwininfo -id "$id" 2>/dev/null)
   left=$(sed -n 's/.*Absolute upper-left X: *//p' <<<"$facts")
   top=$(sed -n 's/.*Absolute upper-left Y: *//p' <<<"$facts")
   height=$(sed -n 's/.*Height: *//p' <<<"$facts")

@@ -1,4 +1,4 @@
-// The woman: long blond hair with a circlet, rose dress under a white mantle.
+// The woman: blond hair tied with a bow, rose dress under a white mantle.
 #include <array>
 
 #include "content/pictures/figures/hero.h"
@@ -9,53 +9,53 @@ namespace {
 void AddDress(Model& model, float step) {
   for (const float side : {-1.0F, 1.0F}) {
     const float swing = step * side;
-    const Vec foot{1.9F * side, -12.0F + (swing < 0 ? 1.2F : 0.0F), swing * 3.0F};
+    const float lift = swing < 0 ? 2.0F : 0.0F;
+    const Vec knee{1.6F * side, -8.0F, swing * 1.4F};
+    const Vec foot{2.0F * side, -11.8F + lift, swing * 3.6F};
+    model.Add(kLining, 0.5F).Limb(knee, foot, 1.7F, 1.5F);
     model.Add(kBoots, 0.6F)
-        .Limb(foot + Vec{0, 1.4F, 0}, foot, 1.8F, 1.8F)
-        .Limb(foot, foot + Vec{0, -0.2F, 1.5F}, 1.7F, 1.5F);
+        .Limb(foot + Vec{0, 1.2F, 0}, foot, 1.9F, 1.8F)
+        .Limb(foot, foot + Vec{0, -0.2F, 1.6F}, 1.7F, 1.5F);
   }
-  // The hem swings after the feet.
-  Group& dress = model.Add(kCloth, 1.6F);
-  dress.Limb({0, -1.4F, 0}, {0, -4.6F, 0}, 3.3F, 2.7F);
-  dress.Limb({0, -5.2F, 0}, {0.3F * step, -8.0F, 0}, 2.8F, 4.0F);
+  // A narrow waist; the hem stops at the knee and swings after the feet.
+  Group& dress = model.Add(kCloth, 1.2F);
+  dress.Limb({0, -1.4F, 0}, {0, -4.4F, 0}, 3.2F, 2.1F);
+  dress.Limb({0, -4.8F, 0}, {0.3F * step, -7.2F, 0}, 2.1F, 3.6F);
   for (const float side : {-1.0F, 1.0F}) {
     const float swing = step * side;
-    dress.Limb({1.0F * side, -6.0F, 0}, {2.2F * side, -8.4F, swing * 1.1F}, 2.4F, 2.9F);
+    dress.Limb({1.0F * side, -5.6F, 0}, {2.4F * side, -7.8F, swing * 1.6F}, 2.0F, 2.7F);
   }
-  model.Add(kLining, 1).Limb({0, -4.8F, 1.6F}, {0.3F * step, -9.8F, 3.4F}, 1.2F, 1.4F);
-  model.Add(kMetal).Ball({0, -4.6F, 0}, {3.2F, 0.8F, 3.1F});
+  model.Add(kLining, 1).Limb({0, -4.8F, 1.4F}, {0.3F * step, -8.6F, 3.2F}, 1.0F, 1.3F);
+  model.Add(kMetal).Ball({0, -4.5F, 0}, {2.7F, 0.8F, 2.6F});
 }
 
 void AddSleeves(Model& model, float step) {
   for (const float side : {-1.0F, 1.0F}) {
-    const float swing = -step * side * 2.8F;
+    const float swing = -step * side * 3.2F;
     const Vec shoulder{3.7F * side, -1.2F, 0};
-    const Vec hand{5.6F * side, -6.6F + std::fabs(swing) * 0.25F, swing + 0.8F};
-    model.Add(kLining, 0.5F).Limb(shoulder, Mix(shoulder, hand, 0.75F), 2.1F, 2.3F);
+    const Vec hand{5.9F * side, -6.4F + std::fabs(swing) * 0.25F, swing + 0.6F};
+    model.Add(kLining, 0.5F).Limb(shoulder, Mix(shoulder, hand, 0.75F), 1.9F, 2.1F);
     model.Add(kFace).Ball(hand + Vec{0, -0.2F, 0.2F}, {1.4F, 1.4F, 1.4F});
   }
 }
 
 void AddHair(Model& model, float step) {
   Group& hair = model.Add(kHair, 1.0F);
-  hair.Ball({0, 8.0F, -1.3F}, {6.3F, 4.8F, 6.0F}).Ball({0, 5.2F, -3.2F}, {6.1F, 5.6F, 3.8F});
-  // Down the back to the hips; the ends trail the step.
-  for (const float x : {-3.2F, 0.0F, 3.2F}) {
-    hair.Chain({{{x * 0.9F, 3, -4.2F}, 3.4F},
-                {{x, -1, -4.6F}, 2.9F},
-                {{x * 0.9F - step * 0.4F, -4.6F, -5.0F}, 2.2F},
-                {{x * 0.7F - step * 0.8F, -7.0F, -5.2F}, 0.8F}},
-               3);
-  }
-  // A bow at the back of the head.
+  hair.Ball({0, 8.0F, -1.3F}, {6.3F, 4.8F, 6.0F}).Ball({0, 6.0F, -3.0F}, {6.0F, 4.6F, 3.6F});
+  // Tied at the back of the head: the tail swings from side to side against the step.
+  model.Add(kHair, 0.8F)
+      .Chain({{{0, 6.4F, -7.0F}, 2.0F},
+              {{-0.9F * step, 3.4F, -8.8F}, 2.6F},
+              {{-2.0F * step, -0.6F, -8.4F}, 2.2F},
+              {{-3.4F * step, -4.4F, -7.4F}, 0.7F}},
+             3);
+  // The bow that ties it.
   model.Add(kCloth, 0.4F)
-      .Limb({0, 8.4F, -7.0F}, {3.4F, 9.6F, -7.4F}, 0.9F, 1.6F)
-      .Limb({0, 8.4F, -7.0F}, {-3.4F, 9.6F, -7.4F}, 0.9F, 1.6F)
-      .Limb({0, 8.2F, -7.0F}, {1.6F, 5.4F, -7.4F}, 0.8F, 1.0F)
-      .Limb({0, 8.2F, -7.0F}, {-1.6F, 5.4F, -7.4F}, 0.8F, 1.0F);
-  // Locks over the shoulders, then the parted fringe.
-  hair.Limb({5.3F, 7.2F, -0.6F}, {5.6F, 0.0F, 0.8F}, 1.7F, 0.8F);
-  hair.Limb({-5.3F, 7.2F, -0.6F}, {-5.6F, 0.0F, 0.8F}, 1.7F, 0.8F);
+      .Limb({0, 7.0F, -7.6F}, {3.6F, 8.6F, -7.6F}, 0.9F, 1.7F)
+      .Limb({0, 7.0F, -7.6F}, {-3.6F, 8.6F, -7.6F}, 0.9F, 1.7F);
+  // Short locks before the ears leave the cheek free, then the parted fringe.
+  hair.Limb({5.5F, 7.2F, -0.8F}, {5.5F, 2.6F, -0.4F}, 1.4F, 0.5F);
+  hair.Limb({-5.5F, 7.2F, -0.8F}, {-5.5F, 2.6F, -0.4F}, 1.4F, 0.5F);
   hair.Limb({1.2F, 11.0F, 3.6F}, {4.6F, 7.0F, 4.6F}, 2.0F, 0.7F);
   hair.Limb({0.8F, 11.0F, 4.0F}, {1.9F, 7.6F, 5.8F}, 1.8F, 0.6F);
   hair.Limb({0.2F, 11.0F, 3.8F}, {-3.0F, 7.4F, 5.5F}, 2.0F, 0.6F);

@@ -90,7 +90,7 @@ Model BeastModel() {
 Image PaintHornedBeast() {
   std::vector<Material> m(8);
   m[kFur] = {
-      {0x241020, 0x44202C, 0x703828, 0xA05C30, 0xCC8C4C, 0xECC488}, 0, 0.4F, 0, Strands(2, 0.2F)};
+      {0x1C1430, 0x3C3454, 0x686480, 0x9C9CB0, 0xCCD0D4, 0xF4F4EC}, 0, 0.4F, 0, Strands(2, 0.2F)};
   m[kMane] = {{0x180C24, 0x301C44, 0x543468, 0x845890, 0xB890B8}, 0.1F, 0.4F};
   m[kHorn] = {
       {0x3C3440, 0x7C7484, 0xC0B8B8, 0xF0ECDC, 0xF8F8F0}, 0.5F, 0.3F, 0, Rings(3.2F, 0.45F)};

@@ -102,7 +102,7 @@ Model PlantModel() {
 Image PaintManEater() {
   std::vector<Material> m(7);
   m[kStem] = {{0x18281C, 0x284820, 0x447028, 0x70A038, 0xA8CC60}, 0.2F, 0.3F, 0, Rings(3.4F, 0.2F)};
-  m[kLeaf] = {{0x0C2C24, 0x145038, 0x20784C, 0x3CA464, 0x80D090}, 0.2F, 0.3F};
+  m[kLeaf] = {{0x181840, 0x2C3068, 0x485494, 0x7C8CC0, 0xC0D0E8}, 0.2F, 0.3F};
   m[kPetal] = {{0x481038, 0x841C54, 0xC43470, 0xEC6C98, 0xF8B0C0}, 0.1F, 0.3F};
   m[kJaw] = {
       {0x2C1838, 0x542458, 0x8C3878, 0xC0609C, 0xE49CC0, 0xF8D8E0}, 0.35F, 0.3F, 0, SpotLight};

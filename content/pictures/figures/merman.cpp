@@ -5,7 +5,7 @@
 namespace orvane::paint {
 namespace {
 
-enum Stuff { kSkin, kBelly, kFin, kEye, kMouth, kTooth, kGold };
+enum Stuff { kSkin, kBelly, kFin, kEye, kMouth, kTooth, kSteel };
 
 void AddLeg(Model& model, Vec hip, Vec knee, Vec ankle) {
   model.Add(kSkin, 3, 3).Limb(hip, knee, 5.6F, 4).Limb(knee, ankle, 3.8F, 2.4F);
@@ -65,17 +65,17 @@ Model MermanModel() {
   model.Add(kFin).Panel({-2, -18, -16}, {-3, -14, -28}, {-3, -27, -25}, 0.25F, 0, 0.8F);
   AddArm(model, {-10, 9, 1}, {-15, 1, 3}, {-12, -1, 13});
   AddArm(model, {10, 9, 1}, {16, 4, 4}, {15, 6, 15});
-  model.Add(kGold).Ring({0, -8, 0}, {8.2F, 0, 0}, {0, 0.6F, 7.8F}, 1.1F);
+  model.Add(kSteel).Ring({0, -8, 0}, {8.2F, 0, 0}, {0, 0.6F, 7.8F}, 1.1F);
   AddHead(model);
   // The trident stands in the far hand.
   const Vec foot{17, -27, 12};
   const Vec top{14.4F, 22, 18};
-  model.Add(kGold, 0.4F)
+  model.Add(kSteel, 0.4F)
       .Limb(foot, top, 1, 1)
       .Limb(top + Vec{0, 0, -5}, top + Vec{0, 0, 5}, 1.1F, 1.1F);
   for (const float z : {-5.0F, 0.0F, 5.0F}) {
     const float high = z == 0 ? 12.0F : 9.0F;
-    model.Add(kGold, 0.4F)
+    model.Add(kSteel, 0.4F)
         .Limb(top + Vec{0, 0, z}, top + Vec{-0.3F, high, z + 1}, 1.1F, 0.7F)
         .Leaf(top + Vec{-0.3F, high - 3, z + 1}, top + Vec{-0.3F, high + 2.6F, z + 1}, 1.7F, 1,
               {1, 0, 0});
@@ -98,7 +98,7 @@ Image PaintMerman() {
   m[kEye] = {{0x806008, 0xE8C820, 0xF8F078, 0xF8F8D8}, 0.8F, 0, 0.2F};
   m[kMouth] = {{0x14040C, 0x481020}};
   m[kTooth] = {{0x908868, 0xF0ECD0}, 0, 0, 0.3F};
-  m[kGold] = {{0x3C2C30, 0x786040, 0xC0A058, 0xF0E098}, 0.6F};
+  m[kSteel] = {{0x2C2C48, 0x646C88, 0xA8B4C8, 0xF0F4F8}, 0.6F};
   Sprite sprite = Render(MermanModel(), m, MonsterView(0.6F, 0.1F));
   StampAt(sprite, {-6.2F, 22, 13}, {"KK", "KK"}, "K", {0x100814});
   return PairSheet(sprite, 128, 64, 64);

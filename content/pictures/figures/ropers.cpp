@@ -18,7 +18,7 @@ struct Feeler {
   float Curl;
 };
 
-void AddFeeler(Model& model, const Feeler& feeler, float thickness, float root) {
+void AddFeeler(Model& model, const Feeler& feeler, float thickness, float root, bool bud_at_tip) {
   const Vec out = Around(feeler.Angle, 1, 0, 0.85F);
   const Vec side{-out.Z, 0, out.X};
   const Vec up{0, 1, 0};
@@ -33,6 +33,9 @@ void AddFeeler(Model& model, const Feeler& feeler, float thickness, float root) 
               {tip + side * feeler.Curl - out * 3 + up * 3, thickness * 0.4F},
               {tip + side * feeler.Curl * 1.2F - out * 6 + up * 0.5F, thickness * 0.2F}},
              4, {0, 1, 0});
+  if (!bud_at_tip) return;
+  const Vec bud = tip + side * feeler.Curl - out * 3 + up * 3;
+  model.Add(kTip, 0.5F).Ball(bud, {3, 3, 3});
 }
 
 void AddTeeth(Model& model) {
@@ -69,7 +72,7 @@ Model GreenRoperModel() {
                                                    {0.75F, -7, 23, -4, -4},
                                                    {4.4F, 10, 15, 29, 4},
                                                    {3.2F, 12, 13, 33, -4}}};
-  for (const Feeler& feeler : kFeelers) AddFeeler(model, feeler, 3.6F, 6);
+  for (const Feeler& feeler : kFeelers) AddFeeler(model, feeler, 3.6F, 6, true);
   model.Add(kBody, 1, 2).Ring({0, 7.5F, 8.6F}, {6.6F, 0, 0}, {0, 5.8F, 0}, 1.7F);
   model.Add(kEye).Ball({0, 7.5F, 8}, {5.8F, 5, 3.6F});
   model.Add(kMouth).Ball({0, -8, 9}, {8.6F, 5.6F, 4.4F});
@@ -92,7 +95,7 @@ Model DeathRoperModel() {
                                                     {1.1F, -12, 12, -30, -3},
                                                     {2.3F, -12, 14, -29, 3},
                                                     {3.3F, -11, 15, -27, -4}}};
-  for (const Feeler& feeler : kFeelers) AddFeeler(model, feeler, 3.4F, 7);
+  for (const Feeler& feeler : kFeelers) AddFeeler(model, feeler, 3.4F, 7, false);
   Group& thorns = model.Add(kTip);
   for (int i = 0; i < 7; ++i) {
     const float a = -0.6F + static_cast<float>(i) * 0.72F;
@@ -128,6 +131,7 @@ Image PaintGreenRoper() {
   m[kEye] = {{0x6C3010, 0xD87818, 0xFCD84C, 0xF8F8D0}, 0.6F, 0, 0.2F};
   m[kMouth] = {{0x180410, 0x400C20, 0x802038}};
   m[kTooth] = {{0x807860, 0xD8D0B0, 0xF8F8E8}, 0, 0.2F, 0.2F};
+  m[kTip] = {{0x5C1038, 0xB02860, 0xF06C88, 0xF8C4B8}, 0.4F, 0.2F, 0.1F};
   Sprite sprite = Render(GreenRoperModel(), m, MonsterView(0.5F, 0.16F));
   StampAt(sprite, {0.6F, 7.2F, 11.6F}, {".KK.", "KKWK", "KKKK", ".KK."}, "KW",
           {0x200810, 0xF8F8F0});

@@ -105,7 +105,7 @@ void AddHead(Model& model) {
             {root, {26 * s, -1, -20}},
             {root, {20 * s, -12, -16}}},
            1.9F, 0.16F);
-    model.Add(kDragonHorn, 0.5F)
+    model.Add(kDragonMembrane, 0.5F)
         .Chain({{{4 * s, -2, 32}, 1.4F},
                 {{10 * s, -8, 36}, 1.1F},
                 {{13 * s, -18, 34}, 0.9F},

@@ -65,9 +65,9 @@ Model SpiderModel() {
             5, {0, 0, 1});
   }
   model.AddPair(kEye)
-      .Ball({2.8F, 2.6F, 18.6F}, {2.3F, 2.3F, 1.9F})
+      .Ball({3.0F, 2.4F, 18.6F}, {2.9F, 3.0F, 2.1F})
       .Ball({6.2F, 3.0F, 15.8F}, {1.6F, 1.6F, 1.6F})
-      .Ball({2.2F, 6.0F, 16.0F}, {1.4F, 1.3F, 1.3F});
+      .Ball({2.2F, 6.6F, 15.4F}, {1.5F, 1.4F, 1.3F});
   model.AddPair(kShell, 1, 0.5F).Limb({3, -3, 17}, {3.6F, -7, 20.4F}, 2.7F, 2.1F);
   model.AddPair(kFang).Limb({3.6F, -7, 20.6F}, {1.6F, -13.5F, 21}, 1.8F, 0.3F);
   model.Add(kAcid).Leaf({-1.6F, -14, 20.4F}, {-1.6F, -18.4F, 20.4F}, 1.5F, 1.5F);
@@ -83,7 +83,7 @@ Image PaintSpider() {
       {0x181024, 0x2C1C3C, 0x483058, 0x6C4C74, 0x987494, 0xD0ACB8}, 0.3F, 0.4F, 0, LegLight};
   m[kLemon] = {
       {0x5C3410, 0x986010, 0xD09C10, 0xF0CC20, 0xF8EC58, 0xF8F8B8}, 0.5F, 0.3F, 0.02F, RindLight};
-  m[kEye] = {{0x500010, 0xA80818, 0xF03020, 0xFCC0A0}, 0.9F, 0.1F, 0.25F};
+  m[kEye] = {{0x700010, 0xE02018, 0xFC7038, 0xFCE8C0}, 0.9F, 0.1F, 0.25F};
   m[kFang] = {{0x5C5048, 0xB8A888, 0xF4ECC8}, 0.3F};
   m[kBand] = {{0x583410, 0x987018, 0xD8B030, 0xF4DC60}};
   m[kAcid] = {{0x4C8418, 0xA0D830, 0xE8F888}, 0.6F, 0.2F, 0.2F};

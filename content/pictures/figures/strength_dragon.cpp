@@ -64,7 +64,7 @@ void AddFist(Model& model, Vec at, Vec across, Vec ahead, Vec up) {
 
 void AddArms(Model& model) {
   model.Enter({{0, 18, 0}});
-  // The near arm hangs ready, the far fist is raised.
+  // The near arm hangs ready, the far fist is thrust out below the head.
   model.Add(kDragonSkin, 7, 7)
       .Ball({-42, 26, 4}, {19, 19, 19})
       .Limb({-42, 24, 4}, {-54, -8, 6}, 17, 14)
@@ -73,10 +73,10 @@ void AddArms(Model& model) {
   AddFist(model, {-49, -54, 32}, {-0.9F, 0, 0.3F}, {0.2F, -0.3F, 0.93F}, {0, 0.95F, 0.3F});
   model.Add(kDragonSkin, 7, 7)
       .Ball({42, 28, 4}, {18, 18, 18})
-      .Limb({42, 28, 6}, {62, 30, 22}, 16, 13)
-      .Limb({62, 30, 22}, {56, 70, 32}, 15, 11)
+      .Limb({42, 28, 6}, {60, 2, 20}, 16, 13)
+      .Limb({60, 2, 20}, {52, -4, 52}, 15, 11)
       .Ball({54, 38, 14}, {12, 12, 12});
-  AddFist(model, {55, 82, 35}, {-0.9F, 0, 0.3F}, {0, 0.1F, 1}, {0, 1, 0});
+  AddFist(model, {51, -3, 62}, {-0.9F, 0, 0.3F}, {0, 0.1F, 1}, {0, 1, 0});
   // Shoulder plates and bracers with studs.
   for (const float side : {-1.0F, 1.0F}) {
     Group& plate = model.Add(kDragonPlate, 3, 0);
@@ -86,7 +86,7 @@ void AddArms(Model& model) {
     spikes.Limb({56 * side, 38, 8}, {74 * side, 48, 10}, 5.4F, 0.5F);
   }
   model.Add(kDragonPlate, 2).Limb({-53.4F, -16, 10}, {-51, -33, 20}, 18, 14.5F);
-  model.Add(kDragonPlate, 2).Limb({61, 40, 23}, {57, 62, 29}, 16, 13);
+  model.Add(kDragonPlate, 2).Limb({58.4F, 0.8F, 26.4F}, {54, -2.8F, 44}, 16, 13);
   model.Leave();
 }
 

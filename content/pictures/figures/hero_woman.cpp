@@ -44,15 +44,15 @@ void AddHair(Model& model, float step) {
   hair.Ball({0, 8.0F, -1.3F}, {6.3F, 4.8F, 6.0F}).Ball({0, 6.0F, -3.0F}, {6.0F, 4.6F, 3.6F});
   // Tied at the back of the head: the tail swings from side to side against the step.
   model.Add(kHair, 0.8F)
-      .Chain({{{0, 6.4F, -7.0F}, 2.0F},
-              {{-0.9F * step, 3.4F, -8.8F}, 2.6F},
-              {{-2.0F * step, -0.6F, -8.4F}, 2.2F},
-              {{-3.4F * step, -4.4F, -7.4F}, 0.7F}},
+      .Chain({{{0, 6.4F, -6.4F}, 2.0F},
+              {{-0.8F * step, 3.4F, -7.0F}, 2.3F},
+              {{-1.9F * step, -0.6F, -6.8F}, 2.0F},
+              {{-3.2F * step, -4.4F, -6.2F}, 0.7F}},
              3);
   // The bow that ties it.
   model.Add(kCloth, 0.4F)
-      .Limb({0, 7.0F, -7.6F}, {3.6F, 8.6F, -7.6F}, 0.9F, 1.7F)
-      .Limb({0, 7.0F, -7.6F}, {-3.6F, 8.6F, -7.6F}, 0.9F, 1.7F);
+      .Limb({0, 7.0F, -7.0F}, {3.6F, 8.6F, -7.0F}, 0.9F, 1.7F)
+      .Limb({0, 7.0F, -7.0F}, {-3.6F, 8.6F, -7.0F}, 0.9F, 1.7F);
   // Short locks before the ears leave the cheek free, then the parted fringe.
   hair.Limb({5.5F, 7.2F, -0.8F}, {5.5F, 2.6F, -0.4F}, 1.4F, 0.5F);
   hair.Limb({-5.5F, 7.2F, -0.8F}, {-5.5F, 2.6F, -0.4F}, 1.4F, 0.5F);

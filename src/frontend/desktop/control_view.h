@@ -27,6 +27,9 @@ class ControlView {
     return widget_;
   }
 
+  // What screen readers call it; nothing where its caption serves.
+  void SetSpokenName(const QString& name) { widget_->setAccessibleName(name); }
+
   // Brings the widget up to date, by comparing with what it showed last.
   void Follow();
   // The same without trusting what it showed last: the model may have been made afresh.

@@ -6,6 +6,7 @@
 #include <QMetaObject>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 #include <utility>
 
 #include "src/frontend/desktop/signals.h"
@@ -20,7 +21,8 @@ Desktop::Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper,
       zoom_(zoom),
       windows_(program.TheStage(), *this, zoom),
       ticks_(program.TheStage(), *this),
-      keys_(*this, [this] { return KeysReachGame(); }) {
+      keys_(*this, [this] { return KeysReachGame(); }),
+      pad_(*this, [this] { return KeysReachGame(); }) {
   boxes_.Attach(this);
   sleeper_.Attach([this](int milliseconds) { Sleep(milliseconds); });
   QCoreApplication::instance()->installEventFilter(this);
@@ -38,6 +40,8 @@ int Desktop::Run() {
   // From within the loop, so that the end can leave it.
   QMetaObject::invokeMethod(
       this, [this] { Follow(); }, Qt::QueuedConnection);
+  // Pads are looked for when the title stands: finding them takes longer than showing it.
+  QTimer::singleShot(500, this, [this] { pad_.Start(std::make_unique<PadDevice>()); });
   QCoreApplication::exec();
   return program_.ExitStatus();
 }

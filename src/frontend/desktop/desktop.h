@@ -7,6 +7,7 @@
 #include "src/frontend/desktop/boxes.h"
 #include "src/frontend/desktop/events.h"
 #include "src/frontend/desktop/keys.h"
+#include "src/frontend/desktop/pad.h"
 #include "src/frontend/desktop/sleeper.h"
 #include "src/frontend/desktop/tick_server.h"
 #include "src/frontend/desktop/windows.h"
@@ -61,6 +62,7 @@ class Desktop : public QObject, public Events, public BoxHost {
   Windows windows_;
   TickServer ticks_;
   Keys keys_;
+  Pad pad_;
   bool following_ = false;
   bool asleep_ = false;
   bool last_box_stands_ = false;  // the box of an error that has ended the game

@@ -1,5 +1,6 @@
 #include "src/frontend/desktop/label_view.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QLabel>
 #include <QPainter>
@@ -47,7 +48,11 @@ class LabelWidget : public QLabel {
     colour_ = QColor::fromRgb(values.ForeColor);
     alignment_ = AlignmentFlag(values.Alignment);
     setFont(DesktopFont(values.Face));
-    setText(ToQt(values.Caption));
+    const QString text = ToQt(values.Caption);
+    if (this->text() != text) {
+      setText(text);
+      TellReaders();
+    }
     update();
   }
 
@@ -68,6 +73,13 @@ class LabelWidget : public QLabel {
   }
 
  private:
+  // The game speaks and counts in labels that change where they stand.
+  void TellReaders() {
+    if (!QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+  }
+
   // A line a little too wide for its box, by another face than the one it was measured with, is
   // drawn narrower rather than cut.
   void PaintLine(QPainter& painter, const QFontMetricsF& metrics, const QRectF& box) const {

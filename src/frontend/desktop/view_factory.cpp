@@ -7,6 +7,7 @@
 #include "src/frontend/desktop/list_view.h"
 #include "src/frontend/desktop/picture_view.h"
 #include "src/frontend/desktop/slider_view.h"
+#include "src/frontend/desktop/spoken_names.h"
 #include "src/frontend/desktop/tabs_view.h"
 
 namespace orvane {
@@ -47,7 +48,9 @@ std::unique_ptr<ControlView> MakeKind(Control& control, QWidget* parent, Events&
 
 std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Events& events) {
   auto view = MakeKind(control, parent, events);
-  if (view != nullptr) view->Widget()->setObjectName(ToQt(control.Name()));
+  if (view == nullptr) return view;
+  view->Widget()->setObjectName(ToQt(control.Name()));
+  view->SetSpokenName(SpokenName(control));
   return view;
 }
 

@@ -1,0 +1,127 @@
+#include "src/frontend/desktop/pad.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <utility>
+
+#include "src/frontend/desktop/events.h"
+#include "src/game/program.h"
+
+namespace orvane {
+namespace {
+
+constexpr int OftenMs = 10;
+constexpr int SeldomMs = 1000;
+constexpr int FirstRepeatMs = 400;
+constexpr int NextRepeatMs = 120;
+
+constexpr Key Directions[] = {Key::Left, Key::Up, Key::Right, Key::Down};
+constexpr Qt::Key Arrows[] = {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
+
+QWidget* Target() {
+  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
+  if (QWidget* focus = QApplication::focusWidget()) return focus;
+  return QApplication::activeWindow();
+}
+
+void Type(Qt::Key key) {
+  // The first of the two may take the widget away.
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QWidget* target = Target();
+    if (target == nullptr) return;
+    QKeyEvent event(type, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &event);
+  }
+}
+
+void Accept() {
+  const bool chooses = QApplication::activePopupWidget() != nullptr ||
+                       qobject_cast<QListWidget*>(QApplication::focusWidget()) != nullptr;
+  Type(chooses ? Qt::Key_Return : Qt::Key_Space);
+}
+
+void OpenMenus() {
+  auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow());
+  if (window == nullptr || window->menuWidget() == nullptr) return;
+  for (QAction* action : window->menuBar()->actions()) {
+    if (!action->isEnabled()) continue;
+    window->menuBar()->setFocus();
+    return window->menuBar()->setActiveAction(action);
+  }
+}
+
+}  // namespace
+
+Pad::Pad(Events& events, std::function<bool()> reaches)
+    : events_(events), reaches_(std::move(reaches)) {
+  QObject::connect(&timer_, &QTimer::timeout, this, [this] { Look(); });
+}
+
+void Pad::Start(std::unique_ptr<PadSource> source) {
+  source_ = std::move(source);
+  timer_.start(SeldomMs);
+}
+
+void Pad::Look() {
+  const auto state = source_->Read();
+  const int pace = state ? OftenMs : SeldomMs;
+  if (timer_.interval() != pace) timer_.start(pace);
+  // What is pressed for another program is not for this one.
+  const bool ours = QApplication::applicationState() == Qt::ApplicationActive;
+  Follow(state && ours ? *state : PadState{});
+}
+
+void Pad::Follow(const PadState& state) {
+  const PadState before = std::exchange(seen_, state);
+  Walk(state);
+  for (size_t i = 0; i < PadButtons; ++i) {
+    if (!state[i]) continue;
+    const bool fresh = !before[i];
+    const bool is_direction = i < walking_.size();
+    const bool again = is_direction && !fresh && !walking_[i] &&
+                       held_.hasExpired(repeats_ ? NextRepeatMs : FirstRepeatMs);
+    if (!fresh && !again) continue;
+    if (is_direction) {
+      held_.start();
+      repeats_ = again;
+    }
+    Press(static_cast<PadButton>(i));
+  }
+}
+
+void Pad::Walk(const PadState& state) {
+  // A release outside the game's window is handed in when keys reach it again.
+  if (!reaches_()) return;
+  for (size_t i = 0; i < walking_.size(); ++i) {
+    if (state[i] || !walking_[i]) continue;
+    walking_[i] = false;
+    events_.Send([i](Program& program) { program.KeyUp(Directions[i]); });
+  }
+}
+
+void Pad::Press(PadButton button) {
+  const auto index = static_cast<size_t>(button);
+  if (index < walking_.size()) {
+    if (!reaches_()) return Type(Arrows[index]);
+    // What was pressed in another window does not start a walk; what walks goes on walking.
+    if (std::exchange(walking_[index], true)) return;
+    return events_.Send([index](Program& program) { program.KeyDown(Directions[index]); });
+  }
+  switch (button) {
+    case PadButton::Accept:
+      return Accept();
+    case PadButton::Back:
+      return Type(Qt::Key_Escape);
+    case PadButton::Menu:
+      return OpenMenus();
+    case PadButton::Previous:
+      return Type(Qt::Key_Backtab);
+    default:
+      return Type(Qt::Key_Tab);
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,11 @@
+// Widgets need an application, if only on a display that is not there.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+int main(int count, char** words) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&count, words);
+  const QApplication application(count, words);
+  return RUN_ALL_TESTS();
+}

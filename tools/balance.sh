@@ -1,5 +1,6 @@
 #!/bin/sh
-# Plays the whole game over many seeds and writes what it was like to docs/balance.md.
+# Plays the whole game over many seeds and writes what it was like to docs/balance.md,
+# whose text is kept in tools/balance_frame.md.
 # usage: tools/balance.sh [SEEDS] [JOBS], from anywhere, after a build; 50 seeds, as many jobs as cores
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -23,4 +24,5 @@ if [ "${failed:-0}" = 1 ]; then
   exit 1
 fi
 ORVANE_READ=$(echo "$work"/*.lua) ORVANE_TABLE="$root/docs/balance.md" \
+  ORVANE_FRAME="$root/tools/balance_frame.md" \
   "$root/build/bin/orvane-script" "$root/tests/play/playthrough.lua"

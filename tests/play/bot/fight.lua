@@ -10,8 +10,8 @@ fight.wiped_out = {}
 -- The state of the party, and of the fight if one stands.
 function fight.look()
   local s = { hp = {}, max_hp = {}, mp = {}, max_mp = {}, attack = {}, defence = {}, spirit = {}, level = {},
-    fainted = {}, waza_known = {}, magic_known = {}, waza_mastered = {}, magic_mastered = {}, items = {},
-    round = get("Round") }
+    fainted = {}, waza_known = {}, magic_known = {}, waza_tried = {}, magic_tried = {}, waza_mastered = {},
+    magic_mastered = {}, items = {}, round = get("Round") }
   for hero = 0, 1 do
     local at = "[" .. hero .. "]"
     s.hp[hero], s.max_hp[hero] = get("HP" .. at), get("MaxHP" .. at)
@@ -24,6 +24,7 @@ function fight.look()
   for n = 1, 10 do
     local at = "[" .. (n - 1) .. "]"
     s.waza_known[n], s.magic_known[n] = get("WazaKnown" .. at) ~= 0, get("MagicKnown" .. at) ~= 0
+    s.waza_tried[n], s.magic_tried[n] = get("WazaUse" .. at) > 0, get("MagicUse" .. at) > 0
     s.waza_mastered[n] = get("WazaUse" .. at) >= rules.master[n]
     s.magic_mastered[n] = get("MagicUse" .. at) >= rules.master[n]
   end

@@ -15,13 +15,16 @@ local books = { [0] = "1,3", "3,4", "3,2", "6,4" }
 -- A round is explored as strength allows: the level wanted before the n-th chest or book. Until
 -- then the party fights beside a recovery point.
 local caution = {
-  { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 7, 7, 7, 8, 8, 9, 9 },
+  { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 6, 7, 7, 7, 8, 9, 10 },
   { 1, 14, 14, 14, 15, 15, 15, 16, 16, 16, 17, 17, 17, 18, 18, 18, 18, 18 },
   { 1, 27, 27, 28, 28, 29, 29, 30, 30, 31, 31, 32, 32, 33, 33, 34, 34, 34, 34 },
 }
 
--- The odds at which a dragon is tried.
-local courage = 0.8
+-- Who has fought so often without anything new looks for the next chest all the same.
+local patience = 7
+
+-- The odds at which the dragon of a round is tried. Nobody knows yet that a fourth follows the third.
+local courage = { 0.25, 0.6, 0.45, 0.5 }
 
 local function level() return math.min(get("Level[0]"), get("Level[1]")) end
 
@@ -65,17 +68,20 @@ end
 -- Goes to the nearest recovery point and stays until whole.
 local function rest(w, log)
   local goal, distance = nearest(w, w.rests)
-  if distance > 12 then
-    -- A long way with little life: a fruit first, where there is one.
+  if distance > 3 then
+    -- A way with little life: fruits and drops first, where there are some.
     for hero = 0, 1 do
       local at = "[" .. hero .. "]"
-      if get("HP" .. at) < 0.3 * get("MaxHP" .. at) then pack.drink(47, hero) end
+      local function low() return get("HP" .. at) < 0.35 * get("MaxHP" .. at) end
+      while low() and (pack.drink(47, hero) or get("Round") > 1 and pack.drink(48, hero)) do end
     end
   end
   log.rests = log.rests + 1
   while weary(0.99) do
     local outcome = walk.to(w, goal, log)
     if outcome == "story" then return end
+    -- A point that has given its strength gives it again to those who leave and come back.
+    if outcome == "there" and weary(0.99) then walk.pace(w, goal, log) end
   end
 end
 
@@ -87,6 +93,7 @@ local function save(state, log)
   if saves.save() then
     state.fights_at_save, state.saved_round = log.ordinary, get("Round")
     log.saves = log.saves + 1
+    log.saved[get("Round")] = true
   end
 end
 
@@ -100,6 +107,7 @@ local function new_day(state, log, opened)
   saves.quit()
   saves.load()
   log:loaded()
+  log.days[round] = true
   return true
 end
 
@@ -124,15 +132,14 @@ local function ready(state)
   if state.guess_key ~= key then
     state.guess_key = key
     state.guess = forecast.odds(s, round - 1, round, 16, true)
-    if round == 3 and state.guess >= courage then state.guess = math.min(state.guess, forecast.odds(s, rules.last, 4, 16, true)) end
   end
-  return state.guess >= courage
+  return state.guess >= courage[round]
 end
 
 -- Whether enough strength is left for the dragon, on the way to it.
 local function strong_enough(round)
   if not weary(0.9) then return true end
-  return forecast.odds(fight.look(), round == 4 and rules.last or round - 1, round, 16) >= courage - 0.1
+  return forecast.odds(fight.look(), round == 4 and rules.last or round - 1, round, 16) >= courage[round] - 0.1
 end
 
 local function face_dragon(w, state, log)
@@ -179,11 +186,12 @@ local function think(state, log)
     if get("ItemCount") >= 20 and not pack.drink(47, 0) then pack.drink(48, 0) end
   end
   local list, opened = closed(w)
-  local training = #list == 0 or level() < (caution[get("Round")][opened + 1] or 1)
+  local wanted = log.since < patience and caution[get("Round")][opened + 1] or 1
+  local training = #list == 0 or level() < wanted
   -- Beside a recovery point there is no reason to go on weakened; far from one, enemies may come
   -- on the way back.
   local climbing = #list == 0 and state.rested_for == get("Round")
-  if not climbing and weary(training and 0.75 or get("Round") == 3 and 0.6 or 0.5) then
+  if not climbing and weary((training or level() < 3) and 0.85 or get("Round") > 1 and 0.75 or 0.6) then
     rest(w, log)
     return
   end
@@ -251,7 +259,7 @@ function journey.play(seed_number, log)
       expect(boxes()[#boxes()].text, "全滅しました。")
       if log.foe.boss then
         local round = math.min(3, log.foe.round)
-        state.wanted[round] = math.min(log.foe.level[0], log.foe.level[1]) + (round == 1 and 1 or 2)
+        state.wanted[round] = math.min(log.foe.level[0], log.foe.level[1]) + (round == 2 and 2 or 1)
       end
       saves.load()
       log:loaded()

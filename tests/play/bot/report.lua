@@ -9,7 +9,8 @@ Log.__index = Log
 function report.new(seed)
   local log = setmetatable({ seed = seed, steps = 0, fights = {}, rounds = {}, bones = 0, fled = 0, dragons = {},
     lost_ordinary = 0, lost_dragon = 0, ordinary = 0, items = { [47] = 0, [48] = 0, [49] = 0 }, waza = {}, magic = {},
-    since = 0, longest = { 0, 0, 0, 0 }, opened = {}, rests = 0, saves = 0, loads = 0, level = { [0] = 1, 1 } }, Log)
+    since = 0, longest = { 0, 0, 0, 0 }, opened = {}, rests = 0, saves = 0, loads = 0,
+    saved = {}, days = {}, level = { [0] = 1, 1 } }, Log)
   for round = 1, 4 do log.fights[round], log.rounds[round] = 0, {} end
   for n = 1, 10 do log.waza[n], log.magic[n] = 0, 0 end
   return log
@@ -203,22 +204,10 @@ function report.table(logs)
   return table.concat(lines, "\n")
 end
 
--- docs/balance.md.
-function report.page(logs)
-  return [[
-# Balance
-
-Made by `tools/balance.sh`: the whole game played from the title to the last card by the bot of
-`tests/play/playthrough.lua`, which uses the same keys, buttons and lists as a player and sets no value.
-It opens every chest, wears the best gear, trains with books, rests when weakened, trains beside
-recovery points until it holds a dragon to be beatable four times in five, and flees from bone dragons
-that are too strong. It knows the numbers of the game, and that a fourth dragon follows the third.
-
-A target is met when it holds for the median (fights, turns of ordinary fights), for the tenth
-to the ninetieth percentile (turns against dragons), or for all journeys together (the rest). Flights
-are not counted as fights.
-
-]] .. report.table(logs) .. "\n"
+-- docs/balance.md: `frame` is its text, with a line {table} where the table comes.
+function report.page(logs, frame)
+  local before, after = frame:match("^(.-){table}(.*)$")
+  return before .. report.table(logs) .. after
 end
 
 -- A value of plain tables, numbers and texts as Lua source.

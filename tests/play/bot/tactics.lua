@@ -3,6 +3,14 @@
 local rules = require "bot.rules"
 local tactics = { her_margin = 1.5, kept = 1 }
 
+-- What a share of all MP is worth against so many enemies, in shares of their life: one or two are
+-- struck down, four are a danger that MP are there for.
+local group_price = { 15, 15, 5, 2.5 }
+local way_price = 20 -- the same on the way to a dragon, when MP are saved
+
+-- The most of all MP that goes into one blow at a dragon. Only the last one is worth any price.
+local dearest_blow = 0.115
+
 -- HP at or below which a hero may well fall before the next command.
 local function peril(s, hero)
   local most = rules.blow(s, hero)
@@ -80,12 +88,11 @@ local function good(s, list, damage)
   return sum
 end
 
--- Against a group: the most good for the least share of MP. MP are spent on the large groups; on
--- the way to a dragon they are saved.
+-- Against a group: the most good for the least share of MP.
 local function against_group(s, hero)
   local best, best_value
   local list = targets(s)
-  local price = s.thrift and 12 or #list <= 2 and 7 or 3
+  local price = s.thrift and way_price or group_price[#list]
   local function consider(choice, struck, damage, mp)
     local value = good(s, struck, damage) - price * mp / s.max_mp[hero]
     -- Strike where others have struck before.
@@ -160,8 +167,10 @@ local function against_one(s, hero, mp, other)
     if rounds * (damage + other) >= s.life[1] then break end
   end
   local best = steps[1]
+  local most = s.boss and s.kind ~= rules.last and s.max_mp[hero] * dearest_blow or math.huge
   for _, step in ipairs(steps) do
-    if step.cost <= s.mp[hero] and step.cost <= dearest.cost and (hero == 0 or step.cost <= math.max(0, mp)) then best = step end
+    local there = math.min(most, s.mp[hero], dearest.cost)
+    if step.cost <= there and (hero == 0 or step.cost <= math.max(0, mp)) then best = step end
   end
   -- The last blow is not dearer than it need be.
   for _, step in ipairs(steps) do
@@ -207,8 +216,21 @@ local function ends(s, hero, choice)
   return true
 end
 
+-- A skill that has never been used is tried out on the next group that nobody is in danger from.
+local function new_skill(s, hero)
+  if s.thrift or in_peril(s, 0) or in_peril(s, 1) then return nil end
+  for n = 1, 10 do
+    if hero == 0 and s.waza_known[n] and not s.waza_tried[n] and s.mp[0] >= rules.waza_mp[n] then
+      return { act = "waza", n = n, slot = targets(s)[1] }
+    end
+    if hero == 1 and n ~= 3 and n ~= 8 and s.magic_known[n] and not s.magic_tried[n] and s.mp[1] >= rules.magic_mp[n] then
+      return { act = "magic", n = n, slot = targets(s)[1] }
+    end
+  end
+end
+
 local function strike(s, hero)
-  if not s.big then return against_group(s, hero) end
+  if not s.big then return new_skill(s, hero) or against_group(s, hero) end
   return (against_one(s, hero, to_spend(s, hero), share(s, 1 - hero)))
 end
 

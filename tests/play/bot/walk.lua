@@ -52,6 +52,15 @@ function walk.settle(log)
   end
 end
 
+-- Who has just come over a border to the left or right and would turn back stands too near to it
+-- to be let over: one step further in, and the border lets them.
+local function inwards(direction)
+  local x = get("HeroX")
+  if direction == 3 and x <= 17 then return 4 end
+  if direction == 4 and x >= 463 then return 3 end
+  return direction
+end
+
 -- Walks along the field to `goal`, until there or until something happens. Returns "there",
 -- "fight", "message", or "story" when a scene has begun.
 function walk.to(w, goal, log, cells)
@@ -72,7 +81,7 @@ function walk.to(w, goal, log, cells)
       tick("Main.Timer1")
       return walk.settle(log) or "there"
     end
-    hold(direction)
+    hold(inwards(direction))
     tick("Main.Timer1")
     log:step()
   end

@@ -2,9 +2,8 @@
 #   kept    the folder of the kept pictures of this scale
 #   update  "yes" to keep new ones instead of comparing
 
-# How far a channel may be off, for the palette of the kept picture, and how many pixels may differ
-# more than that: a text cursor, no more.
-fuzz=8%
+# How far a channel may be off, and how many pixels may differ more than that: a text cursor, no more.
+fuzz=2%
 spare=$((16 * scale * scale))
 
 # The inside of a window, by its title or its number.
@@ -37,7 +36,7 @@ keep() {
     xdotool mousemove "$((screen_width - 1))" "$((screen_height - 1))"
     sleep 0.5
     picture "$2" "$shots/$1.png" || fail "no picture of $1"
-    convert "$shots/$1.png" +dither -colors 255 "PNG8:$kept/$1.png"
+    convert "$shots/$1.png" -strip -define png:compression-level=9 "PNG24:$kept/$1.png"
     return
   fi
   [ -f "$kept/$1.png" ] || fail "no picture is kept of $1; renew them with --update"

@@ -37,7 +37,7 @@ closes() { wait_for 5 "the end of $1" lacks_window "$1"; }
 # answer TITLE KEY: a message box comes and is answered.
 answer() {
   opens "$1"
-  [ -n "${3:-}" ] && shot "$3"
+  [ -n "${3:-}" ] && keep "$3" "$1"
   xdotool key "$2"
   closes "$1"
 }
@@ -54,11 +54,11 @@ load_broken_file() {
   menu $file_menu 1 01-file-menu
   opens ファイルのロード
   click ファイルのロード 190 68
-  answer 警告 Return 02-nothing-chosen
+  answer 警告 Return nothing-chosen
   # The list shows four rows; the keys go to the last but one, which Enter then chooses.
   click ファイルのロード 40 42
   sleep 0.2
-  shot 03-load
+  keep load ファイルのロード
   xdotool key --delay 30 End Up Return
   sleep 0.2
   shot 04-broken
@@ -76,7 +76,7 @@ load_row() {
 
 load_party() {
   load_row 0
-  shot 05-field
+  keep field Orvane
 }
 
 use_equipment() {
@@ -89,7 +89,7 @@ use_equipment() {
   click 装備 60 $((56 + 3 * 12))
   click 装備 212 64
   sleep 0.2
-  shot 08-his-things
+  keep his-things 装備
   click 装備 388 19
   sleep 0.2
   click 装備 60 $((56 + 2 * 12))
@@ -97,7 +97,7 @@ use_equipment() {
   click 装備 60 $((56 + 4 * 12))
   click 装備 212 64
   sleep 0.2
-  shot 09-her-things
+  keep her-things 装備
   click 装備 212 204
   closes 装備
 }
@@ -109,19 +109,19 @@ use_items() {
   # The coin goes, at the second thought.
   click アイテム 60 40
   click アイテム 212 96
-  answer アイテム削除 Escape 11-discard
+  answer アイテム削除 Escape discard
   click アイテム 212 96
   answer アイテム削除 Return
   click アイテム 212 136
   sleep 0.2
-  shot 12-tidy
+  keep tidy アイテム
   # The fruit goes to him. The coin was the last; the list stands in the order of numbers now.
   click アイテム 60 $((40 + 6 * 12))
   sleep 0.2
   click アイテム 212 56
   opens アイテムの使用
   closes アイテム
-  shot 13-use
+  keep use アイテムの使用
   click アイテムの使用 48 164
   closes アイテムの使用
   wait_for 5 "the field" has_focus Orvane
@@ -135,10 +135,10 @@ use_items() {
 see_heroes() {
   menu $info_menu 1 15-info-menu
   opens キャラデータ
-  shot 16-him
+  keep him キャラデータ
   click キャラデータ 300 10
   sleep 0.2
-  shot 17-her
+  keep her キャラデータ
   click キャラデータ 192 412
   closes キャラデータ
 }
@@ -154,7 +154,7 @@ change_settings() {
   click 環境設定 48 176
   xdotool key Home
   sleep 0.2
-  shot 19-settings-changed
+  keep settings-changed 環境設定
   click 環境設定 336 32
   closes 環境設定
 }
@@ -162,7 +162,7 @@ change_settings() {
 see_version() {
   menu $info_menu 3
   opens バージョン情報
-  shot 20-version
+  keep version バージョン情報
   click バージョン情報 134 115
   closes バージョン情報
 }
@@ -180,9 +180,9 @@ save_party() {
   click ファイルのセーブ 190 68
   answer 警告 Return
   click ファイルのセーブ 40 $((40 + 2 * 12))
-  shot 21-save
+  keep save ファイルのセーブ
   click ファイルのセーブ 190 68
-  answer ゲームのセーブ Escape 22-sure
+  answer ゲームのセーブ Escape sure
   click ファイルのセーブ 190 68
   answer ゲームのセーブ Return
   closes ファイルのセーブ
@@ -190,10 +190,10 @@ save_party() {
   wrote 82 19 "his level"
   wrote 88 521 "his HP after the fruit"
   wrote 450 8 "the number of things"
-  wrote 112 15 "his sword"
+  wrote 112 18 "his sword"
   wrote 114 14 "her staff"
-  wrote 118 12 "his armour"
-  wrote 120 13 "her armour"
+  wrote 118 34 "his armour"
+  wrote 120 35 "her armour"
   [ "$(bytes Save03.sav 58 4)" = 476f7520 ] || fail "his new name is not saved"
 }
 
@@ -205,7 +205,7 @@ load_before_dragon() {
   menu $file_menu 1
   opens ファイルのロード
   load_row 1
-  shot 23-before-dragon
+  keep before-dragon Orvane
 }
 
 # The scene, the buttons and the pages of a battle do not move any more.
@@ -244,10 +244,10 @@ strike() { command 48 328 1; }
 # moment, and she a spell on it; then both use a thing.
 fight_with_everything() {
   meet_dragon
-  shot 24-dragon
+  keep dragon "BATTLE !"
   click "BATTLE !" 48 360
   sleep 0.3
-  shot 25-techniques
+  keep techniques "BATTLE !"
   row 5
   sleep 0.3
   shot 26-targets
@@ -308,12 +308,12 @@ hear_story() {
     sleep 0.1
   done
   wait_for 5 "the party at rest" is_still
-  shot 34-last-stage
+  keep last-stage Orvane
 }
 
 fight_last_dragon() {
   meet_dragon
-  shot 35-last-dragon
+  keep last-dragon "BATTLE !"
   strike
   wait_for_command "a blow"
   strike
@@ -342,7 +342,7 @@ see_ending() {
   shot 37-credits
   if [ "$scale" = 1 ]; then
     wait_for 120 "the last card" last_card_stands
-    shot 38-last-card
+    keep last-card ENDING
     click ENDING 200 100
   else
     xdotool key alt+F4

@@ -1,9 +1,13 @@
 #!/bin/bash
 # Opens every screen of the real program in a real window, uses it once and closes it; the effect is
-# read from the files that the game saves.
-#   screens.sh PROGRAM SCREENSHOTS SCRIPT_PLAYER [SCALE]
-# Screenshots and needs as in run.sh. At scale 1 the credits run to their last card.
+# read from the files that the game saves, and what it looks like is held against kept pictures.
+#   screens.sh [--update] PROGRAM SCREENSHOTS SCRIPT_PLAYER [SCALE]
+# With --update the kept pictures are made anew, which the build target orvane-keep-looks does for
+# both scales. Screenshots and needs as in run.sh. At scale 1 the credits run to their last card.
 set -u
+
+update=no
+[ "${1:-}" = --update ] && update=yes && shift
 
 program=$(realpath "$1")
 shots=$2
@@ -13,8 +17,12 @@ here=$(dirname "$(realpath "$0")")
 mkdir -p "$shots"
 shots=$(realpath "$shots")
 log=$shots/game.log
+kept=$here/shots/${scale}x
+mkdir -p "$kept"
+wrong=0
+screen_width=$((640 * scale)) screen_height=$((560 * scale))
 
-for tool in Xvfb openbox xdotool xprop xwininfo import cksum; do
+for tool in Xvfb openbox xdotool xprop xwininfo import compare cksum fc-match; do
   command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
 done
 
@@ -22,10 +30,13 @@ done
 . "$here/x_session.sh"
 # shellcheck source=tests/desktop/steps.sh
 . "$here/steps.sh"
+# shellcheck source=tests/desktop/pictures.sh
+. "$here/pictures.sh"
 # shellcheck source=tests/desktop/screen_steps.sh
 . "$here/screen_steps.sh"
 
-open_display $((640 * scale))x$((560 * scale))
+check_fonts
+open_display "${screen_width}x$screen_height"
 make_folder
 start_game --scale "$scale" --seed 5 --folder "$folder"
 see_title
@@ -42,4 +53,5 @@ fight_with_everything
 hear_story
 fight_last_dragon
 see_ending
+[ "$wrong" = 0 ] || { echo "desktop test: $wrong pictures differ" >&2; exit 1; }
 echo "desktop test: every screen opened, used and closed at scale $scale"

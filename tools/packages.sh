@@ -4,7 +4,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-d
   libfluidsynth-dev libpng-dev libgl-dev)
 play_packages=(fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
-  binutils xvfb openbox xdotool x11-utils imagemagick clang-format-14)
+  binutils xvfb openbox xdotool x11-utils fontconfig imagemagick clang-format-14)
 thorough_packages=(clang-14 clang-tidy-14 libclang-rt-14-dev)
 
 # Installs what is missing of the packages named, as root or by sudo, and says so. Asks the network for

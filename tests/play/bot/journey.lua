@@ -24,7 +24,7 @@ local caution = {
 local patience = 7
 
 -- The odds at which the dragon of a round is tried. Nobody knows yet that a fourth follows the third.
-local courage = { 0.25, 0.6, 0.45, 0.5 }
+local courage = { 0.15, 0.6, 0.45, 0.5 }
 
 local function level() return math.min(get("Level[0]"), get("Level[1]")) end
 

@@ -9,7 +9,7 @@ local group_price = { 15, 15, 5, 2.5 }
 local way_price = 20 -- the same on the way to a dragon, when MP are saved
 
 -- The most of all MP that goes into one blow at a dragon. Only the last one is worth any price.
-local dearest_blow = 0.115
+local dearest_blow = 0.122
 
 -- HP at or below which a hero may well fall before the next command.
 local function peril(s, hero)

@@ -8,6 +8,7 @@
 
 #include "src/frontend/desktop/events.h"
 #include "src/frontend/desktop/fonts.h"
+#include "src/frontend/desktop/keyboard.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -26,6 +27,8 @@ class Button : public QPushButton {
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // The window knows what lies next to a button.
+    if (ArrowKey(event->key())) return event->ignore();
     if (!enter) return QPushButton::keyPressEvent(event);
     if (!event->isAutoRepeat()) click();
   }

@@ -2,16 +2,35 @@
 
 #include <xcb/xcb.h>
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QMenuBar>
 #include <cstdlib>
 #include <memory>
 
 namespace orvane {
 
-std::optional<bool> IsKeyDown(uint32_t native_code) {
-  constexpr uint32_t codes = 256;
+std::optional<Key> ArrowKey(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return Key::Left;
+    case Qt::Key_Up:
+      return Key::Up;
+    case Qt::Key_Right:
+      return Key::Right;
+    case Qt::Key_Down:
+      return Key::Down;
+    default:
+      return std::nullopt;
+  }
+}
+
+bool MenuBarHasKeys() {
+  return qobject_cast<const QMenuBar*>(QApplication::focusWidget()) != nullptr;
+}
+
+std::optional<KeyCodes> AskKeyboard() {
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr || native_code >= codes) return std::nullopt;
+  if (x11 == nullptr) return std::nullopt;
   xcb_connection_t* connection = x11->connection();
   struct Free {
     void operator()(xcb_query_keymap_reply_t* reply) const { std::free(reply); }
@@ -19,7 +38,11 @@ std::optional<bool> IsKeyDown(uint32_t native_code) {
   const std::unique_ptr<xcb_query_keymap_reply_t, Free> reply(
       xcb_query_keymap_reply(connection, xcb_query_keymap(connection), nullptr));
   if (reply == nullptr) return std::nullopt;
-  return (reply->keys[native_code / 8] >> (native_code % 8) & 1) != 0;
+  KeyCodes down;
+  for (size_t code = 0; code < down.size(); ++code) {
+    down[code] = (reply->keys[code / 8] >> (code % 8) & 1) != 0;
+  }
+  return down;
 }
 
 }  // namespace orvane

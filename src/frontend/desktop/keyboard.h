@@ -1,13 +1,24 @@
-// What the window system knows of the keyboard.
+// What the toolkit and the window system know of the keyboard.
 #pragma once
 
-#include <cstdint>
+#include <bitset>
 #include <optional>
+
+#include "src/game/program.h"
 
 namespace orvane {
 
-// Whether a key is held down at this moment, whoever has the keyboard; `native_code` is the number
-// that key events carry. Nothing where the window system does not tell.
-std::optional<bool> IsKeyDown(uint32_t native_code);
+// The arrow key of a toolkit's key code.
+std::optional<Key> ArrowKey(int key);
+
+// Whether the menu bar has the keyboard, though no menu is open.
+bool MenuBarHasKeys();
+
+// One bit for each key, by the number that key events carry.
+using KeyCodes = std::bitset<256>;
+
+// The keys that are held down at this moment, whoever has the keyboard. Nothing where the window
+// system does not tell.
+std::optional<KeyCodes> AskKeyboard();
 
 }  // namespace orvane

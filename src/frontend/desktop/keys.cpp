@@ -1,7 +1,8 @@
 #include "src/frontend/desktop/keys.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMetaObject>
 #include <algorithm>
 #include <optional>
@@ -13,28 +14,32 @@
 namespace orvane {
 namespace {
 
-std::optional<Key> ArrowKey(int key) {
+// Keys that press, choose, open or close something.
+bool ActsAtOnce(int key) {
   switch (key) {
-    case Qt::Key_Left:
-      return Key::Left;
-    case Qt::Key_Up:
-      return Key::Up;
-    case Qt::Key_Right:
-      return Key::Right;
-    case Qt::Key_Down:
-      return Key::Down;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Select:
+    case Qt::Key_Escape:
+    case Qt::Key_F10:
+      return true;
     default:
-      return std::nullopt;
+      return false;
   }
+}
+
+bool IsTyping() {
+  return qobject_cast<const QLineEdit*>(QApplication::focusWidget()) != nullptr;
 }
 
 }  // namespace
 
 Keys::Keys(Events& events, std::function<bool()> reaches)
-    : events_(events), reaches_(std::move(reaches)) {
+    : events_(events), reaches_(std::move(reaches)), held_(&AskKeyboard) {
   // Where the arrows usually are on X11, until one has been pressed.
   constexpr std::array<uint32_t, 4> usual_codes = {113, 111, 114, 116};
-  for (size_t i = 0; i < keys_.size(); ++i) keys_[i].NativeCode = usual_codes[i];
+  for (size_t i = 0; i < keys_.size(); ++i) keys_[i].Code = usual_codes[i];
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -44,13 +49,14 @@ bool Keys::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease: {
       // Each key comes to its window first and then goes on to the control that has the focus.
       if (!watched->isWindowType()) break;
-      return TakeKey(*static_cast<const QKeyEvent*>(event));
+      return TakeKey(*static_cast<const QKeyEvent*>(event), *watched);
     }
     case QEvent::ApplicationDeactivate:
-      ForgetKeys();
+      held_.Forget();
       break;
     case QEvent::WindowActivate:
-      LookAtKeys();
+      // What another program got was not seen here, so the keyboard itself is asked.
+      held_.Look();
       [[fallthrough]];
     case QEvent::Hide:
       // A menu or another window has gone, or the keyboard is back.
@@ -62,50 +68,36 @@ bool Keys::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-bool Keys::TakeKey(const QKeyEvent& event) {
-  const auto key = ArrowKey(event.key());
-  if (!key) return false;
-  KeyState& state = keys_[static_cast<size_t>(*key)];
-  const bool press = event.type() == QEvent::KeyPress;
-  // A repeat comes as a release and a press, and the toolkit does not always see that they belong
-  // together; but the key is still down then.
-  const bool repeat = event.isAutoRepeat() ||
-                      (press ? state.Down : IsKeyDown(event.nativeScanCode()).value_or(false));
-  // What was pressed to walk goes on repeating when a battle comes, and must not move anything
-  // there.
-  if (repeat) return state.Held && !reaches_();
-  if (press) {
-    Press(*key, event.nativeScanCode());
+bool Keys::TakeKey(const QKeyEvent& event, const QObject& window) {
+  const HeldKeys::Stroke stroke = held_.Take(event, window);
+  const auto arrow = ArrowKey(event.key());
+  if (stroke.Repeats) {
+    if (stroke.IsStray) return true;
+    // What was pressed to walk must not move anything in a menu.
+    if (arrow) return keys_[static_cast<size_t>(*arrow)].Held && !reaches_();
+    return ActsAtOnce(event.key()) && !IsTyping();
+  }
+  if (!arrow) return false;
+  KeyState& state = keys_[static_cast<size_t>(*arrow)];
+  state.Code = event.nativeScanCode();
+  if (event.type() == QEvent::KeyPress) {
+    Walk(state, *arrow);
   } else {
-    Release(*key);
+    Halt(state, *arrow);
   }
   return false;
 }
 
-void Keys::Press(Key key, uint32_t native_code) {
-  KeyState& state = keys_[static_cast<size_t>(key)];
-  state.Down = true;
-  state.NativeCode = native_code;
-  if (!reaches_()) return;
+void Keys::Walk(KeyState& state, Key key) {
+  if (!reaches_() || MenuBarHasKeys()) return;
   state.Held = true;
   events_.Send([key](Program& program) { program.KeyDown(key); });
 }
 
-void Keys::Release(Key key) {
-  KeyState& state = keys_[static_cast<size_t>(key)];
-  state.Down = false;
+void Keys::Halt(KeyState& state, Key key) {
   if (!reaches_()) return;
   state.Held = false;
   events_.Send([key](Program& program) { program.KeyUp(key); });
-}
-
-void Keys::ForgetKeys() {
-  for (KeyState& state : keys_) state.Down = false;
-}
-
-void Keys::LookAtKeys() {
-  // What another program got was not seen here, so the keyboard itself is asked.
-  for (KeyState& state : keys_) state.Down = IsKeyDown(state.NativeCode).value_or(state.Down);
 }
 
 void Keys::SettleLater() {
@@ -123,11 +115,9 @@ void Keys::SettleLater() {
 }
 
 void Keys::Settle() {
-  LookAtKeys();
+  held_.Look();
   for (size_t i = 0; i < keys_.size(); ++i) {
-    if (!keys_[i].Held || keys_[i].Down) continue;
-    if (!reaches_()) return;
-    Release(static_cast<Key>(i));
+    if (keys_[i].Held && !held_.IsDown(keys_[i].Code)) Halt(keys_[i], static_cast<Key>(i));
   }
 }
 

@@ -1,4 +1,4 @@
-// The arrow keys, from the keyboard to the party's walk.
+// The keys: the party's walk, and what must not act by accident.
 #pragma once
 
 #include <QObject>
@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "src/frontend/desktop/held_keys.h"
 #include "src/game/program.h"
 
 class QKeyEvent;
@@ -14,9 +15,11 @@ namespace orvane {
 
 class Events;
 
-// Watches the arrow keys of the whole application. A press goes to the game only while the game's
-// window has the keyboard; a release that went elsewhere (a box, another window, another program)
-// is handed in when the window has the keyboard again, so that nobody walks on by himself.
+// Watches the keys of the whole application. The arrow keys walk: a press goes to the game only
+// while the game's window has the keyboard; a release that went elsewhere (a box, another window,
+// another program) is handed in when the window has the keyboard again, so that nobody walks on by
+// himself. A key that goes on repeating after its press has brought another window does nothing
+// there, and no key that presses or closes something does so by repeating.
 class Keys : public QObject {
  public:
   // `reaches` tells whether keys reach the game's window now.
@@ -31,22 +34,20 @@ class Keys : public QObject {
 
  private:
   struct KeyState {
-    bool Held = false;        // the game has its press and waits for its release
-    bool Down = false;        // as far as the application's own windows have seen
-    uint32_t NativeCode = 0;  // the key as the window system numbers it
+    bool Held = false;  // the game has its press and waits for its release
+    uint32_t Code = 0;  // the key as the window system numbers it
   };
 
   // Whether the event must go no further.
-  bool TakeKey(const QKeyEvent& event);
-  void Press(Key key, uint32_t native_code);
-  void Release(Key key);
+  bool TakeKey(const QKeyEvent& event, const QObject& window);
+  void Walk(KeyState& state, Key key);
+  void Halt(KeyState& state, Key key);
   void Settle();
   void SettleLater();
-  void ForgetKeys();
-  void LookAtKeys();
 
   Events& events_;
   std::function<bool()> reaches_;
+  HeldKeys held_;
   std::array<KeyState, 4> keys_;
   bool reached_ = false;  // when last looked at
   bool settling_later_ = false;

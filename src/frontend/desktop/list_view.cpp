@@ -47,11 +47,22 @@ class ListWidget : public QListWidget {
     const bool none = !currentIndex().isValid();
     QListWidget::focusInEvent(event);
     if (none) Select(-1);
+    update();  // the frame shows where the keys go
+  }
+
+  void focusOutEvent(QFocusEvent* event) override {
+    QListWidget::focusOutEvent(event);
+    update();
   }
 
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter) return QListWidget::keyPressEvent(event);
+    if (!enter) {
+      QListWidget::keyPressEvent(event);
+      // At its end a list keeps the keys that go along it.
+      if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) event->accept();
+      return;
+    }
     if (!event->isAutoRepeat()) Choose(currentRow());
   }
 

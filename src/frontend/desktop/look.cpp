@@ -1,15 +1,31 @@
 #include "src/frontend/desktop/look.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
+#include <optional>
 
 #include "src/frontend/desktop/fonts.h"
 
 namespace orvane {
 namespace {
+
+// A copy of an option, for a widget that has the keyboard: what has it shows it from the start, not
+// only once a key has been used.
+template <class Option>
+std::optional<Option> Marked(const QStyleOption* option) {
+  if (option == nullptr || (option->state & QStyle::State_HasFocus) == 0) return std::nullopt;
+  const auto* known = qstyleoption_cast<const Option*>(option);
+  if (known == nullptr) return std::nullopt;
+  Option copy(*known);
+  copy.state |= QStyle::State_KeyboardFocusChange;
+  return copy;
+}
 
 class CalmStyle : public QProxyStyle {
  public:
@@ -26,6 +42,42 @@ class CalmStyle : public QProxyStyle {
       default:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
+  }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (const auto mark = Marked<QStyleOptionFocusRect>(option)) {
+      QProxyStyle::drawPrimitive(element, &*mark, painter, widget);
+    } else if (const auto button = Marked<QStyleOptionButton>(option)) {
+      QProxyStyle::drawPrimitive(element, &*button, painter, widget);
+    } else {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    const auto slider = Marked<QStyleOptionSlider>(option);
+    QProxyStyle::drawComplexControl(control, slider ? &*slider : option, painter, widget);
+  }
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (!LacksMark(element, *option, widget)) return;
+    painter->setPen(option->palette.color(QPalette::Highlight));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  }
+
+ private:
+  // A list that has the keyboard may have no row to show it by, and a menu bar no open menu.
+  static bool LacksMark(ControlElement element, const QStyleOption& option, const QWidget* widget) {
+    if (element == CE_ShapedFrame) {
+      return (option.state & State_HasFocus) != 0 &&
+             qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+    }
+    return element == CE_MenuBarItem && (option.state & State_Selected) != 0 && widget != nullptr &&
+           widget->hasFocus();
   }
 };
 

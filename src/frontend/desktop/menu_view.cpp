@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-MenuView::MenuView(Screen& screen, QMenuBar& bar, Events& events) {
+MenuView::MenuView(Screen& screen, QMenuBar& bar, Events& events) : bar_(bar) {
   for (Control* control : screen.Controls()) {
     if (control->Kind() != ControlKind::Menu) continue;
     auto& item = static_cast<MenuItem&>(*control);
@@ -46,6 +46,12 @@ void MenuView::Follow() {
     entry.Action->setEnabled(entry.Model->Enabled);
     entry.Action->setVisible(entry.Model->Visible);
     if (!entry.Model->IsSeparator()) entry.Action->setText(ToQtCaption(entry.Model->Caption));
+  }
+}
+
+void MenuView::Open() const {
+  for (QAction* menu : bar_.actions()) {
+    if (menu->isEnabled() && menu->isVisible()) return bar_.setActiveAction(menu);
   }
 }
 

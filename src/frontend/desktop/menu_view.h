@@ -19,6 +19,9 @@ class MenuView {
 
   void Follow();
 
+  // Opens the first menu that can be opened.
+  void Open() const;
+
  private:
   struct Entry {
     MenuItem* Model;
@@ -28,6 +31,7 @@ class MenuView {
   void AddTop(MenuItem& item, QMenuBar& bar, Events& events);
   void AddItem(MenuItem& item, Events& events);
 
+  QMenuBar& bar_;
   std::vector<Entry> entries_;
 };
 

@@ -3,11 +3,11 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <utility>
 
 #include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/keyboard.h"
+#include "src/frontend/desktop/screen_window.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -44,13 +44,8 @@ void Accept() {
 }
 
 void OpenMenus() {
-  auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow());
-  if (window == nullptr || window->menuWidget() == nullptr) return;
-  for (QAction* action : window->menuBar()->actions()) {
-    if (!action->isEnabled()) continue;
-    window->menuBar()->setFocus();
-    return window->menuBar()->setActiveAction(action);
-  }
+  const auto* window = dynamic_cast<const ScreenWindow*>(QApplication::activeWindow());
+  if (window != nullptr && window->Menu() != nullptr) window->Menu()->Open();
 }
 
 }  // namespace
@@ -105,7 +100,7 @@ void Pad::Walk(const PadState& state) {
 void Pad::Press(PadButton button) {
   const auto index = static_cast<size_t>(button);
   if (index < walking_.size()) {
-    if (!reaches_()) return Type(Arrows[index]);
+    if (!reaches_() || MenuBarHasKeys()) return Type(Arrows[index]);
     // What was pressed in another window does not start a walk; what walks goes on walking.
     if (std::exchange(walking_[index], true)) return;
     return events_.Send([index](Program& program) { program.KeyDown(Directions[index]); });

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
@@ -11,6 +12,7 @@
 #include <map>
 
 #include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/keyboard.h"
 #include "src/frontend/desktop/view_factory.h"
 #include "src/game/program.h"
 
@@ -76,6 +78,7 @@ void ScreenWindow::MakeViews() {
     if (view->Model().Kind() == ControlKind::Label) view->Widget()->lower();
   };
   std::for_each(views_.rbegin(), views_.rend(), lower_if_text);
+  keys_to_ = std::make_unique<Focus>(*this, views_);
 }
 
 void ScreenWindow::FollowTitle() {
@@ -87,10 +90,9 @@ void ScreenWindow::Follow() {
   FollowTitle();
   if (menu_ != nullptr) menu_->Follow();
   client_->Follow(false);
-  const QWidget* before = focusWidget();
+  QWidget* before = focusWidget();
   for (const auto& view : views_) view->Follow();
-  // Keys go on to what has come in place of the control that had them.
-  if (before != nullptr && !(before->isVisible() && before->isEnabled())) FocusFirst();
+  keys_to_->Follow(before);
 }
 
 void ScreenWindow::FollowAll() {
@@ -105,7 +107,7 @@ void ScreenWindow::Present(ScreenWindow* over, QWindow* backdrop) {
   FollowAll();
   owner_ = over;
   Open(backdrop);
-  FocusFirst();
+  keys_to_->Begin();
 }
 
 void ScreenWindow::Dismiss() {
@@ -166,25 +168,25 @@ Span ScreenWindow::TakenSpan(bool full_screen) const {
   return {{double(screen_.Width), double(screen_.Height + menu)}, covers ? 0 : TitleHeight};
 }
 
-void ScreenWindow::FocusFirst() {
-  const auto takes_keys = [](const QWidget& widget) {
-    return widget.focusPolicy() != Qt::NoFocus && widget.isVisible() && widget.isEnabled();
-  };
-  // Lists and fields are there to be answered; otherwise keys go to the first that takes them.
-  QWidget* first = nullptr;
-  for (const auto& view : views_) {
-    if (!takes_keys(*view->Widget())) continue;
-    const ControlKind kind = view->Model().Kind();
-    if (kind == ControlKind::Field || kind == ControlKind::List) return view->Widget()->setFocus();
-    if (first == nullptr) first = view->Widget();
-  }
-  if (first != nullptr) first->setFocus();
-}
-
 void ScreenWindow::closeEvent(QCloseEvent* event) {
   // The game decides whether the window goes.
   event->ignore();
   events_.Send([this](Program& program) { program.Close(screen_); });
+}
+
+void ScreenWindow::keyPressEvent(QKeyEvent* event) {
+  const bool control = (event->modifiers() & Qt::ControlModifier) != 0;
+  if (const auto arrow = ArrowKey(event->key())) {
+    keys_to_->Move(*arrow);
+  } else if (event->key() == Qt::Key_F10 && menu_ != nullptr) {
+    menu_->Open();
+  } else if (event->key() == Qt::Key_Tab && control) {
+    keys_to_->TurnTab(1);
+  } else if (event->key() == Qt::Key_Backtab && control) {
+    keys_to_->TurnTab(-1);
+  } else {
+    QMainWindow::keyPressEvent(event);
+  }
 }
 
 }  // namespace orvane

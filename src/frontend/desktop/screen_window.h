@@ -9,6 +9,7 @@
 
 #include "src/frontend/desktop/client_area.h"
 #include "src/frontend/desktop/control_view.h"
+#include "src/frontend/desktop/focus.h"
 #include "src/frontend/desktop/menu_view.h"
 #include "src/frontend/desktop/scale.h"
 
@@ -19,6 +20,9 @@ class ScreenWindow : public QMainWindow {
   ScreenWindow(Screen& screen, Events& events);
 
   Screen& Model() const { return screen_; }
+  // Null where the screen has no menus.
+  const MenuView* Menu() const { return menu_.get(); }
+  const Focus& KeysTo() const { return *keys_to_; }
 
   // Brings the window's title, menus and controls up to date.
   void Follow();
@@ -39,6 +43,8 @@ class ScreenWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  // Keys that the control which has the keyboard has no use for.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void MakeViews();
@@ -47,13 +53,13 @@ class ScreenWindow : public QMainWindow {
   void Open(QWindow* backdrop);
   void Tie(QWindow* backdrop);
   void PutInPlace();
-  void FocusFirst();
 
   Screen& screen_;
   Events& events_;
   ClientArea* client_;
   std::unique_ptr<MenuView> menu_;
   std::vector<std::unique_ptr<ControlView>> views_;
+  std::unique_ptr<Focus> keys_to_;
   QPointer<ScreenWindow> owner_;   // the window that this one was opened over
   QPointer<QWidget> focus_;        // had the keyboard when the window was taken down
   std::optional<QPointF> centre_;  // of the window, in the screen's own pixels, once it has a place

@@ -58,6 +58,22 @@ QWidget* TabsView::Ground(int pane) const {
   return index < panes_.size() ? panes_[index] : Widget();
 }
 
+bool TabsView::HasUseForKeys() const {
+  for (int tab = 0; tab < bar_->count(); ++tab) {
+    if (bar_->isTabEnabled(tab)) return true;
+  }
+  return false;
+}
+
+void TabsView::Turn(int step) const {
+  const int count = bar_->count();
+  int tab = bar_->currentIndex();
+  for (int tries = 1; tries < count; ++tries) {
+    tab = (tab + step + count) % count;
+    if (bar_->isTabEnabled(tab)) return bar_->setCurrentIndex(tab);
+  }
+}
+
 void TabsView::FollowValues(bool /*all*/) {
   const QSignalBlocker quiet(bar_);
   for (int tab = 0; tab < bar_->count(); ++tab) {

@@ -15,6 +15,11 @@ class TabsView : public ControlView {
   TabsView(TabStrip& model, QWidget* parent, Events& events);
 
   QWidget* Ground(int pane) const override;
+  QWidget* KeyTarget() const override { return bar_; }
+  bool HasUseForKeys() const override;
+
+  // Opens the next tab that is enabled, round and round; the one before with -1.
+  void Turn(int step) const;
 
  protected:
   void FollowValues(bool all) override;

@@ -9,47 +9,21 @@
 #include <QSlider>
 #include <QTabBar>
 
-#include "src/frontend/desktop/events.h"
 #include "src/frontend/desktop/spoken_names.h"
 #include "src/frontend/desktop/windows.h"
 #include "src/game/program.h"
+#include "tests/unit/desktop/quiet_services.h"
 
 namespace orvane {
 namespace {
 
-class NoSound : public SoundDevice {
- public:
-  std::string Send(const std::string& /*command*/) override { return {}; }
-};
-class NoChance : public Chance {
- public:
-  float Draw() override { return 0; }
-  void Reseed() override {}
-};
-class NoBoxes : public BoxKeeper {
- public:
-  BoxAnswer Show(const Box& /*box*/) override { return BoxAnswer::Cancel; }
-  void ShowError(const Box& box) override { ADD_FAILURE() << box.Text; }
-};
-class NoSleep : public Sleeper {
- public:
-  void Sleep(int /*milliseconds*/) override {}
-};
-class NoEvents : public Events {
- public:
-  void Send(const std::function<void(Program&)>& /*event*/) override {}
-};
-
 class SpokenTest : public testing::Test {
  protected:
   SpokenTest()
-      : program_(ORVANE_GAME_FOLDER, {sound_, chance_, boxes_, sleep_}),
+      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})) {}
 
-  NoSound sound_;
-  NoChance chance_;
-  NoBoxes boxes_;
-  NoSleep sleep_;
+  QuietServices quiet_;
   NoEvents events_;
   Program program_;
   Windows windows_;

@@ -1,0 +1,185 @@
+// Where the keyboard is on every screen, and where it goes.
+#include "src/frontend/desktop/focus.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QTabBar>
+
+#include "src/battle/battle_screen.h"
+#include "src/frontend/desktop/windows.h"
+#include "src/game/program.h"
+#include "tests/unit/desktop/quiet_services.h"
+
+namespace orvane {
+namespace {
+
+class FocusTest : public testing::Test {
+ protected:
+  FocusTest()
+      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
+        events_(program_),
+        windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})) {}
+
+  ScreenWindow& Open(const std::string& name) {
+    Screen& screen = *program_.TheStage().Find(name);
+    program_.Enter([&] { program_.TheStage().Show(screen); });
+    windows_.Follow();
+    QApplication::processEvents();
+    return *windows_.Of(&screen);
+  }
+
+  void Type(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QWidget* target = QApplication::focusWidget();
+      ASSERT_NE(target, nullptr);
+      QKeyEvent event(type, key, modifiers);
+      QApplication::sendEvent(target, &event);
+    }
+    windows_.Follow();
+  }
+
+  // The name of the control that has the keyboard; a tab bar goes by that of its control.
+  static std::string At(const ScreenWindow& window) {
+    const QWidget* at = window.focusWidget();
+    if (at == nullptr) return "nothing";
+    if (qobject_cast<const QTabBar*>(at) != nullptr) at = at->parentWidget();
+    return at->objectName().toStdString();
+  }
+
+  // All controls that Tab comes to, from the one that has the keyboard first.
+  std::vector<std::string> Round(const ScreenWindow& window) {
+    std::vector<std::string> names;
+    for (std::string at = At(window); names.empty() || at != names.front(); at = At(window)) {
+      names.push_back(at);
+      Type(Qt::Key_Tab);
+      if (names.size() > 20) break;
+    }
+    return names;
+  }
+
+  BattleScreen& Battle() { return static_cast<BattleScreen&>(*program_.TheStage().Find("Battle")); }
+
+  QuietServices quiet_;
+  Program program_;
+  ToProgram events_;
+  Windows windows_;
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(FocusTest, tab_goes_through_each_screen_as_it_is_read) {
+  program_.TheState().GameStarted = True;
+  program_.TheState().OpeningDone = True;
+  EXPECT_EQ(Round(Open("InputName")), (Names{"Text1(0)", "Text1(1)", "OKButton", "CancelButton"}));
+  EXPECT_EQ(Round(Open("Custom")), (Names{"Text1(0)", "Text1(1)", "Slider1", "Command1"}));
+  EXPECT_EQ(Round(Open("Wepon")), (Names{"List1", "SSTab1", "Command5"}));
+  EXPECT_EQ(Round(Open("Item")), (Names{"List1", "Command8"}));
+  EXPECT_EQ(Round(Open("ItemUse")), (Names{"Command1(0)", "Command1(1)"}));
+  EXPECT_EQ(Round(Open("Chardata")), (Names{"SSTab1", "Command1"}));
+  EXPECT_EQ(Round(Open("Version")), (Names{"cmdOK"}));
+  EXPECT_EQ(Round(Open("Load")), (Names{"File1", "OKButton"}));
+  EXPECT_EQ(Round(Open("Save")), (Names{"File1", "OKButton"}));
+  EXPECT_EQ(Round(Open("Battle")), (Names{"Command1", "Command3", "Command4", "SSTab1"}));
+}
+
+TEST_F(FocusTest, the_title_starts_with_its_button) {
+  windows_.Follow();
+  EXPECT_EQ(At(*windows_.Of(program_.TheStage().Find("Main"))), "Command1");
+}
+
+TEST_F(FocusTest, arrows_go_from_button_to_button_where_they_stand) {
+  const ScreenWindow& window = Open("Battle");
+  Type(Qt::Key_Down);
+  EXPECT_EQ(At(window), "Command3");
+  Type(Qt::Key_Right);
+  EXPECT_EQ(At(window), "Command4");
+  Type(Qt::Key_Right);
+  EXPECT_EQ(At(window), "SSTab1");
+}
+
+TEST_F(FocusTest, a_list_has_the_keyboard_as_soon_as_it_is_there_and_gives_it_back) {
+  const ScreenWindow& window = Open("Battle");
+  Type(Qt::Key_Return);
+  EXPECT_EQ(At(window), "List2");
+  Type(Qt::Key_Down);
+  EXPECT_EQ(Battle().List2.ListIndex, -1) << "the highlight chooses nothing";
+  EXPECT_TRUE(Battle().List2.Visible);
+  Type(Qt::Key_Return);  // the way back
+  EXPECT_FALSE(Battle().List2.Visible);
+  EXPECT_EQ(At(window), "Command1");
+}
+
+TEST_F(FocusTest, arrows_stay_in_a_list_at_its_ends) {
+  program_.TheState().GameStarted = True;
+  program_.TheState().OpeningDone = True;
+  const ScreenWindow& window = Open("Wepon");
+  for (int i = 0; i < 3; ++i) Type(Qt::Key_Up);
+  EXPECT_EQ(At(window), "List1") << "the tabs lie higher, but not on the list's way";
+  for (int i = 0; i < 30; ++i) Type(Qt::Key_Down);
+  ASSERT_EQ(At(window), "List1");
+  const auto* list = static_cast<const QListWidget*>(window.focusWidget());
+  EXPECT_EQ(list->currentRow(), list->count() - 1);
+  Type(Qt::Key_Right);
+  EXPECT_EQ(At(window), "Command5") << "off the list to what lies beside it";
+}
+
+TEST_F(FocusTest, nothing_has_the_keyboard_during_an_action_and_the_command_has_it_afterwards) {
+  const ScreenWindow& window = Open("Battle");
+  Type(Qt::Key_Right);  // to the item list and back, so that it is not the first button
+  Type(Qt::Key_Down);
+  const std::string command = At(window);
+  ASSERT_NE(command, "Command1");
+  Battle().SSTab1.SetTabEnabled(0, false);
+  Battle().SSTab1.SetTabEnabled(1, false);
+  for (CommandButton* button : {&Battle().Command1, &Battle().Command3, &Battle().Command4}) {
+    button->Enabled = false;
+  }
+  windows_.Follow();
+  EXPECT_EQ(At(window), "nothing");
+  for (CommandButton* button : {&Battle().Command1, &Battle().Command3, &Battle().Command4}) {
+    button->Enabled = true;
+  }
+  windows_.Follow();
+  EXPECT_EQ(At(window), command);
+}
+
+TEST_F(FocusTest, control_and_tab_turn_the_tabs_and_the_keyboard_goes_with_them) {
+  program_.TheState().GameStarted = True;
+  program_.TheState().OpeningDone = True;
+  const ScreenWindow& window = Open("Wepon");
+  auto& tabs = static_cast<TabStrip&>(*program_.TheStage().Find("Wepon")->Find("SSTab1"));
+  Type(Qt::Key_Tab);
+  Type(Qt::Key_Tab);
+  ASSERT_EQ(At(window), "Command5");
+  Type(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(tabs.Tab(), 1);
+  EXPECT_EQ(At(window), "SSTab1") << "what had the keyboard is on a pane that has closed";
+  Type(Qt::Key_Left);
+  EXPECT_EQ(tabs.Tab(), 0);
+  Type(Qt::Key_Backtab, Qt::ControlModifier);
+  EXPECT_EQ(tabs.Tab(), 1) << "round and round";
+}
+
+TEST_F(FocusTest, tabs_that_are_off_are_not_turned_to) {
+  Open("Battle");
+  Battle().SSTab1.SetTabEnabled(1, false);
+  windows_.Follow();
+  Type(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(Battle().SSTab1.Tab(), 0);
+}
+
+TEST_F(FocusTest, the_menu_key_opens_the_first_menu_that_is_on) {
+  windows_.Follow();
+  QApplication::processEvents();
+  Type(Qt::Key_F10);
+  const QWidget* menu = QApplication::activePopupWidget();
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->actions().front()->text(), "ロード");
+  QApplication::activePopupWidget()->close();
+}
+
+}  // namespace
+}  // namespace orvane

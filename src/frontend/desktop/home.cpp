@@ -16,9 +16,9 @@ std::filesystem::path FromEnvironment(const char* name) {
 }
 
 std::filesystem::path DataFolder() {
-  const auto data = FromEnvironment("XDG_DATA_HOME");
+  auto data = FromEnvironment("XDG_DATA_HOME");
   if (!data.empty()) return data;
-  const auto home = FromEnvironment("HOME");
+  auto home = FromEnvironment("HOME");
   return home.empty() ? home : home / ".local" / "share";
 }
 

@@ -5,7 +5,7 @@
 
 #include "src/frontend/desktop/pad_stick.h"
 
-struct _SDL_GameController;
+struct _SDL_GameController;  // NOLINT(bugprone-reserved-identifier): the name is SDL's
 
 namespace orvane {
 

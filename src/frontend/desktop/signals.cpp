@@ -35,7 +35,7 @@ void OnSignals(const sigset_t& wanted, std::function<void()> answer) {
   auto* notifier = new QSocketNotifier(file, QSocketNotifier::Read, QCoreApplication::instance());
   QObject::connect(notifier, &QSocketNotifier::activated, notifier,
                    [file, answer = std::move(answer)] {
-                     signalfd_siginfo taken;
+                     signalfd_siginfo taken{};
                      while (read(file, &taken, sizeof taken) > 0) {
                      }
                      answer();

@@ -37,7 +37,7 @@ class Focus {
 
  private:
   struct Stop {
-    ControlView* View;
+    ControlView* View = nullptr;
     QPointer<QWidget> Widget;  // that takes the keys
   };
 

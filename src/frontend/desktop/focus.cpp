@@ -66,9 +66,9 @@ QWidget* Focus::Choose(const QWidget* before) const {
   for (const Stop& stop : stops_) {
     if (AsksForAnswer(*stop.View) && IsUsable(stop.Widget)) return stop.Widget;
   }
-  // The last that had the keys comes first. A reversed view would be beyond one of the compilers.
-  for (auto each = had_keys_.rbegin(); each != had_keys_.rend();
-       ++each) {  // NOLINT(modernize-loop-convert)
+  // The last that had the keys comes first. A reversed view is beyond one of the compilers.
+  // NOLINTNEXTLINE(modernize-loop-convert)
+  for (auto each = had_keys_.rbegin(); each != had_keys_.rend(); ++each) {
     if (IsUsable(*each)) return *each;
   }
   for (const Stop& stop : stops_) {

@@ -3,7 +3,9 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 
+#include "src/frontend/desktop/control_view.h"
 #include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/spoken_text.h"
 #include "src/game/program.h"
 #include "src/platform/reach.h"
 
@@ -12,12 +14,22 @@ namespace orvane {
 ClientArea::ClientArea(Screen& screen, Events& events) : screen_(screen), events_(events) {
   setFixedSize(screen.Width, screen.Height);
   setAutoFillBackground(true);
+  setAccessibleName(ToQt(screen.Caption));
 }
 
 void ClientArea::Follow(bool all) {
   if (screen_.OwnSurface == nullptr) return;
   const QRect changed = image_.Follow(*screen_.OwnSurface, all);
   if (!changed.isEmpty()) update(changed);
+  announcer_.Follow(*this);
+}
+
+QString ClientArea::Text() const {
+  return SpokenText(screen_);
+}
+
+void ClientArea::Press() {
+  events_.Send([this](Program& program) { program.Press(screen_); });
 }
 
 void ClientArea::paintEvent(QPaintEvent* event) {
@@ -29,7 +41,7 @@ void ClientArea::paintEvent(QPaintEvent* event) {
 void ClientArea::mousePressEvent(QMouseEvent* event) {
   const QPointF at = event->position();
   if (event->button() != Qt::LeftButton || ControlAt(screen_, {at.x(), at.y()}) != nullptr) return;
-  events_.Send([this](Program& program) { program.Press(screen_); });
+  Press();
 }
 
 }  // namespace orvane

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include "src/frontend/desktop/spoken.h"
 #include "src/frontend/desktop/surface_image.h"
 #include "src/platform/screen.h"
 
@@ -10,12 +11,17 @@ namespace orvane {
 
 class Events;
 
-class ClientArea : public QWidget {
+class ClientArea : public QWidget, public Spoken {
  public:
   ClientArea(Screen& screen, Events& events);
 
   // Brings the surface up to date; `all` when it may have been made afresh.
   void Follow(bool all);
+
+  bool IsPicture() const override { return screen_.OwnSurface != nullptr; }
+  QString Text() const override;
+  bool IsButton() const override { return IsPicture(); }
+  void Press() override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -25,6 +31,7 @@ class ClientArea : public QWidget {
   Screen& screen_;
   Events& events_;
   SurfaceImage image_;
+  Announcer announcer_;
 };
 
 }  // namespace orvane

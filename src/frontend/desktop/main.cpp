@@ -18,6 +18,7 @@
 #include "src/frontend/desktop/signals.h"
 #include "src/frontend/desktop/sleeper.h"
 #include "src/frontend/desktop/sound/sound_engine.h"
+#include "src/frontend/desktop/spoken.h"
 #include "src/frontend/desktop/zoom.h"
 #include "src/game/program.h"
 
@@ -87,6 +88,7 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   Program program(home.Folder, {sound, chance, boxes, sleeper});
   QApplication application(argument_count, arguments);
   SetUpLook(application);
+  SetUpSpeech();
   const Zoom zoom = ChooseZoom(options, program);
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());
   if (program.HasEnded()) {

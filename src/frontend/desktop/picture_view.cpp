@@ -4,13 +4,15 @@
 #include <QPaintEvent>
 
 #include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/spoken.h"
+#include "src/frontend/desktop/spoken_text.h"
 #include "src/frontend/desktop/surface_image.h"
 #include "src/game/program.h"
 
 namespace orvane {
 
 // Paints a picture within its border and reports clicks on it.
-class PictureWidget : public QWidget {
+class PictureWidget : public QWidget, public Spoken {
  public:
   PictureWidget(PictureBox& model, QWidget* parent, Events& events)
       : QWidget(parent), model_(model), events_(events) {
@@ -20,6 +22,14 @@ class PictureWidget : public QWidget {
   void Follow(bool all) {
     const QRect changed = image_.Follow(model_.Picture, all);
     if (!changed.isEmpty()) update(changed.translated(model_.Edge, model_.Edge));
+  }
+
+  void Announce() { announcer_.Follow(*this); }
+
+  QString Text() const override { return SpokenText(model_); }
+  bool IsButton() const override { return bool(model_.OnClick); }
+  void Press() override {
+    events_.Send([this](Program& program) { program.Click(model_); });
   }
 
  protected:
@@ -62,6 +72,7 @@ class PictureWidget : public QWidget {
   PictureBox& model_;
   Events& events_;
   SurfaceImage image_;
+  Announcer announcer_;
 };
 
 PictureView::PictureView(PictureBox& model, QWidget* parent, Events& events)
@@ -72,6 +83,7 @@ PictureView::PictureView(PictureBox& model, QWidget* parent, Events& events)
 void PictureView::FollowValues(bool all) {
   // A hidden sheet changes nothing on the screen; it is looked at when it comes up.
   if (model_.Visible || all) widget_->Follow(all);
+  widget_->Announce();
 }
 
 }  // namespace orvane

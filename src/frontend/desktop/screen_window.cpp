@@ -54,6 +54,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Events& events)
                   [](const Control* control) { return control->Kind() == ControlKind::Menu; });
   if (has_menu) {
     menuBar()->setNativeMenuBar(false);  // in the window on every desktop
+    menuBar()->setAccessibleName("メニュー");
     menu_ = std::make_unique<MenuView>(screen, *menuBar(), events);
   }
   setContextMenuPolicy(Qt::NoContextMenu);

@@ -1,4 +1,5 @@
-// What screen readers call the controls that have no caption of their own.
+// What screen readers call the controls that have no caption of their own, and whose the numbers
+// are.
 #pragma once
 
 #include <QString>
@@ -7,7 +8,7 @@ namespace orvane {
 
 class Control;
 
-// The control's name for screen readers, or nothing where its caption serves.
+// The control's name for screen readers, of a text whose it is; nothing where its caption serves.
 QString SpokenName(const Control& control);
 
 }  // namespace orvane

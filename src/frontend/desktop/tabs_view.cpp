@@ -78,7 +78,10 @@ void TabsView::FollowValues(bool /*all*/) {
   const QSignalBlocker quiet(bar_);
   for (int tab = 0; tab < bar_->count(); ++tab) {
     const QString caption = ToQtCaption(model_.TabCaption(tab));
-    if (bar_->tabText(tab) != caption) bar_->setTabText(tab, caption);
+    if (bar_->tabText(tab) != caption) {
+      bar_->setTabText(tab, caption);
+      panes_[static_cast<size_t>(tab)]->setAccessibleName(ToQt(model_.TabCaption(tab)));
+    }
     if (bar_->isTabEnabled(tab) != model_.TabEnabled(tab)) {
       bar_->setTabEnabled(tab, model_.TabEnabled(tab));
     }

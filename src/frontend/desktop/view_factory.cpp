@@ -8,6 +8,7 @@
 #include "src/frontend/desktop/picture_view.h"
 #include "src/frontend/desktop/slider_view.h"
 #include "src/frontend/desktop/spoken_names.h"
+#include "src/frontend/desktop/spoken_text.h"
 #include "src/frontend/desktop/tabs_view.h"
 
 namespace orvane {
@@ -44,13 +45,23 @@ std::unique_ptr<ControlView> MakeKind(Control& control, QWidget* parent, Events&
   return nullptr;
 }
 
+// A text is its own name; what a number is the number of, the text does not say.
+QString Meaning(const Control& control) {
+  const QString whose = SpokenName(control);
+  return whose.isEmpty() ? CaptionBeside(control) : whose;
+}
+
 }  // namespace
 
 std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Events& events) {
   auto view = MakeKind(control, parent, events);
   if (view == nullptr) return view;
   view->Widget()->setObjectName(ToQt(control.Name()));
-  view->SetSpokenName(SpokenName(control));
+  if (control.Kind() == ControlKind::Label) {
+    view->Widget()->setAccessibleDescription(Meaning(control));
+  } else {
+    view->SetSpokenName(SpokenName(control));
+  }
   return view;
 }
 

@@ -3,9 +3,12 @@
 
 #include <QApplication>
 
+#include "src/frontend/desktop/spoken.h"
+
 int main(int count, char** words) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&count, words);
   const QApplication application(count, words);
+  orvane::SetUpSpeech();
   return RUN_ALL_TESTS();
 }

@@ -336,9 +336,10 @@ see_ending() {
     sleep 0.15
   done
   wait_for 5 "the credits" has_window ENDING
+  sleep 2  # painted, and long before the first strip comes so high
   # shellcheck disable=SC2086
   bare=$(sum ENDING $card)
-  sleep 4
+  sleep 3
   shot 37-credits
   if [ "$scale" = 1 ]; then
     wait_for 120 "the last card" last_card_stands

@@ -48,7 +48,7 @@ QString SpokenText(const PictureBox& picture) {
 }
 
 QString SpokenText(const Screen& screen) {
-  const QString words = LinesOn(screen, nullptr);
+  QString words = LinesOn(screen, nullptr);
   const bool has_credits = screen.OwnSurface != nullptr;
   if (!has_credits) return words;
   return words.isEmpty() ? QString::fromUtf8(Credits) : words;

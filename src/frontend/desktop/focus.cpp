@@ -115,11 +115,13 @@ void Focus::Move(Key direction) const {
   }
 }
 
-void Focus::TurnTab(int step) const {
+bool Focus::TurnTab(int step) const {
   for (const Stop& stop : stops_) {
     if (stop.View->Model().Kind() != ControlKind::Tabs || !IsUsable(stop.Widget)) continue;
-    return static_cast<const TabsView*>(stop.View)->Turn(step);
+    static_cast<const TabsView*>(stop.View)->Turn(step);
+    return true;
   }
+  return false;
 }
 
 }  // namespace orvane

@@ -32,8 +32,9 @@ class Focus {
   // Goes to the control that lies next in a direction. Nothing where there is none.
   void Move(Key direction) const;
 
-  // Opens the next tab that can be opened, or with -1 the one before.
-  void TurnTab(int step) const;
+  // Opens the next tab that can be opened, or with -1 the one before. False where there are no
+  // tabs.
+  bool TurnTab(int step) const;
 
  private:
   struct Stop {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QSlider>
 #include <utility>
 
 #include "src/frontend/desktop/events.h"
@@ -43,9 +44,30 @@ void Accept() {
   Type(chooses ? Qt::Key_Return : Qt::Key_Space);
 }
 
+// The screen's window that keys go to; null for a box or a menu.
+const ScreenWindow* Front() {
+  if (QApplication::activePopupWidget() != nullptr) return nullptr;
+  return dynamic_cast<const ScreenWindow*>(QApplication::activeWindow());
+}
+
 void OpenMenus() {
-  const auto* window = dynamic_cast<const ScreenWindow*>(QApplication::activeWindow());
+  const ScreenWindow* window = Front();
   if (window != nullptr && window->Menu() != nullptr) window->Menu()->Open();
+}
+
+void Turn(int step) {
+  const ScreenWindow* window = Front();
+  if (window != nullptr && window->KeysTo().TurnTab(step)) return;
+  Type(step > 0 ? Qt::Key_Tab : Qt::Key_Backtab);
+}
+
+void Move(size_t direction) {
+  // A slider takes all four arrows for itself; by the cross there must be a way off it.
+  const bool sideways = Arrows[direction] == Qt::Key_Left || Arrows[direction] == Qt::Key_Right;
+  const bool on_slider = qobject_cast<QSlider*>(QApplication::focusWidget()) != nullptr;
+  const ScreenWindow* window = Front();
+  if (sideways || !on_slider || window == nullptr) return Type(Arrows[direction]);
+  window->KeysTo().Move(Directions[direction]);
 }
 
 }  // namespace
@@ -62,10 +84,10 @@ void Pad::Start(std::unique_ptr<PadSource> source) {
 
 void Pad::Look() {
   const auto state = source_->Read();
-  const int pace = state ? OftenMs : SeldomMs;
-  if (timer_.interval() != pace) timer_.start(pace);
   // What is pressed for another program is not for this one.
   const bool ours = QApplication::applicationState() == Qt::ApplicationActive;
+  const int pace = state && ours ? OftenMs : SeldomMs;
+  if (timer_.interval() != pace) timer_.start(pace);
   Follow(state && ours ? *state : PadState{});
 }
 
@@ -100,7 +122,7 @@ void Pad::Walk(const PadState& state) {
 void Pad::Press(PadButton button) {
   const auto index = static_cast<size_t>(button);
   if (index < walking_.size()) {
-    if (!reaches_() || MenuBarHasKeys()) return Type(Arrows[index]);
+    if (!reaches_() || MenuBarHasKeys()) return Move(index);
     // What was pressed in another window does not start a walk; what walks goes on walking.
     if (std::exchange(walking_[index], true)) return;
     return events_.Send([index](Program& program) { program.KeyDown(Directions[index]); });
@@ -113,9 +135,9 @@ void Pad::Press(PadButton button) {
     case PadButton::Menu:
       return OpenMenus();
     case PadButton::Previous:
-      return Type(Qt::Key_Backtab);
+      return Turn(-1);
     default:
-      return Type(Qt::Key_Tab);
+      return Turn(1);
   }
 }
 

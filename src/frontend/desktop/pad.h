@@ -15,13 +15,14 @@ class Events;
 
 // The cross and the stick walk while keys reach the game's window, and move through buttons, lists
 // and menus elsewhere. The accepting button presses and chooses, the other one is Escape, the
-// shoulders go to the control before or after, and the menu button opens the menus.
+// shoulders turn the tabs or, where there are none, go to the control before or after, and the menu
+// button opens the menus.
 class Pad : public QObject {
  public:
   // `reaches` tells whether keys reach the game's window now. Nothing is looked for before Start.
   Pad(Events& events, std::function<bool()> reaches);
 
-  // Reads the source from now on: often while there is a pad, seldom until then.
+  // Reads the source from now on: often while there is a pad and the program is in front.
   void Start(std::unique_ptr<PadSource> source);
   // Reads it once.
   void Look();

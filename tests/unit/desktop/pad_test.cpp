@@ -6,8 +6,12 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSlider>
 
 #include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/windows.h"
+#include "src/game/program.h"
+#include "tests/unit/desktop/quiet_services.h"
 
 namespace orvane {
 namespace {
@@ -72,6 +76,21 @@ TEST(PadDevice, reads_a_pad_that_comes_and_goes) {
   EXPECT_EQ(device.Read(), With({PadButton::Left}));
   SDL_JoystickDetachVirtual(number);
   EXPECT_FALSE(device.Read().has_value());
+  SDL_JoystickClose(pad);
+}
+
+// SDL keeps all that it has to tell until someone asks, and nobody does.
+TEST(PadDevice, leaves_no_events_to_pile_up) {
+  PadDevice device;
+  const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
+  ASSERT_GE(number, 0) << SDL_GetError();
+  SDL_Joystick* pad = SDL_JoystickOpen(number);
+  for (Sint16 way = 1000; way < 1050; ++way) {
+    SDL_JoystickSetVirtualAxis(pad, SDL_CONTROLLER_AXIS_LEFTX, way);
+    ASSERT_TRUE(device.Read().has_value());
+  }
+  EXPECT_FALSE(SDL_HasEvents(SDL_FIRSTEVENT, SDL_LASTEVENT));
+  SDL_JoystickDetachVirtual(number);
   SDL_JoystickClose(pad);
 }
 
@@ -177,6 +196,119 @@ TEST_F(PadTest, does_not_press_in_a_new_window_what_was_pressed_in_the_field) {
   reaches_ = false;
   Show(With({PadButton::Down}));
   EXPECT_EQ(list.currentRow(), 0);
+}
+
+// The real windows of the game, worked by a pad.
+class PadInGame : public testing::Test {
+ protected:
+  PadInGame()
+      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
+        events_(program_),
+        windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})),
+        pad_(events_, [this] { return program_.TheStage().Active() == Find("Main"); }) {
+    program_.TheState().GameStarted = True;
+    program_.TheState().OpeningDone = True;
+  }
+
+  Screen* Find(const char* name) { return program_.TheStage().Find(name); }
+
+  const ScreenWindow& Open(const char* name) {
+    program_.Enter([&] { program_.TheStage().Show(*Find(name)); });
+    windows_.Follow();
+    QApplication::processEvents();
+    pad_.Start(std::make_unique<ScriptedPad>(state_));
+    return *windows_.Of(Find(name));
+  }
+
+  void Push(PadButton button) {
+    for (const PadState& state : {With({button}), PadState{}}) {
+      state_ = state;
+      pad_.Look();
+      windows_.Follow();
+    }
+  }
+
+  QuietServices quiet_;
+  Program program_;
+  ToProgram events_;
+  Windows windows_;
+  PadState state_{};
+  Pad pad_;
+};
+
+TEST_F(PadInGame, the_cross_leaves_a_slider_upwards_and_moves_it_sideways) {
+  const ScreenWindow& window = Open("Custom");
+  const auto& slider = static_cast<const Slider&>(*Find("Custom")->Find("Slider1"));
+  window.findChild<QSlider*>()->setFocus();
+  Push(PadButton::Right);
+  ASSERT_EQ(slider.Value, 16);
+  Push(PadButton::Up);
+  EXPECT_EQ(slider.Value, 16);
+  EXPECT_EQ(window.focusWidget()->objectName(), "Text1(1)");
+}
+
+TEST_F(PadInGame, the_shoulders_turn_the_tabs_and_elsewhere_go_through_the_controls) {
+  Open("Battle");
+  auto& tabs = static_cast<TabStrip&>(*Find("Battle")->Find("SSTab1"));
+  Push(PadButton::Next);
+  EXPECT_EQ(tabs.Tab(), 1);
+  Push(PadButton::Previous);
+  EXPECT_EQ(tabs.Tab(), 0);
+  const ScreenWindow& items = Open("Item");
+  Push(PadButton::Next);
+  EXPECT_EQ(items.focusWidget()->objectName(), "Command8");
+}
+
+TEST_F(PadInGame, a_battle_is_commanded) {
+  const ScreenWindow& window = Open("Battle");
+  auto& targets = static_cast<ListBox&>(*Find("Battle")->Find("List2"));
+  const auto& action = static_cast<const Timer&>(*Find("Battle")->Find("Timer1"));
+  Push(PadButton::Accept);
+  ASSERT_TRUE(targets.Visible);
+  EXPECT_EQ(window.focusWidget()->objectName(), "List2");
+  Push(PadButton::Down);
+  Push(PadButton::Down);
+  EXPECT_TRUE(targets.Visible) << "the highlight chooses nothing";
+  Push(PadButton::Accept);
+  EXPECT_FALSE(targets.Visible);
+  EXPECT_EQ(targets.ListIndex, 1);
+  EXPECT_TRUE(action.IsEnabled());
+}
+
+TEST_F(PadInGame, the_menu_button_opens_a_menu_that_the_cross_and_the_other_buttons_work) {
+  Open("Version");
+  program_.Enter([this] { program_.TheStage().Unload(*Find("Version")); });
+  Open("Main");
+  Push(PadButton::Menu);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  Push(PadButton::Back);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  Push(PadButton::Menu);
+  Push(PadButton::Right);  // to the things
+  Push(PadButton::Down);
+  Push(PadButton::Accept);
+  EXPECT_TRUE(Find("Item")->IsVisible());
+}
+
+// From SDL's own pad to the keys of the field.
+TEST_F(PadInGame, a_pad_that_is_plugged_in_walks) {
+  Open("Main");
+  pad_.Start(std::make_unique<PadDevice>());
+  const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
+  ASSERT_GE(number, 0) << SDL_GetError();
+  SDL_Joystick* pad = SDL_JoystickOpen(number);
+  SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_DPAD_LEFT, 1);
+  pad_.Look();
+  EXPECT_EQ(program_.TheState().KeyLeft, True);
+  SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_DPAD_LEFT, 0);
+  SDL_JoystickSetVirtualAxis(pad, SDL_CONTROLLER_AXIS_LEFTY, 30000);
+  pad_.Look();
+  EXPECT_EQ(program_.TheState().KeyLeft, False);
+  EXPECT_EQ(program_.TheState().KeyDown, True);
+  SDL_JoystickDetachVirtual(number);
+  pad_.Look();
+  EXPECT_EQ(program_.TheState().KeyDown, False) << "pulled out, it lets go";
+  SDL_JoystickClose(pad);
 }
 
 }  // namespace

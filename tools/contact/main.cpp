@@ -1,5 +1,5 @@
 // orvane-contact OUTFOLDER [SHEETFOLDER]: shows all picture sheets at 1x and 3x, and every enemy,
-// pose and effect in place on its background, as PNG files in OUTFOLDER.
+// pose, effect, panel and strip in place on its background, as PNG files in OUTFOLDER.
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -8,6 +8,7 @@
 
 #include "tools/contact/page.h"
 #include "tools/contact/scenes.h"
+#include "tools/contact/windows.h"
 
 namespace orvane::contact {
 namespace {
@@ -136,6 +137,20 @@ void WriteEffects(const Sheets& sheets, const std::string& folder) {
   }
 }
 
+void WriteWindows(const Sheets& sheets, const std::string& folder) {
+  Windows windows(sheets);
+  Page panels(1470);
+  for (const Shown& shown : windows.OfTheField()) panels.AddTwice(shown.Name, shown.Picture);
+  for (const Shown& shown : windows.OfTheBattle()) panels.Add(shown.Name, shown.Picture);
+  panels.Write(folder + "/place_panels.png");
+  Page credits(1400);
+  for (const Shown& shown : windows.OfTheEnding()) credits.Add(shown.Name, shown.Picture);
+  credits.Write(folder + "/place_credits.png");
+  Page faces(950);
+  for (const Shown& shown : Faces(sheets)) faces.AddTwice(shown.Name, shown.Picture);
+  faces.Write(folder + "/place_faces.png");
+}
+
 int Run(const std::vector<std::string>& words) {
   if (words.empty() || words.size() > 2) {
     std::fprintf(stderr, "usage: orvane-contact OUTFOLDER [SHEETFOLDER]\n");
@@ -153,6 +168,7 @@ int Run(const std::vector<std::string>& words) {
   WriteEnemies(sheets, folder);
   WriteHeroes(sheets, folder);
   WriteEffects(sheets, folder);
+  WriteWindows(sheets, folder);
   std::printf("%zu sheets shown in %s\n", sheets.size(), folder.c_str());
   return 0;
 }

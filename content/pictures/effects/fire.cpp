@@ -48,10 +48,12 @@ Shape Flame(int frame) {
 }
 
 Shape Explosion(int frame) {
-  constexpr std::array<double, 7> Reach{3.8, 6.4, 8.8, 10.6, 11.2, 11.4, 11.4};
-  constexpr std::array<double, 7> Hollow{0, 0, 0, 2.4, 5.2, 7.0, 8.4};
-  constexpr std::array<double, 7> Heat{6.5, 6.4, 5.8, 5.0, 4.0, 2.8, 1.6};
-  const auto at = static_cast<size_t>(std::clamp(frame, 0, 6));
+  constexpr int fiery = 5;
+  constexpr std::array<double, fiery> Reach{3.8, 6.4, 8.8, 10.6, 11.2};
+  constexpr std::array<double, fiery> Hollow{0, 0, 0, 2.4, 5.2};
+  constexpr std::array<double, fiery> Heat{6.5, 6.4, 5.8, 5.0, 4.0};
+  if (frame >= fiery) return BlastSmoke(frame - fiery);
+  const auto at = static_cast<size_t>(std::max(0, frame));
   return [=](double x, double y) -> std::optional<Colour> {
     const double distance = std::hypot(x, y);
     const double turn = std::atan2(y, x);
@@ -62,7 +64,7 @@ Shape Explosion(int frame) {
     if (distance > rim || distance < hole) return std::nullopt;
     const double grain = 2.2 * (Wander(x * 0.42 + 20, y * 0.42 + 20 + frame, 11) - 0.5);
     const double tone = Heat[at] * (1 - distance / rim) + 0.9 + grain;
-    return frame > 4 ? Smoke(tone + 1) : Fire(tone);
+    return Fire(tone);
   };
 }
 

@@ -6,9 +6,10 @@
 namespace orvane::paint::effects {
 
 Shape FireBall();
-Shape Flame(int frame);      // 0 small, 1 tall, 2 dying in smoke
-Shape Explosion(int frame);  // 0..6 from a spark to torn smoke
-Shape Atom(int frame);       // 0..2: orbs of the great blast
+Shape Flame(int frame);       // 0 small, 1 tall, 2 dying in smoke
+Shape Explosion(int frame);   // 0..6 from a spark to torn smoke
+Shape BlastSmoke(int frame);  // 0 thick and glowing, 1 torn: the explosion's end
+Shape Atom(int frame);        // 0..2: orbs of the great blast
 Shape Sun();
 Shape LightRing(int frame);  // 0..2
 Shape DarkBurst(int frame);  // 0 full, 1 hollow

@@ -1,4 +1,4 @@
-// Sparkles, darkness, impacts and blade marks.
+// Sparkles, darkness and impacts.
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -116,46 +116,6 @@ Shape DarkOrb(int frame) {
     const double whirl = std::cos(2 * std::atan2(y, x) + distance * 0.62);
     if (distance > 11 || (whirl < 0.05 && distance > 3)) return std::nullopt;
     return Shade(4.9 * whirl * (1 - distance / 15));
-  };
-}
-
-Shape Slash(int frame) {
-  return [frame](double x, double y) -> std::optional<Colour> {
-    // A crescent from the upper right to the lower left; its outer edge is the bright one.
-    const double distance = std::hypot(x + 8.5, y + 8.5);
-    const double turn = std::atan2(y + 8.5, x + 8.5) / (pi / 2);
-    const double from = frame == 0 ? -0.14 : frame == 1 ? -0.17 : 0.40;
-    const double to = frame == 0 ? 0.55 : frame == 1 ? 1.17 : 1.14;
-    const double along = (turn - from) / (to - from);
-    if (along <= 0 || along >= 1) return std::nullopt;
-    const double thick = (frame == 1 ? 9.0 : 5.6) * std::pow(std::sin(pi * along), 0.75);
-    const double inward = 19.0 - distance;
-    if (thick < 1.6 || inward < 0 || inward > thick) return std::nullopt;
-    const double share = inward / std::max(thick, 0.1);
-    return Steel(share < 0.14   ? 1.4
-                 : share < 0.50 ? 5
-                 : share < 0.68 ? 3.4
-                 : share < 0.84 ? 2.4
-                                : 0.6);
-  };
-}
-
-Shape Thrust() {
-  return [](double x, double y) -> std::optional<Colour> {
-    // A lance of light that drives to the left and bursts where its point strikes.
-    const double along = (x + 11.2) / 22.4;
-    if (along < 0 || along > 1) return std::nullopt;
-    const double width = along < 0.3 ? 4.0 * along / 0.3 : 4.0 * std::pow((1 - along) / 0.7, 0.6);
-    const double lance = 1 - std::abs(y) / std::max(0.5, width);
-    const double dx = x + 4.5;
-    const double burst =
-        1 - std::pow(std::abs(dx) / 6.8, 0.72) - std::pow(std::abs(y) / 11.4, 0.72);
-    const double slanted_x = std::abs(dx + y) * 0.7071;
-    const double slanted_y = std::abs(dx - y) * 0.7071;
-    const double rays = 1 - std::pow(slanted_x / 7.4, 0.62) - std::pow(slanted_y / 7.4, 0.62);
-    const double depth = std::max({lance, 1.6 * burst, 1.6 * rays});
-    if (depth <= 0) return std::nullopt;
-    return Steel(depth < 0.16 ? 0.5 : 1.0 + 5.6 * depth);
   };
 }
 

@@ -23,19 +23,20 @@ struct Strip {
   const char* text;
   double size;
   double spacing;
+  double rim = 4.2;  // of coloured letters: twice how far the dark goes beyond them
 };
 
 // Strips with an image of their own; the mask lies right below the image.
 constexpr std::array<Strip, 3> coloured{
-    {{0, 128, 200, 32, "STAFF", 26, 5},
-     {200, 128, 200, 32, "SPECIAL THANKS", 20, 0.9},
+    {{0, 128, 200, 32, "STAFF", 24, 7},
+     {200, 128, 200, 32, "SPECIAL THANKS", 16.5, 2.8, 3.6},
      {0, 288, 400, 32, "最後まで旅してくれたあなたへ", 24, 1.5}}};
-constexpr std::array<Strip, 7> plain{{{0, 192, 200, 32, "企画・脚本・プログラム", 18, 0.5},
-                                      {200, 192, 200, 32, "グラフィック・マップ", 18, 0.5},
-                                      {0, 224, 200, 32, "音楽・効果音", 18, 2},
-                                      {200, 224, 200, 32, "テストプレイのみなさん", 18, 0.5},
-                                      {0, 256, 200, 32, "道具を作ったみなさん", 18, 0.5},
-                                      {200, 256, 200, 32, "龍の狭間の龍たち", 18, 1.5},
+constexpr std::array<Strip, 7> plain{{{0, 192, 200, 32, "企画・脚本・プログラム", 19, 0.4},
+                                      {200, 192, 200, 32, "グラフィック・マップ", 19, 0.4},
+                                      {0, 224, 200, 32, "音楽・効果音", 19, 2},
+                                      {200, 224, 200, 32, "テストプレイのみなさん", 19, 0.4},
+                                      {0, 256, 200, 32, "道具を作ったみなさん", 19, 0.4},
+                                      {200, 256, 200, 32, "龍の狭間の龍たち", 20, 1.5},
                                       {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}};
 constexpr const char* serif = "IPAPMincho";
 constexpr const char* plain_face = "IPAPGothic";
@@ -74,8 +75,8 @@ void PutPair(Image& sheet, const Drawing& drawing, int x, int y, int width, int 
 
 void PaintColoured(Image& sheet, const Strip& strip) {
   Drawing drawing(strip.width, strip.height);
-  StrokeText(drawing, strip, serif, 0x240818, 4.2);
-  StrokeText(drawing, strip, serif, 0x6C1820, 2.2);
+  StrokeText(drawing, strip, serif, 0x240818, strip.rim);
+  StrokeText(drawing, strip, serif, 0x6C1820, strip.rim - 2);
   StrokeText(drawing, strip, serif, 0xF0C868, 0.7);
   Trace(drawing, strip, serif);
   drawing.FillTraced(
@@ -85,7 +86,7 @@ void PaintColoured(Image& sheet, const Strip& strip) {
 
 void PaintPlain(Image& sheet, const Strip& strip) {
   Drawing drawing(strip.width, strip.height);
-  StrokeText(drawing, strip, plain_face, white, 1.0);
+  StrokeText(drawing, strip, plain_face, white, 0.8);
   Trace(drawing, strip, plain_face);
   drawing.FillTraced(white);
   const Cover body = drawing.Coverage();

@@ -45,6 +45,13 @@ constexpr Style crimson{{0x280818, 0xF0907C, 0xFFE8DC, 0xA83C44, 0x581424},
                         0xD8948C,
                         {0x480C20, 0x982838, 0xD85C54, 0xF8AC94, 0xFFF8F0}};
 
+constexpr Style cloth{{0x24120C, 0xB47830, 0xE4B450, 0x80501C, 0x180C20},
+                      {0x24120C, 0x4C2A16, 0x80501C, 0xB47830, 0x180C20},
+                      0x3C2C5C,
+                      0x2C1E48,
+                      0x6C5490,
+                      {0x24120C, 0x64380F, 0x9C6424, 0xD8A040, 0xFCE078}};
+
 // Fills the area, which must lie on the canvas and be at least 14 pixels wide and high.
 void DrawWindow(scene::Canvas& canvas, const Style& style, const Area& area);
 

@@ -11,7 +11,6 @@ namespace orvane::paint::panel {
 namespace {
 
 using scene::Canvas;
-using scene::Colour;
 using scene::Hex;
 
 Image Window(int width, int height, const Style& style) {
@@ -42,22 +41,40 @@ struct Sign {
   std::array<uint32_t, 4> colours{};  // for the letters a to d
 };
 
+constexpr int sign_width = 7;
+
 // Life and magic, beside their numbers.
-constexpr Sign heart{{".aa...aa.", "abca.abba", "acdbabbba", "abcbbbbba", "abbbbbbba", ".abbbbba.",
-                      "..abbba..", "...aba...", "....a...."},
+constexpr Sign heart{{".......", ".aa.aa.", "abcabba", "acdbbba", "abcbbba", "abbbbba", ".abbba.",
+                      "..aba..", "...a..."},
                      {0x501020, 0xD83848, 0xF89090, 0xFFFFFF}};
-constexpr Sign drop{{"....a....", "...aba...", "...aba...", "..abcba..", ".abdcbba.", ".acdbbba.",
-                     ".abcbbba.", "..abbba..", "...aaa..."},
+constexpr Sign drop{{"...a...", "..aba..", "..aba..", ".abcba.", ".abcba.", "abdcbba", "acdbbba",
+                     ".abbba.", "..aaa.."},
                     {0x14205C, 0x3C6CD8, 0x90C8F8, 0xFFFFFF}};
 
 void DrawSign(Canvas& canvas, const Sign& sign, int left, int top) {
-  for (int y = 0; y < 9; ++y) {
-    for (int x = 0; x < 9; ++x) {
-      const char letter = sign.rows[static_cast<size_t>(y)][static_cast<size_t>(x)];
-      if (letter != '.')
-        canvas.Blend(left + x, top + y, Hex(sign.colours[static_cast<size_t>(letter - 'a')]));
+  int y = top;
+  for (const std::string_view row : sign.rows) {
+    for (int x = 0; x < sign_width; ++x) {
+      const char letter = row[static_cast<size_t>(x)];
+      if (letter != '.') {
+        canvas.Blend(left + x, y, Hex(sign.colours[static_cast<size_t>(letter - 'a')]));
+      }
+    }
+    ++y;
+  }
+}
+
+// Where a face hangs: dark cloth in a frame, woven in lozenges, and a stone.
+void DrawNiche(Canvas& canvas, int left) {
+  const Area area{left, 0, 50, 48};
+  DrawWindow(canvas, cloth, area);
+  for (int y = 7; y < 41; ++y) {
+    for (int x = 7; x < 43; ++x) {
+      const bool thread = (x + y) % 8 == 0 || (x - y + 48) % 8 == 0;
+      if (thread) canvas.Blend(left + x, y, Hex(cloth.rim), 0.5F);
     }
   }
+  DrawGem(canvas, parchment, left + 25, 24, {0xE8B840, 0xA86C20});
 }
 
 }  // namespace
@@ -93,12 +110,13 @@ Image PaintVictoryPanel() {
 
 Image PaintStatusPanel() {
   Canvas canvas(480, 48);
-  for (Colour& colour : canvas.pixels) colour = Hex(parchment.lit[0]);
-  // A face in its border covers the first 50 columns of each half.
+  // A face in its border covers the first 50 columns of each half. The paper's frame begins under
+  // that border, for the texts begin at column 64 and the signs need room before them.
   for (const int left : {0, 240}) {
-    DrawWindow(canvas, parchment, {left + 50, 0, 190, 48});
-    DrawSign(canvas, heart, left + 55, 12);
-    DrawSign(canvas, drop, left + 55, 28);
+    DrawNiche(canvas, left);
+    DrawWindow(canvas, parchment, {left + 49, 0, 191, 48});
+    DrawSign(canvas, heart, left + 56, 11);
+    DrawSign(canvas, drop, left + 56, 27);
   }
   return scene::ToSheet(canvas);
 }

@@ -19,7 +19,8 @@ constexpr std::array<uint32_t, 5> rock{0x28204C, 0x503C68, 0x8C5C78, 0xD0948C, 0
 constexpr std::array<uint32_t, 5> leaves{0x10182C, 0x1C3438, 0x3C5838, 0x807C3C, 0xD8B858};
 constexpr std::array<uint32_t, 4> blades{0x14283C, 0x345440, 0x809048, 0xE8D470};
 constexpr float water_level = -4;
-constexpr Vec sun{-0.33F, 0.052F, 1};
+// Left of the lines of text, which are white and have no rim.
+constexpr Vec sun{-0.47F, 0.052F, 1};
 constexpr View view{908, 600, 396, 640, 30};
 
 class Dawn : public Terrain {
@@ -52,14 +53,17 @@ class Dawn : public Terrain {
 
   Colour Sky(Vec direction) const override {
     const float up = Clamp(direction.y / direction.z / 0.6F);
-    Colour sky = Mix(Hex(0xFCD48C), Hex(0xDC7C70), up / 0.13F);
-    sky = Mix(sky, Hex(0x84507F), (up - 0.11F) / 0.17F);
-    sky = Mix(sky, Hex(0x443C78), (up - 0.27F) / 0.26F);
-    sky = Mix(sky, Hex(0x202458), (up - 0.52F) / 0.5F);
     const float x = direction.x / direction.z - sun.x;
     const float y = direction.y / direction.z - sun.y;
     const float from_sun = std::sqrt(x * x + y * y);
-    sky = sky + Hex(0xFFC070) * (0.55F * std::exp(-from_sun * 7)) +
+    // The horizon is golden about the sun and rose elsewhere.
+    const float gold = std::exp(-from_sun * 3.4F);
+    Colour sky = Mix(Mix(Hex(0xB8607C), Hex(0xFCD48C), gold),
+                     Mix(Hex(0xA05480), Hex(0xE08070), gold), up / 0.13F);
+    sky = Mix(sky, Hex(0x74487C), (up - 0.11F) / 0.17F);
+    sky = Mix(sky, Hex(0x403874), (up - 0.27F) / 0.26F);
+    sky = Mix(sky, Hex(0x202458), (up - 0.52F) / 0.5F);
+    sky = sky + Hex(0xFFC070) * (0.55F * std::exp(-from_sun * 8)) +
           Hex(0xFFE0A0) * (0.5F * std::exp(-from_sun * 26));
     const float near = std::exp(-from_sun * 2.4F);
     const Colour clouded = Clouds(sky, direction,
@@ -68,7 +72,10 @@ class Dawn : public Terrain {
                                   Light());
     return Mix(Hex(0xFFFAE0), clouded, SmoothStep(0.040F, 0.046F, from_sun));
   }
-  Colour Haze(Vec) const override { return Hex(0xDC9480); }
+  Colour Haze(Vec direction) const override {
+    const float off = std::fabs(direction.x / direction.z - sun.x);
+    return Mix(Hex(0x8C5884), Hex(0xE89C80), std::exp(-off * 5));
+  }
   float HazeCover(float distance) const override {
     return 0.84F * (1 - std::exp(-std::pow(distance / 680, 1.5F)));
   }

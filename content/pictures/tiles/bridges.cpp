@@ -12,17 +12,17 @@ Colour Deck(int along, int across, bool level) {
   if (across == 0 || across == 15) return Wood[0];
   if (across == 1) return Wood[4];
   if (across == 2) return along % 8 == 3 ? Wood[1] : Wood[2];
-  if (across == 3) return Wood[0];
+  if (across == 3) return Wood[1];
   if (across == 13) return level ? Wood[4] : Wood[3];
   if (across == 14) return along % 8 == 3 ? Wood[1] : Wood[2];
-  if (across == 12) return Wood[0];
+  if (across == 12) return Wood[1];
   const int plank = along / 4;
   const int within = along % 4;
-  if (within == 3) return Wood[1];
-  if (across == 4) return Wood[2];
+  if (within == 3) return Wood[2];  // a darker seam would swallow the hero's outline
+  if (across == 4) return Wood[3];
   const bool worn = Hash(plank, across / 3, 401) > 0.72;
   if (within == 0) return Wood[5];
-  if ((across == 5 || across == 10) && within == 1) return Wood[1];
+  if ((across == 5 || across == 10) && within == 1) return Wood[2];
   return worn ? Wood[3] : Wood[4];
 }
 

@@ -13,7 +13,7 @@ Image LitterTile(int variant);  // 0 plain, 1 roots, 2 ferns
 Image PavingTile(int variant);  // 0 whole, 1 cracked
 Image WasteTile(int variant);   // 0..3
 Image GravelTile(int variant);  // 0..2 plain, 3 in grass, 4 rubble, 5 cracked
-Image MarshTile(int variant);   // 0 moss, 1 puddles
+Image MarshTile(int variant);   // 0 moss and sedge, 1 moss and gleams of water
 Image WaterTile(int variant);   // 0..2
 Image ShallowTile();
 Image LavaTile();

@@ -108,23 +108,22 @@ Image LitterTile(int variant) {
   return tile;
 }
 
-// Grass grows through the wet ground, also on the border, so that marsh meets grass raggedly.
+// Wet ground with sedge, and in one variant with gleams of water.
 Image MarshTile(int variant) {
   Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
-    const double wet = Woven(x, y, 114, variant);
-    const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
-    if (wet - (inward < 1 ? 0.06 : 0) < 0.42) return Grass[wet < 0.34 ? 4 : 3];
-    return Marsh[wet < 0.56 ? 4 : wet < 0.74 ? 3 : 2];
+    const double moss = Woven(x, y, 114, variant);
+    if (moss < 0.40) return Grass[3];
+    return Marsh[moss < 0.56 ? 4 : moss < 0.74 ? 3 : 2];
   });
-  const Key key = {{'d', Pool[2]},  {'w', Pool[3]},  {'l', Pool[5]},
-                   {'h', Marsh[5]}, {'m', Marsh[4]}, {'k', Marsh[0]}};
+  const Key key = {{'d', Pool[3]},  {'w', Pool[4]},  {'l', Pool[5]},
+                   {'h', Marsh[5]}, {'m', Marsh[4]}, {'k', Marsh[1]}};
   if (variant == 1) {
-    Stamp(tile, 2, 3, {"..dddddd...", "dddwwlwwdd.", "dwwllwwwwwd", ".wwwwwwwwd.", "...hhhhh..."},
-          key);
-    Stamp(tile, 7, 10, {".ddd.", "dwlwd", ".hhh."}, key);
+    Stamp(tile, 8, 4, {"..ww.", "dwlwd", ".ww.."}, key);
+    Stamp(tile, 3, 9, {".wwl..", "dwwlwd", "..dd.."}, key);
+    Stamp(tile, 10, 10, {"h.h", "mhm", ".k."}, key);
   } else {
-    Stamp(tile, 3, 3, {"h.h.", "mhmh", ".mm.", ".k.."}, key);
-    Stamp(tile, 9, 9, {".h.h", "hmhm", ".mm.", "..k."}, key);
+    Stamp(tile, 4, 4, {"h.h.", "mhmh", ".mm.", ".k.."}, key);
+    Stamp(tile, 9, 9, {"h.h", "mhm", ".k."}, key);
   }
   return tile;
 }

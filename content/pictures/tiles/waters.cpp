@@ -71,20 +71,27 @@ Colour MoltenRock(const PatchSpot& spot) {
   return Repeated(waste, spot.x, spot.y);
 }
 
-// Flat stones in deep water, near enough to each other to step across in any direction.
+// Flat stones on a shoal, near enough to each other to step across in any direction. None reaches
+// the border, so that stones side by side stay stones; between them the shoal shines through.
 Image SteppingStones() {
-  Image tile = WaterTile(0);
-  const Key key = {{'l', Gravel[5]}, {'m', Gravel[4]}, {'n', Gravel[3]},
-                   {'d', Gravel[1]}, {'s', Water[0]},  {'f', Water[6]}};
-  Stamp(tile, 0, 0,
-        {"..lllllll..", ".lllmmmmmn.", "llmmmmmmmnn", "lmmmmmmmnnd", "mmmmmmmnnnd", "nmmmmnnnndd",
-         "fnnnnnddddf", ".fddddddff.", "..ssssss..."},
+  const Image water = WaterTile(0);
+  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+    const double stone =
+        std::min({std::hypot(x - 5.2, y - 4.6) - 4.6, std::hypot(x - 10.6, y - 11.6) - 4,
+                  std::hypot(x - 12.6, y - 5) - 2, std::hypot(x - 2.8, y - 12) - 2});
+    const double wave = 3 * (Noise(x / 4.0, y / 2.0, 4, 331) - 0.5);
+    if (stone + wave > 2.4) return water.At(x, y);
+    return Water[stone + wave > 1.2 ? 3 : 4];
+  });
+  const Key key = {{'l', Gravel[5]}, {'m', Gravel[4]}, {'n', Gravel[3]}, {'d', Gravel[1]},
+                   {'s', Water[2]},  {'f', Water[6]},  {'g', Marsh[4]}};
+  Stamp(tile, 1, 1,
+        {"..lllll..", ".lllllmm.", "lllmmmmmn", "llmmmmmnn", "lmmmmmnnn", "nnmmnnndd", "fddddddds",
+         ".ffssss.."},
         key);
-  Stamp(tile, 7, 8,
-        {"..lllll..", ".lllmmmn.", "llmmmmmnd", "mmmmmmnnd", "nmmmnnndd", "fnnddddff", ".fsssss.."},
-        key);
-  Stamp(tile, 0, 9, {".llll.", "llmmnd", "mmmnnd", "nnnddf", ".fsss."}, key);
-  Stamp(tile, 11, 1, {".lll.", "lmmnd", "mmnnd", "ndddf", ".sss."}, key);
+  Stamp(tile, 7, 9, {"..llll..", ".lllmmn.", "llmmmmnn", "nmmmnnnd", "fnddddds", ".ffsss.."}, key);
+  Stamp(tile, 11, 3, {".ll.", "lmmn", "nmnd", "fdds"}, key);
+  Stamp(tile, 1, 10, {".ll.", "lmmn", "nnnd", "fdds"}, key);
   return tile;
 }
 
@@ -119,21 +126,30 @@ Image MarshPlanks() {
   return tile;
 }
 
-// Standing water with moss afloat. It reaches the border all around, so that pools side by side run
-// together; the moss at the border is the same in both and breaks the shore to the wet ground.
+// How deep (x, y) lies in the water of a pool, in pixels: a pond with ragged shores that runs over
+// into the pools beside it by a channel in the middle of each side, so that hummocks stay where
+// four pools meet.
+double PoolDepth(int x, int y, int variant) {
+  const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
+  const double rag = Noise(x / 2.0, y / 2.0, 8, inward < 2 ? 341 : 341 + variant) - 0.5;
+  const double dx = std::abs(x - 7.4);
+  const double dy = std::abs(y - 7.6);
+  const double pond = 7.3 - std::pow(std::pow(dx, 2.6) + std::pow(dy, 2.6), 1 / 2.6);
+  const double across = 3.6 - std::abs(y - 8.6);
+  const double down = 3.6 - std::abs(x - 6.4);
+  return std::max({pond, across, down}) + 3.0 * rag;
+}
+
 Image MarshPool(int variant) {
   const Image marsh = MarshTile(0);
-  const auto mossy = [&](int x, int y) {
-    const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
-    return 0.6 * Noise(x / 4.0, y / 4.0, 4, 341) + 0.4 * Noise(x / 2.0, y / 2.0, 8, 342) -
-               0.06 * std::min(inward, 4.0) >
-           0.50;
-  };
   Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
-    if (mossy(x, y)) return mossy(x, y + 1) ? marsh.At(x, y) : Marsh[1];
-    if (mossy(x, y - 1)) return Pool[1];
-    const double ripple = Noise(x / 4.0, y / 1.6, 0, 335 + variant);
-    return Pool[ripple > 0.70 ? 3 : ripple > 0.30 ? 2 : 1];
+    const double depth = PoolDepth(x, y, variant);
+    if (depth < -1.2) return marsh.At(x, y);
+    if (depth < 0) return PoolDepth(x, y + 1, variant) >= 0 ? Marsh[0] : Marsh[1];
+    if (PoolDepth(x, y - 1, variant) < 0) return Pool[0];
+    if (PoolDepth(x, y + 1, variant) < 0) return Pool[3];
+    const double ripple = Noise(x / 4.0, y / 1.6, 4, 335 + variant);
+    return Pool[ripple > 0.80 ? 3 : ripple > 0.36 ? 2 : 1];
   });
   if (variant == 0) {
     Stamp(tile, 4, 2,

@@ -38,11 +38,12 @@ Camera Aim(const Model& model, const View& view) {
   if (view.Scale > 0) return eye;
   const Box box = Measure(model, eye);
   const float wide = 2 * (eye.HalfWidth - view.Margin) / (box.Right - box.Left);
-  const float high = 2 * (eye.HalfHeight - view.Margin) / (box.High - box.Low);
+  const float high = 2 * (eye.HalfHeight - view.Margin - view.Room * 0.5F) / (box.High - box.Low);
   eye.Scale = std::min(wide, high);
   const float across = (box.Left + box.Right) * 0.5F;
-  const float standing = box.Low + (eye.HalfHeight - view.Margin) / eye.Scale;
-  const float upright = view.OnGround ? standing : (box.Low + box.High) * 0.5F;
+  const float standing = box.Low + (eye.HalfHeight - view.Margin - view.Room) / eye.Scale;
+  const float hovering = (box.Low + box.High - view.Room / eye.Scale) * 0.5F;
+  const float upright = view.OnGround ? standing : hovering;
   eye.Middle = eye.Right * across + eye.Up * upright;
   return eye;
 }

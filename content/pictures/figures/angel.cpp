@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -111,9 +112,9 @@ Image PaintAngel() {
   m[kHair] = {{0x70401C, 0xB87828, 0xE8B848, 0xF8E898}, 0.3F, 0.3F};
   m[kBlade] = {{0x385888, 0x80B8D8, 0xD0F0F8, 0xF8F8F8}, 0.8F, 0.4F, 0.15F};
   m[kSash] = {{0x301848, 0x58307C, 0x8C5CB0, 0xC49CD8}, 0, 0.2F};
-  View view = MonsterView(0.5F, 0.06F);
-  view.OnGround = false;
-  return PairSheet(Render(AngelModel(), m, view), 128, 64, 64);
+  Sprite sprite = Render(AngelModel(), m, HoverView(0.5F, 0.06F, 7));
+  CastShadow(sprite, ShadowBelow(sprite));
+  return PairSheet(sprite, 128, 64, 64);
 }
 
 }  // namespace orvane::paint

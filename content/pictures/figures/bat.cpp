@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -76,11 +77,10 @@ Image PaintBat() {
   m[kTooth] = {{0x80745C, 0xDCD0A8, 0xF8F8E8}, 0.1F, 0.1F, 0.25F};
   m[kEye] = {{0xA86008, 0xF0C020, 0xF8F088}, 0.3F, 0, 0.3F};
   m[kBelly] = {{0x3C4468, 0x6C7498, 0xA0A8C0, 0xD0D4DC}, 0, 0.2F, 0, Strands(1.5F, 0.16F)};
-  View view = MonsterView(0.42F, 0.02F);
-  view.OnGround = false;
-  Sprite sprite = Render(BatModel(), m, view);
+  Sprite sprite = Render(BatModel(), m, HoverView(0.42F, 0.02F, 9));
   StampAt(sprite, Vec{-3.4F, 4.4F, 10.8F} * kBodySize, {"KK", "KK"}, "K", {0x18040C});
   StampAt(sprite, Vec{5.2F, 4.4F, 10.4F} * kBodySize, {"K", "K"}, "K", {0x18040C});
+  CastShadow(sprite, ShadowBelow(sprite));
   return PairSheet(sprite, 129, 64, 64);
 }
 

@@ -1,6 +1,7 @@
 // The bone dragon: a wyvern's skeleton with shreds of wing and a cold fire between its ribs.
 #include "content/pictures/figures/dragon_parts.h"
 #include "content/pictures/figures/figures.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -223,7 +224,9 @@ Image PaintBoneDragon() {
   view.Margin = 4;
   view.Contour = 5;
   view.Folds = 10;
-  return PairSheet(Render(BoneDragonModel(), m, view), 318, 240, 160);
+  Sprite sprite = Render(BoneDragonModel(), m, view);
+  CastShadow(sprite, ShadowUnder(sprite, 1.12F));
+  return PairSheet(sprite, 318, 240, 160);
 }
 
 }  // namespace orvane::paint

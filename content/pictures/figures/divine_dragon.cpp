@@ -2,6 +2,7 @@
 // the others it is laid out as it is seen: x to the right, y up, z toward the viewer.
 #include "content/pictures/figures/dragon_parts.h"
 #include "content/pictures/figures/figures.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -173,7 +174,9 @@ Image PaintDivineDragon() {
   m[kMane] = {{0x0C2438, 0x104C5C, 0x1C7C7C, 0x3CB098, 0x88DCBC, 0xE0F8E4}, 0.25F, 0.4F};
   m[kPearl] = {{0x2C60B8, 0x54A0E8, 0x98DCF8, 0xE0F8F8, 0xF8F8F8}, 0.9F, 0.6F, 0.2F};
   View view = DragonView(160, 240, 0, 0.08F);
-  return PairSheet(Render(DivineDragonModel(), m, view), 320, 240, 160);
+  Sprite sprite = Render(DivineDragonModel(), m, view);
+  CastShadow(sprite, ShadowUnder(sprite, 1.12F));
+  return PairSheet(sprite, 320, 240, 160);
 }
 
 }  // namespace orvane::paint

@@ -1,6 +1,7 @@
 // The fire dragon: the winged terror, rearing up, with a mane and a tail of flames.
 #include "content/pictures/figures/dragon_parts.h"
 #include "content/pictures/figures/figures.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -158,7 +159,9 @@ Image PaintFireDragon() {
   m[kDragonPlate] = m[kDragonHorn];
   m[kDragonFire] = {
       {0x8C1C10, 0xC83C10, 0xF07818, 0xF8B430, 0xF8E468, 0xF8F8C8}, 0, 0, 0, Flames(30)};
-  return PairSheet(Render(FireDragonModel(), m, DragonView(128, 192, 0.66F, 0.12F)), 256, 192, 128);
+  Sprite sprite = Render(FireDragonModel(), m, DragonView(128, 192, 0.66F, 0.12F));
+  CastShadow(sprite, ShadowUnder(sprite, 1.12F));
+  return PairSheet(sprite, 256, 192, 128);
 }
 
 }  // namespace orvane::paint

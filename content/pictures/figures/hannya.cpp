@@ -1,6 +1,7 @@
 // The cursed mask: a horned ivory face adrift in black hair, with two lost souls.
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -107,11 +108,10 @@ Image PaintHannya() {
   m[kGold] = {{0x805010, 0xE0A820, 0xF8E060, 0xF8F8C0}, 0.5F, 0.1F, 0.3F};
   m[kLip] = {{0x501018, 0x981C24, 0xD83C38}, 0.4F};
   m[kFlame] = {{0x1C2C90, 0x2C68D8, 0x50B8F0, 0xB0F0F8, 0xF0F8F8}, 0, 0.6F, 0.0F};
-  View view = MonsterView(0.45F, -0.04F);
-  view.OnGround = false;
-  Sprite sprite = Render(HannyaModel(), m, view);
+  Sprite sprite = Render(HannyaModel(), m, HoverView(0.45F, -0.04F, 9));
   StampAt(sprite, {-4.4F, 2.5F, 9.4F}, {"K"}, "K", {0x10040C});
   StampAt(sprite, {5.4F, 2.5F, 9.2F}, {"K"}, "K", {0x10040C});
+  CastShadow(sprite, ShadowBelow(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/hero.h"
+#include "content/pictures/figures/shadow.h"
 #include "content/pictures/figures/sheet.h"
 
 namespace orvane::paint {
@@ -16,6 +17,10 @@ constexpr float kSideways = 1.2F;  // not a full profile: more of the face shows
 constexpr std::array<float, 3> kSteps{0, 1, -1};
 // Rows of the sheet: up, right, down, left.
 constexpr std::array<float, 4> kYaws{2 * kQuarter, kSideways, 0, -kSideways};
+
+// The same in all cells, so that it lies still while the hero walks. It has no gaps: a battle
+// stretches the heroes by uneven steps, which would make blots of a pattern.
+constexpr GroundShadow kShadow{12.5F, 28.7F, 7.4F, 2.3F, 1};
 
 struct Look {
   uint32_t Lash;
@@ -60,6 +65,7 @@ Image HeroSheet(const Builder& build, const std::vector<Material>& materials, co
       view.Folds = 4;
       Sprite sprite = Render(build(step), materials, view);
       DrawFace(sprite, row, look);
+      CastShadow(sprite, kShadow);
       PutPair(sheet, sprite, frame * kCellWidth, row * kCellHeight, kMaskFrom);
     }
   }

@@ -1,6 +1,7 @@
 // The one-horned maw: a shaggy beast that is mostly mouth.
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -101,6 +102,7 @@ Image PaintHornedBeast() {
   m[kClaw] = {{0x30282C, 0x786C60, 0xC8BC9C}, 0.3F};
   Sprite sprite = Render(BeastModel(), m, MonsterView(0.75F, 0.14F));
   StampAt(sprite, {-6.4F, 11, 21.4F}, {"K", "K"}, "K", {0x0C1408});
+  CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

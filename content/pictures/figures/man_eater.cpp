@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -109,7 +110,9 @@ Image PaintManEater() {
   m[kMouth] = {{0x20040C, 0x580C1C, 0x901C28}};
   m[kTooth] = {{0x8C7C50, 0xE4D8A0, 0xF8F8E0}, 0.1F, 0.1F, 0.2F};
   m[kTongue] = {{0x74102C, 0xC83848, 0xF08078}, 0.5F};
-  return PairSheet(Render(PlantModel(), m, MonsterView(0.62F, 0.14F)), 128, 64, 64);
+  Sprite sprite = Render(PlantModel(), m, MonsterView(0.62F, 0.14F));
+  CastShadow(sprite, ShadowUnder(sprite));
+  return PairSheet(sprite, 128, 64, 64);
 }
 
 }  // namespace orvane::paint

@@ -1,6 +1,7 @@
 // The merman: scaled, finned, goggle-eyed, with a trident.
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -101,6 +102,7 @@ Image PaintMerman() {
   m[kSteel] = {{0x2C2C48, 0x646C88, 0xA8B4C8, 0xF0F4F8}, 0.6F};
   Sprite sprite = Render(MermanModel(), m, MonsterView(0.6F, 0.1F));
   StampAt(sprite, {-6.2F, 22, 13}, {"KK", "KK"}, "K", {0x100814});
+  CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

@@ -1,5 +1,7 @@
 #include "content/pictures/figures/monster.h"
 
+#include "content/pictures/figures/shadow.h"
+
 namespace orvane::paint {
 
 std::vector<Knot> Crescent(Vec middle, Vec u, Vec v, float from, float to, float thickness) {
@@ -42,6 +44,14 @@ View MonsterView(float yaw, float pitch) {
   View view;
   view.Yaw = yaw;
   view.Pitch = pitch;
+  view.Room = kShadowRoom;
+  return view;
+}
+
+View HoverView(float yaw, float pitch, float air) {
+  View view = MonsterView(yaw, pitch);
+  view.OnGround = false;
+  view.Room = air;
   return view;
 }
 

@@ -22,7 +22,9 @@ Vec Around(float angle, float radius_x, float height, float radius_z);
 void StampAt(Sprite& sprite, Vec point, const std::vector<std::string>& rows,
              const std::string& letters, const std::vector<uint32_t>& colours);
 
-// The view that the 64 by 64 enemies share, turned by `yaw` to the right.
+// The view that the 64 by 64 enemies share, turned by `yaw` to the right: one for those that stand,
+// and one for those that float `air` pixels above the ground line.
 View MonsterView(float yaw, float pitch);
+View HoverView(float yaw, float pitch, float air);
 
 }  // namespace orvane::paint

@@ -1,6 +1,7 @@
 // The envoy of the moon: a hovering robe without a face, a crescent at its back and on its staff.
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -79,11 +80,11 @@ Image PaintMoonEnvoy() {
   m[kHand] = {{0x384868, 0x6C8CA8, 0xB4D0DC}, 0, 0.2F};
   View view = MonsterView(0.55F, 0.06F);
   view.Margin = 3;
-  view.OnGround = false;
   Sprite sprite = Render(MoonModel(), m, view);
   const std::vector<uint32_t> eyes{0xF8F080, 0xF8A830};
   StampAt(sprite, {-2.4F, 18.4F, 8}, {"YO", "OO"}, "YO", eyes);
   StampAt(sprite, {2.6F, 18.4F, 8}, {"YO", "OO"}, "YO", eyes);
+  CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

@@ -1,6 +1,7 @@
 // The naked fiend: a red giant in nothing but a leaf.
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -97,6 +98,7 @@ Image PaintNakedFiend() {
   const std::vector<uint32_t> eyes{0x20040C, 0xF8E850};
   StampAt(sprite, {-2.2F, 20.4F, 11.6F}, {"KK", "YK"}, "KY", eyes);
   StampAt(sprite, {3.0F, 20.2F, 11.6F}, {"KK", "YK"}, "KY", eyes);
+  CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 127, 64, 64);
 }
 

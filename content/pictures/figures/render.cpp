@@ -2,11 +2,13 @@
 
 #include <array>
 
+#include "content/pictures/figures/holes.h"
 #include "content/pictures/figures/trace.h"
 
 namespace orvane::paint {
 namespace {
 
+constexpr size_t kLargestHole = 3;  // that is closed, in pixels
 constexpr std::array<std::array<int, 2>, 4> kNeighbours{{{1, 0}, {-1, 0}, {0, 1}, {0, -1}}};
 constexpr std::array<std::array<int, 4>, 4> kBayer{
     {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}}};
@@ -87,6 +89,11 @@ Sprite Render(const Model& model, const std::vector<Material>& materials, const 
       sprite.Picture.At(x, y) = OutlineOf(materials[static_cast<size_t>(border)]);
       sprite.Solid[i] = true;
     }
+  }
+  // A small hole is filled with the outline that runs around it.
+  for (const HolePixel& hole : SmallHoles(sprite.Solid, view.Width, kLargestHole)) {
+    sprite.Picture.pixels[hole.At] = sprite.Picture.pixels[hole.Beside];
+    sprite.Solid[hole.At] = true;
   }
   return sprite;
 }

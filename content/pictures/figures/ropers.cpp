@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -135,6 +136,7 @@ Image PaintGreenRoper() {
   Sprite sprite = Render(GreenRoperModel(), m, MonsterView(0.5F, 0.16F));
   StampAt(sprite, {0.6F, 7.2F, 11.6F}, {".KK.", "KKWK", "KKKK", ".KK."}, "KW",
           {0x200810, 0xF8F8F0});
+  CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 
@@ -149,9 +151,9 @@ Image PaintDeathRoper() {
   m[kMouth] = {{0x100410, 0x28081C, 0x401028}};
   m[kTooth] = {{0x40343C, 0x7C6C64, 0xB8A888, 0xE4D8B4, 0xF8F4E0}, 0.1F, 0.2F};
   m[kTip] = {{0x38101C, 0x781C24, 0xC03C2C, 0xF08850}, 0.3F};
-  View view = MonsterView(0.5F, 0.08F);
-  view.OnGround = false;
-  return PairSheet(Render(DeathRoperModel(), m, view), 128, 64, 64);
+  Sprite sprite = Render(DeathRoperModel(), m, HoverView(0.5F, 0.08F, 7));
+  CastShadow(sprite, ShadowBelow(sprite));
+  return PairSheet(sprite, 128, 64, 64);
 }
 
 }  // namespace orvane::paint

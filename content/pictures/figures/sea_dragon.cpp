@@ -2,6 +2,7 @@
 #include "content/pictures/figures/dragon_parts.h"
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -173,7 +174,9 @@ Image PaintSeaDragon() {
   m[kDragonFire] = m[kDragonHorn];
   View view = DragonView(128, 192, 0.66F, 0.16F);
   view.Margin = 4;
-  return PairSheet(Render(SeaDragonModel(), m, view), 256, 192, 128);
+  Sprite sprite = Render(SeaDragonModel(), m, view);
+  CastShadow(sprite, ShadowUnder(sprite, 1.12F));
+  return PairSheet(sprite, 256, 192, 128);
 }
 
 }  // namespace orvane::paint

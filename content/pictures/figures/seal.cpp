@@ -31,6 +31,7 @@ Image PaintSeal() {
   m[kLeafGreen] = {{0x143820, 0x24682C, 0x48A038, 0x98D858}, 0.1F};
   View view = MonsterView(0, 0);
   view.OnGround = false;
+  view.Room = 0;
   return PairSheet(Render(SealModel(), m, view), 129, 64, 64);
 }
 

@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -74,6 +75,7 @@ Image PaintSlime() {
   Sprite sprite = Render(SlimeModel(), m, MonsterView(0.5F, 0.2F));
   StampAt(sprite, {-10.8F, 20.6F, 9.6F}, {"KK", "KK", "KK"}, "K", {0x200818});
   StampAt(sprite, {7.8F, 16.6F, 9.8F}, {"KK", "KK"}, "K", {0x200818});
+  CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

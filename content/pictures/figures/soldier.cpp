@@ -1,6 +1,7 @@
 // The soldier: full plate, a red plume and cape, halberd and round shield.
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -108,6 +109,7 @@ Image PaintSoldier() {
   Sprite sprite = Render(SoldierModel(), m, MonsterView(0.55F, 0.12F));
   StampAt(sprite, {-2.2F, 19, 7}, {"K"}, "K", {0x180C14});
   StampAt(sprite, {2.6F, 19, 7}, {"K"}, "K", {0x180C14});
+  CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

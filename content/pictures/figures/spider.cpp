@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -89,7 +90,9 @@ Image PaintSpider() {
   m[kAcid] = {{0x4C8418, 0xA0D830, 0xE8F888}, 0.6F, 0.2F, 0.2F};
   View view = MonsterView(0.55F, 0.24F);
   view.Height = 50;
-  return PairSheet(Render(SpiderModel(), m, view), 128, 50, 64);
+  Sprite sprite = Render(SpiderModel(), m, view);
+  CastShadow(sprite, ShadowUnder(sprite));
+  return PairSheet(sprite, 128, 50, 64);
 }
 
 }  // namespace orvane::paint

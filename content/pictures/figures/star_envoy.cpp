@@ -3,6 +3,7 @@
 
 #include "content/pictures/figures/figures.h"
 #include "content/pictures/figures/monster.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -76,11 +77,10 @@ Image PaintStarEnvoy() {
   m[kTailB] = {{0x30206C, 0x5038A8, 0x7C64D8, 0xB8A8F0}, 0.1F, 0.3F, 0.1F};
   m[kTailC] = {{0x681858, 0xA83080, 0xE060A8, 0xF8B0D0}, 0.1F, 0.3F, 0.1F};
   m[kSpark] = {{0x5890C0, 0xC0ECF8, 0xF8F8F0}, 0.2F, 0.1F, 0.5F};
-  View view = MonsterView(0.42F, 0.04F);
-  view.OnGround = false;
-  Sprite sprite = Render(StarModel(), m, view);
+  Sprite sprite = Render(StarModel(), m, HoverView(0.42F, 0.04F, 9));
   StampAt(sprite, {1.2F, 0.4F, 9}, {".BBB.", "BCKCB", "BKKWB", "BCKCB", ".BBB."}, "BCKW",
           {0x1C3C8C, 0x48A8E8, 0x0C1028, 0xF8F8F8});
+  CastShadow(sprite, ShadowBelow(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

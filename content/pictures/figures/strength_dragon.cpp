@@ -1,6 +1,7 @@
 // The dragon of strength: no wings, all shoulders; a horned brute under a shell of spires.
 #include "content/pictures/figures/dragon_parts.h"
 #include "content/pictures/figures/figures.h"
+#include "content/pictures/figures/shadow.h"
 
 namespace orvane::paint {
 namespace {
@@ -180,8 +181,9 @@ Image PaintStrengthDragon() {
                      0.4F,
                      0,
                      Mottle(9, 0.14F)};
-  return PairSheet(Render(StrengthDragonModel(), m, DragonView(128, 192, 0.6F, 0.12F)), 256, 192,
-                   128);
+  Sprite sprite = Render(StrengthDragonModel(), m, DragonView(128, 192, 0.6F, 0.12F));
+  CastShadow(sprite, ShadowUnder(sprite, 1.12F));
+  return PairSheet(sprite, 256, 192, 128);
 }
 
 }  // namespace orvane::paint

@@ -173,19 +173,21 @@ Faults SamenessFaults(const Surface& sheet, const std::vector<Rect>& cells) {
   return faults;
 }
 
+bool InFigure(const Surface& sheet, const SpritePair& pair, int x, int y) {
+  return x >= 0 && y >= 0 && x < pair.Image.Width && y < pair.Image.Height &&
+         sheet.Contains(pair.MaskX + x, pair.MaskY + y) &&
+         sheet.At(pair.MaskX + x, pair.MaskY + y) == kWhite &&
+         sheet.At(pair.Image.X + x, pair.Image.Y + y) != kShadow;
+}
+
 double OutlineLikeness(const Surface& one, const SpritePair& its_pair, const Surface& other,
                        const SpritePair& other_pair) {
-  const auto covers = [](const Surface& sheet, const SpritePair& pair, int x, int y) {
-    return x < pair.Image.Width && y < pair.Image.Height &&
-           sheet.Contains(pair.MaskX + x, pair.MaskY + y) &&
-           sheet.At(pair.MaskX + x, pair.MaskY + y) == kWhite;
-  };
   int both = 0;
   int either = 0;
   for (int y = 0; y < std::max(its_pair.Image.Height, other_pair.Image.Height); ++y) {
     for (int x = 0; x < std::max(its_pair.Image.Width, other_pair.Image.Width); ++x) {
-      const bool in_one = covers(one, its_pair, x, y);
-      const bool in_other = covers(other, other_pair, x, y);
+      const bool in_one = InFigure(one, its_pair, x, y);
+      const bool in_other = InFigure(other, other_pair, x, y);
       both += in_one && in_other ? 1 : 0;
       either += in_one || in_other ? 1 : 0;
     }

@@ -13,6 +13,8 @@ using Faults = std::vector<std::string>;
 
 constexpr Colour kWhite = 0xFFFFFF;
 constexpr Colour kBlack = 0x000000;
+// Every shadow on the ground has this colour, and no figure has it.
+constexpr Colour kShadow = 0x2A2840;
 
 // A picture on white and its mask, white on black. Where a sheet is too small for the mask, the
 // mask counts as black: the game cuts it off there.
@@ -52,7 +54,11 @@ Faults OutsideFaults(const Surface& sheet, const std::vector<SpritePair>& pairs,
 // The cells' pictures are all different.
 Faults SamenessFaults(const Surface& sheet, const std::vector<Rect>& cells);
 
-// How alike the outlines of two figures are: what both masks cover by what either covers, 0 to 1.
+// True where the pair shows its figure; (x, y) counts from the picture's corner. A shadow is no
+// part of the figure.
+bool InFigure(const Surface& sheet, const SpritePair& pair, int x, int y);
+
+// How alike the outlines of two figures are: what both cover by what either covers, 0 to 1.
 double OutlineLikeness(const Surface& one, const SpritePair& its_pair, const Surface& other,
                        const SpritePair& other_pair);
 

@@ -1,6 +1,8 @@
-// The window's icon: a dragon's eye among its scales. Small sizes leave out what would only blur.
+// The window's icon: a dragon's eye among its scales. Small sizes are flat shapes that leave out what
+// would only blur, large ones a relief.
 #include <string>
 
+#include "content/pictures/panels/icon_relief.h"
 #include "content/pictures/panels/panels.h"
 #include "content/pictures/scenes/drawing.h"
 
@@ -59,7 +61,9 @@ void DrawEye(Drawing& icon, int size) {
 }  // namespace
 
 Image PaintIcon(int size) {
-  Drawing icon(size, size, size >= 128 ? 4 : 8);
+  constexpr int least_relief = 64;
+  if (size >= least_relief) return scene::ToSheet(DrawIconRelief(size));
+  Drawing icon(size, size);
   icon.Place(0, 0, size / 64.0, size / 64.0);
   icon.Shape("M0 0 H64 V64 H0 Z",
              Fill(0, 0, 64, 64, {{0, 0xB43828}, {0.5, 0x801C28}, {1, 0x380C20}}));

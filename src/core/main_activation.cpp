@@ -59,13 +59,12 @@ void ActivateMain(Game& game) {
     if (state.LastBossDown == True) StartClosingStory(main);
   }
   if (state.LastBossFight == False && !main.Timer3.IsEnabled()) {
-    main.m12.Enabled = true;
+    // The door that led into a room has decided about saving there, and nothing changes it on the
+    // inside.
+    main.m12.Enabled = state.InBook == False || could_save;
   } else if (main.Timer3.IsEnabled()) {
     main.m12.Enabled = false;
   }
-  // The door that led into a room has decided about saving there, and nothing changes it on the
-  // inside.
-  if (state.InBook != False) main.m12.Enabled = could_save;
 }
 
 void ShowStatus(Game& game) {

@@ -116,7 +116,6 @@ void ChardataScreen::OnActivate(bool) {
 }
 
 void ChardataScreen::OnUnload() {
-  TheStage().Hide(*this);
   game_.Main.Timer1.SetEnabled(true);
 }
 

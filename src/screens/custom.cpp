@@ -25,7 +25,6 @@ void CustomScreen::OnActivate(bool) {
 }
 
 void CustomScreen::OnUnload() {
-  TheStage().Hide(*this);
   game_.Main.Timer1.SetEnabled(true);
 }
 

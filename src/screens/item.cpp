@@ -36,8 +36,9 @@ void ItemScreen::OnActivate(bool) {
 }
 
 void ItemScreen::OnClose() {
-  TheStage().Hide(*this);
+  // Before Main is active again, which may stop the walk for a scene.
   game_.Main.Timer1.SetEnabled(true);
+  TheStage().Hide(*this);
 }
 
 bool ItemScreen::IsWorn() const {

@@ -6,18 +6,17 @@
 namespace orvane {
 
 LoadScreen::LoadScreen(Game& game) : SaveDialog(game, "Load", "ロード") {
-  File1.OnClick = [this] { Preview(); };
   OKButton.OnClick = [this] { Load(); };
 }
 
 void LoadScreen::ReadChosen() {
-  const std::string file = File1.FileName();
-  const auto bytes = game_.folder.Read(file);
-  if (!bytes) throw RunError(ErrorKind::File, file);
+  const auto bytes = game_.folder.Read(Opened());
+  if (!bytes) throw RunError(ErrorKind::File, Opened());
   UnpackRecord(*bytes, game_.state);
 }
 
-void LoadScreen::Preview() {
+void LoadScreen::Open() {
+  SaveDialog::Open();
   ReadChosen();
   ShowParty(game_.state.SaveRound, game_.state.SaveName, game_.state.SaveLevel);
 }

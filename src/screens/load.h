@@ -12,10 +12,11 @@ class LoadScreen : public SaveDialog {
  protected:
   void OnLoad() override { ListFiles(); }
   void OnUnload() override;
+  // The preview.
+  void Open() override;
 
  private:
   void ReadChosen();
-  void Preview();
   void Load();
 };
 

@@ -27,7 +27,7 @@ void SaveScreen::Save() {
   state.SaveMapB = state.MapB;
   state.SaveX = state.HeroX;
   state.SaveY = state.HeroY;
-  game_.folder.Replace(File1.FileName(), PackRecord(state));
+  game_.folder.Replace(Opened(), PackRecord(state));
   game_.Main.Timer1.SetEnabled(true);
   TheStage().Unload(*this);
 }

@@ -13,6 +13,7 @@ SaveDialog::SaveDialog(Game& game, const std::string& name, const std::string& v
       Label4(Frame1, "Label4", {72, 48, 81, 17}, {"", 0, {}, Align::Centre}),
       game_(game) {
   File1.Pattern = "*.sav";
+  File1.OnClick = [this] { Open(); };
   Picture1.Add(0, Frame1, Place{8, 32, 48, 48}, PictureValues{Sheet("face_man")});
   Picture1.Add(1, Frame1, Place{152, 32, 48, 48}, PictureValues{Sheet("face_woman")});
   Label2.Add(0, Frame1, Place{8, 88, 73, 17});
@@ -34,14 +35,18 @@ void SaveDialog::ShowParty(int round, const Array<HeroNameField, 3>& names,
   }
 }
 
+void SaveDialog::Open() {
+  opened_ = File1.FileName();
+}
+
 bool SaveDialog::NothingChosen() {
-  if (!File1.FileName().empty()) return false;
+  if (!File1.FileName().empty() && !opened_.empty()) return false;
   Warn(game_, "ファイルを選択してください");
   return true;
 }
 
 void SaveDialog::Leave() {
-  TheStage().Hide(*this);
+  opened_.clear();
   game_.Main.Timer1.SetEnabled(true);
 }
 

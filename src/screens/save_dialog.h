@@ -29,12 +29,19 @@ class SaveDialog : public Screen {
   void ListFiles();
   // Shows a party: round, names and levels.
   void ShowParty(int round, const Array<HeroNameField, 3>& names, const Array<Int16, 3>& levels);
-  // True, after a warning, when no file has been chosen.
+  // A name has been clicked: its file is the one that OK works on.
+  virtual void Open();
+  // The file last clicked, or nothing.
+  const std::string& Opened() const { return opened_; }
+  // True, after a warning, when no file has been chosen. A name that is only marked counts as none.
   bool NothingChosen();
-  // The dialog goes; the field goes on.
+  // The dialog is about to go; the field goes on.
   void Leave();
 
   Game& game_;
+
+ private:
+  std::string opened_;
 };
 
 }  // namespace orvane

@@ -213,6 +213,22 @@ test("inside a room, saving stays off or on whatever activates the field", funct
   end
 end)
 
+test("no scene and no last stage offers saving, in whatever room it finds the party", function()
+  door(131)
+  steps.walk("Up", 1)
+  set("BossFight", -1)
+  click("Main.m32")
+  click("Chardata.Command1")
+  expect(get("Main.Timer3.Enabled"), true)
+  expect(get("Main.m12.Enabled"), false)
+  door(131)
+  steps.walk("Up", 1)
+  set("LastBossFight", -1)
+  click("Main.m32")
+  click("Chardata.Command1")
+  expect(get("Main.m12.Enabled"), false)
+end)
+
 test("activating the field in a room keeps the room's map", function()
   door(47)
   steps.walk("Up", 1)

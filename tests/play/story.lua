@@ -1,4 +1,5 @@
 local steps = require "lib.steps"
+local records = require "lib.records"
 
 test("the opening shows its lines by clicks, even lines the man's, odd lines the woman's", function()
   start()
@@ -71,18 +72,35 @@ local function closing(round, story)
   click("Main.m32")
   click("Chardata.Command1")
   expect(get("Main.Timer3.Enabled"), true)
-  expect(get("Main.Timer1.Enabled"), true, "the menu screen that closed has switched the walk on")
-  set("Main.Timer1.Enabled", false)
+  expect(get("Main.Timer1.Enabled"), false)
   expect(get("Main.m1.Enabled"), false)
   expect(get("Main.m12.Enabled"), false)
 end
+
+test("a screen left open over a dragon's fall starts no walk beside the scene when it closes", function()
+  for item, screen in pairs { m12 = "Save", m21 = "Wepon", m22 = "Item", m32 = "Chardata", m33 = "Custom", m35 = "Version" } do
+    steps.field()
+    click("Main." .. item)
+    set("BossFight", -1)
+    set("StoryNo", 21)
+    close(screen)
+    expect(active(), "Main", screen)
+    expect(get("Main.Timer3.Enabled"), true, screen)
+    expect(get("Main.Timer1.Enabled"), false, screen)
+  end
+end)
 
 test("the end of a dragon's scene starts the next round", function()
   closing(1, 21)
   for i = 0, 14 do set("TreasureLeft[" .. i .. "]", 0) end
   set("BookLeft[2]", 0)
   set("WazaKnown[1]", -1)
-  set("FieldFrame", 9)
+  set("MagicKnown[6]", -1)
+  set("Items[0]", 21)
+  set("Items[19]", 30)
+  set("ItemCount", 4)
+  set("Level[1]", 9)
+  for _, counter in ipairs { "FieldFrame", "MessageFrame", "StoryFrame", "ActionState" } do set(counter, 9) end
   set("MapA", 4)
   set("MapB", 1)
   click("Main.Picture1")
@@ -95,12 +113,53 @@ test("the end of a dragon's scene starts the next round", function()
   expect(get("MapB"), 3)
   expect(get("HeroX"), 208)
   expect(get("HeroY"), 112)
-  expect(get("FieldFrame"), 0)
+  for _, counter in ipairs { "FieldFrame", "MessageFrame", "StoryFrame", "ActionState" } do expect(get(counter), 0, counter) end
   for i = 0, 14 do expect(get("TreasureLeft[" .. i .. "]"), -1) end
   expect(get("BookLeft[2]"), -1)
   expect(get("WazaKnown[1]"), -1, "what was learned stays")
+  expect(get("MagicKnown[6]"), -1)
+  expect(get("WazaKnown[2]"), 0)
+  for slot, item in pairs { [0] = 21, [1] = 47, [2] = 47, [3] = 99, [19] = 30 } do
+    expect(get("Items[" .. slot .. "]"), item, "the bag carries over")
+  end
+  expect(get("ItemCount"), 4)
+  expect(get("Level[1]"), 9)
   expect(get("Main.Timer1.Enabled"), true)
   expect(get("Main.Timer3.Enabled"), false)
+end)
+
+test("a game loaded in round 2 goes on with line 24 after the next dragon", function()
+  records.title { ["Save01.sav"] = records.small_record() }
+  records.load()
+  expect(get("StoryNo"), 24)
+  steps.boss()
+  steps.win()
+  steps.leave()
+  expect(get("Main.Timer3.Enabled"), true)
+  tick("Main.Timer3")
+  expect(get("Main.Label8.Caption"), "よし！あと１体だ！")
+end)
+
+test("the line that ends a scene is never shown", function()
+  start()
+  steps.enter_names()
+  local seen = {}
+  for _ = 1, 20 do
+    tick("Main.Timer3")
+    seen[#seen + 1] = get("Main.Label8.Caption")
+    click("Main.Picture1")
+  end
+  for line = 0, 19 do expect(seen[line + 1], get("StoryText[" .. line .. "]"), "line " .. line) end
+  expect(get("Main.Timer3.Enabled"), false)
+  for round, story in pairs { 21, 24, 28 } do
+    closing(round, story)
+    while get("Main.Timer3.Enabled") do
+      tick("Main.Timer3")
+      expect(get("Main.Label8.Caption") ~= "", true)
+      click("Main.Picture1")
+    end
+    expect(get("Round"), round + 1)
+  end
 end)
 
 test("the second dragon's scene has three lines", function()

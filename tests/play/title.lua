@@ -32,9 +32,22 @@ end)
 
 test("the title picture is stretched by 1.5 and 2 in place", function()
   start()
-  for _, point in ipairs { { 0, 0 }, { 479, 303 }, { 100, 77 }, { 301, 200 } } do
-    expect(pixel("Main.Picture1", point[1], point[2]), shown_pixel("Main.Picture1", point[1], point[2]))
+  local colours, count = {}, 0
+  for y = 0, 303 do
+    for x = 0, 479 do
+      local here = pixel("Main.Picture1", x, y)
+      expect(shown_pixel("Main.Picture1", x, y), here)
+      if x % 3 == 1 then expect(here, pixel("Main.Picture1", x - 1, y), ("column %d is that before it"):format(x)) end
+      if y % 2 == 1 then expect(here, pixel("Main.Picture1", x, y - 1), ("row %d is that before it"):format(y)) end
+      if not colours[here] then colours[here], count = true, count + 1 end
+    end
   end
+  expect(count > 8, true, "a picture, not a plain ground")
+  local seams = 0
+  for x = 3, 477, 3 do
+    if pixel("Main.Picture1", x, 100) ~= pixel("Main.Picture1", x - 1, 100) then seams = seams + 1 end
+  end
+  expect(seams > 8, true, "no column is wider than two")
   expect(picture_size("Main.Picture1"), 481)
 end)
 

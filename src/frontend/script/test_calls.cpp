@@ -12,7 +12,8 @@ namespace {
 
 // The note that an expectation may carry, as it stands behind its failure.
 std::string Note(const Call& call, int at) {
-  return call.Has(at) ? " (" + std::string(call.Text(at, "a text as a note")) + ")" : "";
+  if (!call.Has(at)) return "";
+  return " (" + (call.IsText(at) ? std::string(call.Text(at, "a note")) : call.Shown(at)) + ")";
 }
 
 // Calls the function at 2 and returns its failure, empty when there is none.

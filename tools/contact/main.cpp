@@ -139,6 +139,10 @@ void WriteEffects(const Sheets& sheets, const std::string& folder) {
 
 void WriteWindows(const Sheets& sheets, const std::string& folder) {
   Windows windows(sheets);
+  Page title(1960);
+  const Shown seen = windows.TheTitle();
+  title.AddTwice(seen.Name, seen.Picture);
+  title.Write(folder + "/place_title.png");
   Page panels(1470);
   for (const Shown& shown : windows.OfTheField()) panels.AddTwice(shown.Name, shown.Picture);
   for (const Shown& shown : windows.OfTheBattle()) panels.Add(shown.Name, shown.Picture);

@@ -69,6 +69,16 @@ Windows::Windows(const Sheets& sheets) : sheets_(sheets), screens_(std::make_uni
 
 Windows::~Windows() = default;
 
+Shown Windows::TheTitle() {
+  MainScreen& main = screens_->game.Main;
+  const Surface& title = sheets_.at("title");
+  Surface field(main.Picture1.Picture.Width(), main.Picture1.Picture.Height());
+  StretchBlt(field, {0, 0, 480, 320}, title, {0, 0, title.Width(), title.Height()},
+             RasterOp::SRCCOPY);
+  main.Picture1.Picture = field;
+  return {"title as seen", Whole(main.Picture1)};
+}
+
 std::vector<Shown> Windows::OfTheField() {
   MainScreen& main = screens_->game.Main;
   main.Label5[0].Caption = "HP ：128/164";

@@ -24,6 +24,8 @@ class Windows {
   Windows(const Windows&) = delete;
   Windows& operator=(const Windows&) = delete;
 
+  // The title as it is seen: stretched, with its texts but without the button.
+  Shown TheTitle();
   // The status panel, and the message window with what is told, found and healed.
   std::vector<Shown> OfTheField();
   // Battle scenes with both name panels, and with the victory panel.

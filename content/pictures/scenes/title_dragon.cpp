@@ -137,12 +137,12 @@ std::vector<paint::Material> Materials() {
 Sprite RenderTitleDragon() {
   Model model;
   AddBody(model);
-  // Half folded, so that it stays in the picture: the fingers hang from the wrist.
+  // Folded, so that it stays in the picture: the fingers hang from the wrist beside each other.
   AddWing(model, {{24, -56, -26},
-                  {44, 6, -38},
-                  {14, 82, -44},
-                  {{{74, 64, -58}, {84, 4, -52}, {70, -56, -46}, {50, -100, -40}}},
-                  {26, -112, -40}});
+                  {42, 2, -36},
+                  {12, 76, -44},
+                  {{{44, 40, -44}, {50, -22, -38}, {46, -74, -40}, {38, -112, -38}}},
+                  {24, -126, -36}});
   AddHead(model);
   model.Finish();
   paint::View view;

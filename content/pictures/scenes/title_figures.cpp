@@ -57,19 +57,19 @@ void DrawLedge(Canvas& canvas) {
 
 void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& materials, float x) {
   paint::View view;
-  view.Width = 110;
-  view.Height = 110;
-  view.Yaw = 2.25F;
+  view.Width = 160;
+  view.Height = 160;
+  view.Yaw = 2.1F;
   view.Pitch = 0.06F;
   view.Samples = 2;
   view.Margin = 2;
   view.Dither = 0.5F;
-  view.Scale = 3.1F;
+  view.Scale = 4.5F;
   view.Middle = {0, 1, 0};
   view.Light = {-0.6F, 0.8F, 0.2F};
   const Sprite sprite = Render(model, materials, view);
-  const int top = static_cast<int>(LedgeTop(x)) - 95;
-  LaySprite(canvas, sprite, static_cast<int>(x) - 55, top, 0.62F, 0);
+  const int top = static_cast<int>(LedgeTop(x)) - 138;
+  LaySprite(canvas, sprite, static_cast<int>(x) - 80, top, 0.62F, 0);
 }
 
 }  // namespace
@@ -77,8 +77,8 @@ void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& m
 void DrawTitleFigures(Canvas& canvas) {
   LaySprite(canvas, RenderTitleDragon(), dragon_left, 0, 0.45F, 0.95F);
   DrawLedge(canvas);
-  DrawHero(canvas, WomanModel(0), WomanMaterials(), 150);
-  DrawHero(canvas, ManModel(0), ManMaterials(), 222);
+  DrawHero(canvas, WomanModel(0), WomanMaterials(), 122);
+  DrawHero(canvas, ManModel(0), ManMaterials(), 226);
 }
 
 }  // namespace orvane::paint::scene

@@ -132,10 +132,20 @@ Colour Look(Vec from, Vec direction) {
     // Polished stone mirrors the hall, more so at a flat angle.
     const Vec up{0, 1, 0};
     const float ripple = 0.035F * (Noise(hit.place.x * 0.5F, hit.place.z * 0.5F, 15) - 0.5F);
-    const Vec mirrored = Unit({direction.x + ripple, -direction.y, direction.z + ripple});
+    const float lengthened = 1 + 0.9F * ripple * std::fabs(direction.y) * 20;
+    const Vec mirrored =
+        Unit({direction.x + ripple, -direction.y * lengthened, direction.z + ripple});
     const Hit other = March(hit.place + up * 0.05F, mirrored, 80);
     const float flat = std::pow(Clamp(1 + direction.y), 5.0F);
-    colour = Mix(colour, Veiled(Surface(other, mirrored), other.distance), 0.06F + 0.34F * flat);
+    const Colour seen = Surface(other, mirrored);
+    if (other.stuff == Stuff::Disc) {
+      // The disc's own light is added, with the stone's seams and wear in it.
+      const float polish = 0.30F + 0.9F * SlabTone(hit.place);
+      const Colour warm{seen.r, seen.g * 0.94F, seen.b * 0.72F};
+      colour = Mix(colour, seen, 0.18F) + warm * (Clamp(polish, 0.06F, 0.5F) * 0.5F);
+    } else {
+      colour = Mix(colour, Veiled(seen, other.distance), 0.06F + 0.34F * flat);
+    }
   }
   if (hit.stuff != Stuff::Disc) colour = Veiled(colour, hit.distance);
   return colour;

@@ -9,21 +9,35 @@
 namespace orvane::paint::tiles {
 namespace {
 
-// Polished slabs with a slanting sheen; the variants are cut in four or inlaid with a square.
+// Polished slabs with a slanting sheen and a vein; the variants are four dark stones for rims and
+// bridges, or inlaid with a square and a golden boss.
 Image LastFloor(int variant) {
   return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
-    if (x == 15 || y == 15) return 0xA49CB6;
-    if (x == 0 || y == 0) return 0xECE8F2;
     if (variant == 1) {
-      if (x == 7 || y == 7) return 0xB6AEC6;
-      if (x == 8 || y == 8) return 0xE2DEEA;
+      const int in_x = x % 8;
+      const int in_y = y % 8;
+      if (in_x == 7 || in_y == 7) return 0x7C749A;
+      if (in_x == 0 || in_y == 0) return 0xD0CADE;
+      const bool sheen = (x / 8 + y / 8) % 2 == 0;
+      return in_x + in_y < 6 ? (sheen ? 0xBCB4CC : 0xB2AAC6) : (sheen ? 0xAEA6C2 : 0xA69EBC);
     }
+    if (x == 15 || y == 15) return 0xA49CB6;
+    if (x == 0 || y == 0) return 0xF2EEF6;
     if (variant == 2) {
       const int inset = std::min(std::min(x, 15 - x), std::min(y, 15 - y));
-      if (inset == 3) return x + y < 15 ? 0xB6AEC6 : 0xE6E2EE;
-      if (inset > 5 && std::abs(x - 7.5) + std::abs(y - 7.5) < 2.6) return Gold[3];
+      if (inset == 2) return x + y < 15 ? 0xA89EBE : 0xF0ECF6;
+      if (inset == 3) return x + y < 15 ? 0xC2BAD2 : 0xD8D2E2;
+      const double boss = std::abs(x - 7.5) + std::abs(y - 7.5);
+      if (boss < 3.6) {
+        if (boss > 2.6) return Gold[1];
+        return x + y < 14 ? Gold[4] : x + y < 16 ? Gold[3] : Gold[2];
+      }
+    } else {
+      const double vein = x - 0.7 * y - 2.5 + 3 * (Noise(x / 4.0, y / 4.0, 0, 534) - 0.5);
+      if (std::abs(vein) < 0.6) return 0xBEB6CE;
+      if (std::abs(vein - 1) < 0.5) return 0xE4DFEA;
     }
-    return x + y < 13 ? 0xD8D3DF : x + y < 20 ? Marble[3] : 0xC6C0D0;
+    return x + y < 13 ? 0xDCD7E4 : x + y < 20 ? Marble[3] : 0xC2BCCE;
   });
 }
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QFont>
+#include <QStringList>
+#include <string>
 
 #include "src/platform/control.h"
 
@@ -13,5 +15,15 @@ QFont DesktopFont(const Font& font);
 
 // The font of everything that names none.
 QFont DefaultFont();
+
+// The faces to try for the one that the game asks for, best first. `japanese` are the installed
+// families that have Japanese letters; the best of them comes after those that the game knows.
+QStringList Substitutes(const std::string& asked, const QStringList& japanese);
+
+// What to tell a player on whose desktop `japanese` are the families with Japanese letters: how to
+// come by one where there is none, otherwise nothing.
+std::string FontHint(const QStringList& japanese);
+// The same for the desktop that the program runs on.
+std::string FontHint();
 
 }  // namespace orvane

@@ -2,6 +2,9 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <algorithm>
+
+#include "src/frontend/desktop/text_fit.h"
 
 namespace orvane {
 namespace {
@@ -18,19 +21,20 @@ class FrameWidget : public QGroupBox {
     constexpr int title_gap = 3;
     QPainter painter(this);
     const QFontMetrics metrics(font());
-    const QRect words(title_left, 0, metrics.horizontalAdvance(title()), metrics.height());
+    const int line_height = std::min(metrics.height(), OwnLineHeight(font()));
+    const QRect words(title_left, 0, metrics.horizontalAdvance(title()), line_height);
     if (!title().isEmpty()) {
       painter.setClipRegion(QRegion(rect()) - words.adjusted(-title_gap, 0, title_gap, 0));
     }
     // The line is etched: a dark one, and a light one behind it.
-    const QRect line = rect().adjusted(0, metrics.height() / 2, -2, -2);
+    const QRect line = rect().adjusted(0, line_height / 2, -2, -2);
     painter.setPen(palette().color(QPalette::Window).lighter(120));
     painter.drawRect(line.translated(1, 1));
     painter.setPen(palette().color(QPalette::Window).darker(145));
     painter.drawRect(line);
     painter.setClipping(false);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(words, Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, title());
+    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, title());
   }
 };
 

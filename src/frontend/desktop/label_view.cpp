@@ -1,12 +1,11 @@
 #include "src/frontend/desktop/label_view.h"
 
 #include <QAccessible>
-#include <QFontMetricsF>
 #include <QLabel>
 #include <QPainter>
-#include <algorithm>
 
 #include "src/frontend/desktop/fonts.h"
+#include "src/frontend/desktop/text_fit.h"
 
 namespace orvane {
 namespace {
@@ -61,15 +60,7 @@ class LabelWidget : public QLabel {
     if (text().isEmpty()) return;
     QPainter painter(this);
     painter.setPen(colour_);
-    const QFontMetricsF metrics(font(), this);
-    const QRectF box = QRectF(rect()).adjusted(0, Headroom, 0, 0);
-    const bool one_line = box.height() < 2 * metrics.height() && !text().contains('\n');
-    if (one_line) {
-      PaintLine(painter, metrics, box);
-    } else {
-      painter.drawText(box, alignment_ | Qt::AlignTop | Qt::TextWordWrap | Qt::TextDontClip,
-                       text());
-    }
+    PaintText(painter, QRectF(rect()).adjusted(0, Headroom, 0, 0), text(), alignment_);
   }
 
  private:
@@ -78,18 +69,6 @@ class LabelWidget : public QLabel {
     if (!QAccessible::isActive()) return;
     QAccessibleEvent event(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
-  }
-
-  // A line a little too wide for its box, by another face than the one it was measured with, is
-  // drawn narrower rather than cut.
-  void PaintLine(QPainter& painter, const QFontMetricsF& metrics, const QRectF& box) const {
-    constexpr double narrowest = 0.75;
-    const double width = metrics.horizontalAdvance(text().trimmed());
-    const double squeeze = width > box.width() ? std::max(narrowest, box.width() / width) : 1.0;
-    painter.translate(box.topLeft());
-    painter.scale(squeeze, 1);
-    painter.drawText(QRectF(0, 0, box.width() / squeeze, box.height()),
-                     alignment_ | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip, text());
   }
 
   QColor colour_;

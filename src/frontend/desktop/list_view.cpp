@@ -1,15 +1,50 @@
 #include "src/frontend/desktop/list_view.h"
 
 #include <QFocusEvent>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
+#include <QWidget>
+#include <algorithm>
 #include <utility>
 
 #include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/text_fit.h"
 #include "src/game/program.h"
 
 namespace orvane {
+namespace {
+
+// Rows no higher than the letters need, however much room between lines a face asks for: the lists
+// show the rows that their layouts count on. A text too wide for its row is made narrower.
+class CloseRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index)
+        .boundedTo({QWIDGETSIZE_MAX, OwnLineHeight(option.font)});
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    constexpr int narrowest = 70;  // per cent
+    constexpr int step = 2;
+    constexpr int margins = 8;
+    QStyledItemDelegate::initStyleOption(option, index);
+    const int room = option->rect.width() - margins;
+    // Small letters take whole pixels, so that only trying tells how wide a text becomes.
+    for (int stretch = 100 - step; room > 0 && stretch >= narrowest; stretch -= step) {
+      if (option->fontMetrics.horizontalAdvance(option->text) <= room) break;
+      option->font.setStretch(stretch);
+      option->fontMetrics = QFontMetrics(option->font);
+    }
+  }
+};
+
+}  // namespace
 
 // A list of which a row is chosen by a click or by Enter; the other keys only move the highlight.
 class ListWidget : public QListWidget {
@@ -17,6 +52,7 @@ class ListWidget : public QListWidget {
   ListWidget(QWidget* parent, Control& model, Events& events)
       : QListWidget(parent), model_(model), events_(events) {
     setUniformItemSizes(true);
+    setItemDelegate(new CloseRows(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(NoEditTriggers);
   }

@@ -10,6 +10,7 @@
 #include "src/frontend/desktop/boxes.h"
 #include "src/frontend/desktop/chance.h"
 #include "src/frontend/desktop/desktop.h"
+#include "src/frontend/desktop/fonts.h"
 #include "src/frontend/desktop/home.h"
 #include "src/frontend/desktop/instance.h"
 #include "src/frontend/desktop/look.h"
@@ -88,6 +89,7 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   Program program(home.Folder, {sound, chance, boxes, sleeper});
   QApplication application(argument_count, arguments);
   SetUpLook(application);
+  if (const std::string hint = FontHint(); !hint.empty()) Complain(hint);
   SetUpSpeech();
   const Zoom zoom = ChooseZoom(options, program);
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());

@@ -8,19 +8,17 @@
 #include "src/game/program.h"
 
 namespace orvane {
-namespace {
-
-// How many times as fast as real time the game runs: 1, or what ORVANE_SPEED says, from 1 to 1000.
-double Speed() {
+double GameSpeed(const char* text) {
   constexpr double fastest = 1000;
-  const char* text = std::getenv("ORVANE_SPEED");
-  return text == nullptr ? 1 : std::clamp(std::atof(text), 1.0, fastest);
+  const double speed = text == nullptr ? 1 : std::atof(text);
+  // What is no number at all does not count either.
+  return speed >= 1 ? std::min(speed, fastest) : 1;
 }
 
-}  // namespace
-
 TickServer::TickServer(Stage& stage, Events& events)
-    : queue_(stage, Pacing::RealTime), events_(events), speed_(Speed()) {
+    : queue_(stage, Pacing::RealTime),
+      events_(events),
+      speed_(GameSpeed(std::getenv("ORVANE_SPEED"))) {
   clock_.start();
   alarm_.setTimerType(Qt::PreciseTimer);
   alarm_.setSingleShot(true);

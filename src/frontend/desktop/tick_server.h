@@ -11,6 +11,10 @@ namespace orvane {
 
 class Events;
 
+// How many times as fast as real time the game runs: 1, or what the text says (that of the variable
+// ORVANE_SPEED, null where it is not set), from 1 to 1000.
+double GameSpeed(const char* text);
+
 class TickServer {
  public:
   TickServer(Stage& stage, Events& events);

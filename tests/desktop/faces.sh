@@ -1,0 +1,59 @@
+#!/bin/bash
+# Starts the real program on a desktop without Japanese letters, which it must survive and tell what to
+# install; and on this one, where it has nothing to say if there are some.
+#   faces.sh PROGRAM SCREENSHOTS
+set -u
+
+program=$(realpath "$1")
+shots=$2
+scale=1
+here=$(dirname "$(realpath "$0")")
+mkdir -p "$shots"
+shots=$(realpath "$shots")
+log=$shots/game.log
+
+for tool in Xvfb openbox xdotool xprop xwininfo import fc-list; do
+  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
+done
+# shellcheck source=tests/desktop/x_session.sh
+. "$here/x_session.sh"
+# shellcheck source=tests/desktop/steps.sh
+. "$here/steps.sh"
+
+# told COUNT: that many lines of the messages name what to install.
+told() {
+  local found
+  found=$(grep -c 'fonts-ipafont-gothic' "$log")
+  [ "$found" = "$1" ] || fail "$found lines, not $1, tell which fonts to install"
+}
+
+stop_game() {
+  kill "$game_pid"
+  wait "$game_pid" 2>/dev/null
+  game_pid=
+}
+
+open_display 640x560
+folder=$run_folder/game
+cp -r "$(dirname "$program")/game" "$folder"
+
+mkdir "$run_folder/no-fonts"
+cat >"$run_folder/fonts.conf" <<END
+<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
+<fontconfig><dir>$run_folder/no-fonts</dir><cachedir>$run_folder/cache</cachedir></fontconfig>
+END
+FONTCONFIG_FILE=$run_folder/fonts.conf start_game --scale 1 --folder "$folder"
+see_title
+stop_game
+told 1
+grep -q 'No installed font has Japanese letters' "$log" || fail "it is not told in English"
+grep -q '日本語のフォントがない' "$log" || fail "it is not told in Japanese"
+
+if [ -n "$(fc-list :lang=ja)" ]; then
+  start_game --scale 1 --folder "$folder"
+  see_title
+  stop_game
+  told 0
+fi
+echo "desktop test: told about missing fonts, and not about others"

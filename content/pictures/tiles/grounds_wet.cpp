@@ -41,14 +41,17 @@ Image ShallowTile() {
   });
 }
 
+// Plates of crust that float on the melt, which glows between them.
 Image LavaTile() {
   Image tile = Fill(TileSize, TileSize, [](int x, int y) {
-    const double swell = Swell(x + 5, y + 3);
-    return Lava[swell > 1.35 ? 4 : swell > 0.65 ? 3 : swell > -0.5 ? 2 : 1];
+    const double bend = 2.6 * (Noise(x / 2.0, y / 2.0, 8, 93) - 0.5);
+    const Facet facet = FacetAt((x + 0.5 + bend) / 8, (y + 0.5 - bend) / 8, 2, 2, 99);
+    if (facet.edge < 0.06) return Lava[4];
+    if (facet.edge < 0.13) return Lava[3];
+    if (facet.edge < (facet.chance < 0.4 ? 0.36 : 0.20)) return Lava[2];
+    const bool lit = facet.dx + facet.dy < -0.1;
+    return facet.edge < 0.32 || lit ? Lava[1] : Lava[0];
   });
-  const Key key = {{'k', Lava[0]}, {'d', Lava[1]}, {'y', Lava[5]}, {'o', Lava[4]}};
-  Stamp(tile, 2, 9, {".kkkk..", "kkddkkk", "ydkkkdy", ".oyyyo."}, key);
-  Stamp(tile, 10, 2, {".kk.", "kddk", "oyyo"}, key);
   return tile;
 }
 

@@ -41,13 +41,15 @@ Image LampFace() {
   return tile;
 }
 
+// Two boards of books under a top that is seen from above; the shelf throws a shadow on the floor,
+// so that it stands in the middle of a room as well as against its wall.
 Image Bookshelf() {
   Image tile(TileSize, TileSize, Wood[0]);
   Stamp(tile, 0, 0,
-        {"llllllllllllllll", "mnnnnnnnnnnnnnnm", "mzzzzzzzzzzzzzzm", "mrrzggzuuuzyypPm",
-         "mRrzGgzUuuzYypPm", "mRrzGgzUuuzYypPm", "mRrzGgzUuuzYypPm", "mrrzggzuuuzyyppm",
-         "mllllllllllllllm", "mzzzzzzzzzzzzzzm", "muuuzyyzrrrzppgm", "mUuuzYyzRrrzPpGm",
-         "mUuuzYyzRrrzPpGm", "muuuzyyzrrrzppgm", "mnnnnnnnnnnnnnnm", "kkkkkkkkkkkkkkkk"},
+        {"kkkkkkkkkkkkkkkk", "mllllllllllllllm", "mnnnnnnnnnnnnnnm", "mrrzzzzuuuzzzpPm",
+         "mRrzGgzUuuzYypPm", "mRrzGgzUuuzYypPm", "mrrzggzuuuzyyppm", "mllllllllllllllm",
+         "mzzzzyyzrrrzzzzm", "muuuzYyzRrrzPpGm", "mUuuzYyzRrrzPpGm", "muuuzyyzrrrzppgm",
+         "mnnnnnnnnnnnnnnm", "kkkkkkkkkkkkkkkk", "ssssssssssssssss", "tttttttttttttttt"},
         {{'k', Wood[0]},
          {'l', Wood[4]},
          {'m', Wood[2]},
@@ -62,7 +64,9 @@ Image Bookshelf() {
          {'y', 0xB88028},
          {'Y', 0xF4D46C},
          {'p', 0x682C80},
-         {'P', 0xB878D0}});
+         {'P', 0xB878D0},
+         {'s', 0x7C5834},
+         {'t', 0xA87C48}});
   return tile;
 }
 

@@ -94,12 +94,18 @@ void AddRibs(Model& model) {
                 {at + Vec{5, -2, 34} + low * 0.42F, 1.8F}},
                5);
   }
-  Group& breast = model.Add(kBone, 2);
+  // The ribs meet in a keel, deepest near the throat, that ends in a point below.
+  std::vector<Knot> bar;
+  std::vector<Knot> edge;
   for (size_t i = 2; i + 1 < back.size(); ++i) {
     const float t = static_cast<float>(i - 2) / last;
     const Vec low{0, -16 + 6 * t, 26 + 8 * t};
-    breast.Ball(back[i].At + Vec{0, -2, 35} + low * 0.42F, {3.6F, 4.2F, 2.8F});
+    const Vec at = back[i].At + Vec{0, -2, 35} + low * 0.42F;
+    if (i == 2) bar.push_back({at + Vec{0, -13, -3}, 1});
+    bar.push_back({at, 3.2F});
+    edge.push_back({at + Vec{0, -1, 2 + 6 * t}, 1.4F});
   }
+  model.Add(kBone, 3, 1).Chain(bar, 4).Chain(edge, 4);
   Group& fire = model.Add(kDragonFire, 4);
   fire.Chain(
       {{{0, -24, 4}, 6}, {{2, -8, 4}, 11}, {{-2, 10, 6}, 9}, {{3, 28, 8}, 5}, {{-1, 48, 8}, 0.4F}},

@@ -8,11 +8,12 @@ namespace {
 
 void AddLegs(Model& model, float step) {
   for (const float side : {-1.0F, 1.0F}) {
-    const float swing = step * side;
-    const float lift = swing < 0 ? 2.0F : 0.0F;
+    // At rest the right foot stands a little ahead.
+    const float swing = step == 0 ? -0.4F * side : step * side;
+    const float lift = step != 0 && swing < 0 ? 2.0F : 0.0F;
     const Vec hip{2.1F * side, -6.5F, 0};
     const Vec foot{2.4F * side, -11.7F + lift, swing * 3.3F};
-    const Vec knee = Mix(hip, foot, 0.5F) + Vec{0, 0, swing == 0 ? 0.0F : 0.9F};
+    const Vec knee = Mix(hip, foot, 0.5F) + Vec{0, 0, step == 0 ? 0.2F : 0.9F};
     model.Add(kTrousers, 0.6F).Limb(hip, knee, 2.4F, 2.1F).Limb(knee, foot, 2.1F, 1.8F);
     model.Add(kBoots, 0.6F)
         .Limb(foot + Vec{0, 0.8F, 0}, foot + Vec{0, 0.2F, 0}, 2.0F, 2.0F)

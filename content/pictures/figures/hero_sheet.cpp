@@ -20,13 +20,14 @@ constexpr std::array<float, 4> kYaws{2 * kQuarter, kSideways, 0, -kSideways};
 
 // The same in all cells, so that it lies still while the hero walks. It has no gaps: a battle
 // stretches the heroes by uneven steps, which would make blots of a pattern.
-constexpr GroundShadow kShadow{12.5F, 28.7F, 7.4F, 2.3F, 1};
+constexpr GroundShadow kShadow{12.8F, 28.6F, 7.4F, 2.3F, 1};
 
 struct Look {
   uint32_t Lash;
   uint32_t White;
   uint32_t Iris;
   uint32_t Mouth;
+  int Ahead;  // pixels that a profile stands before the cell's middle, where long hair needs room
 };
 
 void DrawFace(Sprite& sprite, int row, const Look& look) {
@@ -38,11 +39,11 @@ void DrawFace(Sprite& sprite, int row, const Look& look) {
     Stamp(sprite, 8, y - 1, {"LL....LL", "WL....LW", "WI....IW"}, letters, colours);
     Stamp(sprite, 11, y + 4, {"MM"}, letters, colours);
   } else if (row == 1) {
-    Stamp(sprite, 13, y - 1, {"LL", "LW", "IW"}, letters, colours);
-    Stamp(sprite, 16, y + 4, {"M"}, letters, colours);
+    Stamp(sprite, 13 + look.Ahead, y - 1, {"LL", "LW", "IW"}, letters, colours);
+    Stamp(sprite, 16 + look.Ahead, y + 4, {"M"}, letters, colours);
   } else if (row == 3) {
-    Stamp(sprite, 9, y - 1, {"LL", "WL", "WI"}, letters, colours);
-    Stamp(sprite, 7, y + 4, {"M"}, letters, colours);
+    Stamp(sprite, 9 - look.Ahead, y - 1, {"LL", "WL", "WI"}, letters, colours);
+    Stamp(sprite, 7 - look.Ahead, y + 4, {"M"}, letters, colours);
   }
 }
 
@@ -60,6 +61,8 @@ Image HeroSheet(const Builder& build, const std::vector<Material>& materials, co
       view.Samples = 8;
       view.Scale = 0.97F;
       view.Middle = {0, step == 0 ? 0.1F : 0.3F, 0};  // a stride lowers the body
+      const float ahead = static_cast<float>(row == 1 ? -look.Ahead : row == 3 ? look.Ahead : 0);
+      view.Middle = view.Middle + Vec{std::cos(view.Yaw), 0, std::sin(view.Yaw)} * ahead;
       view.Contour = 2.3F;
       view.Dither = 0;
       view.Folds = 4;
@@ -79,11 +82,11 @@ Texture EvenSkin() {
 }
 
 Image PaintHeroMan() {
-  return HeroSheet(ManModel, ManMaterials(), {0x241420, 0xF8F8F8, 0x2058B0, 0xC06C58});
+  return HeroSheet(ManModel, ManMaterials(), {0x241420, 0xF8F8F8, 0x2058B0, 0xC06C58, 0});
 }
 
 Image PaintHeroWoman() {
-  return HeroSheet(WomanModel, WomanMaterials(), {0x3C1C20, 0xF8F8F8, 0x208858, 0xD06868});
+  return HeroSheet(WomanModel, WomanMaterials(), {0x3C1C20, 0xF8F8F8, 0x208858, 0xD06868, 1});
 }
 
 }  // namespace orvane::paint

@@ -6,7 +6,7 @@
 namespace orvane::paint {
 namespace {
 
-enum Stuff { kFur, kMane, kHorn, kMouth, kTooth, kTongue, kEye, kClaw };
+enum Stuff { kFur, kMane, kHorn, kMouth, kTooth, kTongue, kEye, kClaw, kLip };
 
 void AddLeg(Model& model, Vec hip, Vec knee, Vec foot) {
   model.Add(kFur, 3, 3)
@@ -25,6 +25,16 @@ void AddJaws(Model& model) {
   model.Add(kFur, 3, 2)
       .Ball({0, -11, 12}, {10.6F, 4.6F, 10})
       .Ball({0, -11.6F, 18}, {8, 3.6F, 6.4F});
+  // Dark lips run around the mouth, so that the teeth do not drown in the fur.
+  Group& lips = model.Add(kLip, 1.5F, 1);
+  for (int i = -4; i < 4; ++i) {
+    const auto rim = [](int n, float y, float wide) {
+      const float a = static_cast<float>(n) * 0.4F;
+      return Vec{std::sin(a) * wide, y, 12.4F + std::cos(a) * (wide + 2.8F)};
+    };
+    lips.Limb(rim(i, 3.4F, 10.2F), rim(i + 1, 3.4F, 10.2F), 1.9F, 1.9F);
+    lips.Limb(rim(i, -9.4F, 8.6F), rim(i + 1, -9.4F, 8.6F), 1.7F, 1.7F);
+  }
   model.Add(kMouth, 2).Ball({0, -2, 11}, {10.6F, 9, 11});
   model.Add(kTongue, 1.5F)
       .Chain(
@@ -89,17 +99,18 @@ Model BeastModel() {
 }  // namespace
 
 Image PaintHornedBeast() {
-  std::vector<Material> m(8);
+  std::vector<Material> m(9);
   m[kFur] = {
       {0x1C1430, 0x3C3454, 0x686480, 0x9C9CB0, 0xCCD0D4, 0xF4F4EC}, 0, 0.4F, 0, Strands(2, 0.2F)};
   m[kMane] = {{0x180C24, 0x301C44, 0x543468, 0x845890, 0xB890B8}, 0.1F, 0.4F};
   m[kHorn] = {
-      {0x3C3440, 0x7C7484, 0xC0B8B8, 0xF0ECDC, 0xF8F8F0}, 0.5F, 0.3F, 0, Rings(3.2F, 0.45F)};
+      {0x3C1C10, 0x80481C, 0xC88C2C, 0xF0CC58, 0xF8F4C0}, 0.5F, 0.3F, 0, Rings(3.2F, 0.45F)};
   m[kMouth] = {{0x1C040C, 0x50101C, 0x8C202C}};
   m[kTooth] = {{0x847858, 0xE4D8B0, 0xF8F8E8}, 0.2F, 0.1F, 0.2F};
   m[kTongue] = {{0x701838, 0xC0405C, 0xF08890, 0xF8C0B8}, 0.5F};
   m[kEye] = {{0x1C8040, 0x70E850, 0xE8F8A8}, 0.3F, 0, 0.4F};
   m[kClaw] = {{0x30282C, 0x786C60, 0xC8BC9C}, 0.3F};
+  m[kLip] = {{0x180C1C, 0x301430, 0x582848, 0x884060}, 0.3F, 0.2F};
   Sprite sprite = Render(BeastModel(), m, MonsterView(0.75F, 0.14F));
   StampAt(sprite, {-6.4F, 11, 21.4F}, {"K", "K"}, "K", {0x0C1408});
   CastShadow(sprite, ShadowUnder(sprite));

@@ -124,7 +124,7 @@ Model DeathRoperModel() {
 
 Image PaintGreenRoper() {
   std::vector<Material> m(5);
-  m[kBody] = {{0x0C2018, 0x143C20, 0x1E5C24, 0x30862C, 0x54AE38, 0x8CD250, 0xD4F49C},
+  m[kBody] = {{0x0C102C, 0x10284C, 0x105058, 0x208848, 0x60C438, 0xB4F048, 0xF4FCB0},
               0.45F,
               0.35F,
               0,

@@ -159,7 +159,7 @@ Image PaintSeaDragon() {
       0,
       SeaSkin()};
   m[kDragonBelly] = {
-      {0x1C3450, 0x34607C, 0x64949C, 0xA0C4B4, 0xD8E4C8, 0xF8F8E8}, 0.15F, 0.35F, 0.06F};
+      {0x1C3450, 0x34607C, 0x64949C, 0xA0C4B4, 0xD8E4C8, 0xF8F8E8}, 0.15F, 0.35F, 0.13F};
   m[kDragonMembrane] = {{0x201448, 0x382070, 0x583898, 0x8058B8, 0xB080CC, 0xE4B4DC},
                         0.2F,
                         0.35F,

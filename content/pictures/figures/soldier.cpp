@@ -107,8 +107,9 @@ Image PaintSoldier() {
   m[kSkin] = {{0x3C2028, 0x7C4838, 0xBC7C58, 0xE8B088}};
   m[kRed] = {{0x340814, 0x640C1C, 0x981C20, 0xCC3C2C, 0xEC7048}, 0.15F};
   Sprite sprite = Render(SoldierModel(), m, MonsterView(0.55F, 0.12F));
-  StampAt(sprite, {-2.2F, 19, 7}, {"K"}, "K", {0x180C14});
-  StampAt(sprite, {2.6F, 19, 7}, {"K"}, "K", {0x180C14});
+  // The face: a frown under the brow, a nasal of steel, a moustache.
+  StampAt(sprite, {0.4F, 18.2F, 6}, {"BBSBB", "WKSWK", "FFSFF", "DMMMD", ".DFD."}, "BWKSFMD",
+          {0x5C3028, 0xF8F0E0, 0x180C14, 0xC0CCD0, 0xE8B088, 0x442018, 0xA06040});
   CastShadow(sprite, ShadowUnder(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }

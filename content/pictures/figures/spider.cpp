@@ -8,7 +8,7 @@
 namespace orvane::paint {
 namespace {
 
-enum Stuff { kShell, kLemon, kEye, kFang, kBand, kAcid };
+enum Stuff { kShell, kLemon, kEye, kFang, kBand, kAcid, kHead };
 
 // One leg: where it points, how far, how high its knee stands, and how high the foot is held.
 struct Leg {
@@ -35,26 +35,24 @@ float RindLight(Touch& touch, float light) {
 Model SpiderModel() {
   Model model;
   model.Add(kLemon, 4)
-      .Ball({0, 10, -16}, {14.5F, 13, 15})
-      .Limb({0, 13, -26}, {0, 17, -35}, 6, 2.2F);
-  model.Add(kShell, 3, 1.5F)
-      .Ball({0, -1, 3}, {8, 6.5F, 9})
-      .Ball({0, 0.5F, 13}, {7.2F, 6, 6.6F})
-      .Limb({0, 0, -3}, {0, 3, -7}, 4.4F, 4);
+      .Ball({0, 10, -17}, {13, 12, 14})
+      .Limb({0, 11, -27}, {0, 13, -37}, 5.4F, 1.6F);
+  model.Add(kShell, 3, 1.5F).Ball({0, -1, 3}, {8, 6.5F, 9}).Limb({0, 0, -3}, {0, 3, -7}, 4.4F, 4);
+  model.Add(kHead, 2, 1).Ball({0, 1.5F, 14}, {9.4F, 8, 8.4F});
   // The left hand is the far side; its front leg is raised to strike.
   static constexpr std::array<Leg, 8> kLegs{{{0.62F, 32, 17, 4},
                                              {1.15F, 26, 12, -17},
                                              {0.3F, 27, 13, -17},
                                              {-0.45F, 32, 12, -16},
-                                             {2.3F, 22, 13, -17},
-                                             {2.75F, 30, 12, -18},
-                                             {3.2F, 35, 16, -19},
-                                             {3.8F, 37, 20, -17}}};
+                                             {2.35F, 24, 19, -6},
+                                             {2.7F, 30, 21, -19},
+                                             {3.3F, 29, 10, -18},
+                                             {3.65F, 39, 21, -18}}};
   for (size_t i = 0; i < kLegs.size(); ++i) {
     const Leg& leg = kLegs[i];
     const Vec out = Around(leg.Angle, 1, 0, 1);
     const float row = static_cast<float>(i % 4);
-    const Vec root{out.X > 0 ? 5.0F : -5.0F, -2, 9 - 3.4F * row};
+    const Vec root{out.X > 0 ? 5.0F : -5.0F, -2, 5 - 3.2F * row};
     model.Add(kShell, 1, 0.6F)
         .Chain(
             {{root, 2.3F},
@@ -66,12 +64,12 @@ Model SpiderModel() {
             5, {0, 0, 1});
   }
   model.AddPair(kEye)
-      .Ball({3.0F, 2.4F, 18.6F}, {2.9F, 3.0F, 2.1F})
-      .Ball({6.2F, 3.0F, 15.8F}, {1.6F, 1.6F, 1.6F})
-      .Ball({2.2F, 6.6F, 15.4F}, {1.5F, 1.4F, 1.3F});
-  model.AddPair(kShell, 1, 0.5F).Limb({3, -3, 17}, {3.6F, -7, 20.4F}, 2.7F, 2.1F);
-  model.AddPair(kFang).Limb({3.6F, -7, 20.6F}, {1.6F, -13.5F, 21}, 1.8F, 0.3F);
-  model.Add(kAcid).Leaf({-1.6F, -14, 20.4F}, {-1.6F, -18.4F, 20.4F}, 1.5F, 1.5F);
+      .Ball({4.0F, 3.2F, 20.6F}, {3.7F, 3.9F, 2.6F})
+      .Ball({8.2F, 4.6F, 17}, {2, 2, 2})
+      .Ball({2.8F, 8.6F, 17.6F}, {1.9F, 1.8F, 1.7F});
+  model.AddPair(kHead, 1, 0.5F).Limb({3.6F, -3, 18.6F}, {4.4F, -7.4F, 22.4F}, 3.2F, 2.5F);
+  model.AddPair(kFang).Limb({4.4F, -7.4F, 22.6F}, {1.8F, -14.5F, 23}, 2.2F, 0.3F);
+  model.Add(kAcid).Leaf({-1.8F, -14.6F, 22.6F}, {-1.8F, -19, 22.6F}, 1.5F, 1.5F);
   model.Finish();
   return model;
 }
@@ -79,7 +77,7 @@ Model SpiderModel() {
 }  // namespace
 
 Image PaintSpider() {
-  std::vector<Material> m(6);
+  std::vector<Material> m(7);
   m[kShell] = {
       {0x181024, 0x2C1C3C, 0x483058, 0x6C4C74, 0x987494, 0xD0ACB8}, 0.3F, 0.4F, 0, LegLight};
   m[kLemon] = {
@@ -88,10 +86,11 @@ Image PaintSpider() {
   m[kFang] = {{0x5C5048, 0xB8A888, 0xF4ECC8}, 0.3F};
   m[kBand] = {{0x583410, 0x987018, 0xD8B030, 0xF4DC60}};
   m[kAcid] = {{0x4C8418, 0xA0D830, 0xE8F888}, 0.6F, 0.2F, 0.2F};
-  View view = MonsterView(0.55F, 0.24F);
+  m[kHead] = {{0x241430, 0x503060, 0x80568C, 0xB488B4, 0xE4C4DC}, 0.3F, 0.3F, 0.08F};
+  View view = MonsterView(0.78F, 0.24F);
   view.Height = 50;
   Sprite sprite = Render(SpiderModel(), m, view);
-  CastShadow(sprite, ShadowUnder(sprite));
+  CastShadow(sprite, ShadowBelow(sprite, 0.85F));
   return PairSheet(sprite, 128, 50, 64);
 }
 

@@ -65,7 +65,7 @@ void AddFist(Model& model, Vec at, Vec across, Vec ahead, Vec up) {
 
 void AddArms(Model& model) {
   model.Enter({{0, 18, 0}});
-  // The near arm hangs ready, the far fist is thrust out below the head.
+  // The near arm hangs ready, the far fist is raised beside the head, clear of the snout.
   model.Add(kDragonSkin, 7, 7)
       .Ball({-42, 26, 4}, {19, 19, 19})
       .Limb({-42, 24, 4}, {-54, -8, 6}, 17, 14)
@@ -74,10 +74,10 @@ void AddArms(Model& model) {
   AddFist(model, {-49, -54, 32}, {-0.9F, 0, 0.3F}, {0.2F, -0.3F, 0.93F}, {0, 0.95F, 0.3F});
   model.Add(kDragonSkin, 7, 7)
       .Ball({42, 28, 4}, {18, 18, 18})
-      .Limb({42, 28, 6}, {60, 2, 20}, 16, 13)
-      .Limb({60, 2, 20}, {52, -4, 52}, 15, 11)
-      .Ball({54, 38, 14}, {12, 12, 12});
-  AddFist(model, {51, -3, 62}, {-0.9F, 0, 0.3F}, {0, 0.1F, 1}, {0, 1, 0});
+      .Limb({42, 28, 6}, {72, 16, 16}, 16, 13)
+      .Limb({72, 16, 16}, {76, 52, 24}, 15, 11)
+      .Ball({58, 26, 16}, {12, 12, 12});
+  AddFist(model, {77, 66, 28}, {-0.9F, 0, 0.3F}, {-0.2F, 0.2F, 0.96F}, {0, 0.98F, -0.2F});
   // Shoulder plates and bracers with studs.
   for (const float side : {-1.0F, 1.0F}) {
     Group& plate = model.Add(kDragonPlate, 3, 0);
@@ -87,8 +87,30 @@ void AddArms(Model& model) {
     spikes.Limb({56 * side, 38, 8}, {74 * side, 48, 10}, 5.4F, 0.5F);
   }
   model.Add(kDragonPlate, 2).Limb({-53.4F, -16, 10}, {-51, -33, 20}, 18, 14.5F);
-  model.Add(kDragonPlate, 2).Limb({58.4F, 0.8F, 26.4F}, {54, -2.8F, 44}, 16, 13);
+  model.Add(kDragonPlate, 2).Limb({73, 24, 18}, {75.4F, 45, 22.6F}, 16, 13);
   model.Leave();
+}
+
+// A gladiator's harness: straps that cross on the breast under a gem, and a belt with another.
+void AddHarness(Model& model) {
+  model.AddPair(kDragonMembrane, 2, 0)
+      .Chain({{{30, 52, 30}, 4},
+              {{14, 34, 43}, 4},
+              {{0, 14, 42}, 4},
+              {{-16, -6, 35}, 4},
+              {{-27, -24, 22}, 4},
+              {{-32, -40, 4}, 4}},
+             4);
+  model.Add(kDragonMembrane, 2, 0).Ring({0, -46, -3}, {31, 0, 0}, {0, 0, 31}, 5);
+  for (const Vec& at : {Vec{0, 14, 44}, Vec{0, -46, 29}}) {
+    model.Add(kDragonPlate, 1).Ball(at, {11, 11, 5});
+    model.Add(kDragonFire).Ball(at + Vec{0, 0, 3}, {6, 6, 4});
+  }
+  Group& studs = model.AddPair(kDragonPlate);
+  for (const Vec& at :
+       {Vec{14, 34, 46}, Vec{-16, -6, 38.5F}, Vec{-26, -22, 26}, Vec{17, -46, 26}}) {
+    studs.Ball(at, {2.6F, 2.6F, 2.6F});
+  }
 }
 
 // Spires of horn in two rows along the back.
@@ -152,6 +174,7 @@ Model StrengthDragonModel() {
   AddLegs(model);
   AddShell(model);
   AddArms(model);
+  AddHarness(model);
   AddHead(model);
   model.Finish();
   return model;
@@ -168,8 +191,10 @@ Image PaintStrengthDragon() {
       0,
       Scales(7, kDragonBelly, 11)};
   m[kDragonBelly] = {
-      {0x382430, 0x604440, 0x907058, 0xBC9C74, 0xDCC49C, 0xF4E8C8}, 0.15F, 0.35F, 0.07F};
-  m[kDragonMembrane] = m[kDragonBelly];
+      {0x382430, 0x604440, 0x907058, 0xBC9C74, 0xDCC49C, 0xF4E8C8}, 0.15F, 0.35F, 0.13F};
+  // The harness: leather, and gems of red glass.
+  m[kDragonMembrane] = {{0x20101C, 0x481C20, 0x743028, 0xA85438, 0xD8905C}, 0.3F, 0.3F};
+  m[kDragonFire] = {{0x500414, 0xA80C1C, 0xE8382C, 0xF8906C, 0xF8E8D0}, 0.9F, 0.1F, 0.1F};
   m[kDragonHorn] = {
       {0x34202C, 0x644838, 0xA07C50, 0xD4B478, 0xF4E4B4}, 0.45F, 0.35F, 0, Rings(4, 0.25F)};
   m[kDragonEye] = {{0x841408, 0xF05018, 0xF8D060}, 0.4F, 0, 0.45F};

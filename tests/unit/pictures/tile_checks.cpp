@@ -73,12 +73,6 @@ Standout StandoutOn(const Surface& hero, const Rect& figure, const Surface& tile
   const Rect tile = TileCell(code);
   const SpritePair pair{"hero", figure, kMaskFrom + figure.X, figure.Y};
   const auto in_figure = [&](int x, int y) { return InFigure(hero, pair, x, y); };
-  // The figure's own shadow is ground as well.
-  const auto ground_at = [&](int x, int y) {
-    const bool in_cell = x >= 0 && y >= 0 && x < figure.Width && y < figure.Height;
-    if (in_cell && hero.At(figure.X + x, figure.Y + y) == kShadow) return kShadow;
-    return tiles.At(tile.X + (x + kTileSize) % kTileSize, tile.Y + (y + kTileSize) % kTileSize);
-  };
   Standout result;
   int places = 0;
   int lost = 0;
@@ -88,7 +82,8 @@ Standout StandoutOn(const Surface& hero, const Rect& figure, const Surface& tile
       const Colour rim = hero.At(figure.X + x, figure.Y + y);
       for (const auto& [dx, dy] : {std::pair{-1, 0}, {1, 0}, {0, -1}, {0, 1}}) {
         if (in_figure(x + dx, y + dy)) continue;
-        const Colour ground = ground_at(x + dx, y + dy);
+        const Colour ground = tiles.At(tile.X + (x + dx + kTileSize) % kTileSize,
+                                       tile.Y + (y + dy + kTileSize) % kTileSize);
         const double distance = Distance(rim, ground);
         result.MeanColour += distance;
         result.MeanGrey += std::abs(Grey(rim) - Grey(ground));

@@ -37,8 +37,8 @@ struct TilePair {
 // The pairs of which the walkable tile is not that much lighter.
 Faults NeighbourFaults(const Surface& tiles, const std::vector<TilePair>& pairs);
 
-// How a figure stands out from a ground: over its outermost pixels, against what the neighbours
-// outside of the figure show: the ground, or the figure's shadow on it.
+// How a figure stands out from a ground: over its outermost pixels, against the ground that the
+// neighbours outside of the figure show. Its shadow is left away, as if the ground went on there.
 struct Standout {
   double MeanColour = 0;  // mean distance of colours
   double MeanGrey = 0;    // mean difference of greys

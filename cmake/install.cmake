@@ -14,24 +14,38 @@ install(CODE "execute_process(COMMAND \"$<TARGET_FILE:orvane-saves>\"
   COMMAND_ERROR_IS_FATAL ANY)")
 install(FILES share/orvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES share/orvane.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES share/orvane.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
-install(FILES share/orvane.ja.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/ja/man6 RENAME orvane.6)
+
+# Manual pages and change log lie compressed, and alike whenever they are compressed.
+function(orvane_install_compressed source folder name)
+  set(packed ${PROJECT_BINARY_DIR}/${source}.gz)
+  get_filename_component(packed_folder ${packed} DIRECTORY)
+  file(MAKE_DIRECTORY ${packed_folder})
+  execute_process(COMMAND gzip -9nc ${PROJECT_SOURCE_DIR}/${source} OUTPUT_FILE ${packed}
+                  COMMAND_ERROR_IS_FATAL ANY)
+  set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+  install(FILES ${packed} DESTINATION ${folder} RENAME ${name}.gz)
+endfunction()
+orvane_install_compressed(share/orvane.6 ${CMAKE_INSTALL_MANDIR}/man6 orvane.6)
+orvane_install_compressed(share/orvane.ja.6 ${CMAKE_INSTALL_MANDIR}/ja/man6 orvane.6)
+orvane_install_compressed(share/changelog ${CMAKE_INSTALL_DATADIR}/doc/orvane changelog)
 foreach(size 16 24 32 48 64 128 256)
   install(FILES content/pictures/sheets/icon_${size}.png RENAME orvane.png
           DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps)
 endforeach()
-install(FILES LICENSE README.md README.ja.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orvane)
+install(FILES share/copyright README.md README.ja.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/orvane)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME orvane)
 set(CPACK_PACKAGE_CONTACT "Orvane's developers <orvane@example.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "role-playing game in Japanese about two heroes and four dragons")
 set(CPACK_PACKAGE_DESCRIPTION
-    "Two heroes have fallen into a training world and must beat the dragons that guard its way out.
-Walk over single-screen maps, open chests, train with books, and fight long hand-animated battles
-with ten techniques and ten spells. The game's language is Japanese.")
+    "Two heroes have fallen into a training world and must beat the dragons that
+guard its way out. Walk over single-screen maps, open chests, train with
+books, and fight long hand-animated battles with ten techniques and ten
+spells. The game's language is Japanese.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/package_folders.cmake)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

@@ -1,10 +1,12 @@
-# The Debian packages that Orvane needs, for ./play and ./check to source.
+# The Debian packages that Orvane needs, for ./play, ./check and tools/package.sh to source.
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-qpa-plugins libxcb1-dev libsdl2-dev
   libfluidsynth-dev libpng-dev libgl-dev)
 play_packages=(fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
-  binutils xvfb openbox xdotool x11-utils fontconfig imagemagick clang-format-14)
+  binutils xvfb openbox xdotool x11-utils fontconfig imagemagick clang-format-14
+  dpkg-dev file desktop-file-utils appstream)
+package_packages=(dpkg-dev file)
 thorough_packages=(clang-14 clang-tidy-14 libclang-rt-14-dev)
 
 # Installs what is missing of the packages named, as root or by sudo, and says so. Asks the network for

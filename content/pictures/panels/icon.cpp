@@ -1,5 +1,5 @@
-// The window's icon: a dragon's eye among its scales. Small sizes are flat shapes that leave out what
-// would only blur, large ones a relief.
+// The window's icon: a dragon's eye among its scales. Small sizes are flat shapes that leave out
+// what would only blur, large ones a relief.
 #include <string>
 
 #include "content/pictures/panels/icon_relief.h"

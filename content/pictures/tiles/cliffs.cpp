@@ -100,7 +100,7 @@ struct Massif {
 Colour InMassif(const PatchSpot& spot, const Massif& massif) {
   if (spot.depth < 0) {
     const Colour scree = Repeated(massif.Scree, spot.x, spot.y);
-    return Shaded(scree, spot.depth > -1.2 ? 0.55 : massif.ScreeShade);
+    return Shaded(scree, spot.depth > -1.2 ? std::max(0.55, massif.ScreeShade) : massif.ScreeShade);
   }
   const bool to_light = spot.facing_x + spot.facing_y < -0.3;
   if (spot.depth < 1) return massif.Tones[to_light ? 2 : 0];
@@ -128,7 +128,7 @@ Colour InMassif(const PatchSpot& spot, const Massif& massif) {
 
 Colour Mountain(const PatchSpot& spot) {
   static const Image scree = GravelTile(0);
-  return InMassif(spot, {scree, 0.22, Rock, Summit, SummitTone, LipStratum, 0});
+  return InMassif(spot, {scree, 0.85, Rock, Summit, SummitTone, LipStratum, 0});
 }
 
 Colour DarkRock(const PatchSpot& spot) {

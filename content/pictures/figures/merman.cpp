@@ -91,8 +91,8 @@ Image PaintMerman() {
   std::vector<Material> m(7);
   m[kSkin] = {{0x0C2030, 0x103C48, 0x1C6464, 0x2C907C, 0x58BC90, 0xA0E0A8},
               0.4F,
-              0.4F,
-              0,
+              0.5F,
+              0.07F,
               Scales(3, kBelly, 3.4F)};
   m[kBelly] = {{0x48483C, 0x807C54, 0xBCB474, 0xE8E0A0, 0xF8F4CC}, 0.2F, 0.2F};
   m[kFin] = {{0x481428, 0x842430, 0xC4442C, 0xEC7C38, 0xF8BC68}, 0.1F, 0.3F, 0, Membrane(3, 0.30F)};

@@ -144,8 +144,8 @@ Image PaintDeathRoper() {
   std::vector<Material> m(5);
   m[kBody] = {{0x100818, 0x24102C, 0x3C1844, 0x5C2458, 0x883864, 0xBC5C74, 0xECA098},
               0.4F,
-              0.45F,
-              0,
+              0.6F,
+              0.06F,
               Rings(3.2F, 0.3F)};
   m[kEye] = {{0xA81018, 0xF83828, 0xFCC070}, 0.3F, 0, 0.5F};
   m[kMouth] = {{0x100410, 0x28081C, 0x401028}};

@@ -140,7 +140,8 @@ Model SeaDragonModel() {
 Texture SeaSkin() {
   return [scales = Scales(5, kDragonBelly, 8)](Touch& touch, float light) {
     float lit = scales(touch, light);
-    if (touch.Material == kDragonBelly) return lit;
+    // The lower plates get light back from the wet coil, or they would sink into one dark mass.
+    if (touch.Material == kDragonBelly) return lit * (1 + 0.5F * SmoothStep(10, -60, touch.At.Y));
     const float back = SmoothStep(0.2F, -0.5F, Dot(touch.Normal, touch.Place.Side));
     const float band = SmoothStep(0.1F, 0.6F, std::sin(touch.Place.Along * 0.30F));
     lit *= 1 - 0.3F * band * (touch.Blend > 7 ? back : 0.0F);

@@ -34,11 +34,14 @@ Span Covered(const Sprite& sprite, float from) {
   return span;
 }
 
-GroundShadow OnLine(const Span& span, float share, float bottom) {
+// The ellipse stays inside of a cell of the given width, off its outermost pixels.
+GroundShadow OnLine(const Span& span, float share, float bottom, int width) {
   GroundShadow shadow;
   shadow.HalfWidth = (span.Right - span.Left) * 0.5F * share;
   shadow.HalfHeight = std::max(shadow.HalfWidth * kFlatness, kLowest);
   shadow.X = (span.Left + span.Right) * 0.5F + shadow.HalfWidth * kLean;
+  const float right = static_cast<float>(width - 1) - shadow.X;
+  shadow.HalfWidth = std::min({shadow.HalfWidth, right, shadow.X - 1});
   shadow.Y = bottom - shadow.HalfHeight;
   return shadow;
 }
@@ -55,11 +58,12 @@ int Darkness(const GroundShadow& shadow, float distance) {
 GroundShadow ShadowUnder(const Sprite& sprite, float wider) {
   const Span all = Covered(sprite, 0);
   const Span feet = Covered(sprite, all.Bottom - (all.Bottom - all.Top) * 0.14F);
-  return OnLine(feet, wider, all.Bottom + kShadowRoom);
+  return OnLine(feet, wider, all.Bottom + kShadowRoom, sprite.Picture.width);
 }
 
 GroundShadow ShadowBelow(const Sprite& sprite, float share) {
-  return OnLine(Covered(sprite, 0), share, static_cast<float>(sprite.Picture.height - 1));
+  return OnLine(Covered(sprite, 0), share, static_cast<float>(sprite.Picture.height - 1),
+                sprite.Picture.width);
 }
 
 void CastShadow(Sprite& sprite, const GroundShadow& shadow) {

@@ -40,14 +40,14 @@ Model SpiderModel() {
   model.Add(kShell, 3, 1.5F).Ball({0, -1, 3}, {8, 6.5F, 9}).Limb({0, 0, -3}, {0, 3, -7}, 4.4F, 4);
   model.Add(kHead, 2, 1).Ball({0, 1.5F, 14}, {9.4F, 8, 8.4F});
   // The left hand is the far side; its front leg is raised to strike.
-  static constexpr std::array<Leg, 8> kLegs{{{0.62F, 32, 17, 4},
-                                             {1.15F, 26, 12, -17},
-                                             {0.3F, 27, 13, -17},
-                                             {-0.45F, 32, 12, -16},
-                                             {2.35F, 24, 19, -6},
-                                             {2.7F, 30, 21, -19},
-                                             {3.3F, 29, 10, -18},
-                                             {3.65F, 39, 21, -18}}};
+  static constexpr std::array<Leg, 8> kLegs{{{0.62F, 27, 17, 6},
+                                             {1.0F, 22, 11, -17},
+                                             {0.2F, 24, 13, -17},
+                                             {-0.45F, 28, 12, -16},
+                                             {2.5F, 20, 17, -8},
+                                             {2.85F, 26, 17, -18},
+                                             {3.4F, 25, 9, -18},
+                                             {3.75F, 33, 19, -18}}};
   for (size_t i = 0; i < kLegs.size(); ++i) {
     const Leg& leg = kLegs[i];
     const Vec out = Around(leg.Angle, 1, 0, 1);
@@ -87,7 +87,7 @@ Image PaintSpider() {
   m[kBand] = {{0x583410, 0x987018, 0xD8B030, 0xF4DC60}};
   m[kAcid] = {{0x4C8418, 0xA0D830, 0xE8F888}, 0.6F, 0.2F, 0.2F};
   m[kHead] = {{0x241430, 0x503060, 0x80568C, 0xB488B4, 0xE4C4DC}, 0.3F, 0.3F, 0.08F};
-  View view = MonsterView(0.78F, 0.24F);
+  View view = MonsterView(0.8F, 0.38F);
   view.Height = 50;
   Sprite sprite = Render(SpiderModel(), m, view);
   CastShadow(sprite, ShadowBelow(sprite, 0.85F));

@@ -70,7 +70,7 @@ Shape Dust(int frame) {
     }
     if (best < 0) return std::nullopt;
     if (frame == 1 && Wander(x * 0.45 + 5, y * 0.45 + 5, 61) > 0.56) return std::nullopt;
-    return Smoke(best + (frame == 0 ? 0.6 : 1.2));
+    return Smoke(best + (frame == 0 ? 1.3 : 1.9));
   };
 }
 

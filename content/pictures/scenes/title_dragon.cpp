@@ -139,9 +139,9 @@ Sprite RenderTitleDragon() {
   AddBody(model);
   // Folded, so that it stays in the picture: the fingers hang from the wrist beside each other.
   AddWing(model, {{24, -56, -26},
-                  {42, 2, -36},
-                  {12, 76, -44},
-                  {{{44, 40, -44}, {50, -22, -38}, {46, -74, -40}, {38, -112, -38}}},
+                  {40, 2, -34},
+                  {12, 76, -42},
+                  {{{40, 40, -42}, {46, -22, -36}, {42, -74, -38}, {36, -112, -36}}},
                   {24, -126, -36}});
   AddHead(model);
   model.Finish();
@@ -151,7 +151,7 @@ Sprite RenderTitleDragon() {
   view.Yaw = -0.86F;
   view.Pitch = -0.1F;
   view.Samples = 1;
-  view.Scale = 2.72F;
+  view.Scale = 2.6F;
   view.Middle = {0, 4, 0};
   view.Contour = 5;
   view.Dither = 0.9F;

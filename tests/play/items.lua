@@ -85,6 +85,15 @@ test("a thing cannot be discarded when its first five characters are those of so
   end
 end)
 
+test("a sixth character protects nothing", function()
+  opened { ["WeaponName[0]"] = "SwordX" }
+  pick(sword)
+  expect(enabled(2), false)
+  opened { ["WeaponName[0]"] = "SworXof dawn" }
+  pick(sword)
+  expect(enabled(2), true)
+end)
+
 test("blanks count among the five characters", function()
   opened { ["ArmourName[1]"] = "Swor" }
   pick(swords)
@@ -112,6 +121,16 @@ test("discarding asks, with the whole name, and Cancel keeps the thing", functio
   expect(get("ItemCount"), 10)
   expect(get("Item.List1.ListIndex"), robe)
   expect(enabled(2), true)
+end)
+
+test("discarding reads the thing anew", function()
+  opened()
+  pick(robe)
+  set("ItemRec.Name", "another")
+  answer("Cancel")
+  click("Item.Command2")
+  expect(boxes()[1].text, "捨ててもよろしいですか？\n" .. padded "Robe")
+  expect(get("ItemRec.Kind"), 4)
 end)
 
 test("a discarded thing leaves a hole and no row selected", function()

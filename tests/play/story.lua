@@ -62,6 +62,21 @@ test("the hero is not drawn during a scene", function()
   paint("Main.Picture4", "778899")
   tick("Main.Timer3")
   expect(pixel("Main.Picture1", get("HeroX"), get("HeroY") - 4), "778899")
+  expect(shown_pixel("Main.Picture1", get("HeroX"), get("HeroY") - 4), "778899")
+end)
+
+test("a recovery message is closed first, even where the last scene waits", function()
+  steps.field()
+  set("LastBossDown", -1)
+  set("StoryNo", 40)
+  set("RecoveryShown", -1)
+  set("Main.Picture5.Visible", true)
+  click("Main.Picture1")
+  expect(get("StoryNo"), 40)
+  expect(get("RecoveryShown"), 0)
+  expect(get("Main.Picture5.Visible"), false)
+  click("Main.Picture1")
+  expect(get("StoryNo"), 41)
 end)
 
 local function closing(round, story)
@@ -92,8 +107,9 @@ end)
 
 test("the end of a dragon's scene starts the next round", function()
   closing(1, 21)
-  for i = 0, 14 do set("TreasureLeft[" .. i .. "]", 0) end
-  set("BookLeft[2]", 0)
+  for i = 0, 15 do set("TreasureLeft[" .. i .. "]", 0) end
+  for i = 0, 4 do set("BookLeft[" .. i .. "]", 0) end
+  write_map("Mapdata/map3-3.dat", 26)
   set("WazaKnown[1]", -1)
   set("MagicKnown[6]", -1)
   set("Items[0]", 21)
@@ -114,8 +130,9 @@ test("the end of a dragon's scene starts the next round", function()
   expect(get("HeroX"), 208)
   expect(get("HeroY"), 112)
   for _, counter in ipairs { "FieldFrame", "MessageFrame", "StoryFrame", "ActionState" } do expect(get(counter), 0, counter) end
-  for i = 0, 14 do expect(get("TreasureLeft[" .. i .. "]"), -1) end
-  expect(get("BookLeft[2]"), -1)
+  for i = 0, 15 do expect(get("TreasureLeft[" .. i .. "]"), i < 15 and -1 or 0) end
+  for i = 0, 4 do expect(get("BookLeft[" .. i .. "]"), i < 4 and -1 or 0) end
+  expect(get("MapTile[29][15]"), 26, "the map has been read")
   expect(get("WazaKnown[1]"), -1, "what was learned stays")
   expect(get("MagicKnown[6]"), -1)
   expect(get("WazaKnown[2]"), 0)
@@ -173,7 +190,9 @@ end)
 
 test("the third dragon's scene leads to the last stage, where the first save is possible", function()
   closing(3, 28)
+  write_map("Mapdata/map0-0.dat", 27)
   for _ = 1, 3 do click("Main.Picture1") end
+  expect(get("MapTile[0][15]"), 27, "the map has been read")
   expect(get("Round"), 4)
   expect(get("StoryNo"), 32)
   expect(get("MapA"), 0)

@@ -51,6 +51,73 @@ test("the title picture is stretched by 1.5 and 2 in place", function()
   expect(picture_size("Main.Picture1"), 481)
 end)
 
+-- What a new game writes, and what stood there before.
+local function dirty()
+  for hero = 0, 1 do
+    for _, name in ipairs { "Level", "HP", "MaxHP", "MP", "MaxMP", "BaseAttack", "Attack", "BaseDefence", "Defence", "Spirit",
+      "WeaponAttack", "ArmourDefence", "BookSkill", "Exp" } do set(name .. "[" .. hero .. "]", 77) end
+    for _, name in ipairs { "WeaponName", "ArmourName", "BookName" } do set(name .. "[" .. hero .. "]", "old") end
+  end
+  for i = 0, 9 do
+    set("WazaKnown[" .. i .. "]", -1)
+    set("MagicKnown[" .. i .. "]", -1)
+  end
+  for i = 0, 15 do set("TreasureLeft[" .. i .. "]", 5) end
+  for i = 0, 4 do set("BookLeft[" .. i .. "]", 5) end
+  for i = 0, 20 do set("Items[" .. i .. "]", 5) end
+  for _, name in ipairs { "MapA", "MapB", "Round", "StoryNo", "SaveX", "SaveY", "ItemCount", "TreasureNo", "BookNo", "ActionState",
+    "KeyUpWaiting", "KeyDownWaiting", "KeyLeftWaiting", "KeyRightWaiting", "OnRecovery", "OnChest", "HeroX", "HeroY",
+    "SaveMapA", "SaveMapB", "SaveRound", "SaveLevel[0]", "WazaKnown[10]", "Level[2]" } do set(name, 5) end
+  set("SaveName[1]", "old")
+  set("HeroName[0]", "old")
+  set("Battle.Timer1.Interval", 3)
+  set("Main.Timer1.Enabled", true)
+end
+
+test("a new game overwrites what it sets, and nothing else", function()
+  start()
+  dirty()
+  click("Main.Command1")
+  for _, name in ipairs { "KeyUpWaiting", "KeyDownWaiting", "KeyLeftWaiting", "KeyRightWaiting", "OnRecovery", "OnChest",
+    "ActionState", "TreasureNo", "StoryNo" } do expect(get(name), 0, name) end
+  for name, value in pairs { MapA = 3, MapB = 3, Round = 1, SaveX = 13, SaveY = 7, ItemCount = 3 } do
+    expect(get(name), value, name)
+  end
+  local starts = { Level = { 1, 1 }, HP = { 120, 80 }, MaxHP = { 120, 80 }, MP = { 10, 30 }, MaxMP = { 10, 30 }, BaseAttack = { 8, 4 },
+    Attack = { 8, 4 }, BaseDefence = { 4, 6 }, Defence = { 4, 6 }, Spirit = { 1, 12 }, WeaponAttack = { 0, 0 },
+    ArmourDefence = { 0, 0 }, BookSkill = { 0, 0 }, Exp = { 0, 0 } }
+  for name, values in pairs(starts) do
+    for hero = 0, 1 do expect(get(name .. "[" .. hero .. "]"), values[hero + 1], name .. " " .. hero) end
+  end
+  for hero = 0, 1 do
+    for _, name in ipairs { "WeaponName", "ArmourName", "BookName" } do
+      expect(get(name .. "[" .. hero .. "]"), "なし" .. (" "):rep(18), name .. " " .. hero)
+    end
+  end
+  for i = 0, 9 do
+    expect(get("WazaKnown[" .. i .. "]"), 0)
+    expect(get("MagicKnown[" .. i .. "]"), 0)
+  end
+  for i = 0, 15 do expect(get("TreasureLeft[" .. i .. "]"), i < 15 and -1 or 5, "chest " .. i) end
+  for i = 0, 4 do expect(get("BookLeft[" .. i .. "]"), i < 4 and -1 or 5, "book chest " .. i) end
+  for i = 0, 20 do expect(get("Items[" .. i .. "]"), i < 3 and 47 or i < 20 and 99 or 5, "slot " .. i) end
+  for name, value in pairs { BookNo = 5, HeroX = 5, HeroY = 5, SaveMapA = 5, SaveMapB = 5, SaveRound = 5, ["SaveLevel[0]"] = 5,
+    ["WazaKnown[10]"] = 5, ["Level[2]"] = 5, ["SaveName[1]"] = "old     ", ["HeroName[0]"] = "old     " } do
+    expect(get(name), value, name)
+  end
+  expect(get("Battle.Timer1.Interval"), 15)
+  expect(get("Main.Timer1.Enabled"), false)
+end)
+
+test("start-up reads the fifty things, and the last one stays in the buffer", function()
+  prepare()
+  write_file("Item.dat", read_file("Item.dat"):sub(1, 49 * 32) .. string.pack("<i4c20i4i4", 9, "Last" .. (" "):rep(16), 6, 123))
+  start { keep = true }
+  expect(get("ItemRec.Name"), "Last" .. (" "):rep(16))
+  expect(get("ItemRec.Kind"), 6)
+  expect(get("ItemRec.Value"), 123)
+end)
+
 test("a new game fills the record", function()
   start()
   click("Main.Command1")
@@ -160,6 +227,10 @@ test("the window's own close control asks the same and leaves the timers as they
   expect(boxes()[1].text, "終了しますか？")
   expect(get("Main.Timer1.Enabled"), false)
   expect(ended(), false)
+  steps.field()
+  answer("Cancel")
+  close("Main")
+  expect(get("Main.Timer1.Enabled"), true, "whoever walked walks on")
   answer("OK")
   close("Main")
   expect(ended(), true)
@@ -213,6 +284,7 @@ test("a cancelled name entry leaves the title as it was and keeps no name", func
   start()
   click("Main.Command1")
   enter("InputName.Text1(0)", "カイ")
+  enter("InputName.Text1(1)", "リナ")
   click("InputName.CancelButton")
   expect(active(), "Main")
   expect(get("GameStarted"), 0)
@@ -222,6 +294,7 @@ test("a cancelled name entry leaves the title as it was and keeps no name", func
   set("Main.Timer1.Enabled", true)
   click("Main.Command1")
   expect(get("InputName.Text1(0).Text"), "")
+  expect(get("InputName.Text1(1).Text"), "")
   expect(get("HP[0]"), 120, "each opening sets a new game up")
   expect(get("Main.Timer1.Enabled"), false)
 end)

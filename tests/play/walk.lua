@@ -291,6 +291,17 @@ test("in the last stage there is the last battle alone", function()
   expect(steps.sent('open "PATH\\Sound\\LastBoss.mid" alias bgm6'), 1)
 end)
 
+test("an activation opens the menus that the field has, and no loading", function()
+  steps.field()
+  set("Main.m11.Enabled", true)
+  for _, menu in ipairs { "m2", "m12" } do set("Main." .. menu .. ".Enabled", false) end
+  click("Main.m32")
+  set("Main.m3.Enabled", false)
+  click("Chardata.Command1")
+  expect(get("Main.m11.Enabled"), false)
+  for _, menu in ipairs { "m2", "m3", "m12" } do expect(get("Main." .. menu .. ".Enabled"), true, menu) end
+end)
+
 test("the status labels change at an activation, not on each frame", function()
   steps.field()
   set("HP[0]", 5)

@@ -157,3 +157,85 @@ test("the version's controls stand in their places", function()
     { "cmdOK", 88, 104, 92, 23, "OK" },
   })
 end)
+
+test("the title's controls stand in their places, faces and colours", function()
+  start()
+  expect_layout("Main", {
+    { "Picture1", 8, 0, 481, 304 },
+    { "Label1", 96, 88, 301, 48, "Orvane" },
+    { "Label4", 97, 90, 303, 48, "Orvane" },
+    { "Label3", 188, 144, 113, 13, "- オルベイン -" },
+    { "Label2", 8, 264, 161, 36 },
+    { "Command1", 176, 184, 137, 33, "始めから" },
+  })
+  local faces = {
+    Label1 = { "E0E0E0", "ＭＳ Ｐ明朝", 36, true }, Label4 = { "808080", "ＭＳ Ｐ明朝", 36, true },
+    Label3 = { "00C0C0", "ＭＳ Ｐゴシック", 9.75, false },
+  }
+  for name, face in pairs(faces) do
+    for i, property in ipairs { "ForeColor", "FontName", "FontSize", "FontBold" } do
+      expect(get("Main." .. name .. "." .. property), face[i], name .. "." .. property)
+    end
+  end
+  for _, hidden in ipairs { "Picture2", "Picture3", "Picture4", "Picture5", "Picture6" } do
+    expect(get("Main." .. hidden .. ".Visible"), false, hidden)
+  end
+end)
+
+test("the menu bar has its captions", function()
+  start()
+  local captions = { m1 = "ファイル", m11 = "ロード", m12 = "保存", m13 = "-", m14 = "終了", m2 = "アイテム", m21 = "装備・はずす",
+    m22 = "使う・捨てる", m3 = "情報", m32 = "キャラデータ", m33 = "環境設定", m34 = "-", m35 = "バージョン情報" }
+  for item, caption in pairs(captions) do expect(get("Main." .. item .. ".Caption"), caption, item) end
+end)
+
+test("the status panel and the story's line stand in their places", function()
+  steps.plain_world()
+  expect_layout("Main", {
+    { "Picture6", 0, 256, 482, 50 },
+    { "Picture7", 0, 0, 50, 50 }, { "Picture8", 240, 0, 50, 50 },
+    { "Label5(0)", 64, 8, 169, 17 }, { "Label5(1)", 64, 24, 169, 17 },
+    { "Label5(2)", 304, 8, 169, 17 }, { "Label5(3)", 304, 24, 169, 17 },
+    { "Label8", 8, 8, 233, 49 }, { "Picture9", 264, 8, 48, 48 },
+  })
+  for _, name in ipairs { "Label5(0)", "Label5(1)", "Label5(2)", "Label5(3)", "Label8" } do
+    local label = "Main." .. name .. "."
+    expect(get(label .. "FontName"), "ＭＳ Ｐゴシック", name)
+    expect(get(label .. "FontSize"), 9.75, name)
+    expect(get(label .. "FontBold"), true, name)
+  end
+end)
+
+test("the name entry's controls stand in their places", function()
+  start()
+  click("Main.Command1")
+  expect_layout("InputName", {
+    { "Label1", nil, nil, nil, nil, "キャラクターの名前を入力してください" },
+    { "Label4", 216, 32, 73, 17, "（６文字以内）" },
+    { "Label2", 88, 48, 73, 17, "主人公（男）" },
+    { "Text1(0)", 88, 64, 129, 18 },
+    { "Label3", 88, 104, 65, 17, "主人公（女）" },
+    { "Text1(1)", 88, 120, 129, 18 },
+    { "Picture1", 24, 40, 50, 50 }, { "Picture2", 24, 96, 50, 50 },
+    { "OKButton", 240, 80, 81, 25, "OK" },
+    { "CancelButton", 240, 112, 81, 25, "ｷｬﾝｾﾙ" },
+  })
+end)
+
+test("every sheet and surface has its size", function()
+  start()
+  local sizes = {
+    ["Main.Picture1"] = { 481, 304 }, ["Main.Picture2"] = { 144, 128 }, ["Main.Picture3"] = { 144, 128 },
+    ["Main.Picture4"] = { 480, 128 }, ["Main.Picture5"] = { 336, 64 }, ["Main.Picture6"] = { 480, 48 },
+    ["Main.Picture7"] = { 48, 48 }, ["Main.Picture8"] = { 48, 48 }, ["Main.Picture9"] = { 48, 48 },
+    ["Ending.Picture2"] = { 454, 300 }, ["Ending.Picture1"] = { 402, 386 }, ["Ending"] = { 451, 295 },
+    ["InputName.Picture1"] = { 48, 48 }, ["ItemUse.Picture2"] = { 48, 48 }, ["Custom.Picture1(1)"] = { 48, 48 },
+    ["Save.Picture1(0)"] = { 48, 48 }, ["Load.Picture1(1)"] = { 48, 48 },
+    ["Chardata.Picture1"] = { 80, 80 }, ["Chardata.Picture2"] = { 80, 80 },
+  }
+  for name, size in pairs(sizes) do
+    local width, height = picture_size(name)
+    expect(width, size[1], name)
+    expect(height, size[2], name)
+  end
+end)

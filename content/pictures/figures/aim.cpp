@@ -37,7 +37,7 @@ Camera Aim(const Model& model, const View& view) {
   eye.Middle = view.Middle;
   if (view.Scale > 0) return eye;
   const Box box = Measure(model, eye);
-  const float wide = 2 * (eye.HalfWidth - view.Margin) / (box.Right - box.Left);
+  const float wide = 2 * (eye.HalfWidth - view.Margin - view.Aside) / (box.Right - box.Left);
   const float high = 2 * (eye.HalfHeight - view.Margin - view.Room * 0.5F) / (box.High - box.Low);
   eye.Scale = std::min(wide, high);
   const float across = (box.Left + box.Right) * 0.5F;

@@ -227,7 +227,6 @@ Image PaintBoneDragon() {
       {0x083850, 0x0C6C80, 0x18A8A8, 0x38CCC0, 0x80ECD8, 0xD0F8E8}, 0, 0, 0, Flames(34)};
   m[kDragonBelly] = m[kDragonPlate] = m[kDragonPupil] = m[kBone];
   View view = DragonView(160, 240, 0.66F, 0.1F);
-  view.Margin = 4;
   view.Contour = 5;
   view.Folds = 10;
   Sprite sprite = Render(BoneDragonModel(), m, view);

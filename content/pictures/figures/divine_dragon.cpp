@@ -174,8 +174,9 @@ Image PaintDivineDragon() {
   m[kMane] = {{0x0C2438, 0x104C5C, 0x1C7C7C, 0x3CB098, 0x88DCBC, 0xE0F8E4}, 0.25F, 0.4F};
   m[kPearl] = {{0x2C60B8, 0x54A0E8, 0x98DCF8, 0xE0F8F8, 0xF8F8F8}, 0.9F, 0.6F, 0.2F};
   View view = DragonView(160, 240, 0, 0.08F);
+  view.Room = 14;  // its cloud floats
   Sprite sprite = Render(DivineDragonModel(), m, view);
-  CastShadow(sprite, ShadowUnder(sprite, 1.12F));
+  CastShadow(sprite, ShadowBelow(sprite, 0.84F, 7));
   return PairSheet(sprite, 320, 240, 160);
 }
 

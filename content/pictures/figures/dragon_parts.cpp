@@ -74,8 +74,10 @@ View DragonView(int width, int height, float yaw, float pitch) {
   view.Yaw = yaw;
   view.Pitch = pitch;
   view.Samples = 5;
-  view.Margin = 3;
-  // The scene ends before the cell does: its last rows are never seen.
+  // When the figure recoils, the scene is not painted anew all around it: what stood in the first
+  // rows or at the sides would stay behind. And the scene ends before the cell's last rows.
+  view.Margin = 4;
+  view.Aside = height == 192 ? 5 : 6;
   view.Room = height == 192 ? 5 : 7;
   view.Contour = 7;
   view.Folds = 14;

@@ -17,6 +17,7 @@ struct View {
   int Samples = 5;       // across and down a pixel
   float Margin = 2;      // pixels left free at each edge; the outline takes one of them
   float Scale = 0;       // pixels per unit; 0 fits the figure into the cell
+  float Aside = 0;       // more pixels left free at the left and the right of a fitted figure
   float Room = 0;        // more pixels left free under a fitted figure: its shadow, the air it has
   Vec Middle;            // the model's point in the middle of the cell, when Scale is given
   bool OnGround = true;  // a fitted figure stands at the cell's lower edge, else it hovers midway

@@ -174,9 +174,8 @@ Image PaintSeaDragon() {
   m[kDragonPlate] = m[kDragonHorn];
   m[kDragonFire] = m[kDragonHorn];
   View view = DragonView(128, 192, 0.66F, 0.16F);
-  view.Margin = 4;
   Sprite sprite = Render(SeaDragonModel(), m, view);
-  CastShadow(sprite, ShadowUnder(sprite, 1.12F));
+  CastShadow(sprite, ShadowUnder(sprite, 1.16F));
   return PairSheet(sprite, 256, 192, 128);
 }
 

@@ -61,8 +61,8 @@ GroundShadow ShadowUnder(const Sprite& sprite, float wider) {
   return OnLine(feet, wider, all.Bottom + kShadowRoom, sprite.Picture.width);
 }
 
-GroundShadow ShadowBelow(const Sprite& sprite, float share) {
-  return OnLine(Covered(sprite, 0), share, static_cast<float>(sprite.Picture.height - 1),
+GroundShadow ShadowBelow(const Sprite& sprite, float share, int above) {
+  return OnLine(Covered(sprite, 0), share, static_cast<float>(sprite.Picture.height - above),
                 sprite.Picture.width);
 }
 

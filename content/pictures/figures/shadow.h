@@ -27,9 +27,9 @@ struct GroundShadow {
 // the right, away from the light.
 GroundShadow ShadowUnder(const Sprite& sprite, float wider = 1.25F);
 
-// The shadow of a figure that floats: on the ground line at the cell's lower edge, `share` of the
-// figure's width.
-GroundShadow ShadowBelow(const Sprite& sprite, float share = 0.55F);
+// The shadow of a figure that floats: on a ground line `above` pixels over the cell's lower edge,
+// as wide as `share` of the figure.
+GroundShadow ShadowBelow(const Sprite& sprite, float share = 0.55F, int above = 1);
 
 // Lays a shadow behind the figure; it keeps off the cell's outermost pixels.
 void CastShadow(Sprite& sprite, const GroundShadow& shadow);

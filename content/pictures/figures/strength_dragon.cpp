@@ -19,17 +19,17 @@ void AddBody(Model& model) {
   // The tail ends in a club.
   model.Add(kDragonSkin, 4, 6)
       .Chain({{{0, -78, -24}, 23},
-              {{-6, -98, -50}, 17},
-              {{-26, -102, -58}, 13},
-              {{-40, -84, -54}, 10},
-              {{-40, -58, -48}, 8}},
+              {{-4, -98, -48}, 17},
+              {{-18, -102, -54}, 13},
+              {{-29, -84, -48}, 10},
+              {{-28, -58, -40}, 8}},
              5);
-  model.Add(kDragonPlate, 2).Ball({-39, -44, -46}, {14, 13, 13});
+  model.Add(kDragonPlate, 2).Ball({-27, -44, -38}, {14, 13, 13});
   Group& knobs = model.Add(kDragonHorn);
   for (int i = 0; i < 6; ++i) {
     const float a = static_cast<float>(i) * 1.05F;
     const Vec out{-0.3F + 0.6F * std::cos(a), std::sin(a), 0.5F * std::cos(a)};
-    knobs.Limb(Vec{-39, -44, -46} + out * 10, Vec{-39, -44, -46} + Unit(out) * 25, 4.6F, 0.4F);
+    knobs.Limb(Vec{-27, -44, -38} + out * 10, Vec{-27, -44, -38} + Unit(out) * 24, 4.6F, 0.4F);
   }
 }
 
@@ -74,10 +74,10 @@ void AddArms(Model& model) {
   AddFist(model, {-49, -54, 32}, {-0.9F, 0, 0.3F}, {0.2F, -0.3F, 0.93F}, {0, 0.95F, 0.3F});
   model.Add(kDragonSkin, 7, 7)
       .Ball({42, 28, 4}, {18, 18, 18})
-      .Limb({42, 28, 6}, {72, 16, 16}, 16, 13)
-      .Limb({72, 16, 16}, {76, 52, 24}, 15, 11)
+      .Limb({42, 28, 6}, {68, 16, 18}, 16, 13)
+      .Limb({68, 16, 18}, {69, 52, 26}, 15, 11)
       .Ball({58, 26, 16}, {12, 12, 12});
-  AddFist(model, {77, 66, 28}, {-0.9F, 0, 0.3F}, {-0.2F, 0.2F, 0.96F}, {0, 0.98F, -0.2F});
+  AddFist(model, {69, 66, 30}, {-0.9F, 0, 0.3F}, {-0.2F, 0.2F, 0.96F}, {0, 0.98F, -0.2F});
   // Shoulder plates and bracers with studs.
   for (const float side : {-1.0F, 1.0F}) {
     Group& plate = model.Add(kDragonPlate, 3, 0);
@@ -87,7 +87,7 @@ void AddArms(Model& model) {
     spikes.Limb({56 * side, 38, 8}, {74 * side, 48, 10}, 5.4F, 0.5F);
   }
   model.Add(kDragonPlate, 2).Limb({-53.4F, -16, 10}, {-51, -33, 20}, 18, 14.5F);
-  model.Add(kDragonPlate, 2).Limb({73, 24, 18}, {75.4F, 45, 22.6F}, 16, 13);
+  model.Add(kDragonPlate, 2).Limb({68, 24, 20}, {69, 45, 24.6F}, 16, 13);
   model.Leave();
 }
 

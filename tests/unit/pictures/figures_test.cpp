@@ -49,6 +49,27 @@ TEST(Figures, HaveNoPinholes) {
   }
 }
 
+// Big figures are stretched to 160 by 240 at (75, 30), and 10 pixels farther left when they recoil;
+// then the scene is painted anew from 72 to 216 and from 33 on. What would reach out of that while
+// it recoils stayed behind.
+TEST(Figures, BigOnesLeaveNothingBehindWhenTheyRecoil) {
+  for (const EnemySheet& enemy : EnemySheets()) {
+    const Rect& cell = enemy.Pair.Image;
+    if (cell.Width == 64) continue;
+    for (int y = 0; y < cell.Height; ++y) {
+      for (int x = 0; x < cell.Width; ++x) {
+        const Surface& sheet = Sheet(enemy.Name);
+        if (!sheet.Contains(cell.Width + x, y) || sheet.At(cell.Width + x, y) != kWhite) continue;
+        const int left = 65 + x * 160 / cell.Width;
+        const int right = 65 + ((x + 1) * 160 - 1) / cell.Width;
+        const int top = 30 + y * 240 / cell.Height;
+        EXPECT_TRUE(left >= 72 && right < 216 && top >= 33)
+            << enemy.Name << " at " << x << ", " << y;
+      }
+    }
+  }
+}
+
 // The checks above find what they are there to find.
 
 // A square of 10 by 8 pixels on a strip of shadow, in a cell of 20 by 20.

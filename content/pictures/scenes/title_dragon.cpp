@@ -143,10 +143,16 @@ Sprite RenderTitleDragon() {
                   {12, 76, -42},
                   {{{40, 40, -42}, {46, -22, -36}, {42, -74, -38}, {36, -112, -36}}},
                   {24, -126, -36}});
+  // The far wing is raised behind the head, above the place of the title's letters.
+  AddWing(model, {{-20, -56, -36},
+                  {-34, 40, -48},
+                  {-43, 102, -22},
+                  {{{-136, 106, 51}, {-124, 82, 47}, {-99, 68, 29}, {-62, 74, -4}}},
+                  {-30, 44, -30}});
   AddHead(model);
   model.Finish();
   paint::View view;
-  view.Width = 600;
+  view.Width = 700;
   view.Height = 640;
   view.Yaw = -0.86F;
   view.Pitch = -0.1F;

@@ -10,7 +10,7 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr int dragon_left = 500;  // its muzzle keeps clear of the title's last letter
+constexpr int dragon_left = 450;  // its muzzle keeps clear of the title's last letter
 constexpr std::array<uint32_t, 5> rock{0x08061C, 0x141030, 0x28204C, 0x483C70, 0x8478A4};
 constexpr Colour night{0.52F, 0.46F, 0.78F};  // what the night leaves of a colour
 

@@ -68,12 +68,18 @@ test("half the defence, rounded down, holds a stroke off, to 0 at the least", fu
   end
 end)
 
-test("four living enemies attack four times, 18 ticks each", function()
+test("four living enemies attack four times, 18 ticks each, all with the strength of the kind", function()
   phase(4)
   steps.strengthen()
   expect(get("EnemyTurns"), 4)
   for left = 3, 0, -1 do
-    tick("Battle.Timer1", 17)
+    tick("Battle.Timer1", 7)
+    random_clear()
+    random((left + 0.5) / 10)
+    tick("Battle.Timer1")
+    -- Attack 7 of the kind, defence 4 and 6.
+    steps.state { EnemyRoll = left, EnemyDamage = 14 + left - (left % 2 == 0 and 2 or 3) }
+    tick("Battle.Timer1", 9)
     expect(get("EnemyTurns"), left + 1)
     tick("Battle.Timer1")
     expect(get("EnemyTurns"), left)

@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "src/battle/battle_action.h"
+#include "src/battle/battle_screen.h"
+#include "src/battle/battle_setup.h"
+#include "src/battle/enemy_ata.h"
+#include "src/battle/skill_runs.h"
+#include "src/battle/victory.h"
+#include "src/battle/w_m_name.h"
+#include "src/core/game.h"
+#include "src/screens/chardata.h"
+
+namespace orvane {
+namespace {
+
+// Notes in which order the generator is seeded (s) and drawn from (d).
+class NotedChance : public Chance {
+ public:
+  float Draw() override {
+    Calls += 'd';
+    return 0;
+  }
+  void Reseed() override { Calls += 's'; }
+
+  std::string Calls;
+};
+
+class Silence : public SoundDevice {
+ public:
+  std::string Send(const std::string&) override { return {}; }
+};
+
+class NoBoxes : public BoxKeeper {
+ public:
+  BoxAnswer Show(const Box&) override { return BoxAnswer::Ok; }
+  void ShowError(const Box&) override {}
+};
+
+class NoSleep : public Sleeper {
+ public:
+  void Sleep(int) override {}
+};
+
+class BattleTest : public testing::Test {
+ protected:
+  BattleTest() {
+    FillWazaTable(state_);
+    FillMagicTable(state_);
+    FillEnemyTable(state_);
+    game_.stage.KeepDesigns();
+    state_.EnemyKind = 3;
+    state_.EnemyCount = 1;
+    state_.Round = 1;
+  }
+
+  // What a frame's routine seeds and draws.
+  std::string CallsOf(int kind, int frame, void (*routine)(BattleScreen&)) {
+    state_.ActionKind = kind;
+    state_.ActionState = frame;
+    chance_.Calls.clear();
+    routine(battle_);
+    return chance_.Calls;
+  }
+
+  Silence sound_;
+  NotedChance chance_;
+  NoBoxes boxes_;
+  NoSleep time_;
+  Game game_{"/nonexistent", Services{sound_, chance_, boxes_, time_}};
+  State& state_ = game_.state;
+  BattleScreen battle_{game_};
+  ChardataScreen chardata_{game_};
+};
+
+TEST_F(BattleTest, SetUpSeedsOnceAndDrawsAKindInThreeRoundsOnly) {
+  BattleSetUp(battle_);
+  EXPECT_EQ(chance_.Calls, "sdd");
+  chance_.Calls.clear();
+  state_.Round = 4;
+  BattleSetUp(battle_);
+  EXPECT_EQ(chance_.Calls, "sd");
+}
+
+TEST_F(BattleTest, EveryCallOfTheArithmeticSeedsAndTheComputingFrameDraws) {
+  battle_.List2.ListIndex = 1;
+  EXPECT_EQ(CallsOf(Action::Fight, 6, DamageCalc), "sd");
+  EXPECT_EQ(CallsOf(Action::Fight, 8, DamageCalc), "s");
+  battle_.List1.ListIndex = 1;
+  EXPECT_EQ(CallsOf(Action::Waza, 26, DamageCalc), "sd");
+  EXPECT_EQ(CallsOf(Action::Waza, 44, DamageCalc), "s");
+  EXPECT_EQ(CallsOf(Action::Magic, 26, DamageCalc), "sdd");
+  EXPECT_EQ(CallsOf(Action::Magic, 28, DamageCalc), "s");
+}
+
+TEST_F(BattleTest, EveryFrameOfAnEnemyAttackSeedsBeforeItDraws) {
+  state_.EnemyTurns = 2;
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 2, EnemyAtaNormal), "s");
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 16, EnemyAtaNormal), "sds");
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 18, EnemyAtaNormal), "ss");
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 36, EnemyAtaNormal), "s");
+  state_.Round = 2;
+  EXPECT_EQ(CallsOf(Action::BossSpecial, 16, EnemyAtaFire), "s");
+  EXPECT_EQ(CallsOf(Action::BossSpecial, 36, EnemyAtaFire), "ssdd");
+  EXPECT_EQ(CallsOf(Action::LastBossSpecial, 16, EnemyAtaDeath), "s" + std::string(33, 'd'));
+  EXPECT_EQ(CallsOf(Action::LastBossSpecial, 36, EnemyAtaDeath), "ssdd");
+}
+
+TEST_F(BattleTest, EveryFrameOfAnItemSeeds) {
+  battle_.List3.ListIndex = battle_.List4.ListIndex = 1;
+  EXPECT_EQ(CallsOf(Action::Item, 2, ItemRun), "s");
+  EXPECT_EQ(CallsOf(Action::Item, 6, ItemRun), "s" + std::string(12, 'd'));
+  EXPECT_EQ(CallsOf(Action::Item, 26, ItemRun), "ss");
+  EXPECT_EQ(CallsOf(Action::Item, 50, ItemRun), "s");
+}
+
+TEST_F(BattleTest, TheFireDrawsNothingInTheFirstRoundAndKeepsItsDamage) {
+  state_.BreathDamage[0] = 77;
+  EXPECT_EQ(CallsOf(Action::BossSpecial, 36, EnemyAtaFire), "ss");
+  EXPECT_EQ(state_.BreathDamage[0], 77);
+  EXPECT_EQ(battle_.Label16[0].Caption, "77");
+}
+
+// The two tables of mastery counts hold the same numbers, but each has its readers.
+TEST_F(BattleTest, AWinTellsOfTheWomansMasteryByTheMansTable) {
+  game_.stage.Show(chardata_);
+  state_.MagicKnown[0] = True;
+  state_.BookSkill[1] = 1;
+  state_.MagicUse[0] = 20;
+  state_.WazaMaster[0] = 30;
+  game_.stage.Unload(chardata_);
+  game_.stage.Show(chardata_);
+  ProficiencyGain(battle_, 1);
+  EXPECT_FALSE(battle_.Label25[1].Visible) << "21 of 30";
+  EXPECT_EQ(chardata_.Label27[0].Caption, "MASTER") << "20 of 20";
+  state_.WazaMaster[0] = 20;
+  state_.MagicMaster[0] = 30;
+  game_.stage.Unload(chardata_);
+  game_.stage.Show(chardata_);
+  ProficiencyGain(battle_, 1);
+  EXPECT_TRUE(battle_.Label25[1].Visible) << "22 of 20";
+  EXPECT_EQ(chardata_.Label27[0].Caption, "/30");
+}
+
+TEST_F(BattleTest, ASpellIsMasteredByTheWomansTable) {
+  battle_.List1.ListIndex = battle_.List2.ListIndex = 1;
+  state_.Spirit[1] = 5;
+  state_.MagicUse[0] = 20;
+  state_.WazaMaster[0] = 1000;
+  CallsOf(Action::Magic, 26, DamageCalc);
+  EXPECT_EQ(state_.MagicDamage[0], 129);
+  state_.MagicMaster[0] = 30;
+  CallsOf(Action::Magic, 26, DamageCalc);
+  EXPECT_EQ(state_.MagicDamage[0], 100);
+}
+
+}  // namespace
+}  // namespace orvane

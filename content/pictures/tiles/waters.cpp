@@ -1,5 +1,6 @@
 // Lakes, sea and lava with their shores.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -107,21 +108,33 @@ Image Waterfall() {
   });
 }
 
-// Boards laid close together; they look the same whichever way the walk goes.
+// Boards laid close together, of three widths and two woods; they look the same whichever way the
+// walk goes.
 Image MarshPlanks() {
-  Image tile = Tiled(MarshTile(0), TileSize, TileSize);
-  for (int board = 0; board < 4; ++board) {
-    const int left = board % 2 == 0 ? 0 : 1;
-    const int width = board == 2 ? 16 : 15;
-    for (int x = left; x < left + width && x < TileSize; ++x) {
-      const bool end = x == left || x == left + width - 1;
-      Set(tile, x, board * 4, end ? Wood[2] : Wood[5]);
-      Set(tile, x, board * 4 + 1, end ? Wood[1] : (x * 3 + board) % 7 == 0 ? Wood[3] : Wood[4]);
-      Set(tile, x, board * 4 + 2, end ? Wood[1] : Wood[3]);
-      Set(tile, x, board * 4 + 3, Marsh[0]);
+  struct Board {
+    int top;
+    int height;
+    int left;  // where it begins; it ends as far from the other side
+    int tone;
+  };
+  constexpr std::array<Board, 3> boards{{{0, 6, 0, 4}, {6, 4, 1, 3}, {10, 6, 0, 4}}};
+  Image tile = MarshTile(0);
+  for (const Board& board : boards) {
+    const int right = TileSize - 1 - board.left;
+    for (int x = board.left; x <= right; ++x) {
+      const bool end = x == board.left || x == right;
+      for (int row = 0; row < board.height; ++row) {
+        const int y = board.top + row;
+        const bool grain = Noise(x / 5.0, y * 0.9, 0, 351) > 0.66;
+        const int tone = row == 0                  ? board.tone + 1
+                         : row == board.height - 1 ? 0
+                         : row == board.height - 2 ? board.tone - 1
+                         : grain                   ? board.tone - 1
+                                                   : board.tone;
+        Set(tile, x, y, row == board.height - 1 ? Marsh[0] : Wood[end ? std::min(tone, 2) : tone]);
+      }
     }
-    Set(tile, left + 2, board * 4 + 1, Wood[1]);
-    Set(tile, left + 12, board * 4 + 1, Wood[1]);
+    for (const int x : {board.left + 2, right - 2}) Set(tile, x, board.top + 1, Wood[1]);
   }
   return tile;
 }

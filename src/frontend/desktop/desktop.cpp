@@ -136,12 +136,9 @@ bool Desktop::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::WindowActivate:
       if (auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeActivation(*window);
       return false;
-    case QEvent::WindowStateChange: {
-      // The window manager's own control for the largest size.
-      const auto* window = dynamic_cast<ScreenWindow*>(watched);
-      if (window != nullptr && window->isMaximized()) SetFullScreen(true);
+    case QEvent::WindowStateChange:
+      if (const auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeState(*window);
       return false;
-    }
     case QEvent::Quit:
       // The session ends; nobody is asked.
       End();
@@ -160,6 +157,15 @@ void Desktop::TakeActivation(ScreenWindow& window) {
   if (!windows_.IsPlayersChoice(window) || stage.Active() == &window.Model()) return;
   if (stage.BoxStands()) return;
   Send([&window](Program& program) { program.Activate(window.Model()); });
+}
+
+void Desktop::TakeState(const ScreenWindow& window) {
+  // While the windows follow the game their states are the game's own doing. A window that is away
+  // keeps what it was.
+  if (following_ || !window.Model().IsScene || !window.isVisible() || window.isMinimized()) return;
+  // The window manager's control for the largest size means the full screen.
+  const bool is_largest = window.isMaximized() || window.isFullScreen();
+  if (is_largest != zoom_.IsFullScreen()) SetFullScreen(is_largest);
 }
 
 bool Desktop::TakeZoomKey(const QKeyEvent& event) {

@@ -47,6 +47,7 @@ class Desktop : public QObject, public Events, public BoxHost {
   void ComeToFront();
   bool KeysReachGame() const;
   void TakeActivation(ScreenWindow& window);
+  void TakeState(const ScreenWindow& window);
   bool TakeZoomKey(const QKeyEvent& event);
   void SetFullScreen(bool full_screen);
   void RescaleLater();

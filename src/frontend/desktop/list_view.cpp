@@ -94,6 +94,7 @@ class ListWidget : public QListWidget {
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter) {
+      if (!currentIndex().isValid()) SetOut(event->key());
       QListWidget::keyPressEvent(event);
       // At its end a list keeps the keys that go along it.
       if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) event->accept();
@@ -103,6 +104,15 @@ class ListWidget : public QListWidget {
   }
 
  private:
+  // Where a key that goes along the list starts from when no row has the highlight. By itself the
+  // toolkit would go to the first row, whatever the key.
+  void SetOut(int key) {
+    if (key == Qt::Key_End) setCurrentRow(count() - 1);
+    if (key == Qt::Key_PageDown || key == Qt::Key_PageUp) {
+      setCurrentRow(row(itemAt(viewport()->rect().topLeft())));
+    }
+  }
+
   void Choose(int chosen) {
     stale_ = true;
     events_.Send([this, chosen](Program& program) {

@@ -4,27 +4,12 @@
 #   lifecycle.sh BUILD_FOLDER SCREENSHOTS SCRIPT_PLAYER
 set -u
 
+# shellcheck source=tests/desktop/x_session.sh
+. "$(dirname "$(realpath "$0")")/x_session.sh"
 build=$(realpath "$1")
-shots=$2
 player=$(realpath "$3")
 scale=1
-here=$(dirname "$(realpath "$0")")
-mkdir -p "$shots"
-shots=$(realpath "$shots")
-log=$shots/game.log
-
-for tool in Xvfb openbox xdotool xprop xwininfo import cksum; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
-
-# shellcheck source=tests/desktop/x_session.sh
-. "$here/x_session.sh"
-# shellcheck source=tests/desktop/steps.sh
-. "$here/steps.sh"
-# shellcheck source=tests/desktop/screen_steps.sh
-. "$here/screen_steps.sh"
-
-contents() { (cd "$1" && find . -type f -exec cksum {} + | sort); }
+keep_shots_in "$2"
 
 install_game() {
   cmake --install "$build" --prefix "$run_folder/prefix" >"$log" 2>&1 || fail "the game cannot be installed"
@@ -42,26 +27,19 @@ see_own_folder() {
 
 start_twice() {
   local status=0 second
-  timeout 5 "$program" || status=$?
+  timeout 20 "$program" || status=$?
   [ $status = 0 ] || fail "the second start ended with status $status"
   second=$(xdotool search --onlyvisible --name '^Orvane$' | wc -l)
   [ "$second" = 1 ] || fail "there are $second windows after the second start"
-  has_focus Orvane || fail "the first game is not in front"
+  wait_for 5 "the first game in front" has_focus Orvane
 }
 
 # ends WHERE SIGNAL: the program ends at once, in good order, and leaves no half-written file.
 ends() {
-  local status=0 before
+  local before
   before=$(contents "$folder")
   kill -s "$2" "$game_pid"
-  for _ in $(seq 50); do
-    kill -0 "$game_pid" 2>/dev/null || break
-    sleep 0.1
-  done
-  kill -0 "$game_pid" 2>/dev/null && fail "the game goes on $1"
-  wait "$game_pid" || status=$?
-  game_pid=
-  [ $status = 0 ] || fail "the game ended with status $status $1"
+  game_ends "$1"
   [ "$(contents "$folder")" = "$before" ] || fail "the game folder has changed $1"
 }
 
@@ -74,8 +52,7 @@ start_twice
 ends "on the title" TERM
 
 # The first of these saves was made by the player, so to speak; the installed slots stay behind.
-ORVANE_STATES=$folder ORVANE_PLAY=$here/../play "$player" "$here/states.lua" >"$log" 2>&1 ||
-  fail "the saves could not be made"
+make_saves
 for where in field question battle; do
   start_game --scale 1 --seed 5
   see_title

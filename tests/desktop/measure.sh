@@ -4,26 +4,14 @@
 #   measure.sh PROGRAM SCREENSHOTS SCRIPT_PLAYER
 set -u
 
+# shellcheck source=tests/desktop/x_session.sh
+. "$(dirname "$(realpath "$0")")/x_session.sh"
 program=$(realpath "$1")
-shots=$2
 player=$(realpath "$3")
 scale=2
-here=$(dirname "$(realpath "$0")")
-mkdir -p "$shots"
-shots=$(realpath "$shots")
-log=$shots/game.log
+keep_shots_in "$2"
 bad=0
 battle_period=15  # as a new game has it
-
-for tool in Xvfb openbox xdotool xprop xwininfo import; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
-# shellcheck source=tests/desktop/x_session.sh
-. "$here/x_session.sh"
-# shellcheck source=tests/desktop/steps.sh
-. "$here/steps.sh"
-# shellcheck source=tests/desktop/screen_steps.sh
-. "$here/screen_steps.sh"
 
 # judge WHAT FOUND UNIT GOAL LIMIT
 judge() {
@@ -54,9 +42,7 @@ start_time() {
     until has_window Orvane; do sleep 0.005; done
     took=$((($(date +%s%N) - begin) / 1000000))
     [ "$took" -lt "$best" ] && best=$took
-    kill "$game_pid"
-    wait "$game_pid" 2>/dev/null
-    game_pid=
+    stop_game
   done
   echo "$best"
 }
@@ -114,9 +100,7 @@ xdotool keyup Down
 meet_dragon
 strike
 judge "processor in a battle at 2x" "$(load_over 2)" % 8 40
-kill "$game_pid"
-wait "$game_pid" 2>/dev/null
-game_pid=
+stop_game
 # The log is whole once the program has ended.
 judge "walk's ticks off their period, median" "$(tick_error Timer1 33)" ms 2 6
 judge "battle's ticks off their period, median" "$(tick_error Timer1 "$battle_period")" ms 2 6
@@ -136,9 +120,7 @@ done
 sleep 8
 stroll 5
 late=$(memory)
-kill "$game_pid"
-wait "$game_pid" 2>/dev/null
-game_pid=
+stop_game
 minutes=$(awk '$1 == "Timer1" { sum += $2 } END { printf "%d", sum / 60000 }' "$shots/ticks.txt")
 echo "played $minutes minutes in a hurry"
 [ "$minutes" -ge 10 ] || fail "the hurried game hardly ran"

@@ -31,7 +31,7 @@ looks_as_kept() {
 # keep NAME TITLE: the window looks as its kept picture does, or, for new pictures, is kept when it
 # has come to rest.
 keep() {
-  local end=$((SECONDS + 6)) differing=0
+  local end=$((SECONDS + 10)) differing=0
   if [ "$update" = yes ]; then
     xdotool mousemove "$((screen_width - 1))" "$((screen_height - 1))"
     sleep 0.5

@@ -1,26 +1,15 @@
 #!/bin/bash
 # Plays the real program in a real window: names, opening, walk, a battle, the way out.
 #   run.sh PROGRAM SCREENSHOTS [SCALE]
-# Keeps a screenshot of each step in the folder SCREENSHOTS. Needs Xvfb, openbox, xdotool, xprop, xwininfo and
-# ImageMagick. Ends with 77, which counts as skipped, where one of them is missing.
+# Keeps a screenshot of each step in the folder SCREENSHOTS.
 set -u
 
-program=$(realpath "$1")
-shots=$2
-scale=${3:-1}
-here=$(dirname "$(realpath "$0")")
-mkdir -p "$shots"
-shots=$(realpath "$shots")
-log=$shots/game.log
-
-for tool in Xvfb openbox xdotool xprop xwininfo import cksum; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
-
 # shellcheck source=tests/desktop/x_session.sh
-. "$here/x_session.sh"
-# shellcheck source=tests/desktop/steps.sh
-. "$here/steps.sh"
+. "$(dirname "$(realpath "$0")")/x_session.sh"
+program=$(realpath "$1")
+scale=${3:-1}
+keys_repeat=yes  # keys are held here, under boxes too
+keep_shots_in "$2"
 
 open_display $((640 * scale))x$((560 * scale))
 # With this seed the first battle comes after some 170 steps, and one enemy alone.

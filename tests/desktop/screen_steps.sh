@@ -4,10 +4,18 @@
 make_folder() {
   folder=$run_folder/game
   cp -r "$(dirname "$program")/game" "$folder"
-  ORVANE_STATES=$folder ORVANE_PLAY=$here/../play "$player" "$here/states.lua" >"$log" 2>&1 ||
-    fail "the saves could not be made"
+  make_saves
   head -c 100 "$folder/Save01.sav" >"$folder/Save09.sav"
 }
+
+# The saves of states.lua, into the game folder.
+make_saves() {
+  ORVANE_STATES=$folder ORVANE_PLAY=$here/../play "$player" "$here/states.lua" >"$log" 2>&1 ||
+    fail "the saves could not be made"
+}
+
+# contents FOLDER: what stands in it, with checksums.
+contents() { (cd "$1" && find . -type f -exec cksum {} + | sort); }
 
 # number FILE OFFSET: a 16-bit number of a save.
 number() { od -An -t d2 -j "$2" -N 2 "$folder/$1" | tr -d ' '; }
@@ -16,10 +24,9 @@ bytes() { od -An -v -t x1 -j "$2" -N "$3" "$folder/$1" | tr -d ' \n'; }
 
 # menu TITLE_X ITEM: chooses the ITEM-th usable item of the menu at that place of the menu bar.
 menu() {
-  local left top height step
+  local step
   wait_for 5 "the focus before a menu" has_focus Orvane
-  measure Orvane
-  xdotool mousemove $((left + $1 * scale)) $((top + 11 * scale)) click 1
+  click Orvane "$1" -11
   sleep 0.2
   for step in $(seq "$2"); do xdotool key --delay 20 Down; done
   [ -n "${3:-}" ] && shot "$3"
@@ -71,6 +78,7 @@ load_row() {
   sleep 0.2
   click ファイルのロード 190 68
   closes ファイルのロード
+  wait_for 10 "the field" menu_is_on $item_menu
   wait_for 5 "the party at rest" is_still
 }
 
@@ -208,9 +216,18 @@ load_before_dragon() {
   keep before-dragon Orvane
 }
 
-# The scene, the buttons and the pages of a battle do not move any more.
-battle_rests() { rests "BATTLE !" 8 8 436 380; }
-wait_for_command() { wait_for 60 "the end of $1" battle_rests; }
+# Where the buttons of a battle are. The fifth, which flees, is never on here.
+button_x=(0 48 112 48 112) button_y=(0 328 328 360 360)
+# command_is_on BUTTON: while an action runs or a list is open, and on the victory's panel, none is.
+command_is_on() { is_on "BATTLE !" "${button_x[$1]}" "${button_y[$1]}"; }
+command_is_off() { ! command_is_on "$1"; }
+wait_for_command() { wait_for 60 "the end of $1" command_is_on 1; }
+
+# press BUTTON: of the battle; a list comes.
+press() {
+  click "BATTLE !" "${button_x[$1]}" "${button_y[$1]}"
+  wait_for 10 "the list of button $1" command_is_off 1
+}
 
 # Up into the strip before the dragon.
 meet_dragon() {
@@ -228,25 +245,17 @@ meet_dragon() {
 # The rows of a battle's lists, counted from 0: "キャンセル" is the first.
 row() { click "BATTLE !" 60 $((288 + $1 * 13)); }
 
-# command X Y ROWS...: a command's button, then a row of each list that comes.
-command() {
-  local at
-  click "BATTLE !" "$1" "$2"
-  shift 2
-  for at in "$@"; do
-    sleep 0.3
-    row "$at"
-  done
+strike() {
+  press 1
+  row 1
 }
-strike() { command 48 328 1; }
 
 # Every kind of command against the dragon: he uses the fifth technique, which stops the time for a
 # moment, and she a spell on it; then both use a thing.
 fight_with_everything() {
   meet_dragon
   keep dragon "BATTLE !"
-  click "BATTLE !" 48 360
-  sleep 0.3
+  press 3
   keep techniques "BATTLE !"
   row 5
   sleep 0.3
@@ -255,15 +264,13 @@ fight_with_everything() {
   sleep 0.4
   shot 27-technique
   wait_for_command "the technique"
-  click "BATTLE !" 112 328
-  sleep 0.3
+  press 2
   shot 28-spells
   row 4
   sleep 0.7
   shot 29-spell
   wait_for_command "the spell and the dragon's answer"
-  click "BATTLE !" 112 360
-  sleep 0.3
+  press 4
   shot 30-things
   row 1
   sleep 0.3
@@ -276,38 +283,30 @@ fight_with_everything() {
 # He uses the last technique, she strikes, until the panel has come and the click beside it has led
 # away from the battle.
 win() {
-  local end=$((SECONDS + 90)) his=${2:-}
+  local end=$((SECONDS + 120))
   while has_window "BATTLE !"; do
     [ $SECONDS -ge $end ] && fail "the dragon does not fall"
-    if [ -n "$his" ]; then
-      click "BATTLE !" 48 360
-      sleep 0.3
-      xdotool key --delay 50 Down End Return
+    if command_is_on 3; then
+      press 3
+      xdotool key --delay 50 End Return
       sleep 0.3
       row 1
-      his=
-    else
+    elif command_is_on 2; then
       strike
-      his=yes
+    else
+      shot "$1"
+      click "BATTLE !" 20 250
+      sleep 0.2
     fi
-    wait_for_command "a blow"
-    shot "${1:-32-victory}"
-    click "BATTLE !" 20 250
-    sleep 0.3
   done
   wait_for 5 "the focus after the battle" has_focus Orvane
 }
 
 # The lines after the dragon, to the last stage.
 hear_story() {
-  local line
-  sleep 0.5
+  wait_for 10 "the story" menu_is_off $info_menu
   shot 33-story
-  for line in $(seq 25); do
-    click Orvane 40 150
-    sleep 0.1
-  done
-  wait_for 5 "the party at rest" is_still
+  listen 60 "the story"
   keep last-stage Orvane
 }
 
@@ -318,7 +317,7 @@ fight_last_dragon() {
   wait_for_command "a blow"
   strike
   wait_for_command "a blow and the dragon's answer"
-  win 36-last-victory yes
+  win 36-last-victory
 }
 
 # The last card: as it is kept, or, for new pictures, the first words that stand still for a while,
@@ -334,13 +333,12 @@ last_card_stands() {
 }
 
 see_ending() {
-  local line status=0 bare
-  for line in $(seq 60); do
-    has_window ENDING && break
+  local end=$((SECONDS + 60)) bare
+  until has_window ENDING; do
+    [ $SECONDS -ge $end ] && fail "the credits do not come"
     click Orvane 40 150
     sleep 0.15
   done
-  wait_for 5 "the credits" has_window ENDING
   sleep 2  # painted, and long before the first strip comes so high
   # shellcheck disable=SC2086
   bare=$(sum ENDING $card)
@@ -353,12 +351,5 @@ see_ending() {
   else
     xdotool key alt+F4
   fi
-  for _ in $(seq 100); do
-    kill -0 "$game_pid" 2>/dev/null || break
-    sleep 0.1
-  done
-  kill -0 "$game_pid" 2>/dev/null && fail "the game did not end after the credits"
-  wait "$game_pid" || status=$?
-  game_pid=
-  [ $status = 0 ] || fail "the game ended with status $status after the credits"
+  game_ends "after the credits"
 }

@@ -3,37 +3,25 @@
 # read from the files that the game saves, and what it looks like is held against kept pictures.
 #   screens.sh [--update] PROGRAM SCREENSHOTS SCRIPT_PLAYER [SCALE]
 # With --update the kept pictures are made anew, which the build target orvane-keep-looks does for
-# both scales. Screenshots and needs as in run.sh. At scale 1 the credits run to their last card.
+# both scales. At scale 1 the credits run to their last card.
 set -u
 
 update=no
 [ "${1:-}" = --update ] && update=yes && shift
 
+# shellcheck source=tests/desktop/x_session.sh
+. "$(dirname "$(realpath "$0")")/x_session.sh"
 program=$(realpath "$1")
-shots=$2
 player=$(realpath "$3")
 scale=${4:-1}
-here=$(dirname "$(realpath "$0")")
-mkdir -p "$shots"
-shots=$(realpath "$shots")
-log=$shots/game.log
+keep_shots_in "$2"
 kept=$here/shots/${scale}x
 mkdir -p "$kept"
 wrong=0
 screen_width=$((640 * scale)) screen_height=$((560 * scale))
 
-for tool in Xvfb openbox xdotool xprop xwininfo import compare cksum fc-match; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
-
-# shellcheck source=tests/desktop/x_session.sh
-. "$here/x_session.sh"
-# shellcheck source=tests/desktop/steps.sh
-. "$here/steps.sh"
 # shellcheck source=tests/desktop/pictures.sh
 . "$here/pictures.sh"
-# shellcheck source=tests/desktop/screen_steps.sh
-. "$here/screen_steps.sh"
 
 check_fonts
 open_display "${screen_width}x$screen_height"

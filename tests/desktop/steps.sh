@@ -27,10 +27,25 @@ enter_names() {
   shot 3-opening
 }
 
+# A menu of the first window is on: the party can walk. In a scene the menus are off.
+menu_is_on() { is_on Orvane "$1" -11; }
+menu_is_off() { is_off Orvane "$1" -11; }
+
+# listen SECONDS SCENE: clicks on the lines of a scene until the party can walk.
+listen() {
+  local end=$((SECONDS + $1))
+  wait_for 10 "$2" menu_is_off $info_menu
+  until menu_is_on $info_menu; do
+    [ $SECONDS -ge $end ] && fail "$2 does not end"
+    click Orvane 40 150
+    sleep 0.1
+  done
+}
+
 # Each click changes the line of the message; after the last the message goes.
 click_through_opening() {
   local line before
-  for line in $(seq 1 20); do
+  for line in $(seq 1 19); do
     # shellcheck disable=SC2086
     before=$(sum Orvane $message)
     click Orvane 40 150
@@ -38,11 +53,11 @@ click_through_opening() {
     wait_for 5 "line $line of the opening" changes "$before" Orvane $message
     sleep 0.1
   done
-  sleep 0.3
+  listen 20 "the opening"
   shot 4-field
 }
 
-# walk_until_still: the field does not change any more.
+# The field does not change any more.
 is_still() {
   local before
   # shellcheck disable=SC2086
@@ -59,32 +74,32 @@ walk() {
     # shellcheck disable=SC2086
     before=$(sum Orvane $field)
     xdotool keydown $key
-    sleep 0.4
-    xdotool keyup $key
     # shellcheck disable=SC2086
-    changes "$before" Orvane $field || fail "the party does not walk by the $key key"
+    wait_for 5 "a step by the $key key" changes "$before" Orvane $field
+    sleep 0.3
+    xdotool keyup $key
     wait_for 3 "the party's halt" is_still
   done
   shot 5-walk
 }
 
-# Asks the window manager to close the window that has the keyboard, until the game asks back.
-asks_to_quit() {
-  has_window ゲームの終了 && return 0
-  xdotool key alt+F4
-  for _ in 1 2 3 4 5 6 7 8 9 10; do
-    sleep 0.1
-    has_window ゲームの終了 && return 0
+# Asks the window manager to close the window that has the keyboard, until the game asks back. Not
+# again soon: on a slow machine that would close the question.
+ask_to_quit() {
+  local end=$((SECONDS + 20)) again=0
+  until has_window ゲームの終了; do
+    [ $SECONDS -ge $end ] && fail "the game does not ask whether to quit"
+    [ $SECONDS -ge $again ] && xdotool key alt+F4 && again=$((SECONDS + 6))
+    sleep 0.05
   done
-  return 1
+  wait_for 5 "the focus of the quit question" has_focus ゲームの終了
 }
 
 # A key that is released while a box has the keyboard does not leave the party walking.
 hold_key_under_box() {
   xdotool keydown Right
   sleep 0.1
-  wait_for 10 "the quit question" asks_to_quit
-  wait_for 5 "the focus of the quit question" has_focus ゲームの終了
+  ask_to_quit
   shot 6-question
   xdotool keyup Right
   sleep 0.1
@@ -104,8 +119,8 @@ find_battle() {
     done
   done
   wait_for 5 "the battle's focus" has_focus "BATTLE !"
-  lacks_window Orvane || fail "the field's window stays beside the battle"
-  sleep 0.5
+  wait_for 5 "the field's window away" lacks_window Orvane
+  wait_for 10 "the battle's buttons" command_is_on 1
   shot 7-battle
 }
 
@@ -115,7 +130,7 @@ win_battle() {
   local end=$((SECONDS + 240)) row=1 listed=no acted=no
   while has_window "BATTLE !"; do
     [ $SECONDS -ge $end ] && fail "the battle was not won within 240 s"
-    kill -0 "$game_pid" 2>/dev/null || fail "the game ended in the battle"
+    game_is_gone && fail "the game ended in the battle"
     if has_window 警告; then
       xdotool key Return  # that enemy is dead already
       row=$((row % 4 + 1))
@@ -139,16 +154,7 @@ win_battle() {
 }
 
 quit_game() {
-  local status=0
-  wait_for 10 "the quit question" asks_to_quit
-  wait_for 5 "the focus of the quit question" has_focus ゲームの終了
+  ask_to_quit
   xdotool key Return
-  for _ in $(seq 100); do
-    kill -0 "$game_pid" 2>/dev/null || break
-    sleep 0.1
-  done
-  kill -0 "$game_pid" 2>/dev/null && fail "the game did not end within 10 s"
-  wait "$game_pid" || status=$?
-  game_pid=
-  [ $status = 0 ] || fail "the game ended with status $status"
+  game_ends "after the quit question"
 }

@@ -1,10 +1,24 @@
 #include "src/frontend/desktop/menu_view.h"
 
+#include <QMetaObject>
+#include <algorithm>
+
 #include "src/frontend/desktop/control_view.h"
 #include "src/frontend/desktop/events.h"
 #include "src/game/program.h"
 
 namespace orvane {
+
+void MenuBar::paintEvent(QPaintEvent* event) {
+  QMenuBar::paintEvent(event);
+  // It is painted whenever a menu closes. While its keys move among the menus one is active.
+  const auto let_go = [this] {
+    if (window()->focusWidget() == this && activeAction() == nullptr) clearFocus();
+  };
+  if (window()->focusWidget() == this) {
+    QMetaObject::invokeMethod(this, let_go, Qt::QueuedConnection);
+  }
+}
 
 MenuView::MenuView(Screen& screen, QMenuBar& bar, Events& events) : bar_(bar) {
   for (Control* control : screen.Controls()) {
@@ -50,9 +64,17 @@ void MenuView::Follow() {
 }
 
 void MenuView::Open() const {
-  for (QAction* menu : bar_.actions()) {
-    if (menu->isEnabled() && menu->isVisible()) return bar_.setActiveAction(menu);
-  }
+  const auto can_be_used = [](const QAction* action) {
+    return action->isEnabled() && action->isVisible() && !action->isSeparator();
+  };
+  const auto menus = bar_.actions();
+  const auto menu = std::find_if(menus.begin(), menus.end(), can_be_used);
+  if (menu == menus.end()) return;
+  bar_.setActiveAction(*menu);
+  // The keys that move on to the next menu highlight its first item; so does the one that opens.
+  const auto items = (*menu)->menu()->actions();
+  const auto item = std::find_if(items.begin(), items.end(), can_be_used);
+  if (item != items.end()) (*menu)->menu()->setActiveAction(*item);
 }
 
 }  // namespace orvane

@@ -12,6 +12,13 @@ namespace orvane {
 
 class Events;
 
+// A menu bar that lets go of the keyboard when its menus close, also where no control takes it: the
+// toolkit's own keeps it then, and would have the arrow keys.
+class MenuBar : public QMenuBar {
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
 class MenuView {
  public:
   // Fills the bar with the screen's menus; it stays empty where the screen has none.
@@ -19,7 +26,7 @@ class MenuView {
 
   void Follow();
 
-  // Opens the first menu that can be opened.
+  // Opens the first menu that can be opened, with its first item that is on highlighted.
   void Open() const;
 
  private:

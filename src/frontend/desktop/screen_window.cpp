@@ -53,6 +53,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Events& events)
       std::any_of(screen.Controls().begin(), screen.Controls().end(),
                   [](const Control* control) { return control->Kind() == ControlKind::Menu; });
   if (has_menu) {
+    setMenuBar(new MenuBar);
     menuBar()->setNativeMenuBar(false);  // in the window on every desktop
     menuBar()->setAccessibleName("メニュー");
     menu_ = std::make_unique<MenuView>(screen, *menuBar(), events);
@@ -112,7 +113,11 @@ void ScreenWindow::Present(ScreenWindow* over, QWindow* backdrop) {
 }
 
 void ScreenWindow::Dismiss() {
-  if (!isFullScreen()) centre_ = CentreOf(*this) * devicePixelRatio();
+  // Where it covers the screen it has no place of its own, whatever the window manager has made of
+  // it since; and when it has just been made the largest, its place is the one that it had before.
+  const bool is_largest = isMaximized() || isFullScreen();
+  const QRect place = is_largest ? normalGeometry() : geometry();
+  if (!covers_ && place.isValid()) centre_ = QRectF(place).center() * devicePixelRatio();
   hide();
 }
 
@@ -129,11 +134,11 @@ void ScreenWindow::PutBack(QWindow* backdrop) {
 
 void ScreenWindow::Open(QWindow* backdrop) {
   setWindowModality(screen_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
-  const bool covers = backdrop != nullptr && screen_.IsScene;
-  setWindowState(covers ? Qt::WindowFullScreen : Qt::WindowNoState);
+  covers_ = backdrop != nullptr && screen_.IsScene;
+  setWindowState(covers_ ? Qt::WindowFullScreen : Qt::WindowNoState);
   winId();  // makes the window, so that it can be tied to the one that it belongs to
   Tie(backdrop);
-  if (!covers) PutInPlace();
+  if (!covers_) PutInPlace();
   show();
 }
 

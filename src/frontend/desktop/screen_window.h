@@ -62,6 +62,7 @@ class ScreenWindow : public QMainWindow {
   std::unique_ptr<Focus> keys_to_;
   QPointer<ScreenWindow> owner_;   // the window that this one was opened over
   QPointer<QWidget> focus_;        // had the keyboard when the window was taken down
+  bool covers_ = false;            // the display, as it was opened last
   std::optional<QPointF> centre_;  // of the window, in the screen's own pixels, once it has a place
 };
 

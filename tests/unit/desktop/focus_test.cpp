@@ -6,9 +6,11 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QMenu>
 #include <QTabBar>
 
 #include "src/battle/battle_screen.h"
+#include "src/frontend/desktop/keyboard.h"
 #include "src/frontend/desktop/windows.h"
 #include "src/game/program.h"
 #include "tests/unit/desktop/quiet_services.h"
@@ -178,7 +180,34 @@ TEST_F(FocusTest, the_menu_key_opens_the_first_menu_that_is_on) {
   const QWidget* menu = QApplication::activePopupWidget();
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(menu->actions().front()->text(), "ロード");
+  const auto* open = qobject_cast<const QMenu*>(menu);
+  ASSERT_NE(open, nullptr);
+  EXPECT_EQ(open->activeAction(), menu->actions().front()) << "ready for Enter";
   QApplication::activePopupWidget()->close();
+}
+
+TEST_F(FocusTest, a_menu_that_closes_leaves_the_keys_to_the_walk) {
+  program_.TheState().GameStarted = True;
+  program_.TheState().OpeningDone = True;
+  Screen& version = *program_.TheStage().Find("Version");
+  Open("Version");
+  program_.Enter([&] { program_.TheStage().Unload(version); });
+  program_.TheStage().Find("Main")->Find("Command1")->Visible = false;  // as after the title
+  const ScreenWindow& field = Open("Main");
+  ASSERT_EQ(At(field), "nothing");
+  field.Menu()->Open();
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  const auto escape = [](QWidget* target) {
+    ASSERT_NE(target, nullptr);
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+  };
+  escape(QApplication::activePopupWidget());
+  EXPECT_TRUE(MenuBarHasKeys()) << "along the bar, with no menu open";
+  escape(QApplication::focusWidget());
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();  // it is painted first
+  EXPECT_FALSE(MenuBarHasKeys());
+  EXPECT_EQ(At(field), "nothing");
 }
 
 }  // namespace

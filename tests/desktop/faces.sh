@@ -4,33 +4,18 @@
 #   faces.sh PROGRAM SCREENSHOTS
 set -u
 
-program=$(realpath "$1")
-shots=$2
-scale=1
-here=$(dirname "$(realpath "$0")")
-mkdir -p "$shots"
-shots=$(realpath "$shots")
-log=$shots/game.log
-
-for tool in Xvfb openbox xdotool xprop xwininfo import fc-list; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
 # shellcheck source=tests/desktop/x_session.sh
-. "$here/x_session.sh"
-# shellcheck source=tests/desktop/steps.sh
-. "$here/steps.sh"
+. "$(dirname "$(realpath "$0")")/x_session.sh"
+need_tools fc-list
+program=$(realpath "$1")
+scale=1
+keep_shots_in "$2"
 
 # told COUNT: that many lines of the messages name what to install.
 told() {
   local found
   found=$(grep -c 'fonts-ipafont-gothic' "$log")
   [ "$found" = "$1" ] || fail "$found lines, not $1, tell which fonts to install"
-}
-
-stop_game() {
-  kill "$game_pid"
-  wait "$game_pid" 2>/dev/null
-  game_pid=
 }
 
 open_display 640x560

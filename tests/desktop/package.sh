@@ -4,26 +4,12 @@
 #   package.sh BUILD_FOLDER SCREENSHOTS
 set -u
 
-build=$(realpath "$1")
-shots=$2
-scale=1
-here=$(dirname "$(realpath "$0")")
-mkdir -p "$shots"
-shots=$(realpath "$shots")
-log=$shots/game.log
-
-for tool in Xvfb openbox xdotool xprop xwininfo import cksum cpack dpkg-deb dpkg-shlibdeps file \
-  desktop-file-validate appstreamcli; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
 # shellcheck source=tests/desktop/x_session.sh
-. "$here/x_session.sh"
-# shellcheck source=tests/desktop/steps.sh
-. "$here/steps.sh"
-# shellcheck source=tests/desktop/screen_steps.sh
-. "$here/screen_steps.sh"
-
-contents() { (cd "$1" && find . -type f -exec cksum {} + | sort); }
+. "$(dirname "$(realpath "$0")")/x_session.sh"
+need_tools cpack dpkg-deb dpkg-shlibdeps file desktop-file-validate appstreamcli
+build=$(realpath "$1")
+scale=1
+keep_shots_in "$2"
 
 make_package() {
   (cd "$run_folder" && cpack -G DEB --config "$build/CPackConfig.cmake" -B "$run_folder/packed") \

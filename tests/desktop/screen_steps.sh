@@ -47,7 +47,9 @@ answer() {
   [ -n "${3:-}" ] && keep "$3" "$1"
   xdotool key "$2"
   closes "$1"
+  wait_for 5 "the focus after $1" a_window_has_focus
 }
+a_window_has_focus() { [ -n "$(xdotool getactivewindow getwindowname 2>/dev/null)" ]; }
 
 # The window does not change any more.
 rests() {

@@ -4,12 +4,17 @@
 #   player   the script player, where the test makes saves of its own
 #   scale    pixels of the screen to one of the game; percent says so where that is no whole number
 # and, where held keys are to repeat, keys_repeat=yes.
-# Ends with 77, which counts as skipped, where something that the tests need is missing.
+# Ends with 77, which counts as skipped, where a tool is missing.
 
 here=$(dirname "$(realpath "${BASH_SOURCE[0]}")")
-for tool in Xvfb openbox xdotool xprop xwininfo import convert compare cksum fc-match; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
+# need_tools TOOLS...
+need_tools() {
+  local tool
+  for tool in "$@"; do
+    command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
+  done
+}
+need_tools Xvfb openbox xdotool xprop xwininfo import convert compare cksum fc-match
 # shellcheck source=tests/desktop/steps.sh
 . "$here/steps.sh"
 # shellcheck source=tests/desktop/screen_steps.sh

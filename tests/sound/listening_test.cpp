@@ -6,6 +6,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "tests/sound/finding.h"
+
 namespace orvane::test {
 namespace {
 
@@ -65,6 +67,30 @@ TEST(Listening, HearsALeapInTheMiddleOfASound) {
   Recording tone = Tone(220, 1, 0.3);
   for (size_t i = 22050; i < tone.Left.size(); ++i) tone.Left[i] += 0.15F;
   EXPECT_EQ(FindClicks(tone).size(), 1U);
+}
+
+// Noise that swells and dies, and other noise beneath it: the known one is found to the frame, at
+// its own loudness, though it is no louder; what is not there is not found.
+TEST(Finding, FindsAKnownSoundUnderAnother) {
+  std::uint32_t seed = 1;
+  const auto noise = [&seed] {
+    seed = seed * 1664525U + 1013904223U;
+    return static_cast<float>(static_cast<double>(seed >> 8) / 8388608.0 - 1);
+  };
+  std::vector<float> known;
+  for (int i = 0; i < 4410; ++i)
+    known.push_back(noise() * 0.3F * std::sin(static_cast<float>(i) / 1404.0F));
+  std::vector<float> recording;
+  float low = 0;
+  for (int i = 0; i < kRate; ++i) recording.push_back(low = low * 0.95F + noise() * 0.05F);
+  const Finding nothing = Find(recording, kRate, known, 0.45, 0.55, 0.45);
+  EXPECT_LT(nothing.Gain, 0.3);
+  for (size_t i = 0; i < known.size(); ++i) recording[22050 + i] += 0.8F * known[i];
+  const Finding found = Find(recording, kRate, known, 0.45, 0.55, 0.45);
+  EXPECT_NEAR(found.At, 0.5, 0.0001);
+  EXPECT_NEAR(found.Gain, 0.8, 0.15);
+  EXPECT_LT(found.Doubt, 0.3);
+  EXPECT_LT(Find(recording, kRate, known, 0.52, 0.58, 0.45).Gain, 0.3);
 }
 
 TEST(Listening, AnAttackIsNoClick) {

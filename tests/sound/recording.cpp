@@ -64,17 +64,16 @@ std::optional<Recording> ReadRecording(const std::string& path) {
   const Bytes bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
   size_t size = 0;
   const size_t format = FindChunk(bytes, "fmt ", size);
-  if (format == 0 || size < 16 || Number(bytes, format + 2, 2) != 2 ||
-      Number(bytes, format + 14, 2) != 16) {
-    return std::nullopt;
-  }
+  const std::uint32_t channels = format == 0 || size < 16 ? 0 : Number(bytes, format + 2, 2);
+  if (channels < 1 || channels > 2 || Number(bytes, format + 14, 2) != 16) return std::nullopt;
   Recording recording;
   recording.Rate = static_cast<int>(Number(bytes, format + 4, 4));
   const size_t data = FindChunk(bytes, "data", size);
   if (data == 0 || recording.Rate <= 0) return std::nullopt;
-  for (size_t place = data; place + 4 <= data + size; place += 4) {
+  const size_t frame = size_t{2} * channels;
+  for (size_t place = data; place + frame <= data + size; place += frame) {
     recording.Left.push_back(Sample(bytes, place));
-    recording.Right.push_back(Sample(bytes, place + 2));
+    recording.Right.push_back(Sample(bytes, place + frame - 2));
   }
   return recording;
 }

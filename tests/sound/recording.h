@@ -20,7 +20,8 @@ struct Recording {
   Recording Part(double from, double to) const;
 };
 
-// Reads a WAV file of two channels and 16 bits; anything else gives nothing.
+// Reads a WAV file of one or two channels and 16 bits; anything else gives nothing. Of one channel
+// both sides are the same.
 std::optional<Recording> ReadRecording(const std::string& path);
 
 }  // namespace orvane::test

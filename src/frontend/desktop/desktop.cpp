@@ -53,6 +53,10 @@ void Desktop::Send(const std::function<void(Program&)>& event) {
   Follow();
 }
 
+void Desktop::Painted(const Screen& screen) {
+  if (painted_) painted_(screen);
+}
+
 void Desktop::Try(const std::function<void(Program&)>& event) {
   // The game handles the errors that bad data can lead to. What else may come, such as want of
   // memory, must not fly through the toolkit's loop, which cannot stand it.

@@ -30,7 +30,11 @@ class Desktop : public QObject, public Events, public BoxHost {
   // Runs the game to its end and returns its exit status.
   int Run();
 
+  // Calls `tell` with every screen that has been painted.
+  void TellOfPainting(std::function<void(const Screen&)> tell) { painted_ = std::move(tell); }
+
   void Send(const std::function<void(Program&)>& event) override;
+  void Painted(const Screen& screen) override;
   QWidget* BeginBox() override;
   void EndBox() override;
 
@@ -64,6 +68,7 @@ class Desktop : public QObject, public Events, public BoxHost {
   TickServer ticks_;
   Keys keys_;
   Pad pad_;
+  std::function<void(const Screen&)> painted_;
   bool following_ = false;
   bool asleep_ = false;
   bool last_box_stands_ = false;  // the box of an error that has ended the game

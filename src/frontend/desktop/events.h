@@ -6,6 +6,7 @@
 namespace orvane {
 
 class Program;
+class Screen;
 
 class Events {
  public:
@@ -13,6 +14,8 @@ class Events {
   // Lets an event act on the game, then brings everything on the screen up to date. Nothing happens
   // once the game has ended, or while it sleeps.
   virtual void Send(const std::function<void(Program&)>& event) = 0;
+  // What has changed of a screen has just been painted and given to the display.
+  virtual void Painted(const Screen& /*screen*/) {}
 };
 
 }  // namespace orvane

@@ -98,6 +98,8 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
     return program.ExitStatus();
   }
   Desktop desktop(program, boxes, sleeper, zoom);
+  desktop.TellOfPainting(
+      [&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
   return desktop.Run();
 }
 

@@ -174,6 +174,13 @@ Span ScreenWindow::TakenSpan(bool full_screen) const {
   return {{double(screen_.Width), double(screen_.Height + menu)}, covers ? 0 : TitleHeight};
 }
 
+bool ScreenWindow::event(QEvent* event) {
+  const bool painting = event->type() == QEvent::UpdateRequest;
+  const bool taken = QMainWindow::event(event);
+  if (painting) events_.Painted(screen_);
+  return taken;
+}
+
 void ScreenWindow::closeEvent(QCloseEvent* event) {
   // The game decides whether the window goes.
   event->ignore();

@@ -42,6 +42,8 @@ class ScreenWindow : public QMainWindow {
   Span TakenSpan(bool full_screen) const;
 
  protected:
+  // Tells of painting.
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   // Keys that the control which has the keyboard has no use for.
   void keyPressEvent(QKeyEvent* event) override;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include "tests/unit/sound/sound_files.h"
@@ -117,6 +118,56 @@ TEST(Mixer, SeveralStartsBetweenTwoBlocksAreOne) {
   mixer.Open(9, ToneClip(440, 0.5, 0.3));
   for (int i = 0; i < 4; ++i) mixer.Play(9);
   EXPECT_NEAR(PeakOf(Pull(mixer, 0.2)), 0.3F, 0.01F);
+}
+
+// The first frame that is not silent, of a pull that begins to stand for the time `from`.
+size_t OnsetOf(Mixer& mixer, size_t frames, Mixer::TimePoint from) {
+  std::vector<float> out(2 * frames);
+  mixer.Pull(out.data(), frames, from);
+  const auto sounds = [](float sample) { return std::fabs(sample) > 1e-4F; };
+  return static_cast<size_t>(std::find_if(out.begin(), out.end(), sounds) - out.begin()) / 2;
+}
+
+// How large the pulls are must not be heard: what is asked for between two of them is started as
+// far into the second as it was asked for after the first.
+TEST(Mixer, AStartFallsWhereItsTimeLies) {
+  for (const int milliseconds : {0, 7, 20, 33}) {
+    Mixer mixer(kRate);
+    mixer.Open(9, ToneClip(440, 0.5, 0.5));
+    mixer.Play(9);
+    const auto asked = std::chrono::steady_clock::now();
+    const auto onset = OnsetOf(mixer, kRate / 10, asked - std::chrono::milliseconds(milliseconds));
+    const int due = milliseconds * kRate / 1000;
+    EXPECT_NEAR(static_cast<double>(onset), due + kBlockFrames, kBlockFrames + 4) << milliseconds;
+  }
+}
+
+TEST(Mixer, AStartThatLiesBehindThePullWaitsForTheNext) {
+  Mixer mixer(kRate);
+  mixer.Open(9, ToneClip(440, 0.5, 0.5));
+  mixer.Play(9);
+  const auto from = std::chrono::steady_clock::now() - std::chrono::milliseconds(100);
+  EXPECT_EQ(OnsetOf(mixer, kRate / 20, from), size_t{kRate / 20});
+  EXPECT_TRUE(mixer.Playing(9));
+  const auto next = from + std::chrono::milliseconds(50);
+  EXPECT_NEAR(static_cast<double>(OnsetOf(mixer, kRate / 10, next)), kRate / 20, 2 * kBlockFrames);
+}
+
+// A frame that asks four times, or is hurried by the next, is heard as one.
+TEST(Mixer, StartsWithinFourMillisecondsAreOne) {
+  for (const double apart : {0.001, 0.006}) {
+    Mixer mixer(kRate);
+    mixer.Open(9, ToneClip(440, 0.5, 0.3));
+    mixer.Play(9);
+    Pull(mixer, apart);
+    mixer.Play(9);
+    const float peak = PeakOf(Pull(mixer, 0.2));
+    if (apart < 0.004) {
+      EXPECT_NEAR(peak, 0.3F, 0.01F);
+    } else {
+      EXPECT_GT(std::fabs(peak - 0.3F), 0.03F);
+    }
+  }
 }
 
 TEST(Mixer, AllEffectsAtOnceDoNotClip) {

@@ -221,6 +221,51 @@ TEST_F(SoundEngineTest, ChannelsComeAndGoWhileTheyPlay) {
   EXPECT_GT(std::filesystem::file_size(options.RecordFile), 44U + 4 * kRate / 2);
 }
 
+// Lines of the log beside a recording: the place and what happened there.
+std::vector<std::pair<double, std::string>> ReadLog(const std::string& path) {
+  std::ifstream file(path + ".log");
+  std::vector<std::pair<double, std::string>> lines;
+  std::string line;
+  std::getline(file, line);
+  EXPECT_EQ(line, "delay 0.000000");
+  while (std::getline(file, line)) {
+    lines.emplace_back(std::stod(line), line.substr(line.find(' ') + 1));
+  }
+  return lines;
+}
+
+TEST_F(SoundEngineTest, ALogTellsBesideARecordingWhatWasAskedForAndWhere) {
+  SoundOptions options;
+  options.Plays = SoundOptions::Sink::Clock;
+  options.RecordFile = folder_.Path() + "/told.wav";
+  {
+    SoundEngine engine(options);
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    Open(engine, "Cut.wav", "snd2");
+    Open(engine, "Cut.wav", "snd2");  // open already: nothing happens
+    engine.Send(PlayCommand("snd2"));
+    Status(engine, "snd2");
+    engine.Note("painted Main");
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    engine.Send(CloseCommand("snd2"));
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  }
+  const auto lines = ReadLog(options.RecordFile);
+  ASSERT_EQ(lines.size(), 4U);
+  EXPECT_EQ(lines[0].second, "open snd2");
+  EXPECT_EQ(lines[1].second, "play snd2");
+  EXPECT_EQ(lines[2].second, "painted Main");
+  EXPECT_EQ(lines[3].second, "close snd2");
+  // The tone begins in the recording where the log says that it was started.
+  std::ifstream file(options.RecordFile, std::ios::binary);
+  const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  size_t first = 44;
+  while (first + 4 <= bytes.size() && bytes[first + 1] == 0) first += 4;
+  EXPECT_NEAR(static_cast<double>(first - 44) / 4 / kRate, lines[1].first, 0.005);
+  EXPECT_GT(lines[1].first, 0.05);
+  EXPECT_NEAR(lines[3].first - lines[1].first, 0.2, 0.1);
+}
+
 TEST_F(SoundEngineTest, ARecordingHoldsWhatWasPlayed) {
   const std::string path = folder_.Path() + "/record.wav";
   std::vector<float> played;

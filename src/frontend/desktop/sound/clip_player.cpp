@@ -7,6 +7,8 @@ namespace {
 
 constexpr double kFadeOfRestart = 0.09;
 constexpr double kFadeOfClose = 0.008;
+// Starts nearer than this to the last are the same: a frame may ask several times.
+constexpr double kSameSeconds = 0.004;
 // Starts nearer than this to the last belong to a roll.
 constexpr double kRollSeconds = 0.1;
 // The strong and the weak side of a start within a roll.
@@ -21,8 +23,9 @@ ClipPlayer::ClipPlayer(std::shared_ptr<const Clip> clip, int rate)
 
 void ClipPlayer::Start() {
   Voice& last = voices_[newest_];
-  if (last.Sounding && last.Position == 0) return;
-  const bool close = last.Sounding && static_cast<double>(last.Position) < kRollSeconds * rate_;
+  const double since = static_cast<double>(last.Position) / rate_;
+  if (last.Sounding && since < kSameSeconds) return;
+  const bool close = last.Sounding && since < kRollSeconds;
   roll_ = close ? roll_ + 1 : 0;
   // The first start of a roll goes on as its body; without it an effect that swells would never
   // come further than its beginning.

@@ -17,7 +17,7 @@ class ClipPlayer {
  public:
   ClipPlayer(std::shared_ptr<const Clip> clip, int rate);
 
-  // Starts from the beginning. Several starts between two blocks are one.
+  // Starts from the beginning. Several starts within 4 ms are one.
   void Start();
   // Fades out quickly, without a click.
   void Close();

@@ -29,6 +29,8 @@ class ClockOutput : public Output {
     thread_.join();
   }
 
+  double Delay() const override { return 0; }
+
  private:
   void Run() {
     std::vector<float> frames;
@@ -44,8 +46,10 @@ class ClockOutput : public Output {
       const double due = std::min(passed - pulled, kMostBehind);
       const auto count = static_cast<std::size_t>(std::max(due, 0.0) * rate_);
       frames.resize(2 * count);
+      const auto from = start + std::chrono::duration_cast<Clock::duration>(
+                                    std::chrono::duration<double>(pulled));
       lock.unlock();
-      pull_(frames.data(), count);
+      pull_(frames.data(), count, from);
       lock.lock();
       pulled += static_cast<double>(count) / rate_;
     }

@@ -1,15 +1,17 @@
 #include <SDL.h>
 #include <dlfcn.h>
 
+#include <chrono>
 #include <string_view>
+#include <utility>
 
 #include "src/frontend/desktop/sound/output.h"
 
 namespace orvane {
 namespace {
 
-// A hundredth of a second: an effect is heard with its picture.
-constexpr Uint16 kBufferFrames = 512;
+// 6 ms: an effect is heard with its picture, and what it waits for twice is still short.
+constexpr Uint16 kBufferFrames = 256;
 constexpr std::size_t kFrameBytes = 2 * sizeof(float);
 
 void SayNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
@@ -40,8 +42,11 @@ class DeviceOutput : public Output {
     wanted.samples = kBufferFrames;
     wanted.callback = &DeviceOutput::Fill;
     wanted.userdata = this;
-    device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
-    if (device_ != 0) SDL_PauseAudioDevice(device_, 0);
+    SDL_AudioSpec got{};
+    device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, &got, 0);
+    if (device_ == 0) return;
+    buffer_seconds_ = static_cast<double>(got.samples) / rate;
+    SDL_PauseAudioDevice(device_, 0);
   }
 
   ~DeviceOutput() override {
@@ -50,14 +55,22 @@ class DeviceOutput : public Output {
   }
 
   bool Open() const { return device_ != 0; }
+  // A buffer is filled with what was asked for while the one before it was filled and played, and
+  // waits for the end of the one that plays.
+  double Delay() const override { return 2 * buffer_seconds_; }
 
  private:
   static void SDLCALL Fill(void* self, Uint8* bytes, int size) {
-    static_cast<DeviceOutput*>(self)->pull_(reinterpret_cast<float*>(bytes),
-                                            static_cast<std::size_t>(size) / kFrameBytes);
+    auto& output = *static_cast<DeviceOutput*>(self);
+    // Commands keep their distances: the time since the last call is laid out over this buffer.
+    const auto from = std::exchange(output.called_, std::chrono::steady_clock::now());
+    output.pull_(reinterpret_cast<float*>(bytes), static_cast<std::size_t>(size) / kFrameBytes,
+                 from);
   }
 
   PullFunction pull_;
+  std::chrono::steady_clock::time_point called_ = std::chrono::steady_clock::now();
+  double buffer_seconds_ = 0;
   bool started_ = false;
   SDL_AudioDeviceID device_ = 0;
 };

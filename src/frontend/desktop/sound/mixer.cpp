@@ -1,6 +1,7 @@
 #include "src/frontend/desktop/sound/mixer.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orvane {
 namespace {
@@ -36,6 +37,7 @@ bool Mixer::Playing(int channel) const {
 }
 
 void Mixer::Post(Message message) {
+  message.At = std::chrono::steady_clock::now();
   std::vector<Sound> garbage;  // freed here, where it costs no sound
   const std::scoped_lock lock(messages_mutex_);
   messages_.push_back(std::move(message));
@@ -45,12 +47,19 @@ void Mixer::Post(Message message) {
 void Mixer::TakeMessages() {
   {
     const std::scoped_lock lock(messages_mutex_);
-    taken_.swap(messages_);
+    std::move(messages_.begin(), messages_.end(), std::back_inserter(taken_));
+    messages_.clear();
     for (Sound& sound : dropped_) garbage_.push_back(std::move(sound));
   }
   dropped_.clear();
-  for (Message& message : taken_) Carry(message);
-  taken_.clear();
+}
+
+void Mixer::CarryUntil(TimePoint now) {
+  const auto first = taken_.begin();
+  const auto later =
+      std::find_if(first, taken_.end(), [now](const Message& message) { return message.At > now; });
+  std::for_each(first, later, [this](Message& message) { Carry(message); });
+  taken_.erase(first, later);
 }
 
 void Mixer::Carry(Message& message) {
@@ -135,10 +144,14 @@ void Mixer::MixBlock() {
   limiter_.Process(block_);
 }
 
-void Mixer::Pull(float* out, size_t frames) {
+void Mixer::Pull(float* out, size_t frames, TimePoint from) {
   TakeMessages();
-  while (frames > 0) {
+  for (size_t done = 0; frames > 0;) {
     if (used_ == kBlock) {
+      const std::chrono::duration<double> since(static_cast<double>(done) / rate_);
+      CarryUntil(from == TimePoint::max()
+                     ? from
+                     : from + std::chrono::duration_cast<TimePoint::duration>(since));
       MixBlock();
       used_ = 0;
     }
@@ -146,6 +159,7 @@ void Mixer::Pull(float* out, size_t frames) {
     std::copy_n(block_.begin() + static_cast<std::ptrdiff_t>(2 * used_), 2 * count, out);
     out += 2 * count;
     used_ += count;
+    done += count;
     frames -= count;
   }
 }

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <mutex>
@@ -25,6 +26,7 @@ using Sound = std::variant<std::shared_ptr<const Clip>, std::shared_ptr<const Pi
 class Mixer {
  public:
   static constexpr int kChannels = 18;
+  using TimePoint = std::chrono::steady_clock::time_point;
 
   // `rate` is in frames a second.
   explicit Mixer(int rate) : rate_(rate) {}
@@ -42,8 +44,10 @@ class Mixer {
   // Where music comes from; without one music is only counted. From any thread, once.
   void UseSynth(Synth* synth) { synth_.store(synth, std::memory_order_release); }
 
-  // The playing side: writes the next frames, left and right in turn, within -1 to 1.
-  void Pull(float* out, size_t frames);
+  // The playing side: writes the next frames, left and right in turn, within -1 to 1. `from` is the
+  // time that the first of them stands for: a command that came before it takes effect at once, a
+  // later one as much later, to the block, or in the pulls to come.
+  void Pull(float* out, size_t frames, TimePoint from = TimePoint::max());
 
  private:
   struct Message {
@@ -51,6 +55,7 @@ class Mixer {
     size_t Channel = 0;
     std::uint32_t Start = 0;  // of Play: which start it is
     Sound Opened;
+    TimePoint At{};  // when it was asked for
   };
   struct Channel {
     std::optional<ClipPlayer> Effect;
@@ -61,6 +66,7 @@ class Mixer {
 
   void Post(Message message);
   void TakeMessages();
+  void CarryUntil(TimePoint now);
   void Carry(Message& message);
   void Retire(Channel& channel);
   void MixBlock();
@@ -81,7 +87,7 @@ class Mixer {
   // The playing side's own.
   std::array<Channel, kChannels> channels_;
   std::vector<Channel> leaving_;  // closed, but still fading
-  std::vector<Message> taken_;
+  std::vector<Message> taken_;    // not yet carried out
   std::vector<Sound> dropped_;
   Limiter limiter_;
   Block block_{};

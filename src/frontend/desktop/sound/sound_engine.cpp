@@ -9,6 +9,7 @@
 #include "src/frontend/desktop/sound/job_thread.h"
 #include "src/frontend/desktop/sound/mixer.h"
 #include "src/frontend/desktop/sound/output.h"
+#include "src/frontend/desktop/sound/play_log.h"
 #include "src/frontend/desktop/sound/recorder.h"
 #include "src/frontend/desktop/sound/sound_font.h"
 #include "src/platform/sound.h"
@@ -24,6 +25,14 @@ constexpr std::array<std::string_view, Mixer::kChannels> kAliases = {
 constexpr std::chrono::milliseconds kSettled(2000);
 // A larger file is no sound of a game.
 constexpr std::streamoff kMostBytes = 16 << 20;
+
+// What is heard in the field, and what a battle that comes upon it begins with.
+struct Follower {
+  std::string_view Field;
+  std::string_view Battle;
+};
+constexpr std::array<Follower, 4> kFollowers = {
+    {{"bgm1", "bgm4"}, {"bgm2", "bgm4"}, {"bgm3", "bgm4"}, {"bgm8", "bgm6"}}};
 
 // The number of a channel; -1 for an unknown name.
 int ChannelOf(std::string_view alias) {
@@ -46,20 +55,40 @@ std::vector<std::uint8_t> ReadFile(const std::string& path) {
   return {bytes.begin(), bytes.end()};
 }
 
+// The file of the piece that follows on the one in `path`; empty if none does.
+std::string FollowerOf(size_t channel, const std::string& path) {
+  for (const Follower& each : kFollowers) {
+    if (each.Field != kAliases.at(channel)) continue;
+    return std::filesystem::path(path)
+        .replace_filename(SoundFile(std::string(each.Battle)))
+        .string();
+  }
+  return "";
+}
+
 }  // namespace
 
 // The parts of the engine, in the order in which they stand on each other.
 class SoundEngine::Machine {
  public:
   explicit Machine(const SoundOptions& options) : options_(options) {
-    if (!options.RecordFile.empty()) recorder_.emplace(options.RecordFile, kRate);
+    if (!options.RecordFile.empty()) {
+      recorder_.emplace(options.RecordFile, kRate);
+      log_.emplace(options.RecordFile + ".log", kRate);
+    }
     if (options.Plays == SoundOptions::Sink::Caller) return;
     jobs_.Post([this] { OpenOutput(); });
   }
 
-  void Pull(float* out, size_t frames) {
-    mixer_.Pull(out, frames);
+  // Without a time all that was asked for takes effect at once.
+  void Pull(float* out, size_t frames, Mixer::TimePoint from = Mixer::TimePoint::max()) {
+    if (log_) log_->Pulled(frames, from);
+    mixer_.Pull(out, frames, from);
     if (recorder_) recorder_->Write(out, frames);
+  }
+
+  void Note(const std::string& what) {
+    if (log_) log_->Write(what);
   }
 
   bool Open(size_t channel, const std::string& path);
@@ -71,7 +100,7 @@ class SoundEngine::Machine {
   // These run on the job thread.
   void OpenOutput();
   void OpenSynth();
-  void Prepare(Piece& piece);
+  void Prepare(Piece& piece, const std::string& follower);
 
   const SoundOptions options_;
   std::array<bool, Mixer::kChannels> open_{};
@@ -80,15 +109,19 @@ class SoundEngine::Machine {
   std::unique_ptr<Synth> synth_;
   Mixer mixer_{kRate};
   std::optional<Recorder> recorder_;
+  std::optional<PlayLog> log_;
   std::unique_ptr<Output> output_;
   JobThread jobs_{[this] { OpenSynth(); }, kSettled};
 };
 
 void SoundEngine::Machine::OpenOutput() {
-  const PullFunction pull = [this](float* out, size_t frames) { Pull(out, frames); };
+  const PullFunction pull = [this](float* out, size_t frames, Mixer::TimePoint from) {
+    Pull(out, frames, from);
+  };
   if (options_.Plays == SoundOptions::Sink::Device) output_ = OpenDevice(kRate, pull);
   audible_ = output_ != nullptr || recorder_;
   if (!output_) output_ = OpenClock(kRate, pull);
+  if (log_) log_->Begin(output_->Delay());
 }
 
 void SoundEngine::Machine::OpenSynth() {
@@ -100,9 +133,15 @@ void SoundEngine::Machine::OpenSynth() {
   mixer_.UseSynth(synth_.get());
 }
 
-void SoundEngine::Machine::Prepare(Piece& piece) {
+void SoundEngine::Machine::Prepare(Piece& piece, const std::string& follower) {
   OpenSynth();
   if (synth_) {
+    // Now, as the field's first bar may wait a moment and a battle's may not; and first, as what
+    // was kept first is the first to go.
+    if (const std::optional<Song> next =
+            follower.empty() ? std::nullopt : ReadSong(ReadFile(follower))) {
+      for (const Patch& patch : PatchesOf(*next)) synth_->Keep(patch);
+    }
     for (const Patch& patch : PatchesOf(piece.Notes)) synth_->Keep(patch);
   }
   piece.Ready.store(true, std::memory_order_release);
@@ -116,7 +155,7 @@ bool SoundEngine::Machine::Open(size_t channel, const std::string& path) {
     auto piece = std::make_shared<Piece>();
     piece->Notes = std::move(*song);
     mixer_.Open(number, std::shared_ptr<const Piece>(piece));
-    jobs_.Post([this, piece] { Prepare(*piece); });
+    jobs_.Post([this, piece, next = FollowerOf(channel, path)] { Prepare(*piece, next); });
   } else if (std::shared_ptr<const Clip> clip = ReadClip(file, kRate)) {
     mixer_.Open(number, std::move(clip));
   } else {
@@ -144,6 +183,7 @@ std::string SoundEngine::Send(const std::string& text) {
   if (command.What == SoundCommand::Verb::Open) {
     if (open) return "";
     open = machine_->Open(static_cast<size_t>(channel), command.File);
+    if (open) machine_->Note("open " + command.Alias);
     return open ? "1" : "";
   }
   if (!open) return "";
@@ -152,15 +192,21 @@ std::string SoundEngine::Send(const std::string& text) {
       return machine_->Channels().Playing(channel) ? "playing" : "stopped";
     case SoundCommand::Verb::Play:
       machine_->Channels().Play(channel);
+      machine_->Note("play " + command.Alias);
       break;
     case SoundCommand::Verb::Close:
       machine_->Channels().Close(channel);
+      machine_->Note("close " + command.Alias);
       open = false;
       break;
     default:
       break;
   }
   return "";
+}
+
+void SoundEngine::Note(const std::string& what) {
+  machine_->Note(what);
 }
 
 void SoundEngine::Pull(float* out, size_t frames) {

@@ -15,7 +15,8 @@ struct SoundOptions {
     Caller   // whoever calls Pull
   };
   Sink Plays = Sink::Device;
-  // Where to write all that is played; empty for nowhere.
+  // Where to write all that is played, with a log of the commands and notes beside it, under the
+  // same name and ".log"; empty for nowhere.
   std::string RecordFile;
   // The sound font; empty for the best that is installed.
   std::string FontFile;
@@ -47,6 +48,9 @@ class SoundEngine : public SoundDevice {
   SoundEngine& operator=(const SoundEngine&) = delete;
 
   std::string Send(const std::string& command) override;
+
+  // Notes beside the recording, if there is one, what happens at this moment.
+  void Note(const std::string& what);
 
   // Writes the next frames, left and right in turn, within -1 to 1. For an engine that plays to its
   // caller only.

@@ -48,6 +48,14 @@ test("a screen created anew forms its group twice, and the second stands", funct
   expect(random_left(), 0)
   steps.state { EnemyKind = 5, EnemyCount = 2, ["EnemyLife[0]"] = 200, ["EnemyLife[1]"] = 200, ["EnemyLife[2]"] = 280,
     ["EnemyAlive[2]"] = 0, ["Battle.Loaded"] = true }
+  -- Nothing is left on the scene of the four that came first: the places of slots 3 and 4 are bare.
+  for _, spot in ipairs { { 120, 90 }, { 150, 180 } } do
+    for x = spot[1], spot[1] + 63, 3 do
+      for y = spot[2], spot[2] + 63, 3 do
+        expect(shown_pixel("Battle.Picture1", x, y), pixel("Battle.Picture7", x * 480 // 432, y * 288 // 264))
+      end
+    end
+  end
 end)
 
 test("a screen that stayed in memory forms its group once", function()

@@ -16,13 +16,13 @@ using scene::Drawing;
 using scene::Fill;
 
 struct Strip {
-  int x;
-  int y;
-  int width;
-  int height;
-  const char* text;
-  double size;
-  double spacing;
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  const char* text = "";
+  double size = 0;
+  double spacing = 0;
   double rim = 4.2;  // of coloured letters: twice how far the dark goes beyond them
 };
 

@@ -150,8 +150,9 @@ Colour Eye(float x, float y, float depth, bool fine) {
   const float radius = std::hypot(dx, dy);
   const float turn = std::atan2(dy, dx);
   // Fibres run outward from the pupil; they are drawn on a circle so that no seam shows.
-  const float fibre_x = std::cos(turn) * (fine ? 9 : 5);
-  const float fibre_y = std::sin(turn) * (fine ? 9 : 5);
+  const float fineness = fine ? 9.0F : 5.0F;
+  const float fibre_x = std::cos(turn) * fineness;
+  const float fibre_y = std::sin(turn) * fineness;
   const float fibre = Fbm(fibre_x + 20 + 0.05F * radius, fibre_y + 20, 3, 71) - 0.5F;
   const float flecks = Noise(x * 0.8F, y * 0.8F, 72) - 0.5F;
   float light = 0.46F + 0.010F * dx + 0.017F * dy;  // it glows where the light leaves it again

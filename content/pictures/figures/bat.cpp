@@ -71,7 +71,7 @@ Image PaintBat() {
              0,
              Strands(1.5F, 0.16F)};
   m[kBone] = {{0x2C1428, 0x58243C, 0x8C3C48, 0xC06858}, 0.2F, 0.4F};
-  m[kSkin] = {{0x380C20, 0x641828, 0x9C2C28, 0xD0542C, 0xF08C44}, 0, 0.35F, 0, Membrane(2)};
+  m[kSkin] = {{0x380C20, 0x641828, 0x9C2C28, 0xD0542C, 0xF08C44}, 0, 0.35F, 0, Membrane(2, 0.26F)};
   m[kEar] = {{0x58243C, 0x9C4858, 0xD88078}};
   m[kMouth] = {{0x1C040C, 0x48101C, 0x801C2C}};
   m[kTooth] = {{0x80745C, 0xDCD0A8, 0xF8F8E8}, 0.1F, 0.1F, 0.25F};

@@ -169,6 +169,7 @@ Refusal Program::Choose(Control& list, int row) {
 Refusal Program::SelectTab(TabStrip& tabs, int tab) {
   if (Refusal refusal = Reach(tabs); !refusal.empty()) return refusal;
   if (tab < 0 || tab >= tabs.TabCount()) return tabs.Name() + " has no tab " + std::to_string(tab);
+  if (tab == tabs.Tab()) return {};  // the open one is there already, enabled or not
   if (!tabs.TabEnabled(tab))
     return "tab " + std::to_string(tab) + " of " + tabs.Name() + " is disabled";
   Enter([&] { tabs.SetTab(tab); });

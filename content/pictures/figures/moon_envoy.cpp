@@ -78,13 +78,13 @@ Image PaintMoonEnvoy() {
   m[kMoon] = {{0x6C4818, 0xB88828, 0xE8C850, 0xF8F0A8, 0xF8F8E0}, 0.5F, 0.4F, 0.12F};
   m[kWood] = {{0x2C1820, 0x583430, 0x906048}};
   m[kHand] = {{0x384868, 0x6C8CA8, 0xB4D0DC}, 0, 0.2F};
-  View view = MonsterView(0.55F, 0.06F);
+  View view = HoverView(0.55F, 0.06F, 6);
   view.Margin = 3;
   Sprite sprite = Render(MoonModel(), m, view);
   const std::vector<uint32_t> eyes{0xF8F080, 0xF8A830};
   StampAt(sprite, {-2.4F, 18.4F, 8}, {"YO", "OO"}, "YO", eyes);
   StampAt(sprite, {2.6F, 18.4F, 8}, {"YO", "OO"}, "YO", eyes);
-  CastShadow(sprite, ShadowUnder(sprite));
+  CastShadow(sprite, ShadowBelow(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }
 

@@ -9,10 +9,10 @@ namespace {
 enum Stuff { kSkin, kHorn, kHair, kLeaf, kMouth, kTooth, kGold };
 
 void AddLegs(Model& model) {
-  // Near leg planted forward, far leg bent.
+  // A lunge: the near leg pushes from behind, the far one is bent ahead.
   const Vec hips[2] = {{-5, -8, 0}, {5, -8, 0}};
-  const Vec knees[2] = {{-9, -17, 6}, {10, -16, 5}};
-  const Vec feet[2] = {{-9.5F, -26, 3}, {12, -26, -2}};
+  const Vec knees[2] = {{-11, -16, -1}, {10, -15, 15}};
+  const Vec feet[2] = {{-14, -26, -10}, {12, -26, 12}};
   for (int i = 0; i < 2; ++i) {
     model.Add(kSkin, 3, 3)
         .Limb(hips[i], knees[i], 6.4F, 4.6F)

@@ -117,7 +117,8 @@ void ScreenWindow::Dismiss() {
   // it since; and when it has just been made the largest, its place is the one that it had before.
   const bool is_largest = isMaximized() || isFullScreen();
   const QRect place = is_largest ? normalGeometry() : geometry();
-  if (!covers_ && place.isValid()) centre_ = QRectF(place).center() * devicePixelRatio();
+  if (isVisible() && !covers_ && place.isValid())
+    centre_ = QRectF(place).center() * devicePixelRatio();
   hide();
 }
 
@@ -135,8 +136,11 @@ void ScreenWindow::PutBack(QWindow* backdrop) {
 void ScreenWindow::Open(QWindow* backdrop) {
   setWindowModality(screen_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
   covers_ = backdrop != nullptr && screen_.IsScene;
-  setWindowState(covers_ ? Qt::WindowFullScreen : Qt::WindowNoState);
+  const Qt::WindowState state = covers_ ? Qt::WindowFullScreen : Qt::WindowNoState;
+  setWindowState(state);
   winId();  // makes the window, so that it can be tied to the one that it belongs to
+  // A window that has been made anew does not know the state of its widget.
+  windowHandle()->setWindowState(state);
   Tie(backdrop);
   if (!covers_) PutInPlace();
   show();

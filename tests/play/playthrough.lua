@@ -5,6 +5,7 @@
 -- table of them all to the file ORVANE_TABLE, in the text of the file ORVANE_FRAME.
 local journey = require "bot.journey"
 local report = require "bot.report"
+local page = require "bot.page"
 
 local first = tonumber(os.getenv("ORVANE_FIRST") or "1")
 local last = tonumber(os.getenv("ORVANE_LAST") or os.getenv("ORVANE_SEEDS") or "10")
@@ -24,7 +25,7 @@ if os.getenv("ORVANE_READ") then
     expect(#logs > 0, true)
     local file = assert(io.open(os.getenv("ORVANE_TABLE"), "w"))
     local frame = assert(io.open(os.getenv("ORVANE_FRAME")))
-    file:write(report.page(logs, frame:read("a")))
+    file:write(page.text(logs, frame:read("a")))
     frame:close()
     file:close()
   end)
@@ -48,5 +49,5 @@ end
 
 test("the table of all journeys", function()
   expect(#logs, last - first + 1)
-  print(report.table(logs))
+  print(page.table(logs))
 end)

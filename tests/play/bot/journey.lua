@@ -20,11 +20,14 @@ local caution = {
   { 1, 27, 27, 28, 28, 29, 29, 30, 30, 31, 31, 32, 32, 33, 33, 34, 34, 34, 34 },
 }
 
--- Who has fought so often without anything new looks for the next chest all the same.
-local patience = 7
+-- Who has fought so often without anything new, by the round, looks for the next chest all the same.
+local patience = { 5, 6, 6 }
+
+-- Below this share of HP a fruit or a drop is taken before a longer way to a recovery point.
+local thirst = 0.6
 
 -- The odds at which the dragon of a round is tried. Nobody knows yet that a fourth follows the third.
-local courage = { 0.15, 0.6, 0.45, 0.5 }
+local courage = { 0.15, 0.6, 0.4, 0.5 }
 
 local function level() return math.min(get("Level[0]"), get("Level[1]")) end
 
@@ -69,10 +72,10 @@ end
 local function rest(w, log)
   local goal, distance = nearest(w, w.rests)
   if distance > 3 then
-    -- A way with little life: fruits and drops first, where there are some.
+    -- A longer way with little life: fruits and drops first, where there are some.
     for hero = 0, 1 do
       local at = "[" .. hero .. "]"
-      local function low() return get("HP" .. at) < 0.35 * get("MaxHP" .. at) end
+      local function low() return get("HP" .. at) < thirst * get("MaxHP" .. at) end
       while low() and (pack.drink(47, hero) or get("Round") > 1 and pack.drink(48, hero)) do end
     end
   end
@@ -186,7 +189,7 @@ local function think(state, log)
     if get("ItemCount") >= 20 and not pack.drink(47, 0) then pack.drink(48, 0) end
   end
   local list, opened = closed(w)
-  local wanted = log.since < patience and caution[get("Round")][opened + 1] or 1
+  local wanted = log.since < patience[get("Round")] and caution[get("Round")][opened + 1] or 1
   local training = #list == 0 or level() < wanted
   -- Beside a recovery point there is no reason to go on weakened; far from one, enemies may come
   -- on the way back.

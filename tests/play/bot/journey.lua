@@ -23,6 +23,10 @@ local caution = {
 -- Who has fought so often without anything new, by the round, looks for the next chest all the same.
 local patience = { 5, 6, 6 }
 
+-- Who was beaten by a dragon, and has fought so often since the last level without the next one, tries it
+-- again all the same if the odds are even.
+local rematch, even = 9, 0.5
+
 -- Below this share of HP a fruit or a drop is taken before a longer way to a recovery point.
 local thirst = 0.6
 
@@ -127,16 +131,17 @@ local function train(w, log)
 end
 
 -- Whether the party is up to the round's dragon, as a player would guess.
-local function ready(state)
+local function ready(state, log)
   local s = fight.look()
   local round = s.round
-  if level() < (state.wanted[round] or 0) then return false end
+  local beaten = level() < (state.wanted[round] or 0)
+  if beaten and log.since < rematch then return false end
   local key = round .. ":" .. s.level[0] .. "," .. s.level[1] .. "," .. tostring(s.waza_mastered[9])
   if state.guess_key ~= key then
     state.guess_key = key
     state.guess = forecast.odds(s, round - 1, round, 16, true)
   end
-  return state.guess >= courage[round]
+  return state.guess >= (beaten and even or courage[round])
 end
 
 -- Whether enough strength is left for the dragon, on the way to it.
@@ -211,7 +216,7 @@ local function think(state, log)
     return
   end
   log.opened[get("Round")] = opened
-  if ready(state) then
+  if ready(state, log) then
     face_dragon(w, state, log)
   else
     state.rested_for = nil

@@ -20,18 +20,33 @@ need_packages() {
   [ ${#missing[@]} -eq 0 ] && return 0
   if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || {
-      echo "These packages are missing, and installing them takes root or sudo: ${missing[*]}" >&2
+      lack_packages "Packages are missing, and there is neither root nor sudo to install them." "${missing[@]}"
       return 1
     }
     as_root=(sudo)
   fi
   echo "Installing with apt-get, which may take some minutes: ${missing[*]}"
   # A source that fails, a foreign one perhaps, need not keep these packages from coming; and a machine that
-  # has just started may be updating itself.
+  # has just started may be updating itself. With 1 ends not apt-get but sudo, which would refuse again.
   "${as_root[@]}" apt-get update -qq
+  if [ $? -eq 1 ] && [ ${#as_root[@]} -gt 0 ]; then
+    lack_packages "Packages are missing, and sudo does not let this user install them." "${missing[@]}"
+    return 1
+  fi
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
     apt-get install -y -qq -o DPkg::Lock::Timeout=300 --no-install-recommends "${missing[@]}" >/dev/null &&
     return 0
-  echo "Orvane cannot go on without these packages: ${missing[*]}" >&2
+  lack_packages "Packages are missing, and apt-get could not install them; it needs the network." "${missing[@]}"
   return 1
+}
+
+# lack_packages SENTENCE PACKAGES...: why they are not there, and what brings them.
+lack_packages() {
+  local sentence=$1
+  shift
+  {
+    echo "$sentence"
+    echo "This brings them, as root:"
+    echo "  apt-get update && apt-get install --no-install-recommends $*"
+  } >&2
 }

@@ -10,6 +10,7 @@ void AddTileRecipes(std::vector<Recipe>& recipes) {
                        tiles::PaintGrounds(sheet);
                        tiles::PaintPatches(sheet);
                        tiles::PaintWaters(sheet);
+                       tiles::PaintMarsh(sheet);
                        tiles::PaintBridges(sheet);
                        tiles::PaintCliffs(sheet);
                        tiles::PaintTrees(sheet);

@@ -1,6 +1,5 @@
 // Lakes, sea and lava with their shores.
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -108,75 +107,6 @@ Image Waterfall() {
   });
 }
 
-// Boards laid close together, of three widths and two woods; they look the same whichever way the
-// walk goes.
-Image MarshPlanks() {
-  struct Board {
-    int top;
-    int height;
-    int left;  // where it begins; it ends as far from the other side
-    int tone;
-  };
-  constexpr std::array<Board, 3> boards{{{0, 6, 0, 4}, {6, 4, 1, 3}, {10, 6, 0, 4}}};
-  Image tile = MarshTile(0);
-  for (const Board& board : boards) {
-    const int right = TileSize - 1 - board.left;
-    for (int x = board.left; x <= right; ++x) {
-      const bool end = x == board.left || x == right;
-      for (int row = 0; row < board.height; ++row) {
-        const int y = board.top + row;
-        const bool grain = Noise(x / 5.0, y * 0.9, 0, 351) > 0.66;
-        const int tone = row == 0                  ? board.tone + 1
-                         : row == board.height - 1 ? 0
-                         : row == board.height - 2 ? board.tone - 1
-                         : grain                   ? board.tone - 1
-                                                   : board.tone;
-        Set(tile, x, y, row == board.height - 1 ? Marsh[0] : Wood[end ? std::min(tone, 2) : tone]);
-      }
-    }
-    for (const int x : {board.left + 2, right - 2}) Set(tile, x, board.top + 1, Wood[1]);
-  }
-  return tile;
-}
-
-// How deep (x, y) lies in the water of a pool, in pixels: a pond with ragged shores that runs over
-// into the pools beside it by a channel in the middle of each side, so that hummocks stay where
-// four pools meet.
-double PoolDepth(int x, int y, int variant) {
-  const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
-  const double rag = Noise(x / 2.0, y / 2.0, 8, inward < 2 ? 341 : 341 + variant) - 0.5;
-  const double dx = std::abs(x - 7.4);
-  const double dy = std::abs(y - 7.6);
-  const double pond = 7.3 - std::pow(std::pow(dx, 2.6) + std::pow(dy, 2.6), 1 / 2.6);
-  const double across = 3.6 - std::abs(y - 8.6);
-  const double down = 3.6 - std::abs(x - 6.4);
-  return std::max({pond, across, down}) + 3.0 * rag;
-}
-
-Image MarshPool(int variant) {
-  const Image marsh = MarshTile(0);
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
-    const double depth = PoolDepth(x, y, variant);
-    if (depth < -1.2) return marsh.At(x, y);
-    if (depth < 0) return PoolDepth(x, y + 1, variant) >= 0 ? Marsh[0] : Marsh[1];
-    if (PoolDepth(x, y - 1, variant) < 0) return Pool[0];
-    if (PoolDepth(x, y + 1, variant) < 0) return Pool[3];
-    const double ripple = Noise(x / 4.0, y / 1.6, 4, 335 + variant);
-    return Pool[ripple > 0.80 ? 3 : ripple > 0.36 ? 2 : 1];
-  });
-  if (variant == 0) {
-    Stamp(tile, 4, 2,
-          {".b...b.", ".b.b.b.", ".lbb.l.", "lllb.ll", ".l.l.l.", ".l.lll.", "..ll.l.", "..llll.",
-           ".dddddd"},
-          {{'b', Wood[2]}, {'l', Leaf[4]}, {'d', Pool[1]}});
-  } else {
-    Stamp(tile, 2, 8, {".llll.", "lll.ml", "mmmmmm", ".mmmm."}, {{'l', Leaf[5]}, {'m', Leaf[4]}});
-    Stamp(tile, 9, 4, {".ll.", "l.ml", "mmmm"}, {{'l', Leaf[5]}, {'m', Leaf[4]}});
-    Stamp(tile, 10, 9, {".p.", "pwp", ".q."}, {{'p', 0xF8B0D0}, {'w', 0xFCF8E0}, {'q', 0xC86C98}});
-  }
-  return tile;
-}
-
 }  // namespace
 
 void PaintWaters(Sheet& sheet) {
@@ -193,9 +123,6 @@ void PaintWaters(Sheet& sheet) {
   sheet.Put(2, WaterTile(2));
   sheet.Put(30, SteppingStones());
   sheet.Put(229, Waterfall());
-  sheet.Put(170, MarshPlanks());
-  sheet.Put(50, MarshPool(0));
-  sheet.Put(51, MarshPool(1));
 }
 
 }  // namespace orvane::paint::tiles

@@ -257,7 +257,7 @@
  <tile id="28">
   <properties>
    <property name="code" type="int" value="29"/>
-   <property name="name" value="shallows"/>
+   <property name="name" value="sandbank"/>
    <property name="walkable" type="bool" value="true"/>
   </properties>
  </tile>

@@ -15,7 +15,7 @@ void PaintGrounds(Sheet& sheet) {
   sheet.Put(130, LitterTile(1));
   sheet.Put(132, LitterTile(2));
   sheet.Put(113, PavingTile(1));
-  sheet.Put(29, ShallowTile());
+  sheet.Put(29, SandbankTile());
 }
 
 }  // namespace orvane::paint::tiles

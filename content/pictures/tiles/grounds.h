@@ -15,7 +15,7 @@ Image WasteTile(int variant);   // 0..3
 Image GravelTile(int variant);  // 0..2 plain, 3 in grass, 4 rubble, 5 cracked
 Image MarshTile(int variant);   // 0 moss and sedge, 1 moss and gleams of water
 Image WaterTile(int variant);   // 0..2
-Image ShallowTile();
+Image SandbankTile();
 Image LavaTile();
 
 }  // namespace orvane::paint::tiles

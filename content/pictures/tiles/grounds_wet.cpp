@@ -1,4 +1,4 @@
-// Water, shallows and lava.
+// Water, sandbank and lava.
 #include <cmath>
 #include <numbers>
 
@@ -33,11 +33,19 @@ Image WaterTile(int variant) {
   return tile;
 }
 
-Image ShallowTile() {
-  return Fill(TileSize, TileSize, [](int x, int y) {
-    const Facet facet = FacetAt((x + 0.5) / 8, (y + 0.5) / 5.3333, 2, 3, 97);
-    if (facet.edge < 0.07) return Shallow[4];
-    return Shallow[facet.edge < 0.20 ? 3 : facet.edge < 0.62 ? 2 : 1];
+// A bank of sand with foam round it: water takes its corners, so that it
+// ends a beach or a row of stones in a round shore.
+Image SandbankTile() {
+  const Image sand = SandTile(0);
+  return Fill(TileSize, TileSize, [&](int x, int y) {
+    const double dx = std::abs(x - 7.5);
+    const double dy = std::abs(y - 7.5);
+    const double rag = 1.6 * (Noise(x / 3.0, y / 3.0, 0, 97) - 0.5);
+    const double depth = std::pow(std::pow(dx, 2.4) + std::pow(dy, 2.4), 1 / 2.4) - 7.9 + rag;
+    if (depth > 2.4) return Water[4];
+    if (depth > 1.2) return Water[5];
+    if (depth > 0) return Water[6];
+    return depth > -1.0 ? Sand[2] : sand.At(x, y);
   });
 }
 

@@ -29,7 +29,7 @@ const std::vector<TilePair> kNeighbours = {
     {"path and cliff", 95, 188, 60},
     {"forest floor and woods", 107, 119, 16},
     {"sand and sea", 25, 185, 100},
-    {"shallows and water", 29, 182, 100},
+    {"sandbank and water", 29, 182, 100},
     {"bridge and water", 32, 182, 16},
     {"marsh and pool", 20, 50, 40},
     {"moss and pool", 21, 51, 28},
@@ -162,7 +162,7 @@ TEST(TileFaults, WaterAsLightAsGrass) {
   const Rect water = TileCell(182);
   BitBlt(tiles, water.X, water.Y, 16, 16, original, grass.X, grass.Y, RasterOp::SRCCOPY);
   EXPECT_THAT(NeighbourFaults(tiles, kNeighbours),
-              ElementsAre(HasSubstr("grass and water"), HasSubstr("shallows and water"),
+              ElementsAre(HasSubstr("grass and water"), HasSubstr("sandbank and water"),
                           HasSubstr("bridge and water")));
 }
 

@@ -5,7 +5,7 @@
 
 namespace orvane::paint::tiles {
 
-void PaintGrounds(Sheet& sheet);  // grass, sand, waste, marsh, rock, shallows: the plain floors
+void PaintGrounds(Sheet& sheet);  // grass, sand, waste, marsh, rock, sandbank: the plain floors
 void PaintPatches(Sheet& sheet);  // path, sand, forest floor, paving and waste set into grass
 void PaintWaters(Sheet& sheet);   // lakes, sea, lava with their shores; waterfall, stepping stones
 void PaintMarsh(Sheet& sheet);    // boards and pools of the marsh

@@ -57,7 +57,7 @@ class Dawn : public Terrain {
     const float y = direction.y / direction.z - sun.y;
     const float from_sun = std::sqrt(x * x + y * y);
     // The horizon is golden about the sun and rose elsewhere.
-    const float gold = std::exp(-from_sun * 3.4F);
+    const float gold = std::exp(-from_sun * 4.4F);
     Colour sky = Mix(Mix(Hex(0xB8607C), Hex(0xFCD48C), gold),
                      Mix(Hex(0xA05480), Hex(0xE08070), gold), up / 0.13F);
     sky = Mix(sky, Hex(0x74487C), (up - 0.11F) / 0.17F);
@@ -102,7 +102,7 @@ void PlantTrees(Dresser& dresser, const Dawn& land) {
 }
 
 float HillTop(float x) {
-  const float off = (x - 470) / 470;
+  const float off = (x - 640) / 520;
   return 452 + 62 * off * off + 12 * (Fbm(x * 0.01F, 0.5F, 4, 90) - 0.5F);
 }
 
@@ -169,8 +169,9 @@ Image PaintEndingStill() {
   Dresser dresser(land, view, painting);
   PlantTrees(dresser, land);
   Canvas canvas = Painted(painting.canvas, 2, 0.75F);
-  DrawHero(canvas, ManModel(0), ManMaterials(), 440, 0.25F);
-  DrawHero(canvas, WomanModel(0), WomanMaterials(), 520, -0.2F);
+  // Right of the lines of text, as the sun is left of them.
+  DrawHero(canvas, ManModel(0), ManMaterials(), 752, 0.25F);
+  DrawHero(canvas, WomanModel(0), WomanMaterials(), 830, -0.2F);
   DrawHill(canvas);
   return ToSheet(Painted(Shrink(canvas, 2, 2), 1, 0.4F), 244, 4);
 }

@@ -13,8 +13,8 @@ enum Stuff { kRobe, kFeather, kGold, kSkin, kHair, kBlade, kSash };
 // One wing: three rows of feathers that fan out from a raised arm.
 void AddWing(Model& model, float side, float spread) {
   const Vec shoulder{3.4F * side, 8, -5};
-  const Vec elbow{(8 + spread) * side, 20, -9};
-  const Vec wrist{(12 + spread * 2) * side, 30, -9};
+  const Vec elbow{(10 + spread) * side, 18, -9};
+  const Vec wrist{(17 + spread * 2) * side, 25, -9};
   const auto along = [&](float t) {
     return t < 0.5F ? Mix(shoulder, elbow, t * 2) : Mix(elbow, wrist, t * 2 - 1);
   };
@@ -26,7 +26,7 @@ void AddWing(Model& model, float side, float spread) {
     float Depth;
   };
   static constexpr std::array<Row, 3> kRows{
-      {{8, 25, 2.5F, -2}, {7, 16, 2.3F, -0.6F}, {6, 8.5F, 2.1F, 0.8F}}};
+      {{8, 23, 2.6F, -2}, {7, 15, 2.4F, -0.6F}, {6, 8.5F, 2.2F, 0.8F}}};
   for (const auto& [count, length, width, depth] : kRows) {
     for (int i = 0; i < count; ++i) {
       const float t = static_cast<float>(i) / static_cast<float>(count - 1);
@@ -40,16 +40,16 @@ void AddWing(Model& model, float side, float spread) {
 
 void AddBody(Model& model) {
   Group& robe = model.Add(kRobe, 2.5F, 0);
-  robe.Limb({0, 6, 0}, {0, -3, 0}, 5, 4.2F);
+  robe.Limb({0, 6, 0}, {0, -3, 0}, 5.6F, 4.6F);
   for (int i = 0; i < 8; ++i) {
     const float a = static_cast<float>(i) * 0.785F + 0.2F;
     robe.Chain({{Around(a, 2, -4, 2), 3.2F},
-                {Around(a, 5.4F, -14, 4.8F) + Vec{-1, 0, -1}, 3},
-                {Around(a + 0.2F, 8, -24, 6.6F) + Vec{-3, 0, -3}, 1.8F}},
+                {Around(a, 7, -13, 6) + Vec{-1, 0, -1}, 3.4F},
+                {Around(a + 0.2F, 12, -23, 9) + Vec{-4, 0, -3}, 2.2F}},
                4);
   }
   model.Add(kGold).Ball({0, -2.6F, 0}, {5, 1.2F, 4.8F});
-  model.Add(kSash, 1).Leaf({1, -2, 4.6F}, {2, -21, 7}, 2.2F, 1.2F);
+  model.Add(kSash, 1).Leaf({1, -2, 5}, {3.4F, -21, 11}, 2.4F, 1.4F);
   // Breastplate and shoulders.
   model.Add(kGold, 1.5F).Ball({0, 5, 0.6F}, {5.8F, 5, 5});
   model.AddPair(kGold, 0.5F).Ball({6.4F, 7.6F, 0}, {3.2F, 2.6F, 3.2F});
@@ -113,6 +113,7 @@ Image PaintAngel() {
   m[kBlade] = {{0x385888, 0x80B8D8, 0xD0F0F8, 0xF8F8F8}, 0.8F, 0.4F, 0.15F};
   m[kSash] = {{0x301848, 0x58307C, 0x8C5CB0, 0xC49CD8}, 0, 0.2F};
   Sprite sprite = Render(AngelModel(), m, HoverView(0.5F, 0.06F, 7));
+  StampAt(sprite, {0, 13.4F, 6.4F}, {"mm"}, "m", {0xB06858});
   CastShadow(sprite, ShadowBelow(sprite));
   return PairSheet(sprite, 128, 64, 64);
 }

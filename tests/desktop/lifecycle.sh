@@ -25,6 +25,13 @@ see_own_folder() {
     fail "the player's folder is not like the installed one"
 }
 
+see_icon() {
+  local size
+  for size in 16 24 32 48 64 128; do
+    xprop -id "$(window Orvane)" _NET_WM_ICON | grep -aq "Icon ($size x $size)" || fail "no icon of $size pixels"
+  done
+}
+
 start_twice() {
   local status=0 second
   timeout 20 "$program" || status=$?
@@ -48,6 +55,7 @@ install_game
 start_game --scale 1
 see_title
 see_own_folder
+see_icon
 start_twice
 ends "on the title" TERM
 

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "src/frontend/desktop/fonts.h"
+#include "src/frontend/desktop/window_icon.h"
 
 namespace orvane {
 namespace {
@@ -104,6 +105,7 @@ void SetUpLook(QApplication& application) {
   QApplication::setStyle(new CalmStyle);  // the application owns it
   QApplication::setPalette(CalmPalette());
   QApplication::setFont(DefaultFont());
+  QApplication::setWindowIcon(WindowIcon());
   QCoreApplication::setAttribute(Qt::AA_DontShowIconsInMenus);
   application.setQuitOnLastWindowClosed(false);  // the game decides when it ends
 }

@@ -13,7 +13,9 @@ install(CODE "execute_process(COMMAND \"$<TARGET_FILE:orvane-saves>\"
   \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/orvane/game\"
   COMMAND_ERROR_IS_FATAL ANY)")
 install(FILES share/orvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES share/orvane.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+# Named as the component inside it, by which software centres look for it.
+install(FILES share/orvane.metainfo.xml RENAME invalid.example.orvane.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
 # Manual pages and change log lie compressed, and alike whenever they are compressed.
 function(orvane_install_compressed source folder name)

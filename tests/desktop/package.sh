@@ -40,8 +40,8 @@ see_package() {
   done
   file=$root/usr/share/applications/orvane.desktop
   desktop-file-validate "$file" >>"$log" 2>&1 || fail "the desktop entry is wrong"
-  appstreamcli validate --no-net "$root/usr/share/metainfo/orvane.metainfo.xml" >>"$log" 2>&1 ||
-    fail "the AppStream data is wrong"
+  ls "$root"/usr/share/metainfo/*.metainfo.xml >>"$log" 2>&1 || fail "there is no AppStream data"
+  appstreamcli validate-tree --no-net "$root" >>"$log" 2>&1 || fail "the AppStream data is wrong"
 }
 
 play_and_save() {

@@ -132,7 +132,8 @@ Colour Mountain(const PatchSpot& spot) {
 }
 
 Colour DarkRock(const PatchSpot& spot) {
-  // Its own rubble and not the waste's ground, since it hangs under the floors of the last stage too.
+  // Its own rubble and not the waste's ground, since it hangs under the floors of the last stage
+  // too.
   static const Image scree(TileSize, TileSize, Dark[2]);
   return InMassif(spot, {scree, 0.3, Dark, Dark, CaveTopTone, DarkStratum, -0.2});
 }

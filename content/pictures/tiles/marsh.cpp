@@ -32,8 +32,8 @@ Image MarshPlanks() {
         int tone = row == 0 ? board.tone + 1 : grain > 0.7 ? board.tone - 1 : board.tone;
         if (row == board.height - 2) tone = board.tone - 1;
         if (into == 0 && !seam) tone = board.tone + 1;
-        if (into == TileSize - 1) tone = 1;
-        Set(tile, x, y, seam ? (y == TileSize - 1 ? Wood[0] : Wood[1]) : Wood[tone]);
+        if (into == TileSize - 1) tone = 2;
+        Set(tile, x, y, seam ? (y == TileSize - 1 ? Wood[1] : Wood[2]) : Wood[tone]);
       }
     }
     for (const int nail : {2, TileSize - 4}) {

@@ -8,9 +8,11 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <algorithm>
 #include <optional>
 
 #include "src/frontend/desktop/fonts.h"
+#include "src/frontend/desktop/sharp_lines.h"
 #include "src/frontend/desktop/window_icon.h"
 
 namespace orvane {
@@ -58,19 +60,58 @@ class CalmStyle : public QProxyStyle {
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override {
-    const auto slider = Marked<QStyleOptionSlider>(option);
-    QProxyStyle::drawComplexControl(control, slider ? &*slider : option, painter, widget);
+    const auto* known = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_Slider || known == nullptr) {
+      return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+    QStyleOptionSlider slider = Marked<QStyleOptionSlider>(option).value_or(*known);
+    slider.subControls &= ~SC_SliderTickmarks;
+    QProxyStyle::drawComplexControl(control, &slider, painter, widget);
+    DrawSteps(slider, *painter, widget);
   }
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
     QProxyStyle::drawControl(element, option, painter, widget);
-    if (!LacksMark(element, *option, widget)) return;
-    painter->setPen(option->palette.color(QPalette::Highlight));
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    if (LacksMark(element, *option, widget)) {
+      DrawFrame(*painter, option->rect, option->palette.color(QPalette::Highlight));
+    } else if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget)) {
+      DrawFrame(*painter, option->rect, Outline(option->palette));
+    } else if (IsMenuBar(element) && (option->state & State_Selected) == 0) {
+      // In place of the style's own, which it draws apart for each menu, with gaps between.
+      constexpr int own = 2;
+      painter->fillRect(option->rect.adjusted(0, option->rect.height() - own, 0, 0),
+                        option->palette.window());
+      DrawUnderline(*painter, option->rect, QColor(0xD4, 0xD4, 0xD4));
+    }
   }
 
  private:
+  // As the style's own frames are.
+  static QColor Outline(const QPalette& palette) {
+    return palette.color(QPalette::Window).darker(140).lighter(108);
+  }
+
+  // The marks below a slider, at which the handle's middle can stand.
+  void DrawSteps(const QStyleOptionSlider& slider, QPainter& painter, const QWidget* widget) const {
+    const int half = proxy()->pixelMetric(PM_SliderLength, &slider, widget) / 2;
+    const int room = proxy()->pixelMetric(PM_SliderSpaceAvailable, &slider, widget);
+    const int offset = proxy()->pixelMetric(PM_SliderTickmarkOffset, &slider, widget);
+    const int interval = std::max(1, slider.tickInterval);
+    for (int step = slider.minimum; step <= slider.maximum; step += interval) {
+      const bool at_end = step == slider.minimum || step == slider.maximum;
+      const int bottom = slider.rect.bottom() - (at_end ? 1 : 2);
+      const int x = half + sliderPositionFromValue(slider.minimum, slider.maximum, step, room);
+      const int top = slider.rect.bottom() - offset;
+      DrawMark(painter, {x, top}, bottom - top + 1,
+               slider.palette.color(QPalette::Highlight).darker(140));
+    }
+  }
+
+  static bool IsMenuBar(ControlElement element) {
+    return element == CE_MenuBarItem || element == CE_MenuBarEmptyArea;
+  }
+
   // A list that has the keyboard may have no row to show it by, and a menu bar no open menu.
   static bool LacksMark(ControlElement element, const QStyleOption& option, const QWidget* widget) {
     if (element == CE_ShapedFrame) {

@@ -19,8 +19,7 @@ told() {
 }
 
 open_display 640x560
-folder=$run_folder/game
-cp -r "$(dirname "$program")/game" "$folder"
+copy_folder
 
 mkdir "$run_folder/no-fonts"
 cat >"$run_folder/fonts.conf" <<END

@@ -13,8 +13,6 @@ keep_shots_in "$2"
 ticks=$shots/ticks.txt
 saved=()
 
-keys() { xdotool key --delay 40 "$@"; }
-
 # choose MENU ITEM TITLE: the MENU-th menu that is on, its ITEM-th item, and the window that comes.
 choose() {
   local way=(F10) step
@@ -24,9 +22,6 @@ choose() {
   keys "${way[@]}" Return
   opens "$3"
 }
-
-# same FOUND WANTED WHAT
-same() { [ "$1" = "$2" ] || fail "$3: $1, not $2"; }
 
 # The highlight alone chooses nothing: without Enter no file is chosen.
 load_by_keys() {
@@ -158,14 +153,7 @@ save_by_keys() {
 }
 
 see_saved() {
-  wrote 82 19 "his level"
-  wrote 88 521 "his HP after the fruit"
-  wrote 450 8 "the number of things"
-  wrote 112 18 "his sword"
-  wrote 114 14 "her staff"
-  wrote 118 34 "his armour"
-  wrote 120 35 "her armour"
-  same "$(bytes Save03.sav 58 4)" 476f7520 "his new name"
+  wrote_party
   [ "$(number Save03.sav 4)" != "$(number Save01.sav 4)" ] || fail "the party has not walked"
   for field in 88 94 96 450 494; do saved[field]=$(number Save03.sav $field); done
 }

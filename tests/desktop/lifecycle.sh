@@ -60,14 +60,12 @@ start_twice
 ends "on the title" TERM
 
 # The first of these saves was made by the player, so to speak; the installed slots stay behind.
-make_saves
+make_saves states.lua
 for where in field question battle; do
   start_game --scale 1 --seed 5
   see_title
   [ "$(stat -c %s "$folder/Save02.sav")" = 540 ] || fail "a save has gone"
-  menu $file_menu 1
-  opens ファイルのロード
-  load_row 1
+  load_save 1
   case $where in
     field) ends "in the field" HUP ;;
     question)

@@ -80,12 +80,6 @@ tick_error() {
       END { m = all[int((NR + 1) / 2)] - period; printf "%.2f", NR == 0 ? 999 : m < 0 ? -m : m }'
 }
 
-load_party_of() {
-  menu $file_menu 1
-  opens ファイルのロード
-  load_row "$1"
-}
-
 open_display 1400x1120
 make_folder
 judge "start to title, best of three" "$(start_time)" ms 150 1000
@@ -94,7 +88,7 @@ start_game --folder "$folder" --scale "$scale" --seed 26
 see_title
 judge "memory on the title" "$(memory)" MB 60 160
 judge "processor on the title" "$(load_over 5)" % 0.5 4
-load_party_of 1
+load_save 1
 xdotool keydown Down
 judge "processor while walking at 2x" "$(load_over 3)" % 4 25
 xdotool keyup Down
@@ -119,7 +113,7 @@ judge "battle's ticks off their period, median" "$(tick_error Timer1 "$battle_pe
 scale=1
 ORVANE_SPEED=1000 start_game --folder "$folder" --scale 1 --seed 26
 see_title
-load_party_of 0
+load_save 0
 stroll 2
 early=$(memory)
 until has_focus Orvane; do

@@ -8,6 +8,8 @@
 # Ends with 77, which counts as skipped, where a tool is missing.
 set -u
 
+# shellcheck source=tests/desktop/x_session.sh
+. "$(dirname "$(realpath "$0")")/x_session.sh"
 program=$(realpath "$1")
 recording=$(realpath -m "$2")
 player=$(realpath "$3")
@@ -16,29 +18,13 @@ scores=$(realpath "$5")
 shift 5
 judge=("$@")
 scale=1
-here=$(dirname "$(realpath "$0")")
-shots=$(dirname "$recording")/minute
-mkdir -p "$shots"
-log=$shots/game.log
-
-for tool in Xvfb openbox xdotool xprop xwininfo import cksum; do
-  command -v "$tool" >/dev/null || { echo "desktop test: $tool is missing" >&2; exit 77; }
-done
-
-# shellcheck source=tests/desktop/x_session.sh
-. "$here/x_session.sh"
-# shellcheck source=tests/desktop/steps.sh
-. "$here/steps.sh"
-# shellcheck source=tests/desktop/screen_steps.sh
-. "$here/screen_steps.sh"
+keep_shots_in "$(dirname "$recording")/minute"
 
 # A game folder of our own: open ground with a chest two tiles to the left, the save, short pieces.
 make_minute() {
-  folder=$run_folder/game
-  cp -r "$(dirname "$program")/game" "$folder"
+  copy_folder
   awk 'BEGIN { for (i = 0; i < 480; i++) print i == 199 ? 36 : 7 }' >"$folder/Mapdata/map3-3.dat"
-  ORVANE_STATES=$folder ORVANE_PLAY=$here/../play "$player" "$here/minute.lua" >"$log" 2>&1 ||
-    fail "the save could not be made"
+  make_saves minute.lua
   shorten Round3 intro turn
   shorten Battle1 hook turn
 }
@@ -154,9 +140,7 @@ export ORVANE_RECORD=$recording
 start_game --scale 1 --seed 11 --folder "$folder"
 see_title
 sleep 3  # a quick hand would wait for the instruments instead
-menu $file_menu 1
-opens ファイルのロード
-load_row 0
+load_save 0
 shot 1-field
 hear_again bgm3
 open_chest

@@ -65,9 +65,7 @@ play_and_save() {
 load_again() {
   start_game --scale 1 --seed 26
   see_title
-  menu $file_menu 1
-  opens ファイルのロード
-  load_row 2
+  load_save 2
   shot 12-loaded
   quit_game
 }

@@ -1,16 +1,21 @@
 # Each screen opened, used and closed, in the order of screens.sh.
 
-# A game folder of our own with the saves of states.lua, and one that is no save.
-make_folder() {
+# A game folder of our own, into folder.
+copy_folder() {
   folder=$run_folder/game
   cp -r "$(dirname "$program")/game" "$folder"
-  make_saves
+}
+
+# The same with the saves of states.lua, and one that is no save.
+make_folder() {
+  copy_folder
+  make_saves states.lua
   head -c 100 "$folder/Save01.sav" >"$folder/Save09.sav"
 }
 
-# The saves of states.lua, into the game folder.
+# make_saves SCRIPT: the saves that this script writes, into the game folder.
 make_saves() {
-  ORVANE_STATES=$folder ORVANE_PLAY=$here/../play "$player" "$here/states.lua" >"$log" 2>&1 ||
+  ORVANE_STATES=$folder ORVANE_PLAY=$here/../play "$player" "$here/$1" >"$log" 2>&1 ||
     fail "the saves could not be made"
 }
 
@@ -82,6 +87,13 @@ load_row() {
   closes ファイルのロード
   wait_for 10 "the field" menu_is_on $item_menu
   wait_for 5 "the party at rest" is_still
+}
+
+# load_save ROW: on the title.
+load_save() {
+  menu $file_menu 1
+  opens ファイルのロード
+  load_row "$1"
 }
 
 load_party() {
@@ -184,6 +196,18 @@ wrote() {
   [ "$found" = "$2" ] || fail "$3: $found is saved, not $2"
 }
 
+# After the equipment, the use of things and the settings.
+wrote_party() {
+  wrote 82 19 "his level"
+  wrote 88 521 "his HP after the fruit"
+  wrote 450 8 "the number of things"
+  wrote 112 18 "his sword"
+  wrote 114 14 "her staff"
+  wrote 118 34 "his armour"
+  wrote 120 35 "her armour"
+  same "$(bytes Save03.sav 58 4)" 476f7520 "his new name"
+}
+
 save_party() {
   menu $file_menu 1
   opens ファイルのセーブ
@@ -197,14 +221,7 @@ save_party() {
   answer ゲームのセーブ Return
   closes ファイルのセーブ
   [ "$(stat -c %s "$folder/Save03.sav")" = 540 ] || fail "the save has not 540 bytes"
-  wrote 82 19 "his level"
-  wrote 88 521 "his HP after the fruit"
-  wrote 450 8 "the number of things"
-  wrote 112 18 "his sword"
-  wrote 114 14 "her staff"
-  wrote 118 34 "his armour"
-  wrote 120 35 "her armour"
-  [ "$(bytes Save03.sav 58 4)" = 476f7520 ] || fail "his new name is not saved"
+  wrote_party
 }
 
 # In the field there is no loading: a second run of the program.
@@ -212,9 +229,7 @@ load_before_dragon() {
   quit_game
   start_game --scale "$scale" --seed 5 --folder "$folder"
   see_title
-  menu $file_menu 1
-  opens ファイルのロード
-  load_row 1
+  load_save 1
   keep before-dragon Orvane
 }
 

@@ -44,14 +44,22 @@ keep_shots_in() {
   log=$shots/game.log
 }
 
+# close_display: for another one. The run's own folder stays.
+close_display() {
+  kill "$manager_pid" "$display_pid" 2>/dev/null
+  wait "$manager_pid" "$display_pid" 2>/dev/null
+  manager_pid='' display_pid=''
+}
+
 # open_display SIZE [DPI]: Xvfb and openbox, on a number that the server finds free itself. DPI is
 # what the desktop's settings say of the screen.
 open_display() {
-  run_folder=$(mktemp -d)
+  [ -n "${run_folder:-}" ] || run_folder=$(mktemp -d)
   trap clean_up EXIT
   trap 'exit 1' INT TERM
   export XDG_RUNTIME_DIR=$run_folder HOME=$run_folder SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
   unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_QPA_PLATFORM
+  rm -f "$run_folder/number"
   mkfifo "$run_folder/number"
   # A short press must not begin to repeat because the machine is slow.
   local no_repeats=-r
@@ -62,7 +70,7 @@ open_display() {
   local number
   read -r -t 20 number <"$run_folder/number" || { echo "desktop test: no Xvfb" >&2; exit 1; }
   export DISPLAY=:$number
-  [ -z "${2:-}" ] || xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER "Xft.dpi: $2"
+  [ -z "${2:-}" ] || xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER $'Xft.dpi:\t'"$2"
   give_manager_keys
   openbox --sm-disable >/dev/null 2>&1 &
   manager_pid=$!
@@ -164,6 +172,12 @@ click() {
   point "$@"
   xdotool mousemove "$at_x" "$at_y" click 1
 }
+
+# Keys for whatever has the keyboard, one after the other.
+keys() { xdotool key --delay 40 "$@"; }
+
+# same FOUND WANTED WHAT
+same() { [ "$1" = "$2" ] || fail "$3: $1, not $2"; }
 
 # A picture of the whole display.
 shot() { import -silent -window root "$shots/$1.png"; }

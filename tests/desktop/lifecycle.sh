@@ -50,6 +50,24 @@ ends() {
   [ "$(contents "$folder")" = "$before" ] || fail "the game folder has changed $1"
 }
 
+# Where no folder can be made for the player, the box that says so goes away with the program.
+end_over_an_error() {
+  local status=0 end
+  touch "$run_folder/no-folder"
+  HOME=$run_folder/no-folder start_game --scale 1
+  wait_for 20 "the box of an error" has_focus Orvane
+  grep -q "cannot make the folder" "$log" || fail "the error is not told"
+  kill -s TERM "$game_pid"
+  end=$((SECONDS + 15))
+  until game_is_gone; do
+    [ $SECONDS -ge $end ] && kill -s KILL "$game_pid" && fail "the game goes on over an error"
+    sleep 0.05
+  done
+  wait "$game_pid" || status=$?
+  game_pid=
+  [ $status = 1 ] || fail "the game ended with status $status over an error"
+}
+
 open_display 640x560
 install_game
 start_game --scale 1
@@ -58,6 +76,7 @@ see_own_folder
 see_icon
 start_twice
 ends "on the title" TERM
+end_over_an_error
 
 # The first of these saves was made by the player, so to speak; the installed slots stay behind.
 make_saves states.lua

@@ -61,6 +61,12 @@ Zoom ChooseZoom(const Options& options, Program& program) {
   return Zoom(screen, start, windows);
 }
 
+// Shows why the game cannot start, until the box is answered or the program is told to end.
+void ShowError(MessageBoxes& boxes) {
+  OnEndSignals([&boxes] { boxes.CloseAll(); });
+  boxes.ShowKeptError();
+}
+
 // The game cannot start: says so in a box as well as to whoever reads the terminal.
 int TellProblem(const std::string& problem, int argument_count, char** arguments) {
   Complain(problem);
@@ -68,7 +74,7 @@ int TellProblem(const std::string& problem, int argument_count, char** arguments
   SetUpLook(application);
   MessageBoxes boxes;
   boxes.ShowError({problem, "Orvane", BoxButtons::Ok});
-  boxes.ShowKeptError();
+  ShowError(boxes);
   return EXIT_FAILURE;
 }
 
@@ -94,7 +100,7 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   const Zoom zoom = ChooseZoom(options, program);
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());
   if (program.HasEnded()) {
-    boxes.ShowKeptError();
+    ShowError(boxes);
     return program.ExitStatus();
   }
   Desktop desktop(program, boxes, sleeper, zoom);

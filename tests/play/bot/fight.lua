@@ -98,7 +98,7 @@ function fight.play(log)
       return
     end
     local s = see_enemies(fight.look())
-    s.thrift = log.thrift
+    s.thrift, s.acted = log.thrift, get("HeroesActed")
     if opening then log:met(s) end
     if flees(s, opening) then
       click("Battle.Command5")

@@ -67,6 +67,7 @@ end
 -- One fight: whether it is won, and in how many rounds.
 local function play(f)
   for round = 1, 80 do
+    f.acted = 0
     local first = tactics.first(f)
     -- With one down at its beginning a round has one action, even if that one is raised by it.
     for turn = 0, (f.fainted[0] or f.fainted[1]) and 0 or 1 do
@@ -74,6 +75,7 @@ local function play(f)
       if not f.fainted[hero] then
         act(f, hero, tactics.choose(f, hero))
         if f.life[1] <= 0 then return true, round end
+        f.acted = 1
       end
     end
     enemy_phase(f)

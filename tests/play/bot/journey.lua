@@ -17,21 +17,30 @@ local books = { [0] = "1,3", "3,4", "3,2", "6,4" }
 local caution = {
   { 1, 1, 2, 3, 3, 4, 4, 5, 5, 6, 6, 6, 7, 7, 7, 8, 9, 10 },
   { 1, 14, 14, 14, 15, 15, 15, 16, 16, 16, 17, 17, 17, 18, 18, 18, 18, 18 },
-  { 1, 27, 27, 28, 28, 29, 29, 30, 30, 31, 31, 32, 32, 33, 33, 34, 34, 34, 34 },
+  { 1, 26, 27, 28, 28, 29, 29, 30, 30, 31, 31, 32, 32, 33, 33, 34, 34, 34, 34 },
+}
+
+-- The chests with the best armour draw the party from farther off once the enemies of a new round are about:
+-- for so much of its distance each counts.
+local armour = {
+  {},
+  { ["chest 1,3"] = 0.5, ["chest 1,4"] = 0.5 },
+  { ["chest 1,1"] = 0.6, ["chest 1,3"] = 0.6, ["chest 2,4"] = 0.6, ["chest 5,3"] = 0.6 },
 }
 
 -- Who has fought so often without anything new, by the round, looks for the next chest all the same.
 local patience = { 5, 6, 6 }
 
 -- Who was beaten by a dragon, and has fought so often since the last level without the next one, tries it
--- again all the same if the odds are even.
-local rematch, even = 9, 0.5
+-- again all the same if the odds are nearly even.
+local rematch, even = 7, 0.35
 
--- Below this share of HP a fruit or a drop is taken before a longer way to a recovery point.
-local thirst = 0.6
+-- Below this share of HP a fruit or a drop is taken before a longer way to a recovery point, by the round, and
+-- before a short one.
+local thirst, parched = { 0.75, 0.7, 0.6, 0.6 }, 0.35
 
 -- The odds at which the dragon of a round is tried. Nobody knows yet that a fourth follows the third.
-local courage = { 0.15, 0.6, 0.4, 0.5 }
+local courage = { 0.2, 0.5, 0.48, 0.5 }
 
 local function level() return math.min(get("Level[0]"), get("Level[1]")) end
 
@@ -50,24 +59,29 @@ local function closed(w)
   return list, opened
 end
 
-local function nearest(w, goals)
+-- The nearest of some goals, and its distance. `eager` may name the share of its distance that a goal counts for.
+local function nearest(w, goals, eager)
   local cell = walk.cell(w)
   local best, best_distance
   for _, goal in ipairs(goals) do
     local distance = world.field(w, goal).distance[cell]
+    if distance and eager and eager[goal] then distance = distance * eager[goal] end
     if distance and (not best or distance < best_distance) then best, best_distance = goal, distance end
   end
   return best, best_distance
 end
 
--- Whether the heroes need a recovery point. `share` of HP, half of it of MP once there are skills.
+-- Of the share of HP that is wanted, the part that is wanted of MP once there are skills, by the round.
+local magic = { 0.5, 0.5, 0.6, 0.6 }
+
+-- Whether the heroes need a recovery point: below `share` of HP, or a part of it of MP.
 local function weary(share)
+  local skilled = get("MagicKnown[0]") + get("MagicKnown[1]") ~= 0
+  local part = magic[get("Round")] * share
   for hero = 0, 1 do
     local at = "[" .. hero .. "]"
     if get("HP" .. at) < share * get("MaxHP" .. at) then return true end
-    if get("MagicKnown[0]") + get("MagicKnown[1]") ~= 0 and get("MP" .. at) < 0.5 * share * get("MaxMP" .. at) then
-      return true
-    end
+    if skilled and get("MP" .. at) < part * get("MaxMP" .. at) then return true end
   end
   return false
 end
@@ -75,11 +89,12 @@ end
 -- Goes to the nearest recovery point and stays until whole.
 local function rest(w, log)
   local goal, distance = nearest(w, w.rests)
-  if distance > 3 then
+  if distance > 0 then
     -- A longer way with little life: fruits and drops first, where there are some.
     for hero = 0, 1 do
       local at = "[" .. hero .. "]"
-      local function low() return get("HP" .. at) < thirst * get("MaxHP" .. at) end
+      local share = distance > 3 and thirst[get("Round")] or parched
+      local function low() return get("HP" .. at) < share * get("MaxHP" .. at) end
       while low() and (pack.drink(47, hero) or get("Round") > 1 and pack.drink(48, hero)) do end
     end
   end
@@ -118,7 +133,7 @@ local function new_day(state, log, opened)
   return true
 end
 
--- Walks to and fro beside a recovery point until enemies come. None come in rooms.
+-- Walks to and fro over a recovery point until enemies come. None come in rooms.
 local function train(w, log)
   local outdoors = {}
   for _, each in ipairs(w.rests) do
@@ -126,7 +141,8 @@ local function train(w, log)
   end
   local goal = nearest(w, outdoors)
   for _ = 1, 2000 do
-    if walk.pace(w, goal, log) then return end
+    local outcome = walk.pace(w, goal, log)
+    if outcome and outcome ~= "message" then return end
   end
 end
 
@@ -211,7 +227,7 @@ local function think(state, log)
       return
     end
     local before = #list
-    walk.to(w, nearest(w, list), log)
+    walk.to(w, nearest(w, list, armour[get("Round")]), log)
     if #closed(w) < before then log:news() end
     return
   end

@@ -74,6 +74,13 @@ function page.rows(logs)
   local lost = total(each(logs, function(log) return log.lost_ordinary end))
   local ordinary = total(each(logs, function(log) return log.ordinary end))
   row("game over in ordinary fights", ("%d of %d"):format(lost, ordinary), "under 1 in 200", lost * 200 < ordinary)
+  local by_round = {}
+  for round = 1, 3 do
+    local lost_there = total(each(logs, function(log) return log.lost_in[round] end))
+    local won_there = total(each(logs, function(log) return #log.rounds[round] end))
+    by_round[round] = ("%d of %d"):format(lost_there, lost_there + won_there)
+  end
+  row("of them in rounds 1, 2 and 3", table.concat(by_round, ", "), "")
   local unused = {}
   for n = 1, 10 do
     for _, which in ipairs { "waza", "magic" } do

@@ -8,7 +8,8 @@ Log.__index = Log
 -- The log of one journey.
 function report.new(seed)
   local log = setmetatable({ seed = seed, steps = 0, fights = {}, rounds = {}, bones = 0, fled = 0, dragons = {},
-    lost_ordinary = 0, lost_dragon = 0, ordinary = 0, items = { [47] = 0, [48] = 0, [49] = 0 }, waza = {}, magic = {},
+    lost_ordinary = 0, lost_in = { 0, 0, 0 }, lost_dragon = 0, ordinary = 0,
+    items = { [47] = 0, [48] = 0, [49] = 0 }, waza = {}, magic = {},
     since = 0, longest = { 0, 0, 0, 0 }, opened = {}, rests = 0, saves = 0, loads = 0,
     saved = {}, days = {}, level = { [0] = 1, 1 } }, Log)
   for round = 1, 4 do log.fights[round], log.rounds[round] = 0, {} end
@@ -75,6 +76,7 @@ function Log:lost(rounds)
     self.dragons[self.foe.round].lost_in = rounds
   else
     self.lost_ordinary = self.lost_ordinary + 1
+    self.lost_in[self.foe.round] = self.lost_in[self.foe.round] + 1
   end
 end
 

@@ -8,6 +8,9 @@ local tactics = { her_margin = 1.5, kept = 1 }
 local group_price = { 15, 15, 5, 2.5 }
 local way_price = 20 -- the same on the way to a dragon, when MP are saved
 
+-- The share of HP below which she heals before his last blow.
+local wounded = 0.6
+
 -- The most of all MP that goes into one blow at a dragon. Only the last one is worth any price.
 local dearest_blow = 0.122
 
@@ -63,8 +66,13 @@ local function potion(s, hero, need, kept)
   end
 end
 
--- The costliest item that a fight is worth: the great ones are for dragons.
-local function worth_item(s) return s.kind == rules.last and 49 or s.boss and 48 or s.big and 0 or 47 end
+-- The costliest item that a fight is worth: the great ones are for the last dragon.
+local function worth_item(s)
+  if s.kind == rules.last then return 49 end
+  if s.boss then return 48 end
+  if s.big then return 0 end
+  return s.round > 1 and 48 or 47
+end
 
 local function targets(s)
   local list = {}
@@ -236,9 +244,20 @@ end
 
 local function use(item, hero) return { act = "item", item = item, hero = hero } end
 
+-- The spell with which she heals when his next blow ends the fight anyway and hers does not: whoever lies down
+-- gains nothing from a victory, and the way to the next recovery point is long.
+local function heals_last(s)
+  if s.acted ~= 1 or s.fainted[0] or not ends(s, 0, strike(s, 0)) then return nil end
+  for hero = 0, 1 do
+    if s.hp[hero] < wounded * s.max_hp[hero] then return healing(s) end
+  end
+end
+
 local function her_turn(s)
   local attack = strike(s, 1)
   if ends(s, 1, attack) then return attack end
+  local last = heals_last(s)
+  if last then return { act = "heal", n = last } end
   if in_peril(s, 0) or in_peril(s, 1) then
     local spell = healing(s)
     if spell then return { act = "heal", n = spell } end

@@ -194,23 +194,17 @@ function world.field(w, name, cells)
   return field
 end
 
--- Two cells beside a recovery point, without events, to walk to and fro on.
+-- A recovery point and a cell beside it without events, to walk to and fro on.
 function world.beat(w, rest)
   w.beats = w.beats or {}
   if w.beats[rest] then return w.beats[rest] end
-  local field = world.field(w, rest)
-  local function plain(cell)
-    local code = w.codes[cell // 480][cell % 480]
-    return code ~= 36 and code ~= 135 and not book_codes[code]
-  end
-  for cell, distance in pairs(field.distance) do
-    if distance == 1 and plain(cell) then
-      for _, packed in ipairs(w.from[cell] or {}) do
-        local second = packed // 8
-        if field.distance[second] == 2 and plain(second) and second // 480 == cell // 480 then
-          w.beats[rest] = { cell, second }
-          return w.beats[rest]
-        end
+  for _, point in ipairs(w.goals[rest]) do
+    for _, packed in ipairs(w.from[point] or {}) do
+      local beside = packed // 8
+      local code = w.codes[beside // 480][beside % 480]
+      if beside // 480 == point // 480 and code ~= 36 and code ~= 135 and not book_codes[code] then
+        w.beats[rest] = { beside, point }
+        return w.beats[rest]
       end
     end
   end

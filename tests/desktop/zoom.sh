@@ -151,6 +151,25 @@ fill_screen() {
   done
 }
 
+# A window whose width is no whole number of pixels in this scale has its ground up to its last ones.
+see_edges() {
+  local strip
+  keys ctrl+plus
+  grows_to 250
+  menu $info_menu 2
+  opens 環境設定
+  picture_of 環境設定 "$shots/edges.png"
+  for strip in "East 1x0" "South 0x1"; do
+    [ "$(convert "$shots/edges.png" -gravity "${strip% *}" -crop "${strip#* }+0+0" +repage \
+      -format '%[fx:minima > 0.8]' info:)" = 1 ] || fail "the settings are not painted in the ${strip% *}"
+  done
+  xdotool key alt+F4
+  closes 環境設定
+  wait_for 5 "the focus of the field" has_focus Orvane
+  keys ctrl+0
+  grows_to 200
+}
+
 # The keys walk and a menu opens by a click, in whatever scale the screen allows.
 play_on_full_screen() {
   local before width height left top
@@ -222,6 +241,7 @@ look_around
 keys ctrl+plus
 grows_to 200
 look_around
+see_edges
 play_on_full_screen
 stop_game
 start_at 200

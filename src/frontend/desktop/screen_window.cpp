@@ -14,6 +14,7 @@
 #include "src/frontend/desktop/events.h"
 #include "src/frontend/desktop/keyboard.h"
 #include "src/frontend/desktop/view_factory.h"
+#include "src/frontend/desktop/window_ground.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -142,7 +143,10 @@ void ScreenWindow::Open(QWindow* backdrop) {
   // A window that has been made anew does not know the state of its widget.
   windowHandle()->setWindowState(state);
   Tie(backdrop);
-  if (!covers_) PutInPlace();
+  if (!covers_) {
+    LayGround(*this);
+    PutInPlace();
+  }
   show();
 }
 

@@ -40,7 +40,7 @@ local rematch, even = 7, 0.35
 local thirst, parched = { 0.75, 0.7, 0.6, 0.6 }, 0.35
 
 -- The odds at which the dragon of a round is tried. Nobody knows yet that a fourth follows the third.
-local courage = { 0.2, 0.5, 0.48, 0.5 }
+local courage = { 0.2, 0.38, 0.48, 0.5 }
 
 local function level() return math.min(get("Level[0]"), get("Level[1]")) end
 

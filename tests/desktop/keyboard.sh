@@ -36,15 +36,15 @@ load_by_keys() {
 }
 
 # Off the way that it came.
-walk_down() {
+walk_up() {
   local before
   # shellcheck disable=SC2086
   before=$(sum Orvane $field)
-  xdotool keydown Down
+  xdotool keydown Up
   # shellcheck disable=SC2086
-  wait_for 5 "a step down" changes "$before" Orvane $field
+  wait_for 5 "a step up" changes "$before" Orvane $field
   sleep 0.5
-  xdotool keyup Down
+  xdotool keyup Up
   wait_for 5 "the party's halt" is_still
 }
 
@@ -188,7 +188,7 @@ ORVANE_TICKS=$ticks start_game --scale 1 --seed 5 --folder "$folder"
 see_title
 load_by_keys
 walk
-walk_down
+walk_up
 wear
 use_things
 look_up

@@ -5,13 +5,9 @@
 #include <memory>
 
 #include "src/game/program.h"
+#include "src/platform/quiet_services.h"
 
 namespace orvane::bench {
-
-class SilentSound : public SoundDevice {
- public:
-  std::string Send(const std::string&) override { return ""; }
-};
 
 // A small generator with a fixed seed, so that every run fights the same battles.
 class FixedLuck : public Chance {
@@ -29,11 +25,6 @@ class OkBoxes : public BoxKeeper {
   void ShowError(const Box&) override {}
 };
 
-class NoSleep : public Sleeper {
- public:
-  void Sleep(int) override {}
-};
-
 // A game that has left its opening behind and stands on the field.
 class HeadlessGame {
  public:
@@ -48,7 +39,7 @@ class HeadlessGame {
   }
 
  private:
-  SilentSound sound_;
+  NoSound sound_;
   FixedLuck luck_;
   OkBoxes boxes_;
   NoSleep sleep_;

@@ -3,8 +3,8 @@
 #include "src/battle/battle_screen.h"
 #include "src/core/game.h"
 #include "src/ending/ending.h"
+#include "src/platform/quiet_services.h"
 #include "src/platform/text.h"
-#include "tools/contact/quiet.h"
 #include "tools/contact/text.h"
 
 namespace orvane::contact {
@@ -46,7 +46,7 @@ Surface Whole(const PictureBox& box) {
 struct Windows::Screens {
   Screens() : game(".", quiet.All()), battle(game), ending(game) {}
 
-  Quiet quiet;
+  QuietServices quiet;
   Game game;
   BattleScreen battle;
   EndingScreen ending;

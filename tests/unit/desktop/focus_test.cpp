@@ -13,7 +13,7 @@
 #include "src/frontend/desktop/keyboard.h"
 #include "src/frontend/desktop/windows.h"
 #include "src/game/program.h"
-#include "tests/unit/desktop/quiet_services.h"
+#include "tests/unit/desktop/test_services.h"
 
 namespace orvane {
 namespace {
@@ -64,7 +64,7 @@ class FocusTest : public testing::Test {
 
   BattleScreen& Battle() { return static_cast<BattleScreen&>(*program_.TheStage().Find("Battle")); }
 
-  QuietServices quiet_;
+  TestServices quiet_;
   Program program_;
   ToProgram events_;
   Windows windows_;

@@ -7,7 +7,7 @@
 
 #include "src/frontend/desktop/windows.h"
 #include "src/game/program.h"
-#include "tests/unit/desktop/quiet_services.h"
+#include "tests/unit/desktop/test_services.h"
 
 namespace orvane {
 namespace {
@@ -43,7 +43,7 @@ class ListTest : public testing::Test {
   int FirstSeen() const { return RowAt(list_->viewport()->rect().topLeft()); }
   int LastSeen() const { return RowAt(list_->viewport()->rect().bottomLeft()); }
 
-  QuietServices quiet_;
+  TestServices quiet_;
   Program program_;
   ToProgram events_;
   Windows windows_;

@@ -10,7 +10,7 @@
 #include "src/frontend/desktop/text_fit.h"
 #include "src/platform/screen.h"
 #include "src/platform/stage.h"
-#include "tests/unit/desktop/quiet_services.h"
+#include "tests/unit/desktop/test_services.h"
 
 namespace orvane {
 namespace {
@@ -36,7 +36,7 @@ class ListViewTest : public testing::Test {
     return image;
   }
 
-  QuietServices quiet_;
+  TestServices quiet_;
   Services services_ = quiet_.All();
   Stage stage_{services_};
   Listing screen_{stage_};

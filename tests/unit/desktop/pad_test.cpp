@@ -11,7 +11,7 @@
 #include "src/frontend/desktop/events.h"
 #include "src/frontend/desktop/windows.h"
 #include "src/game/program.h"
-#include "tests/unit/desktop/quiet_services.h"
+#include "tests/unit/desktop/test_services.h"
 
 namespace orvane {
 namespace {
@@ -228,7 +228,7 @@ class PadInGame : public testing::Test {
     }
   }
 
-  QuietServices quiet_;
+  TestServices quiet_;
   Program program_;
   ToProgram events_;
   Windows windows_;

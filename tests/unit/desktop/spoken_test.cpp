@@ -20,7 +20,7 @@
 #include "src/frontend/desktop/spoken_names.h"
 #include "src/frontend/desktop/windows.h"
 #include "src/game/program.h"
-#include "tests/unit/desktop/quiet_services.h"
+#include "tests/unit/desktop/test_services.h"
 
 namespace orvane {
 namespace {
@@ -49,7 +49,7 @@ class SpokenTest : public testing::Test {
     windows_.Follow();
   }
 
-  QuietServices quiet_;
+  TestServices quiet_;
   Program program_;
   ToProgram events_;
   Windows windows_;

@@ -14,7 +14,7 @@
 #include "src/platform/screen.h"
 #include "src/platform/stage.h"
 #include "src/platform/timer.h"
-#include "tests/unit/desktop/quiet_services.h"
+#include "tests/unit/desktop/test_services.h"
 
 namespace orvane {
 namespace {
@@ -65,7 +65,7 @@ class TickServerTest : public testing::Test {
     return clock.elapsed();
   }
 
-  QuietServices quiet_;
+  TestServices quiet_;
   Services services_ = quiet_.All();
   Stage stage_{services_};
   Clockwork screen_{stage_};

@@ -2,48 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "src/core/game.h"
+#include "src/platform/quiet_services.h"
+#include "tests/unit/noted_chance.h"
 
 namespace orvane {
 namespace {
 
-// Notes in which order the generator is seeded (s) and drawn from (d).
-class NotedChance : public Chance {
- public:
-  float Draw() override {
-    Calls += 'd';
-    return 0;
-  }
-  void Reseed() override { Calls += 's'; }
-
-  std::string Calls;
-};
-
-class Silence : public SoundDevice {
- public:
-  std::string Send(const std::string&) override { return {}; }
-};
-
-class NoBoxes : public BoxKeeper {
- public:
-  BoxAnswer Show(const Box&) override { return BoxAnswer::Ok; }
-  void ShowError(const Box&) override {}
-};
-
-class NoSleep : public Sleeper {
- public:
-  void Sleep(int) override {}
-};
-
 class EncounterTest : public testing::Test {
  protected:
-  Silence sound_;
+  QuietServices quiet_;
   NotedChance chance_;
-  NoBoxes boxes_;
-  NoSleep time_;
-  Game game_{"/nonexistent", Services{sound_, chance_, boxes_, time_}};
+  Game game_{"/nonexistent", Services{quiet_.Sound, chance_, quiet_.Boxes, quiet_.Time}};
 };
 
 TEST_F(EncounterTest, SeedsTheGeneratorBeforeEachStepsOneDraw) {

@@ -8,35 +8,13 @@
 #include "src/field/char_act.h"
 #include "src/field/walkable.h"
 #include "src/platform/error.h"
+#include "src/platform/quiet_services.h"
 #include "tools/maps/explore.h"
 #include "tools/maps/step.h"
 #include "tools/maps/tile_codes.h"
 
 namespace orvane::maps {
 namespace {
-
-class Silence : public SoundDevice {
- public:
-  std::string Send(const std::string&) override { return {}; }
-};
-
-// Never a chance encounter.
-class NoLuck : public Chance {
- public:
-  float Draw() override { return 0; }
-  void Reseed() override {}
-};
-
-class NoBoxes : public BoxKeeper {
- public:
-  BoxAnswer Show(const Box&) override { return BoxAnswer::Ok; }
-  void ShowError(const Box&) override {}
-};
-
-class NoSleep : public Sleeper {
- public:
-  void Sleep(int) override {}
-};
 
 // A game folder that holds the maps of a world, for as long as the object lives.
 class MapFolder {
@@ -66,7 +44,7 @@ class MapFolder {
 class GameWalker {
  public:
   GameWalker(const World& world, const std::filesystem::path& folder)
-      : world_(world), game_(folder, Services{sound_, luck_, boxes_, time_}) {
+      : world_(world), game_(folder, quiet_.All()) {
     game_.links.ShowBattle = [this] { battle_ = true; };
   }
 
@@ -141,10 +119,7 @@ class GameWalker {
   }
 
   const World& world_;
-  Silence sound_;
-  NoLuck luck_;
-  NoBoxes boxes_;
-  NoSleep time_;
+  QuietServices quiet_;  // never a chance encounter
   Game game_;
   bool battle_ = false;
   std::optional<Place> tiles_of_;

@@ -1,41 +1,28 @@
-// Services for a program in a test: no sound, no boxes, the same chance always.
+// What a program and its widgets need in a test.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <string>
 
 #include "src/frontend/desktop/events.h"
 #include "src/game/program.h"
-#include "src/platform/services.h"
+#include "src/platform/quiet_services.h"
 
 namespace orvane {
 
-class NoSound : public SoundDevice {
+// An error of the game is one of the test.
+class NoErrors : public NoBoxes {
  public:
-  std::string Send(const std::string& /*command*/) override { return {}; }
-};
-class NoChance : public Chance {
- public:
-  float Draw() override { return 0; }
-  void Reseed() override {}
-};
-class NoBoxes : public BoxKeeper {
- public:
-  BoxAnswer Show(const Box& /*box*/) override { return BoxAnswer::Cancel; }
   void ShowError(const Box& box) override { ADD_FAILURE() << box.Text; }
 };
-class NoSleep : public Sleeper {
- public:
-  void Sleep(int /*milliseconds*/) override {}
-};
-struct QuietServices {
+
+struct TestServices {
   Services All() { return {Sound, Luck, Boxes, Time}; }
 
   NoSound Sound;
   NoChance Luck;
-  NoBoxes Boxes;
+  NoErrors Boxes;
   NoSleep Time;
 };
 

@@ -1,32 +1,36 @@
-// Services for screens that are only looked at: no sound, no boxes, the same chance always.
+// Services for a program that nobody plays, in tools and tests: no sound, no waiting, the same
+// chance always, and boxes that are cancelled at once.
 #pragma once
 
 #include <string>
 
 #include "src/platform/services.h"
 
-namespace orvane::contact {
+namespace orvane {
 
 class NoSound : public SoundDevice {
  public:
   std::string Send(const std::string& /*command*/) override { return {}; }
 };
+
 class NoChance : public Chance {
  public:
   float Draw() override { return 0; }
   void Reseed() override {}
 };
+
 class NoBoxes : public BoxKeeper {
  public:
   BoxAnswer Show(const Box& /*box*/) override { return BoxAnswer::Cancel; }
   void ShowError(const Box& /*box*/) override {}
 };
+
 class NoSleep : public Sleeper {
  public:
   void Sleep(int /*milliseconds*/) override {}
 };
 
-struct Quiet {
+struct QuietServices {
   Services All() { return {Sound, Luck, Boxes, Time}; }
 
   NoSound Sound;
@@ -35,4 +39,4 @@ struct Quiet {
   NoSleep Time;
 };
 
-}  // namespace orvane::contact
+}  // namespace orvane

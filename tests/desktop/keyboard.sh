@@ -35,19 +35,6 @@ load_by_keys() {
   wait_for 10 "the field" menu_is_on $item_menu
 }
 
-# Farther than the steps to and fro may have left the party from where it stood.
-walk_right() {
-  local before
-  # shellcheck disable=SC2086
-  before=$(sum Orvane $field)
-  xdotool keydown Right
-  # shellcheck disable=SC2086
-  wait_for 5 "a step to the right" changes "$before" Orvane $field
-  sleep 0.5
-  xdotool keyup Right
-  wait_for 5 "the party's halt" is_still
-}
-
 # His things go to him, by the list and the button beside it; hers to her on the other tab.
 wear() {
   choose 2 1 装備
@@ -188,7 +175,8 @@ ORVANE_TICKS=$ticks start_game --scale 1 --seed 5 --folder "$folder"
 see_title
 load_by_keys
 walk
-walk_right
+# Farther than the steps to and fro may have left the party from where it stood.
+hold Right 0.5
 wear
 use_things
 look_up

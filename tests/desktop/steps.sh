@@ -67,19 +67,23 @@ is_still() {
   ! changes "$before" Orvane $field
 }
 
+# hold KEY SECONDS: walks that way until the key is released, and has come to rest.
+hold() {
+  local before
+  # shellcheck disable=SC2086
+  before=$(sum Orvane $field)
+  xdotool keydown "$1"
+  # shellcheck disable=SC2086
+  wait_for 5 "a step by the $1 key" changes "$before" Orvane $field
+  sleep "$2"
+  xdotool keyup "$1"
+  wait_for 3 "the party's halt" is_still
+}
+
 walk() {
-  local before key
   wait_for 5 "a field at rest" is_still
-  for key in Left Right; do
-    # shellcheck disable=SC2086
-    before=$(sum Orvane $field)
-    xdotool keydown $key
-    # shellcheck disable=SC2086
-    wait_for 5 "a step by the $key key" changes "$before" Orvane $field
-    sleep 0.3
-    xdotool keyup $key
-    wait_for 3 "the party's halt" is_still
-  done
+  hold Left 0.3
+  hold Right 0.3
   shot 5-walk
 }
 

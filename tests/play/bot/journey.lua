@@ -90,10 +90,10 @@ end
 local function rest(w, log)
   local goal, distance = nearest(w, w.rests)
   if distance > 0 then
-    -- A longer way with little life: fruits and drops first, where there are some.
+    -- With little life fruits and drops first, where there are some; on a longer way sooner.
+    local share = distance > 3 and thirst[get("Round")] or parched
     for hero = 0, 1 do
       local at = "[" .. hero .. "]"
-      local share = distance > 3 and thirst[get("Round")] or parched
       local function low() return get("HP" .. at) < share * get("MaxHP" .. at) end
       while low() and (pack.drink(47, hero) or get("Round") > 1 and pack.drink(48, hero)) do end
     end

@@ -104,6 +104,15 @@ return function(Model)
     self.d:side()
   end
 
+  -- The last frame of a technique and of a spell that strikes.
+  function Model:end_attack()
+    self:hit_enemies()
+    self:hero_action_end()
+    self.d:side()
+    self.d:heroes()
+    self:victory()
+  end
+
   function Model:run_waza(frame)
     if frame == 2 then self:pay(0, tables.wazas) end
     if frame <= 4 then self.d:step_out(frame) end
@@ -118,13 +127,7 @@ return function(Model)
       self:show("Picture9", false)
       self:hide_enemy_numbers(self:list "List2", 5)
     end
-    if frame == 50 then
-      self:hit_enemies()
-      self:hero_action_end()
-      self.d:side()
-      self.d:heroes()
-      self:victory()
-    end
+    if frame == 50 then self:end_attack() end
   end
 
   function Model:run_magic(frame)
@@ -143,13 +146,7 @@ return function(Model)
       for k = 1, self.v.EnemyCount do self:hide_enemy_numbers(k) end
       self:hide_enemy_numbers(5)
     end
-    if frame == 50 then
-      self:hit_enemies()
-      self:hero_action_end()
-      self.d:side()
-      self.d:heroes()
-      self:victory()
-    end
+    if frame == 50 then self:end_attack() end
   end
 
   function Model:run_heal(frame)

@@ -4,10 +4,10 @@
 #include <memory>
 #include <string>
 
-#include "src/battle/battle_setup.h"
-#include "src/battle/command_input.h"
-#include "src/battle/turn_engine.h"
-#include "src/battle/victory.h"
+#include "src/battle/flow/battle_setup.h"
+#include "src/battle/flow/command_input.h"
+#include "src/battle/flow/turn_engine.h"
+#include "src/battle/flow/victory.h"
 #include "src/core/sheets.h"
 
 namespace orvane {

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "src/platform/array.h"
-#include "src/platform/integer.h"
-#include "src/platform/text.h"
+#include "src/base/array.h"
+#include "src/base/integer.h"
+#include "src/base/text.h"
 
 namespace orvane {
 

@@ -7,8 +7,8 @@
 #include "src/core/state.h"
 #include "src/platform/game_folder.h"
 #include "src/platform/services.h"
-#include "src/platform/sound.h"
-#include "src/platform/stage.h"
+#include "src/platform/sound_channels.h"
+#include "src/ui/stage.h"
 
 namespace orvane {
 

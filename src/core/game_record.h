@@ -1,9 +1,9 @@
 // All that a save file holds: the state of a game in progress.
 #pragma once
 
-#include "src/platform/array.h"
-#include "src/platform/integer.h"
-#include "src/platform/text.h"
+#include "src/base/array.h"
+#include "src/base/integer.h"
+#include "src/base/text.h"
 
 namespace orvane {
 

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "src/platform/cp932.h"
-#include "src/platform/error.h"
+#include "src/base/cp932.h"
+#include "src/base/error.h"
 
 namespace orvane {
 namespace {

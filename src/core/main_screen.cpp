@@ -4,7 +4,7 @@
 #include "src/core/main_activation.h"
 #include "src/core/quit.h"
 #include "src/core/sheets.h"
-#include "src/core/startup.h"
+#include "src/core/start_up.h"
 
 namespace orvane {
 namespace {

@@ -1,9 +1,9 @@
 // The one window that is always there: the title, the field and the menu bar.
 #pragma once
 
-#include "src/platform/controls.h"
-#include "src/platform/screen.h"
-#include "src/platform/stage.h"
+#include "src/ui/controls.h"
+#include "src/ui/screen.h"
+#include "src/ui/stage.h"
 
 namespace orvane {
 

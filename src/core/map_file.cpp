@@ -3,7 +3,7 @@
 #include <charconv>
 #include <string_view>
 
-#include "src/platform/error.h"
+#include "src/base/error.h"
 
 namespace orvane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "src/base/cp932.h"
 #include "src/core/state_table.h"
-#include "src/platform/cp932.h"
 
 namespace orvane {
 namespace {

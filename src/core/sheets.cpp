@@ -3,8 +3,8 @@
 #include <map>
 #include <string>
 
+#include "src/base/error.h"
 #include "src/core/sheet_data.h"
-#include "src/platform/error.h"
 
 namespace orvane {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "src/platform/surface.h"
+#include "src/ui/surface.h"
 
 namespace orvane {
 

@@ -3,7 +3,7 @@
 #include "src/core/game.h"
 #include "src/core/map_file.h"
 #include "src/core/music.h"
-#include "src/field/char_act.h"
+#include "src/field/party_walk.h"
 
 namespace orvane {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "src/core/game.h"
 #include "src/field/field_frame.h"
-#include "src/field/maps.h"
+#include "src/field/map_travel.h"
 #include "src/field/pickups.h"
 
 namespace orvane {

@@ -1,6 +1,6 @@
 #include "src/game/parts.h"
 
-#include "src/battle/w_m_name.h"
+#include "src/battle/rules/battle_tables.h"
 #include "src/core/main_activation.h"
 #include "src/core/quit.h"
 #include "src/field/field_frame.h"

@@ -5,15 +5,15 @@
 #include "src/core/game.h"
 #include "src/ending/ending.h"
 #include "src/game/program.h"
-#include "src/screens/chardata.h"
-#include "src/screens/custom.h"
+#include "src/screens/equipment.h"
+#include "src/screens/heroes.h"
 #include "src/screens/input_name.h"
 #include "src/screens/item.h"
 #include "src/screens/item_use.h"
 #include "src/screens/load.h"
 #include "src/screens/save.h"
+#include "src/screens/settings.h"
 #include "src/screens/version.h"
-#include "src/screens/wepon.h"
 
 namespace orvane {
 

@@ -2,7 +2,7 @@
 
 #include "src/field/direction_keys.h"
 #include "src/game/parts.h"
-#include "src/platform/reach.h"
+#include "src/ui/reach.h"
 
 namespace orvane {
 namespace {

@@ -7,11 +7,11 @@
 #include <optional>
 #include <string>
 
+#include "src/base/error.h"
 #include "src/core/state.h"
-#include "src/platform/controls.h"
-#include "src/platform/error.h"
 #include "src/platform/services.h"
-#include "src/platform/stage.h"
+#include "src/ui/controls.h"
+#include "src/ui/stage.h"
 
 namespace orvane {
 

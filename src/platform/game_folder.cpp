@@ -5,8 +5,8 @@
 #include <iterator>
 #include <system_error>
 
+#include "src/base/error.h"
 #include "src/platform/durable_file.h"
-#include "src/platform/error.h"
 
 namespace orvane {
 namespace {

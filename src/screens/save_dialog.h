@@ -5,8 +5,8 @@
 #include <string>
 
 #include "src/core/game.h"
-#include "src/platform/controls.h"
-#include "src/platform/screen.h"
+#include "src/ui/controls.h"
+#include "src/ui/screen.h"
 
 namespace orvane {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "src/core/game.h"
-#include "src/platform/controls.h"
-#include "src/platform/screen.h"
+#include "src/ui/controls.h"
+#include "src/ui/screen.h"
 
 namespace orvane {
 

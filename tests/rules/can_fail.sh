@@ -23,7 +23,8 @@ passes() {
 
 tree() {
   rm -rf "$trial/src"
-  for floor in platform core field battle screens ending game; do
+  for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
+    frontend/desktop; do
     mkdir -p "$trial/src/$floor"
     printf '#include <string>\n' >"$trial/src/$floor/a.h"
     printf '#include "src/%s/a.h"\n' "$floor" >"$trial/src/$floor/a.cpp"
@@ -43,6 +44,18 @@ refuses "a toolkit's header" "$here/floors.sh" "$trial"
 tree
 echo '#  include <unistd.h>' >>"$trial/src/platform/a.h"
 refuses "an operating-system header" "$here/floors.sh" "$trial"
+tree
+echo '#include <QString>' >>"$trial/src/frontend/shared/a.h"
+refuses "a toolkit's header in what front ends share" "$here/floors.sh" "$trial"
+tree
+echo '#include <SDL.h>' >>"$trial/src/sound/a.cpp"
+refuses "a library's header outside its folder" "$here/floors.sh" "$trial"
+tree
+echo '#include "src/frontend/script/a.h"' >>"$trial/src/frontend/desktop/a.cpp"
+refuses "an include from one front end to another" "$here/floors.sh" "$trial"
+tree
+echo '#include <QWidget>' >>"$trial/src/frontend/desktop/a.cpp"
+passes "a toolkit's header where it belongs" "$here/floors.sh" "$trial"
 
 library() {
   printf '%s\n' "$1" >"$trial/a.cpp"

@@ -1,6 +1,7 @@
 #!/bin/bash
-# The floors of the program: an include runs down or sideways within a folder, never up, and no header of a
-# toolkit or of the operating system stands outside the front ends.
+# The floors of the program: an include runs down or sideways within a floor, never up, and from no front end
+# to another. Below the front ends, and in what they share, no header of a toolkit or of the operating system
+# stands outside the few files that are there for it.
 #   floors.sh SOURCE_FOLDER
 set -u
 cd "$1/src" || exit 2
@@ -13,41 +14,64 @@ fault() {
 
 # What each floor may include of ours, itself aside.
 may_include() {
+  local plain="base platform ui core"
   case "$1" in
-    platform) echo "" ;;
-    core) echo "platform" ;;
-    field | battle | screens | ending) echo "platform core" ;;
-    game) echo "platform core field battle screens ending" ;;
+    base) echo "" ;;
+    platform) echo "base" ;;
+    ui) echo "base platform" ;;
+    core) echo "base platform ui" ;;
+    field | battle | screens | ending) echo "$plain" ;;
+    game) echo "$plain field battle screens ending" ;;
+    sound) echo "base platform" ;;
+    frontend/shared) echo "$plain game" ;;
+    frontend/script) echo "$plain field battle screens ending game frontend/shared" ;;
+    frontend/desktop) echo "$plain field battle screens ending game sound frontend/shared" ;;
   esac
 }
 
-# The standard library's headers, and for one file the calls that write a file durably.
-standard=" algorithm array bit cctype cerrno charconv chrono cmath concepts cstddef cstdint cstdio cstdlib \
-cstring deque exception filesystem fstream functional initializer_list iterator limits map memory numeric \
-optional random set span sstream stdexcept string string_view system_error tuple type_traits \
-unordered_map unordered_set utility variant vector ios iosfwd istream ostream iomanip ranges compare "
-durable="platform/durable_file.cpp"
+# Headers of systems and libraries that single files or folders are there for.
+may_name() {
+  case "$1" in
+    platform/durable_file.cpp) echo "fcntl.h unistd.h" ;;
+    sound/sdl/*) echo "SDL.h dlfcn.h" ;;
+    sound/fluid/*) echo "fluidsynth.h" ;;
+  esac
+}
 
-for floor in platform core field battle screens ending game; do
+standard=" algorithm array atomic bit cctype cerrno charconv chrono cmath concepts condition_variable cstddef cstdint \
+cstdio cstdlib cstring deque exception filesystem fstream functional future initializer_list iterator limits list map \
+memory mutex numeric optional random set span sstream stdexcept string string_view system_error thread tuple \
+type_traits unordered_map unordered_set utility variant vector ios iosfwd istream ostream iomanip ranges compare "
+
+# The floor that a path of ours belongs to: its folder, and for front ends the one below it.
+floor_of() {
+  case "$1" in
+    frontend/*) cut -d/ -f1-2 <<<"$1" ;;
+    *) echo "${1%%/*}" ;;
+  esac
+}
+
+for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
+  frontend/desktop; do
+  [ -d "$floor" ] || continue
   allowed=" $floor $(may_include "$floor") "
   while IFS=: read -r file line include; do
     case "$include" in
       *\"src/*)
         target=${include#*\"src/}
-        target=${target%%/*}
+        target=$(floor_of "${target%\"*}")
         [[ $allowed == *" $target "* ]] || fault "$file:$line: $floor must not include $target"
         ;;
       *\<*)
+        case "$floor" in frontend/desktop | frontend/script) continue ;; esac
         header=${include#*<}
         header=${header%%>*}
-        if [[ $standard != *" $header "* ]]; then
-          [[ $file == "$durable" && " fcntl.h unistd.h " == *" $header "* ]] ||
-            fault "$file:$line: <$header> has no place in $floor"
-        fi
+        [[ $standard == *" $header "* || " $(may_name "$file") " == *" $header "* ]] ||
+          fault "$file:$line: <$header> has no place in $floor"
         ;;
       *) fault "$file:$line: an include that is neither ours nor the standard library's" ;;
     esac
-  done < <(grep -nE '^[[:space:]]*#[[:space:]]*include' "$floor"/*.h "$floor"/*.cpp)
+  done < <(grep -rnE --include='*.h' --include='*.cpp' '^[[:space:]]*#[[:space:]]*include' "$floor")
 done
 [ "$faults" -eq 0 ] && echo "floors: no include runs up"
 [ "$faults" -eq 0 ]

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <map>
 
-#include "src/platform/sound.h"
+#include "src/platform/sound_channels.h"
 #include "tests/sound/finding.h"
 #include "tests/sound/minute.h"
 

@@ -4,8 +4,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "src/frontend/desktop/sound/song.h"
-#include "src/platform/sound.h"
+#include "src/platform/sound_channels.h"
+#include "src/sound/song.h"
 #include "tests/sound/finding.h"
 #include "tests/sound/listening.h"
 #include "tests/sound/minute.h"

@@ -6,10 +6,10 @@
 #include <iterator>
 #include <string>
 
-#include "src/frontend/desktop/sound/song.h"
-#include "src/frontend/desktop/sound/sound_engine.h"
-#include "src/frontend/desktop/sound/sound_font.h"
-#include "src/platform/sound.h"
+#include "src/platform/sound_channels.h"
+#include "src/sound/song.h"
+#include "src/sound/sound_engine.h"
+#include "src/sound/sound_font.h"
 #include "tests/sound/listening.h"
 
 namespace orvane {

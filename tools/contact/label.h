@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "src/platform/surface.h"
+#include "src/ui/surface.h"
 
 namespace orvane::contact {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "src/platform/surface.h"
+#include "src/ui/surface.h"
 
 namespace orvane::contact {
 

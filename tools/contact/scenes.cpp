@@ -1,6 +1,6 @@
 #include "tools/contact/scenes.h"
 
-#include "src/battle/formation.h"
+#include "src/battle/rules/formation.h"
 
 namespace orvane::contact {
 namespace {

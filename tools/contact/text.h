@@ -1,8 +1,8 @@
 // The game's labels, written as its windows write them.
 #pragma once
 
-#include "src/platform/controls.h"
-#include "src/platform/surface.h"
+#include "src/ui/controls.h"
+#include "src/ui/surface.h"
 
 namespace orvane::contact {
 

@@ -1,10 +1,10 @@
 #include "tools/contact/windows.h"
 
+#include "src/base/text.h"
 #include "src/battle/battle_screen.h"
 #include "src/core/game.h"
 #include "src/ending/ending.h"
 #include "src/platform/quiet_services.h"
-#include "src/platform/text.h"
 #include "tools/contact/text.h"
 
 namespace orvane::contact {

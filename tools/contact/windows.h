@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "src/platform/surface.h"
+#include "src/ui/surface.h"
 #include "tools/contact/scenes.h"
 
 namespace orvane::contact {

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "src/platform/cp932.h"
+#include "src/base/cp932.h"
 
 namespace orvane::items {
 

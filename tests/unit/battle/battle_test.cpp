@@ -2,16 +2,16 @@
 
 #include <string>
 
-#include "src/battle/battle_action.h"
 #include "src/battle/battle_screen.h"
-#include "src/battle/battle_setup.h"
-#include "src/battle/enemy_ata.h"
-#include "src/battle/skill_runs.h"
-#include "src/battle/victory.h"
-#include "src/battle/w_m_name.h"
+#include "src/battle/flow/battle_setup.h"
+#include "src/battle/flow/enemy_actions.h"
+#include "src/battle/flow/skill_runs.h"
+#include "src/battle/flow/victory.h"
+#include "src/battle/rules/battle_tables.h"
+#include "src/battle/rules/hits.h"
 #include "src/core/game.h"
 #include "src/platform/quiet_services.h"
-#include "src/screens/chardata.h"
+#include "src/screens/heroes.h"
 #include "tests/unit/noted_chance.h"
 
 namespace orvane {

@@ -1,8 +1,8 @@
-#include "src/battle/formulas.h"
+#include "src/battle/rules/formulas.h"
 
 #include <gtest/gtest.h>
 
-#include "src/battle/formation.h"
+#include "src/battle/rules/formation.h"
 #include "src/core/growth.h"
 
 namespace orvane {

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "src/platform/error.h"
+#include "src/base/error.h"
 
 namespace orvane {
 namespace {

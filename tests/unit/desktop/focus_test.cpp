@@ -1,5 +1,5 @@
 // Where the keyboard is on every screen, and where it goes.
-#include "src/frontend/desktop/focus.h"
+#include "src/frontend/desktop/input/focus.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@
 #include <QTabBar>
 
 #include "src/battle/battle_screen.h"
-#include "src/frontend/desktop/keyboard.h"
-#include "src/frontend/desktop/windows.h"
+#include "src/frontend/desktop/input/keyboard.h"
+#include "src/frontend/desktop/windows/windows.h"
 #include "src/game/program.h"
 #include "tests/unit/desktop/test_services.h"
 

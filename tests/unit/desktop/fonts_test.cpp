@@ -1,5 +1,5 @@
 // Which faces stand in for those that the game asks for.
-#include "src/frontend/desktop/fonts.h"
+#include "src/frontend/desktop/paint/fonts.h"
 
 #include <gtest/gtest.h>
 

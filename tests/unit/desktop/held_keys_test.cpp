@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/held_keys.h"
+#include "src/frontend/desktop/input/held_keys.h"
 
 #include <gtest/gtest.h>
 

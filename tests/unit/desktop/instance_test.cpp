@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/instance.h"
+#include "src/frontend/desktop/app/instance.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -15,7 +15,7 @@
 #include <optional>
 #include <string>
 
-#include "src/frontend/desktop/signals.h"
+#include "src/frontend/desktop/app/signals.h"
 
 namespace orvane {
 namespace {

@@ -5,7 +5,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 
-#include "src/frontend/desktop/windows.h"
+#include "src/frontend/desktop/windows/windows.h"
 #include "src/game/program.h"
 #include "tests/unit/desktop/test_services.h"
 

@@ -1,5 +1,5 @@
 // The rows of a list, whatever the face.
-#include "src/frontend/desktop/list_view.h"
+#include "src/frontend/desktop/views/list_view.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <QImage>
 #include <QListWidget>
 
-#include "src/frontend/desktop/text_fit.h"
-#include "src/platform/screen.h"
-#include "src/platform/stage.h"
+#include "src/frontend/desktop/paint/text_fit.h"
+#include "src/ui/screen.h"
+#include "src/ui/stage.h"
 #include "tests/unit/desktop/test_services.h"
 
 namespace orvane {

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "src/frontend/desktop/spoken.h"
+#include "src/frontend/desktop/access/spoken.h"
 
 int main(int count, char** words) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/nearest.h"
+#include "src/frontend/desktop/input/nearest.h"
 
 #include <gtest/gtest.h>
 

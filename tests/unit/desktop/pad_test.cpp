@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/pad.h"
+#include "src/frontend/desktop/input/pad.h"
 
 #include <SDL.h>
 #include <gtest/gtest.h>
@@ -8,8 +8,8 @@
 #include <QPushButton>
 #include <QSlider>
 
-#include "src/frontend/desktop/events.h"
-#include "src/frontend/desktop/windows.h"
+#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/desktop/windows/windows.h"
 #include "src/game/program.h"
 #include "tests/unit/desktop/test_services.h"
 

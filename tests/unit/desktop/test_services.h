@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "src/frontend/desktop/events.h"
+#include "src/frontend/desktop/windows/events.h"
 #include "src/game/program.h"
 #include "src/platform/quiet_services.h"
 

@@ -1,5 +1,5 @@
 // Texts in boxes that are too small for the face at hand.
-#include "src/frontend/desktop/text_fit.h"
+#include "src/frontend/desktop/paint/text_fit.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The ticks in real time, hurried, and in their record.
-#include "src/frontend/desktop/tick_server.h"
+#include "src/frontend/desktop/app/tick_server.h"
 
 #include <gtest/gtest.h>
 
@@ -10,10 +10,10 @@
 #include <functional>
 #include <string>
 
-#include "src/frontend/desktop/events.h"
-#include "src/platform/screen.h"
-#include "src/platform/stage.h"
-#include "src/platform/timer.h"
+#include "src/frontend/desktop/windows/events.h"
+#include "src/ui/screen.h"
+#include "src/ui/stage.h"
+#include "src/ui/timer.h"
 #include "tests/unit/desktop/test_services.h"
 
 namespace orvane {

@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/window_icon.h"
+#include "src/frontend/desktop/windows/window_icon.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/zoom.h"
+#include "src/frontend/desktop/windows/zoom.h"
 
 #include <gtest/gtest.h>
 

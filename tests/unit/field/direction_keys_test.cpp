@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "src/core/shared_state.h"
-#include "src/field/walkable.h"
+#include "src/field/tiles.h"
 
 namespace orvane {
 namespace {

@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <random>
 
+#include "src/base/error.h"
 #include "src/core/game.h"
-#include "src/field/char_act.h"
-#include "src/field/walkable.h"
-#include "src/platform/error.h"
+#include "src/field/party_walk.h"
+#include "src/field/tiles.h"
 #include "src/platform/quiet_services.h"
 #include "tools/maps/explore.h"
 #include "tools/maps/step.h"

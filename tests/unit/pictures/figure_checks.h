@@ -2,7 +2,7 @@
 // sentences, none when all is well.
 #pragma once
 
-#include "src/platform/surface.h"
+#include "src/ui/surface.h"
 #include "tests/unit/pictures/sprite_checks.h"
 
 namespace orvane::pictures {

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "src/field/walkable.h"
+#include "src/field/tiles.h"
 
 namespace orvane::pictures {
 namespace {

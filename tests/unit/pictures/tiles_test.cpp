@@ -1,4 +1,6 @@
 // The tile sheet tells what can be walked on, and the hero stands out from it.
+#include "src/field/tiles.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -6,7 +8,6 @@
 #include <set>
 
 #include "src/core/sheets.h"
-#include "src/field/walkable.h"
 #include "tests/unit/pictures/sheet_list.h"
 #include "tests/unit/pictures/tile_checks.h"
 

@@ -1,5 +1,5 @@
 // The mixer, pulled by hand: what sounds when, and that it never exceeds full scale.
-#include "src/frontend/desktop/sound/mixer.h"
+#include "src/sound/mixer.h"
 
 #include <gtest/gtest.h>
 

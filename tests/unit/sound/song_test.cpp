@@ -1,9 +1,9 @@
 // Reading pieces: their length by the tempo map, to the tick, and what is refused.
-#include "src/frontend/desktop/sound/song.h"
+#include "src/sound/song.h"
 
 #include <gtest/gtest.h>
 
-#include "src/frontend/desktop/sound/tempo_map.h"
+#include "src/sound/tempo_map.h"
 #include "tests/unit/sound/sound_files.h"
 
 namespace orvane {

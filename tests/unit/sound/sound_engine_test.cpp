@@ -1,5 +1,5 @@
 // The engine as the game sees it: commands in, replies out.
-#include "src/frontend/desktop/sound/sound_engine.h"
+#include "src/sound/sound_engine.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,8 @@
 #include <fstream>
 #include <thread>
 
-#include "src/frontend/desktop/sound/sound_font.h"
-#include "src/platform/sound.h"
+#include "src/platform/sound_channels.h"
+#include "src/sound/sound_font.h"
 #include "tests/unit/sound/sound_files.h"
 
 namespace orvane {

@@ -1,0 +1,254 @@
+#include "src/battle/flow/command_input.h"
+
+#include <string>
+
+#include "src/battle/battle_screen.h"
+#include "src/battle/flow/leaving.h"
+#include "src/battle/rules/battle_tables.h"
+#include "src/battle/rules/formation.h"
+
+namespace orvane {
+namespace {
+
+constexpr const char* kWayBack = "キャンセル";
+constexpr const char* kDeadRow = "×";
+constexpr int kSkills = 10;
+constexpr int kFirstBattleItem = 47;
+
+// Rows of the spell list that heal, and the last one that takes a target.
+constexpr int kHealRow = 3;
+constexpr int kGreatHealRow = 8;
+constexpr int kLastTargetRow = 2;
+
+int Acting(BattleScreen& battle) {
+  return battle.SSTab1.Tab();
+}
+
+void CommandLock(BattleScreen& battle, int tab) {
+  battle.Command1.Enabled = false;
+  battle.Command4.Enabled = false;
+  battle.SSTab1.SetTabEnabled(tab, false);
+  battle.SSTab1.SetTabEnabled(tab ^ 1, false);
+  battle.state.HeroBusy[tab] = True;
+}
+
+void CommandUnlock(BattleScreen& battle) {
+  const int tab = Acting(battle);
+  battle.Command1.Enabled = true;
+  battle.Command4.Enabled = true;
+  (tab == 0 ? battle.Command3 : battle.Command2).Enabled = true;
+  battle.state.HeroBusy[tab] = False;
+  battle.List1.Clear();
+  battle.SSTab1.SetTabEnabled(tab, true);
+}
+
+void FaintedTabOff(BattleScreen& battle) {
+  for (int hero = 0; hero < 2; ++hero) {
+    if (battle.state.HeroFainted[hero] != True) continue;
+    battle.SSTab1.SetTabEnabled(hero, false);
+    return;
+  }
+}
+
+bool OtherIsFree(BattleScreen& battle) {
+  return battle.state.HeroBusy[Acting(battle) ^ 1] == False;
+}
+
+void OpenOtherTab(BattleScreen& battle) {
+  battle.SSTab1.SetTabEnabled(Acting(battle) ^ 1, true);
+}
+
+// A choice is complete: its action plays.
+void Commit(BattleScreen& battle, ListBox& open_list) {
+  battle.state.FieldFrame = 0;
+  battle.state.HeroesActed += 1;
+  battle.Timer1.SetEnabled(true);
+  open_list.Visible = false;
+}
+
+// Row 0 is the way back, rows 1 to 4 are the slots; against a big enemy there is only row 1.
+void FillTargets(BattleScreen& battle) {
+  const State& state = battle.state;
+  ListBox& list = battle.List2;
+  list.SetRow(0, kWayBack);
+  if (IsBigFight(state)) return list.SetRow(1, state.EnemyName[EnemyRow(state)].Full());
+  for (int slot = 1; slot <= state.EnemyCount; ++slot) {
+    const bool alive = state.EnemyAlive[slot - 1] == True;
+    list.SetRow(slot,
+                alive ? state.EnemyName[state.EnemyKind].Full() + "(" + std::to_string(slot) + ")"
+                      : std::string(kDeadRow));
+  }
+}
+
+void TargetListOpen(BattleScreen& battle) {
+  battle.List1.Visible = false;
+  battle.List2.Visible = true;
+  FillEnemyTable(battle.state);
+  FillTargets(battle);
+}
+
+void OpenSkillList(BattleScreen& battle, CommandButton& button, const Array<Int16, 11>& known,
+                   const Array<std::string, 11>& names, const Array<Int16, 11>& costs) {
+  battle.List1.Visible = true;
+  battle.List1.SetRow(0, kWayBack);
+  CommandLock(battle, Acting(battle));
+  button.Enabled = false;
+  for (int row = 1; row <= kSkills; ++row) {
+    const bool learned = known[row - 1] == True;
+    battle.List1.SetRow(
+        row, learned ? names[row - 1] + "   (MP消費:" + std::to_string(costs[row - 1]) + ")"
+                     : std::string("未修得"));
+  }
+}
+
+// Says why a skill cannot be used, if so.
+bool Refused(BattleScreen& battle, int known, int mp, int cost) {
+  if (known != True) {
+    Warn(battle.game, "未修得です");
+    return true;
+  }
+  if (mp < cost) {
+    Warn(battle.game, "MPが足りません");
+    return true;
+  }
+  return false;
+}
+
+void WazaChosen(BattleScreen& battle, int row) {
+  const State& state = battle.state;
+  if (Refused(battle, state.WazaKnown[row - 1], state.MP[0], state.WazaMP[row - 1])) return;
+  TargetListOpen(battle);
+}
+
+void MagicChosen(BattleScreen& battle, int row) {
+  State& state = battle.state;
+  if (Refused(battle, state.MagicKnown[row - 1], state.MP[1], state.MagicMP[row - 1])) return;
+  if (row <= kLastTargetRow) return TargetListOpen(battle);
+  if (row == kHealRow || row == kGreatHealRow) state.ActionKind = Action::Heal;
+  Commit(battle, battle.List1);
+}
+
+}  // namespace
+
+void CommandFight(BattleScreen& battle) {
+  battle.List2.Visible = true;
+  battle.state.ActionKind = Action::Fight;
+  CommandLock(battle, Acting(battle));
+  battle.Command2.Enabled = false;
+  battle.Command3.Enabled = false;
+  FillTargets(battle);
+}
+
+void CommandMagic(BattleScreen& battle) {
+  const State& state = battle.state;
+  battle.state.ActionKind = Action::Magic;
+  OpenSkillList(battle, battle.Command2, state.MagicKnown, state.MagicName, state.MagicMP);
+}
+
+void CommandWaza(BattleScreen& battle) {
+  const State& state = battle.state;
+  battle.state.ActionKind = Action::Waza;
+  OpenSkillList(battle, battle.Command3, state.WazaKnown, state.WazaName, state.WazaMP);
+}
+
+void CommandItem(BattleScreen& battle) {
+  State& state = battle.state;
+  CommandLock(battle, Acting(battle));
+  battle.Command3.Enabled = false;
+  battle.List3.Clear();
+  battle.List3.Visible = true;
+  battle.List3.AddItem(kWayBack);
+  for (int slot = 0; slot < BagSize; ++slot) {
+    ReadItem(battle.game, state.Items[slot]);
+    battle.List3.AddItem(state.Items[slot] == NoItem ? std::string("なし")
+                                                     : state.ItemRec.Name.Full());
+  }
+}
+
+void SkillChosen(BattleScreen& battle) {
+  const int row = battle.List1.ListIndex;
+  if (row == 0) {
+    CommandUnlock(battle);
+    if (OtherIsFree(battle)) OpenOtherTab(battle);
+    battle.List1.Visible = false;
+    FaintedTabOff(battle);
+  } else if (battle.state.ActionKind == Action::Waza) {
+    WazaChosen(battle, row);
+  } else if (battle.state.ActionKind == Action::Magic) {
+    MagicChosen(battle, row);
+  }
+}
+
+void TargetChosen(BattleScreen& battle) {
+  if (battle.List2.ListIndex == 0) {
+    CommandUnlock(battle);
+    battle.List2.Visible = false;
+    battle.List2.Clear();
+    battle.List1.Clear();
+    if (OtherIsFree(battle)) OpenOtherTab(battle);
+    FaintedTabOff(battle);
+  } else if (battle.List2.Text() == kDeadRow) {
+    Warn(battle.game, "その敵はすでに死んでいる");
+  } else {
+    Commit(battle, battle.List2);
+  }
+}
+
+void ItemChosen(BattleScreen& battle) {
+  const State& state = battle.state;
+  const int row = battle.List3.ListIndex;
+  if (row == 0) {
+    CommandUnlock(battle);
+    if (OtherIsFree(battle)) {
+      OpenOtherTab(battle);
+      battle.List2.Visible = false;
+    }
+    FaintedTabOff(battle);
+    battle.List3.Visible = false;
+    battle.List3.Clear();
+    return;
+  }
+  if (state.Items[row - 1] == NoItem || state.Items[row - 1] < kFirstBattleItem) {
+    return Warn(battle.game, "それは使えません");
+  }
+  battle.List4.Clear();
+  battle.List4.AddItem(kWayBack);
+  battle.List4.AddItem(state.HeroName[0].Trimmed());
+  battle.List4.AddItem(state.HeroName[1].Trimmed());
+  battle.List4.Visible = true;
+  battle.List3.Visible = false;
+}
+
+void ItemTargetChosen(BattleScreen& battle) {
+  if (battle.List4.ListIndex == 0) {
+    battle.List4.Visible = false;
+    battle.List3.Visible = true;
+    battle.List4.Clear();
+    return;
+  }
+  battle.state.ActionKind = Action::Item;
+  Commit(battle, battle.List4);
+}
+
+void CommandFlee(BattleScreen& battle) {
+  State& state = battle.state;
+  battle.Timer1.SetEnabled(false);
+  for (int hero = 0; hero < 2; ++hero) {
+    if (state.HeroFainted[hero] != True) continue;
+    state.HP[hero] = 1;
+    state.HeroFainted[hero] = False;
+  }
+  LetGoAndSilence(battle);
+  battle.Timer2.SetEnabled(false);
+  battle.game.stage.Hide(battle);
+  battle.game.stage.Show(battle.game.Main);
+  FreeCommands(battle);
+}
+
+void PaneOpened(BattleScreen& battle) {
+  const bool first = Acting(battle) == 0;
+  battle.Command2.Enabled = !first;
+  battle.Command3.Enabled = first;
+}
+
+}  // namespace orvane

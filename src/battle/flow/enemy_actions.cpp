@@ -1,0 +1,170 @@
+#include "src/battle/flow/enemy_actions.h"
+
+#include <cmath>
+
+#include "src/battle/battle_screen.h"
+#include "src/battle/rules/hits.h"
+#include "src/battle/scene/battle_drawing.h"
+#include "src/battle/scene/hero_poses.h"
+#include "src/battle/scene/shake.h"
+#include "src/core/quit.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kFireSize = 72;
+constexpr int kSparks = 11;
+constexpr int kDeathShake = 20;  // twips
+
+// What every frame of an enemy attack begins with.
+int BeginFrame(BattleScreen& battle) {
+  Randomize(battle.game);
+  for (CommandButton* button :
+       {&battle.Command1, &battle.Command2, &battle.Command3, &battle.Command4}) {
+    button->Enabled = false;
+  }
+  return battle.state.ActionState;
+}
+
+void ShowName(BattleScreen& battle, const char* name) {
+  battle.Picture13.Visible = true;
+  battle.Label24.Caption = name;
+}
+
+void HideNumbers(BattleScreen& battle) {
+  battle.Picture13.Visible = false;
+  battle.Label16[0].Visible = false;
+  battle.Label16[1].Visible = false;
+}
+
+void EndAttack(BattleScreen& battle) {
+  HitHeroes(battle);
+  HideNumbers(battle);
+  battle.state.EnemyTurns -= 1;
+  AfterEnemyAta(battle);
+}
+
+void DrawFireball(BattleScreen& battle, int frame) {
+  const Int16 x = RoundToInt16(std::cos(frame) * 10 + 355);
+  const int y = 246 - (frame - 15) * 20;
+  DrawEffect(battle, 4, 4, {x, y, kFireSize, kFireSize});
+}
+
+void DrawSparks(BattleScreen& battle) {
+  for (int i = 0; i < kSparks; ++i) {
+    const Int16 x = RoundToInt16(Int(Rnd(battle.game) * 200 + 230));
+    const Int16 y = RoundToInt16(Int(Rnd(battle.game) * 230 + 50));
+    const Int16 size = RoundToInt16(Int(Rnd(battle.game) * 48 + 24));
+    DrawEffect(battle, 1, 3, {x, y, size, size});
+  }
+}
+
+void DrawDeathBand(BattleScreen& battle, int frame) {
+  const int half = (frame - 10) * 4;
+  FillBox(battle.Picture1.Picture, 0, 146 - half, 432, 146 + half, Rgb(255, 0, (frame - 10) * 10));
+}
+
+// One hero stands: his pane alone is open, and one action is enough to bring the enemies.
+void LeaveToOne(BattleScreen& battle, int standing) {
+  battle.SSTab1.SetTabEnabled(standing ^ 1, false);
+  battle.SSTab1.SetTab(standing);
+  battle.SSTab1.SetTabEnabled(standing, true);
+  battle.state.HeroesActed = 1;
+}
+
+void EnableCommands(BattleScreen& battle) {
+  const State& state = battle.state;
+  battle.Command1.Enabled = true;
+  if (state.HeroFainted[1] == False && battle.SSTab1.Tab() == 1) {
+    battle.Command2.Enabled = true;
+  } else if (state.HeroFainted[0] == False && battle.SSTab1.Tab() == 0) {
+    battle.Command3.Enabled = true;
+  }
+  battle.Command4.Enabled = true;
+}
+
+void EndPhase(BattleScreen& battle) {
+  State& state = battle.state;
+  state.ActionKind = Action::None;
+  state.EnemyTurns = 0;
+  EnableCommands(battle);
+  const bool first_stands = state.HeroFainted[0] == False;
+  const bool second_stands = state.HeroFainted[1] == False;
+  if (first_stands && second_stands) {
+    battle.SSTab1.SetTabEnabled(0, true);
+    battle.SSTab1.SetTabEnabled(1, true);
+  } else {
+    LeaveToOne(battle, first_stands ? 0 : 1);
+    if (!first_stands && !second_stands) {
+      battle.SSTab1.SetTabEnabled(1, false);
+      PartyWiped(battle);
+    }
+  }
+  battle.Timer1.SetEnabled(false);
+}
+
+}  // namespace
+
+void EnemyAtaNormal(BattleScreen& battle) {
+  const int frame = BeginFrame(battle);
+  if (frame == 16) {
+    battle.game.sound.Play("snd9");
+    battle.state.EnemyRoll = RoundToInt16(Int(Rnd(battle.game) * 10));
+    HeroHurtPose(battle);
+  }
+  if (frame >= 16 && frame <= 34) DamageDisplay(battle);
+  if (frame == 36) {
+    DrawHeroes(battle);
+    EndAttack(battle);
+  }
+  battle.Picture1.Picture.Refresh();
+}
+
+void EnemyAtaFire(BattleScreen& battle) {
+  const int frame = BeginFrame(battle);
+  if (frame < 15) ShowName(battle, "獄　炎");
+  if (frame == 16) battle.game.sound.Play("snd3");
+  if (frame >= 16 && frame <= 34) DrawFireball(battle, frame);
+  if (frame == 36) {
+    DrawBackground(battle);
+    DrawHeroes(battle);
+    DrawRoundBoss(battle);
+  }
+  if (frame >= 36 && frame <= 54) DamageDisplay(battle);
+  if (frame == 56) EndAttack(battle);
+  battle.Picture1.Picture.Refresh();
+}
+
+void EnemyAtaDeath(BattleScreen& battle) {
+  const int frame = BeginFrame(battle);
+  if (frame < 15) ShowName(battle, "デス･スプリート");
+  if (frame >= 16 && frame <= 34) {
+    battle.game.sound.Play("snd4");
+    ShakeUpDown(battle, frame, kDeathShake);
+    DrawDeathBand(battle, frame);
+    DrawSparks(battle);
+  }
+  if (frame == 36) {
+    DrawBackground(battle);
+    DrawLastBoss(battle);
+    DrawHeroes(battle);
+  }
+  if (frame >= 36 && frame <= 54) DamageDisplay(battle);
+  if (frame == 56) EndAttack(battle);
+  battle.Picture1.Picture.Refresh();
+}
+
+void AfterEnemyAta(BattleScreen& battle) {
+  if (battle.state.EnemyTurns < 1) EndPhase(battle);
+  battle.state.ActionState = 0;
+}
+
+void PartyWiped(BattleScreen& battle) {
+  constexpr int last_music = 7;
+  battle.Timer1.SetEnabled(false);
+  CloseAllSound(battle.game, last_music);
+  battle.game.stage.ShowBox("全滅しました。", "GAME OVER", BoxButtons::Ok);
+  battle.game.stage.EndProgram(0);
+}
+
+}  // namespace orvane

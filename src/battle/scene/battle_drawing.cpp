@@ -1,0 +1,180 @@
+#include "src/battle/scene/battle_drawing.h"
+
+#include <string>
+
+#include "src/battle/battle_screen.h"
+#include "src/battle/rules/formation.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kSceneCellWidth = 36;
+constexpr int kSceneCellHeight = 33;
+constexpr int kSheetCellWidth = 40;
+constexpr int kSheetCellHeight = 36;
+constexpr Rect kScene{0, 0, 432, 264};
+constexpr Rect kGroundSheet{0, 0, 480, 288};
+
+constexpr Rect kBigPlace{75, 30, 160, 240};
+constexpr Rect kBigCells{2, 1, 4, 7};
+constexpr Cell kRoundBossCell{128, 0, 0, 0, 128, 192};
+constexpr Cell kBigCell{160, 0, 0, 0, 160, 240};
+constexpr Cell kEnemyCell{64, 0, 0, 0, 64, 64};
+constexpr int kRecoil = 10;
+
+constexpr int kEffectSize = 24;
+constexpr int kEffectMasks = 192;
+constexpr int kLastTargetSpell = 2;
+
+// The ground of the place where the party stands: four tile codes are wasteland.
+Surface& Ground(BattleScreen& battle) {
+  switch (battle.state.TileHere) {
+    case 13:
+    case 14:
+    case 19:
+    case 234:
+      return battle.Picture11.Picture;
+    default:
+      return battle.Picture7.Picture;
+  }
+}
+
+// Draws a part of the ground; in the last dragon's lair that lies over everything else.
+void DrawGround(BattleScreen& battle, const Rect& target, const Rect& area) {
+  Surface& scene = battle.Picture1.Picture;
+  StretchBlt(scene, target, Ground(battle), area, RasterOp::SRCCOPY);
+  if (battle.state.LastBossFight == True) {
+    StretchBlt(scene, target, battle.Picture12.Picture, area, RasterOp::SRCCOPY);
+  }
+}
+
+const Cell& BigCellOf(const State& state) {
+  return state.BossFight == True ? kRoundBossCell : kBigCell;
+}
+
+void DrawBig(BattleScreen& battle, int row, const Cell& cell, int shift = 0) {
+  RedrawCells(battle, kBigCells);
+  Rect place = kBigPlace;
+  place.X += shift;
+  DrawSprite(battle, place, battle.Picture6[row].Picture, cell);
+}
+
+void FlashSlot(BattleScreen& battle, int slot) {
+  const Surface& sheet = battle.Picture6[battle.state.EnemyKind].Picture;
+  BitBlt(battle.Picture1.Picture, SlotX(slot), SlotY(slot), kEnemyCell.Width, kEnemyCell.Height,
+         sheet, kEnemyCell.MaskX, kEnemyCell.MaskY, RasterOp::SRCPAINT);
+}
+
+std::string Gauge(int now, int limit) {
+  return std::to_string(now) + "/" + std::to_string(limit);
+}
+
+}  // namespace
+
+void DrawSprite(BattleScreen& battle, const Rect& target, const Surface& sheet, const Cell& cell) {
+  Surface& scene = battle.Picture1.Picture;
+  StretchBlt(scene, target, sheet, {cell.MaskX, cell.MaskY, cell.Width, cell.Height},
+             RasterOp::SRCPAINT);
+  StretchBlt(scene, target, sheet, {cell.ImageX, cell.ImageY, cell.Width, cell.Height},
+             RasterOp::SRCAND);
+}
+
+void DrawEffect(BattleScreen& battle, int column, int row, const Rect& target) {
+  const int x = column * kEffectSize;
+  const int y = row * kEffectSize;
+  DrawSprite(battle, target, battle.Picture8.Picture,
+             {kEffectMasks + x, y, x, y, kEffectSize, kEffectSize});
+}
+
+void RedrawCells(BattleScreen& battle, const Rect& cells) {
+  DrawGround(battle,
+             {kSceneCellWidth * cells.X, kSceneCellHeight * cells.Y, kSceneCellWidth * cells.Width,
+              kSceneCellHeight * cells.Height},
+             {kSheetCellWidth * cells.X, kSheetCellHeight * cells.Y, kSheetCellWidth * cells.Width,
+              kSheetCellHeight * cells.Height});
+}
+
+void DrawBackground(BattleScreen& battle) {
+  DrawGround(battle, kScene, kGroundSheet);
+}
+
+void DrawEnemyGroup(BattleScreen& battle) {
+  RedrawCells(battle, SlotCells(battle.List2.ListIndex));
+  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
+    if (battle.state.EnemyAlive[slot - 1] == True) DrawEnemyInSlot(battle, slot);
+  }
+}
+
+void DrawRoundBoss(BattleScreen& battle) {
+  DrawBig(battle, battle.state.Round - 1, kRoundBossCell);
+}
+
+void DrawLastBoss(BattleScreen& battle) {
+  DrawBig(battle, LastBossKind, kBigCell);
+}
+
+void DrawBoneDragon(BattleScreen& battle) {
+  DrawBig(battle, BoneDragonKind, kBigCell);
+}
+
+void DrawEnemySide(BattleScreen& battle) {
+  if (battle.state.BossFight == True) {
+    DrawRoundBoss(battle);
+  } else if (battle.state.LastBossFight == True) {
+    DrawLastBoss(battle);
+  } else if (battle.state.EnemyKind == BoneDragonKind) {
+    DrawBoneDragon(battle);
+  } else {
+    DrawEnemyGroup(battle);
+  }
+}
+
+void DrawEnemyInSlot(BattleScreen& battle, int slot, int shift) {
+  DrawSprite(battle, {SlotX(slot) + shift, SlotY(slot), kEnemyCell.Width, kEnemyCell.Height},
+             battle.Picture6[battle.state.EnemyKind].Picture, kEnemyCell);
+}
+
+void EnemyRecoil(BattleScreen& battle) {
+  if (IsBigFight(battle.state)) {
+    return DrawBig(battle, EnemyRow(battle.state), BigCellOf(battle.state), -kRecoil);
+  }
+  const int slot = battle.List2.ListIndex;
+  if (battle.state.EnemyAlive[slot - 1] != True) return;
+  RedrawCells(battle, SlotCells(slot));
+  DrawEnemyInSlot(battle, slot, -kRecoil);
+}
+
+void EnemyFlash(BattleScreen& battle) {
+  if (IsBigFight(battle.state)) {
+    const Cell& cell = BigCellOf(battle.state);
+    StretchBlt(battle.Picture1.Picture, kBigPlace, battle.Picture6[EnemyRow(battle.state)].Picture,
+               {cell.MaskX, cell.MaskY, cell.Width, cell.Height}, RasterOp::SRCPAINT);
+  } else if (battle.List1.ListIndex <= kLastTargetSpell) {
+    FlashSlot(battle, battle.List2.ListIndex);
+  } else {
+    for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
+      if (battle.state.EnemyAlive[slot - 1] == True) FlashSlot(battle, slot);
+    }
+  }
+}
+
+void StatusDisplay(BattleScreen& battle) {
+  State& state = battle.state;
+  for (int hero = 0; hero < 2; ++hero) {
+    state.Attack[hero] = state.WeaponAttack[hero] + state.BaseAttack[hero];
+    state.Defence[hero] = state.ArmourDefence[hero] + state.BaseDefence[hero];
+  }
+  for (int hero = 0; hero < 2; ++hero) {
+    if (state.HP[hero] < 0) state.HP[hero] = 0;
+    if (state.HP[hero] > state.MaxHP[hero]) state.HP[hero] = state.MaxHP[hero];
+    if (state.MP[hero] > state.MaxMP[hero]) state.MP[hero] = state.MaxMP[hero];
+    battle.Label12[hero].Caption = std::to_string(state.Level[hero]);
+    battle.Label3[hero].Caption = Gauge(state.HP[hero], state.MaxHP[hero]);
+    battle.Label4[hero].Caption = Gauge(state.MP[hero], state.MaxMP[hero]);
+    battle.Label8[hero].Caption = std::to_string(state.Attack[hero]);
+    battle.Label9[hero].Caption = std::to_string(state.Defence[hero]);
+    battle.Label10[hero].Caption = std::to_string(state.Spirit[hero]);
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,143 @@
+#include "src/battle/scene/spell_animation.h"
+
+#include <cmath>
+
+#include "src/battle/battle_screen.h"
+#include "src/battle/rules/formation.h"
+#include "src/battle/scene/battle_drawing.h"
+#include "src/battle/scene/scatter.h"
+#include "src/battle/scene/shake.h"
+#include "src/battle/scene/target_point.h"
+
+namespace orvane {
+namespace {
+
+constexpr Colour kWhite = Rgb(255, 255, 255);
+constexpr int kQuake = 50;  // twips
+constexpr int kShake = 20;
+
+void AimAtTarget(BattleScreen& battle) {
+  State& state = battle.state;
+  MagicTarget(battle);
+  if (!IsBigFight(state)) return;
+  state.MagicX = state.MagicBossX;
+  state.MagicY = state.MagicBossY;
+}
+
+// ファイヤーブレズ: one great flame.
+void Magic1(BattleScreen& battle, int c) {
+  AimAtTarget(battle);
+  if (c == 6) battle.game.sound.Play("snd3");
+  DrawEffect(battle, 4, 4, {battle.state.MagicX, battle.state.MagicY, 96, 96});
+}
+
+// 絶対零度: four crystals close in from the corners of a square, and hold.
+void Magic2(BattleScreen& battle, int c) {
+  AimAtTarget(battle);
+  if (c == 14) battle.game.sound.Play("snd10");
+  const int d = c <= 12 ? c : 16;
+  for (int k = 0; k < 4; ++k) {
+    const int left = SignOf(k) * 4 * d + battle.state.MagicX + k % 2 * 120 - 60;
+    const int top = SignOf(k / 2) * 4 * d + battle.state.MagicY + k / 2 * 120 - 60;
+    DrawEffect(battle, 4, 5, {left, top, 48, 48});
+  }
+}
+
+// リフレッシュ: sparkles over the heroes.
+void Magic3(BattleScreen& battle, int c) {
+  if (c == 6) battle.game.sound.Play("snd5");
+  Randomize(battle.game);
+  for (int i = 0; i < 6; ++i) {
+    const ScenePoint at = PointOverHeroes(battle);
+    DrawEffect(battle, 1, 0, {at.X, at.Y, 24, 24});
+  }
+}
+
+// アースクエイク: the scene shakes from side to side.
+void Magic4(BattleScreen& battle, int c) {
+  if (c == 6) battle.game.sound.Play("snd6");
+  ShakeLeftRight(battle, c, kQuake);
+}
+
+// 爆雷降臨: a single flash that stays.
+void Magic5(BattleScreen& battle, int c) {
+  if (c != 10) return;
+  battle.game.sound.Play("snd8");
+  FillBox(battle.Picture1.Picture, 0, 0, 480, 288, kWhite);
+}
+
+// サンプレゼンター: a sun that grows.
+void Magic6(BattleScreen& battle, int c) {
+  battle.game.sound.Play("snd3");
+  const int size = 16 * c + 48;
+  DrawEffect(battle, 0, 3, {150 - 8 * c, 140 - 8 * c, size, size});
+  ShakeUpDown(battle, c, kShake);
+}
+
+// ダークプレッシャー: a ring that sinks.
+void Magic7(BattleScreen& battle, int c) {
+  battle.game.sound.Play("snd9");
+  DrawCircle(battle.Picture1.Picture, 300 - 2 * c, 10 * c - 150, 250, kWhite);
+  ShakeUpDown(battle, c, kShake);
+}
+
+// 風の癒し: pairs of sparkles over the heroes.
+void Magic8(BattleScreen& battle, int c) {
+  if (c == 6) battle.game.sound.Play("snd5");
+  Randomize(battle.game);
+  for (int i = 0; i < 6; ++i) {
+    const ScenePoint first = PointOverHeroes(battle);
+    const ScenePoint second = PointOverHeroes(battle);
+    DrawEffect(battle, 1, 0, {first.X, first.Y, 24, 24});
+    DrawEffect(battle, 1, 4, {second.X, second.Y, 24, 24});
+  }
+}
+
+// アトミックボム: a widening ring; its angles are radians taken as they come, so that it looks
+// scattered.
+void Magic9(BattleScreen& battle, int c) {
+  if (c == 6) battle.game.sound.Play("snd4");
+  for (int k = 0; k <= 10; ++k) {
+    const int angle = 20 * k + c;
+    const Int16 left = RoundToInt16(std::cos(angle) * 6 * c + 150);
+    const Int16 top = RoundToInt16(std::sin(angle) * 4 * c + 140);
+    DrawEffect(battle, 0, c % 4, {left, top, 64, 64});
+  }
+}
+
+// ジオ･スプリート: a widening band of light full of suns.
+void Magic10(BattleScreen& battle, int c) {
+  battle.game.sound.Play("snd4");
+  ShakeUpDown(battle, c, kShake);
+  FillBox(battle.Picture1.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(255, 255, 10 * c));
+  Randomize(battle.game);
+  for (int k = 0; k <= 10; ++k) {
+    const Int16 x = RoundToInt16(Int(Rnd(battle.game) * 350));
+    const Int16 y = RoundToInt16(Int(Rnd(battle.game) * 230 + 50));
+    const Int16 size = RoundToInt16(Int(Rnd(battle.game) * 48 + 24));
+    DrawEffect(battle, 0, 3, {x, y, size, size});
+  }
+}
+
+using Frame = void (*)(BattleScreen&, int);
+constexpr Frame kMagic[] = {Magic1, Magic2, Magic3, Magic4, Magic5,
+                            Magic6, Magic7, Magic8, Magic9, Magic10};
+
+}  // namespace
+
+void MagicTarget(BattleScreen& battle) {
+  State& state = battle.state;
+  state.MagicBossX = BigTargetX;
+  state.MagicBossY = BigTargetY;
+  state.MagicX = SlotX(battle.List2.ListIndex);
+  state.MagicY = SlotY(battle.List2.ListIndex);
+}
+
+void MagicPlay(BattleScreen& battle, int frame, int spell) {
+  battle.Picture9.Visible = true;
+  battle.Label20.Caption = battle.state.MagicName[battle.List1.ListIndex - 1];
+  if (spell >= 1 && spell <= 10) kMagic[spell - 1](battle, frame);
+  battle.Picture1.Picture.Refresh();
+}
+
+}  // namespace orvane

@@ -1,0 +1,32 @@
+#include "src/core/start_up.h"
+
+#include "src/core/game.h"
+#include "src/core/map_file.h"
+#include "src/core/new_game.h"
+
+namespace orvane {
+
+void StartUp(Game& game) {
+  State& state = game.state;
+  MainScreen& main = game.Main;
+  for (int hero = 0; hero < 2; ++hero) {
+    state.HeroName[hero] = state.HeroName[hero].Trimmed();
+    state.HeroNameText[hero] = state.HeroName[hero].Trimmed();
+  }
+  StretchBlt(main.Picture1.Picture, {0, 0, 480, 320}, main.Picture1.Picture, {0, 0, 320, 160},
+             RasterOp::SRCCOPY);
+  state.GameStarted = False;
+  NewGameDefaults(game);
+  main.m12.Enabled = false;
+  main.m2.Enabled = false;
+  main.m3.Enabled = false;
+  state.HeroX = (state.SaveX - 1) * TileSize;
+  state.HeroY = (state.SaveY - 1) * TileSize;
+  main.Label2.Caption = "Copyright (C) 2001 Kelmark";
+  game.items.CheckComplete();
+  for (int number = 1; number <= ItemFile::RecordCount; ++number) ReadItem(game, number);
+  game.links.SetStoryText();
+  game.links.FillSkillTables();
+}
+
+}  // namespace orvane

@@ -1,0 +1,236 @@
+#include "src/frontend/desktop/app/desktop.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMetaObject>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <utility>
+
+#include "src/frontend/desktop/app/signals.h"
+
+namespace orvane {
+
+Desktop::Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper, const Zoom& zoom)
+    : program_(program),
+      boxes_(boxes),
+      sleeper_(sleeper),
+      first_(program.TheStage().Active()),
+      zoom_(zoom),
+      windows_(program.TheStage(), *this, zoom),
+      ticks_(program.TheStage(), *this),
+      keys_(*this, [this] { return KeysReachGame(); }),
+      pad_(*this, [this] { return KeysReachGame(); }) {
+  boxes_.Attach(this);
+  sleeper_.Attach([this](int milliseconds) { Sleep(milliseconds); });
+  QCoreApplication::instance()->installEventFilter(this);
+  OnEndSignals([this] { End(); });
+  OnCallSignal([this] { ComeToFront(); });
+}
+
+Desktop::~Desktop() {
+  QCoreApplication::instance()->removeEventFilter(this);
+  sleeper_.Attach({});
+  boxes_.Attach(nullptr);
+}
+
+int Desktop::Run() {
+  // From within the loop, so that the end can leave it.
+  QMetaObject::invokeMethod(
+      this, [this] { Follow(); }, Qt::QueuedConnection);
+  // Pads are looked for when the title stands: finding them takes longer than showing it.
+  QTimer::singleShot(500, this, [this] { pad_.Start(std::make_unique<PadDevice>()); });
+  QCoreApplication::exec();
+  return program_.ExitStatus();
+}
+
+void Desktop::Send(const std::function<void(Program&)>& event) {
+  // What widgets report while they are being brought up to date is no event of the player's.
+  if (following_ || asleep_) return;
+  if (!program_.HasEnded()) Try(event);
+  Follow();
+}
+
+void Desktop::Painted(const Screen& screen) {
+  if (painted_) painted_(screen);
+}
+
+void Desktop::Try(const std::function<void(Program&)>& event) {
+  // The game handles the errors that bad data can lead to. What else may come, such as want of
+  // memory, must not fly through the toolkit's loop, which cannot stand it.
+  try {
+    event(program_);
+  } catch (const std::exception& failure) {
+    program_.TheStage().MarkEnded(EXIT_FAILURE);
+    boxes_.ShowError({failure.what(), "Orvane", BoxButtons::Ok});
+  }
+}
+
+void Desktop::Follow() {
+  if (!program_.HasEnded()) {
+    FollowWindows();
+    ticks_.Arm();
+    keys_.Follow();
+    if (program_.TheStage().Active() != nullptr || program_.TheStage().BoxStands()) return;
+  }
+  if (last_box_stands_) return;
+  // The game has ended, or has left no window by which anyone could end it.
+  End();
+}
+
+void Desktop::End() {
+  program_.TheStage().MarkEnded(0);
+  ticks_.Stop();
+  boxes_.CloseAll();
+  QCoreApplication::exit(program_.ExitStatus());
+}
+
+QWidget* Desktop::BeginBox() {
+  if (program_.HasEnded()) {
+    // The box that says why must be read before the end, which would close it.
+    last_box_stands_ = true;
+    ticks_.Stop();
+    following_ = true;
+    windows_.Follow();
+    following_ = false;
+  } else {
+    Follow();
+  }
+  return windows_.Active();
+}
+
+void Desktop::EndBox() {
+  last_box_stands_ = false;
+  if (!program_.HasEnded()) windows_.RaiseActive();
+}
+
+void Desktop::ComeToFront() {
+  QWidget* box = QApplication::activeModalWidget();
+  QWidget* front = box != nullptr ? box : windows_.Active();
+  if (front == nullptr) return;
+  front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
+  front->raise();
+  front->activateWindow();
+}
+
+void Desktop::Sleep(int milliseconds) {
+  following_ = true;
+  windows_.Follow();
+  following_ = false;
+  asleep_ = true;
+  ticks_.Stop();
+  windows_.PaintNow();
+  QEventLoop loop;
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  asleep_ = false;
+}
+
+bool Desktop::KeysReachGame() const {
+  const Stage& stage = program_.TheStage();
+  const ScreenWindow* window = windows_.Of(first_);
+  return window != nullptr && stage.Active() == first_ && stage.TakesInput(*first_) &&
+         window->isActiveWindow() && QApplication::activePopupWidget() == nullptr;
+}
+
+bool Desktop::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::WindowActivate:
+      if (auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeActivation(*window);
+      return false;
+    case QEvent::WindowStateChange:
+      if (const auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeState(*window);
+      return false;
+    case QEvent::Quit:
+      // The session ends; nobody is asked.
+      End();
+      return true;
+    case QEvent::KeyPress:
+      // Keys come to their window first.
+      return watched->isWindowType() && TakeZoomKey(*static_cast<const QKeyEvent*>(event));
+    default:
+      return false;
+  }
+}
+
+void Desktop::TakeActivation(ScreenWindow& window) {
+  if (asleep_ || following_ || program_.HasEnded()) return;
+  const Stage& stage = program_.TheStage();
+  if (!windows_.IsPlayersChoice(window) || stage.Active() == &window.Model()) return;
+  if (stage.BoxStands()) return;
+  Send([&window](Program& program) { program.Activate(window.Model()); });
+}
+
+void Desktop::TakeState(const ScreenWindow& window) {
+  // While the windows follow the game their states are the game's own doing. A window that is away
+  // keeps what it was.
+  if (following_ || !window.Model().IsScene || !window.isVisible() || window.isMinimized()) return;
+  // The window manager's control for the largest size means the full screen.
+  const bool is_largest = window.isMaximized() || window.isFullScreen();
+  if (is_largest != zoom_.IsFullScreen()) SetFullScreen(is_largest);
+}
+
+bool Desktop::TakeZoomKey(const QKeyEvent& event) {
+  const bool control = (event.modifiers() & Qt::ControlModifier) != 0;
+  switch (event.key()) {
+    case Qt::Key_F11:
+      if (!event.isAutoRepeat()) SetFullScreen(!zoom_.IsFullScreen());
+      return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:      // the same key without Shift on many keyboards
+    case Qt::Key_Semicolon:  // and on Japanese ones
+      if (!control) return false;
+      zoom_.Enlarge();
+      break;
+    case Qt::Key_Minus:
+      if (!control) return false;
+      zoom_.Reduce();
+      break;
+    case Qt::Key_0:
+      if (!control) return false;
+      zoom_.Reset();
+      break;
+    default:
+      return false;
+  }
+  RescaleLater();
+  return true;
+}
+
+void Desktop::SetFullScreen(bool full_screen) {
+  zoom_.SetFullScreen(full_screen);
+  RescaleLater();
+}
+
+void Desktop::RescaleLater() {
+  // The event that asks for it may come from a window that is about to be taken down.
+  if (std::exchange(rescaling_later_, true)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { Rescale(); }, Qt::QueuedConnection);
+}
+
+void Desktop::Rescale() {
+  rescaling_later_ = false;
+  if (program_.HasEnded() || !CanRescale() || windows_.Suit(zoom_)) return;
+  following_ = true;
+  windows_.Rescale(zoom_);
+  following_ = false;
+  keys_.Follow();
+}
+
+// A box belongs to a window that must stay.
+bool Desktop::CanRescale() const {
+  return !asleep_ && !program_.TheStage().BoxStands();
+}
+
+void Desktop::FollowWindows() {
+  // New windows show at once in the size that suits them.
+  if (CanRescale() && !windows_.Suit(zoom_)) return RescaleLater();
+  following_ = true;
+  windows_.Follow();
+  following_ = false;
+}
+
+}  // namespace orvane

@@ -1,0 +1,78 @@
+// The game on a desktop: the program, its windows, its time.
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+#include "src/frontend/desktop/app/boxes.h"
+#include "src/frontend/desktop/app/sleeper.h"
+#include "src/frontend/desktop/app/tick_server.h"
+#include "src/frontend/desktop/input/keys.h"
+#include "src/frontend/desktop/input/pad.h"
+#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/desktop/windows/windows.h"
+#include "src/frontend/desktop/windows/zoom.h"
+#include "src/game/program.h"
+
+class QKeyEvent;
+
+namespace orvane {
+
+class Desktop : public QObject, public Events, public BoxHost {
+ public:
+  // Opens the windows of a program that runs, with the scale of `zoom`, which is set. The first
+  // three must outlive it.
+  Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper, const Zoom& zoom);
+  ~Desktop() override;
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  // Runs the game to its end and returns its exit status.
+  int Run();
+
+  // Calls `tell` with every screen that has been painted.
+  void TellOfPainting(std::function<void(const Screen&)> tell) { painted_ = std::move(tell); }
+
+  void Send(const std::function<void(Program&)>& event) override;
+  void Painted(const Screen& screen) override;
+  QWidget* BeginBox() override;
+  void EndBox() override;
+
+ protected:
+  // Watches the windows for what the window manager does to them, and the keys that change their
+  // size.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Try(const std::function<void(Program&)>& event);
+  void Follow();
+  void Sleep(int milliseconds);
+  void End();
+  void ComeToFront();
+  bool KeysReachGame() const;
+  void TakeActivation(ScreenWindow& window);
+  void TakeState(const ScreenWindow& window);
+  bool TakeZoomKey(const QKeyEvent& event);
+  void SetFullScreen(bool full_screen);
+  void RescaleLater();
+  void Rescale();
+  bool CanRescale() const;
+  void FollowWindows();
+
+  Program& program_;
+  MessageBoxes& boxes_;
+  DesktopSleeper& sleeper_;
+  const Screen* first_;  // the screen that the game opens with, which the keys belong to
+  Zoom zoom_;
+  Windows windows_;
+  TickServer ticks_;
+  Keys keys_;
+  Pad pad_;
+  std::function<void(const Screen&)> painted_;
+  bool following_ = false;
+  bool asleep_ = false;
+  bool last_box_stands_ = false;  // the box of an error that has ended the game
+  bool rescaling_later_ = false;
+};
+
+}  // namespace orvane

@@ -1,0 +1,45 @@
+#include "src/frontend/desktop/app/home.h"
+
+#include <cstdlib>
+#include <system_error>
+
+#include "src/platform/player_folder.h"
+
+namespace orvane {
+namespace {
+
+// An absolute path from the environment, or nothing; relative ones do not count.
+std::filesystem::path FromEnvironment(const char* name) {
+  const char* value = std::getenv(name);
+  const std::filesystem::path path = value != nullptr ? value : "";
+  return path.is_absolute() ? path : std::filesystem::path();
+}
+
+std::filesystem::path DataFolder() {
+  auto data = FromEnvironment("XDG_DATA_HOME");
+  if (!data.empty()) return data;
+  auto home = FromEnvironment("HOME");
+  return home.empty() ? home : home / ".local" / "share";
+}
+
+}  // namespace
+
+Home FindHome() {
+  std::error_code failed;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", failed).parent_path();
+  const auto beside = program / "game";
+  const auto installed = program.parent_path() / "share" / "orvane" / "game";
+  if (failed || std::filesystem::exists(beside, failed) ||
+      !std::filesystem::is_directory(installed, failed)) {
+    return {beside, {}};
+  }
+  const auto data = DataFolder();
+  return {data.empty() ? data : data / "orvane" / "game", installed};
+}
+
+std::string MakeReady(const Home& home) {
+  if (home.Folder.empty()) return "neither XDG_DATA_HOME nor HOME names a folder";
+  return home.Installed.empty() ? std::string() : PreparePlayerFolder(home.Installed, home.Folder);
+}
+
+}  // namespace orvane

@@ -1,0 +1,135 @@
+// The game's window: orvane [options], see --help.
+#include <QApplication>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "src/frontend/desktop/access/spoken.h"
+#include "src/frontend/desktop/app/boxes.h"
+#include "src/frontend/desktop/app/desktop.h"
+#include "src/frontend/desktop/app/home.h"
+#include "src/frontend/desktop/app/instance.h"
+#include "src/frontend/desktop/app/signals.h"
+#include "src/frontend/desktop/app/sleeper.h"
+#include "src/frontend/desktop/paint/fonts.h"
+#include "src/frontend/desktop/paint/look.h"
+#include "src/frontend/desktop/windows/scale.h"
+#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/options.h"
+#include "src/game/program.h"
+#include "src/sound/sound_engine.h"
+
+namespace {
+
+using namespace orvane;
+
+constexpr int BadCommandLine = 2;
+constexpr int NoDisplay = 3;
+
+void Complain(const std::string& sentence) {
+  std::fprintf(stderr, "orvane: %s\n", sentence.c_str());
+}
+
+bool HasDisplay() {
+  const auto is_set = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
+  return is_set("DISPLAY") || is_set("WAYLAND_DISPLAY") || is_set("QT_QPA_PLATFORM");
+}
+
+// The toolkit aborts when it cannot reach the display; that must not look like a crash.
+void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
+                      const QString& message) {
+  if (type == QtDebugMsg || type == QtInfoMsg) return;
+  // The black backdrop of the full screen stays while the scale changes, and has nothing to scale.
+  if (message.startsWith("QHighDpiScaling::setFactor")) return;
+  Complain(message.section('\n', 0, 0).toStdString());
+  if (type == QtFatalMsg) std::_Exit(NoDisplay);
+}
+
+// How large the windows are to be, by the command line, the player's settings or the screen.
+Zoom ChooseZoom(const Options& options, Program& program) {
+  const ScreenFacts screen = AskScreen().value_or(ScreenFacts{});
+  std::optional<double> start = options.Scale;
+  if (!start && ScaleIsFixed()) start = screen.Scale;
+  std::vector<Extent> windows;
+  for (const Screen* each : program.TheStage().Screens()) {
+    windows.push_back({double(each->Width), double(each->Height)});
+  }
+  return Zoom(screen, start, windows);
+}
+
+// Shows why the game cannot start, until the box is answered or the program is told to end.
+void ShowError(MessageBoxes& boxes) {
+  OnEndSignals([&boxes] { boxes.CloseAll(); });
+  boxes.ShowKeptError();
+}
+
+// The game cannot start: says so in a box as well as to whoever reads the terminal.
+int TellProblem(const std::string& problem, int argument_count, char** arguments) {
+  Complain(problem);
+  QApplication application(argument_count, arguments);
+  SetUpLook(application);
+  MessageBoxes boxes;
+  boxes.ShowError({problem, "Orvane", BoxButtons::Ok});
+  ShowError(boxes);
+  return EXIT_FAILURE;
+}
+
+int RunGame(const Options& options, int argument_count, char** arguments) {
+  HoldSignals();
+  const Home home = options.Folder ? Home{*options.Folder, {}} : FindHome();
+  const Instance instance(home.Folder);
+  if (!instance.IsFirst()) {
+    instance.CallFirst();
+    return EXIT_SUCCESS;
+  }
+  const std::string problem = MakeReady(home);
+  if (!problem.empty()) return TellProblem(problem, argument_count, arguments);
+  SoundEngine sound;
+  DesktopChance chance(options.Seed);
+  MessageBoxes boxes;
+  DesktopSleeper sleeper;
+  Program program(home.Folder, {sound, chance, boxes, sleeper});
+  QApplication application(argument_count, arguments);
+  SetUpLook(application);
+  if (const std::string hint = FontHint(); !hint.empty()) Complain(hint);
+  SetUpSpeech();
+  const Zoom zoom = ChooseZoom(options, program);
+  SetScale(zoom.ScaleFor({}), zoom.TheScreen());
+  if (program.HasEnded()) {
+    ShowError(boxes);
+    return program.ExitStatus();
+  }
+  Desktop desktop(program, boxes, sleeper, zoom);
+  desktop.TellOfPainting(
+      [&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
+  return desktop.Run();
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  try {
+    const Options options = ReadOptions({arguments + 1, arguments + argument_count});
+    if (!options.Error.empty()) {
+      Complain(options.Error);
+      return BadCommandLine;
+    }
+    if (options.WantsHelp) {
+      std::fputs(HelpText().c_str(), stdout);
+      return EXIT_SUCCESS;
+    }
+    if (!HasDisplay()) {
+      Complain("there is no display; start the game in a desktop session (DISPLAY is not set).");
+      return NoDisplay;
+    }
+    qInstallMessageHandler(OnToolkitMessage);
+    return RunGame(options, argument_count, arguments);
+  } catch (const std::exception& failure) {
+    Complain(failure.what());
+    return EXIT_FAILURE;
+  }
+}

@@ -1,0 +1,38 @@
+// The game pad that is plugged in.
+#pragma once
+
+#include <optional>
+
+#include "src/frontend/shared/pad_stick.h"
+
+struct _SDL_GameController;  // NOLINT(bugprone-reserved-identifier): the name is SDL's
+
+namespace orvane {
+
+// Where a pad's state comes from.
+class PadSource {
+ public:
+  virtual ~PadSource() = default;
+  // What is held down now; nothing while no pad is plugged in.
+  virtual std::optional<PadState> Read() = 0;
+};
+
+// The first pad that SDL knows how to read; pads may come and go at any time.
+class PadDevice : public PadSource {
+ public:
+  PadDevice();
+  ~PadDevice() override;
+  PadDevice(const PadDevice&) = delete;
+  PadDevice& operator=(const PadDevice&) = delete;
+
+  std::optional<PadState> Read() override;
+
+ private:
+  void Find();
+
+  bool started_;
+  _SDL_GameController* controller_ = nullptr;
+  PadStick stick_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,64 @@
+// The widget of one control, kept like its model.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+#include "src/ui/controls.h"
+
+namespace orvane {
+
+class Events;
+
+class ControlView {
+ public:
+  // `widget` belongs to its parent widget.
+  ControlView(Control& model, QWidget* widget) : model_(model), widget_(widget) {}
+  virtual ~ControlView() = default;
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+
+  Control& Model() const { return model_; }
+  QWidget* Widget() const { return widget_; }
+  // The widget that holds the control's children, of one pane where it has panes.
+  virtual QWidget* Ground(int pane) const {
+    static_cast<void>(pane);
+    return widget_;
+  }
+
+  // What screen readers call it; nothing where its caption serves.
+  void SetSpokenName(const QString& name) { widget_->setAccessibleName(name); }
+
+  // The widget that takes the keys, or null for what only shows something.
+  virtual QWidget* KeyTarget() const {
+    return widget_->focusPolicy() == Qt::NoFocus ? nullptr : widget_;
+  }
+  // Whether keys can do anything with it, where it is shown and enabled.
+  virtual bool HasUseForKeys() const { return true; }
+
+  // Brings the widget up to date, by comparing with what it showed last.
+  void Follow();
+  // The same without trusting what it showed last: the model may have been made afresh.
+  void FollowAll();
+
+ protected:
+  // Brings up to date what is special to the kind; `all` as in FollowAll.
+  virtual void FollowValues(bool all) = 0;
+  // Where the widget goes for the model's place, in the coordinates of what holds it.
+  virtual QRect Box(const Place& place) const;
+
+ private:
+  void FollowCommon(bool all);
+
+  Control& model_;
+  QWidget* widget_;
+  CommonValues seen_;
+};
+
+// A text of the game as a widget shows it.
+QString ToQt(const std::string& text);
+// The same where "&" would underline the next letter.
+QString ToQtCaption(const std::string& text);
+
+}  // namespace orvane

@@ -1,0 +1,97 @@
+#include "src/frontend/desktop/views/tabs_view.h"
+
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyleOptionTabWidgetFrame>
+
+#include "src/frontend/desktop/windows/events.h"
+#include "src/game/program.h"
+
+namespace orvane {
+namespace {
+
+// The layouts begin 24 pixels below the control's top, so the tabs end before.
+constexpr int TabHeight = 22;
+
+// The frame around the open pane, with tabs and panes as children that take its size.
+class TabsWidget : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    const QRect frame = rect().adjusted(0, TabHeight - 1, -1, -1);
+    painter.fillRect(frame, palette().color(QPalette::Window).lighter(104));
+    painter.setPen(palette().color(QPalette::Window).darker(145));
+    painter.drawRect(frame);
+  }
+
+  void resizeEvent(QResizeEvent* /*event*/) override {
+    for (QObject* child : children()) {
+      auto* widget = qobject_cast<QWidget*>(child);
+      if (widget == nullptr) continue;
+      const bool is_bar = qobject_cast<QTabBar*>(child) != nullptr;
+      widget->setGeometry(0, 0, width(), is_bar ? TabHeight : height());
+    }
+  }
+};
+
+}  // namespace
+
+TabsView::TabsView(TabStrip& model, QWidget* parent, Events& events)
+    : ControlView(model, new TabsWidget(parent)), model_(model) {
+  for (int pane = 0; pane < model.TabCount(); ++pane) panes_.push_back(new QWidget(Widget()));
+  bar_ = new QTabBar(Widget());
+  bar_->setDrawBase(false);
+  bar_->setExpanding(true);
+  bar_->setUsesScrollButtons(false);
+  bar_->setElideMode(Qt::ElideNone);
+  for (int tab = 0; tab < model.TabCount(); ++tab) bar_->addTab(QString());
+  QObject::connect(bar_, &QTabBar::currentChanged, bar_, [&model, &events](int tab) {
+    events.Send([&model, tab](Program& program) { program.SelectTab(model, tab); });
+  });
+}
+
+QWidget* TabsView::Ground(int pane) const {
+  const auto index = static_cast<size_t>(pane);
+  return index < panes_.size() ? panes_[index] : Widget();
+}
+
+bool TabsView::HasUseForKeys() const {
+  for (int tab = 0; tab < bar_->count(); ++tab) {
+    if (bar_->isTabEnabled(tab)) return true;
+  }
+  return false;
+}
+
+void TabsView::Turn(int step) const {
+  const int count = bar_->count();
+  int tab = bar_->currentIndex();
+  for (int tries = 1; tries < count; ++tries) {
+    tab = (tab + step + count) % count;
+    if (bar_->isTabEnabled(tab)) return bar_->setCurrentIndex(tab);
+  }
+}
+
+void TabsView::FollowValues(bool /*all*/) {
+  const QSignalBlocker quiet(bar_);
+  for (int tab = 0; tab < bar_->count(); ++tab) {
+    const QString caption = ToQtCaption(model_.TabCaption(tab));
+    if (bar_->tabText(tab) != caption) {
+      bar_->setTabText(tab, caption);
+      panes_[static_cast<size_t>(tab)]->setAccessibleName(ToQt(model_.TabCaption(tab)));
+    }
+    if (bar_->isTabEnabled(tab) != model_.TabEnabled(tab)) {
+      bar_->setTabEnabled(tab, model_.TabEnabled(tab));
+    }
+  }
+  // Last, since a tab bar moves on by itself from a tab that is disabled.
+  if (bar_->currentIndex() != model_.Tab()) bar_->setCurrentIndex(model_.Tab());
+  for (size_t pane = 0; pane < panes_.size(); ++pane) {
+    const bool open = static_cast<int>(pane) == model_.Tab();
+    if (panes_[pane]->isVisibleTo(Widget()) != open) panes_[pane]->setVisible(open);
+  }
+}
+
+}  // namespace orvane

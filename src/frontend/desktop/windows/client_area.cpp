@@ -1,0 +1,47 @@
+#include "src/frontend/desktop/windows/client_area.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+
+#include "src/frontend/desktop/access/spoken_text.h"
+#include "src/frontend/desktop/views/control_view.h"
+#include "src/frontend/desktop/windows/events.h"
+#include "src/game/program.h"
+#include "src/ui/reach.h"
+
+namespace orvane {
+
+ClientArea::ClientArea(Screen& screen, Events& events) : screen_(screen), events_(events) {
+  setFixedSize(screen.Width, screen.Height);
+  setAutoFillBackground(true);
+  setAccessibleName(ToQt(screen.Caption));
+}
+
+void ClientArea::Follow(bool all) {
+  if (screen_.OwnSurface == nullptr) return;
+  const QRect changed = image_.Follow(*screen_.OwnSurface, all);
+  if (!changed.isEmpty()) update(changed);
+  announcer_.Follow(*this);
+}
+
+QString ClientArea::Text() const {
+  return SpokenText(screen_);
+}
+
+void ClientArea::Press() {
+  events_.Send([this](Program& program) { program.Press(screen_); });
+}
+
+void ClientArea::paintEvent(QPaintEvent* event) {
+  if (screen_.OwnSurface == nullptr) return;
+  QPainter painter(this);
+  image_.Paint(painter, {0, 0}, event->rect());
+}
+
+void ClientArea::mousePressEvent(QMouseEvent* event) {
+  const QPointF at = event->position();
+  if (event->button() != Qt::LeftButton || ControlAt(screen_, {at.x(), at.y()}) != nullptr) return;
+  Press();
+}
+
+}  // namespace orvane

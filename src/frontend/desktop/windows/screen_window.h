@@ -1,0 +1,71 @@
+// The window of one screen.
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "src/frontend/desktop/input/focus.h"
+#include "src/frontend/desktop/views/control_view.h"
+#include "src/frontend/desktop/views/menu_view.h"
+#include "src/frontend/desktop/windows/client_area.h"
+#include "src/frontend/desktop/windows/scale.h"
+
+namespace orvane {
+
+class ScreenWindow : public QMainWindow {
+ public:
+  ScreenWindow(Screen& screen, Events& events);
+
+  Screen& Model() const { return screen_; }
+  // Null where the screen has no menus.
+  const MenuView* Menu() const { return menu_.get(); }
+  const Focus& KeysTo() const { return *keys_to_; }
+
+  // Brings the window's title, menus and controls up to date.
+  void Follow();
+
+  // Shows the window over the middle of `over`, or of the screen where that is null; where it has
+  // been before, it comes back to that place. Where there is a backdrop, which covers the display,
+  // it stands before that, and a scene covers all of the display as well.
+  void Present(ScreenWindow* over, QWindow* backdrop);
+  // Takes the window off the screen.
+  void Dismiss();
+  // The same, and away from the window system, so that the scale can change.
+  void TakeDown();
+  // Presents it as it was, after TakeDown.
+  void PutBack(QWindow* backdrop);
+
+  // What the window takes of the display; `full_screen` tells whether a scene covers it.
+  Span TakenSpan(bool full_screen) const;
+
+ protected:
+  // Tells of painting.
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  // Keys that the control which has the keyboard has no use for.
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void MakeViews();
+  void FollowTitle();
+  void FollowAll();
+  void Open(QWindow* backdrop);
+  void Tie(QWindow* backdrop);
+  void PutInPlace();
+
+  Screen& screen_;
+  Events& events_;
+  ClientArea* client_;
+  std::unique_ptr<MenuView> menu_;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  std::unique_ptr<Focus> keys_to_;
+  QPointer<ScreenWindow> owner_;   // the window that this one was opened over
+  QPointer<QWidget> focus_;        // had the keyboard when the window was taken down
+  bool covers_ = false;            // the display, as it was opened last
+  std::optional<QPointF> centre_;  // of the window, in the screen's own pixels, once it has a place
+};
+
+}  // namespace orvane

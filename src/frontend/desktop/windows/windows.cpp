@@ -1,0 +1,115 @@
+#include "src/frontend/desktop/windows/windows.h"
+
+#include <QCoreApplication>
+#include <QWindow>
+
+namespace orvane {
+
+Windows::Windows(Stage& stage, Events& events, const Zoom& zoom)
+    : stage_(stage), scale_(zoom.ScaleFor({})) {
+  for (Screen* screen : stage.Screens()) {
+    windows_.push_back(std::make_unique<ScreenWindow>(*screen, events));
+  }
+}
+
+ScreenWindow* Windows::Of(const Screen* screen) const {
+  for (const auto& window : windows_) {
+    if (&window->Model() == screen) return window.get();
+  }
+  return nullptr;
+}
+
+ScreenWindow* Windows::Active() const {
+  return Of(stage_.Active());
+}
+
+void Windows::Follow() {
+  for (const auto& window : windows_) {
+    if (window->isVisible() && window->Model().IsVisible()) window->Follow();
+  }
+  // New windows come before old ones go, so that the keyboard never falls to another program.
+  ShowNew();
+  HideOld();
+  if (stage_.Active() != active_) RaiseActive();
+  active_ = stage_.Active();
+}
+
+void Windows::Rescale(const Zoom& zoom) {
+  FollowBackdrop(zoom.IsFullScreen());
+  std::vector<ScreenWindow*> down;
+  for (const auto& window : windows_) {
+    if (window->isVisible()) down.push_back(window.get());
+    window->TakeDown();
+  }
+  scale_ = zoom.ScaleFor(TakenSpans(zoom.IsFullScreen()));
+  SetScale(scale_, zoom.TheScreen());
+  for (ScreenWindow* window : down) window->PutBack(Backdrop());
+  active_ = nullptr;
+  Follow();
+}
+
+QWindow* Windows::Backdrop() const {
+  return backdrop_ == nullptr ? nullptr : backdrop_->windowHandle();
+}
+
+// Whatever the windows do on the full screen, the desktop does not flash up behind them.
+void Windows::FollowBackdrop(bool full_screen) {
+  if (full_screen == (backdrop_ != nullptr)) return;
+  if (!full_screen) return backdrop_.reset();
+  backdrop_ = std::make_unique<QWidget>();
+  backdrop_->setWindowTitle(QCoreApplication::applicationName());
+  backdrop_->setPalette(QPalette(Qt::black));
+  backdrop_->setAttribute(Qt::WA_ShowWithoutActivating);
+  backdrop_->showFullScreen();
+}
+
+bool Windows::Suit(const Zoom& zoom) const {
+  return (backdrop_ != nullptr) == zoom.IsFullScreen() &&
+         scale_ == zoom.ScaleFor(TakenSpans(zoom.IsFullScreen()));
+}
+
+std::vector<Span> Windows::TakenSpans(bool full_screen) const {
+  std::vector<Span> spans;
+  for (const auto& window : windows_) {
+    if (window->Model().IsVisible()) spans.push_back(window->TakenSpan(full_screen));
+  }
+  return spans;
+}
+
+void Windows::ShowNew() {
+  for (const auto& window : windows_) {
+    if (!window->Model().IsVisible() || window->isVisible()) continue;
+    window->Present(Of(active_), Backdrop());
+  }
+}
+
+void Windows::HideOld() {
+  for (const auto& window : windows_) {
+    if (!window->Model().IsVisible() && window->isVisible()) window->Dismiss();
+  }
+}
+
+void Windows::RaiseActive() {
+  ScreenWindow* window = Active();
+  if (window == nullptr) return;
+  expected_ = window->isActiveWindow() ? nullptr : window;
+  since_asked_.start();
+  window->raise();
+  window->activateWindow();
+}
+
+void Windows::PaintNow() {
+  for (const auto& window : windows_) {
+    if (window->isVisible()) window->repaint();
+  }
+}
+
+bool Windows::IsPlayersChoice(const ScreenWindow& window) {
+  // A window manager takes some time over a request, and may never grant it.
+  constexpr qint64 patience = 700;
+  if (expected_ == nullptr || since_asked_.elapsed() > patience) return true;
+  if (expected_ == &window) expected_ = nullptr;
+  return false;
+}
+
+}  // namespace orvane

@@ -1,0 +1,55 @@
+// The windows of all screens, kept like the stage: which are shown, and which is in front.
+#pragma once
+
+#include <QElapsedTimer>
+#include <memory>
+#include <vector>
+
+#include "src/frontend/desktop/windows/screen_window.h"
+#include "src/frontend/desktop/windows/zoom.h"
+#include "src/ui/stage.h"
+
+namespace orvane {
+
+class Windows {
+ public:
+  // The windows start with the scale that is set.
+  Windows(Stage& stage, Events& events, const Zoom& zoom);
+
+  // Brings all that can be seen up to date.
+  void Follow();
+  // Whether the windows are as large as the player wants those that are visible to be.
+  bool Suit(const Zoom& zoom) const;
+  // Makes them so. None of them may be within a handler: all are taken down and put back.
+  void Rescale(const Zoom& zoom);
+  // Brings the active screen's window to the front again, after a box.
+  void RaiseActive();
+  // Paints at once what waits for painting.
+  void PaintNow();
+
+  // The window of the active screen, or null.
+  ScreenWindow* Active() const;
+  ScreenWindow* Of(const Screen* screen) const;
+
+  // The window manager has made a window the active one. True if the player meant it; false if it
+  // comes of the game's own opening and closing of windows.
+  bool IsPlayersChoice(const ScreenWindow& window);
+
+ private:
+  void ShowNew();
+  void HideOld();
+  QWindow* Backdrop() const;
+  void FollowBackdrop(bool full_screen);
+  // What the windows of all visible screens take of the display.
+  std::vector<Span> TakenSpans(bool full_screen) const;
+
+  Stage& stage_;
+  std::vector<std::unique_ptr<ScreenWindow>> windows_;
+  const Screen* active_ = nullptr;    // as the windows stand
+  ScreenWindow* expected_ = nullptr;  // asked to the front and not there yet
+  QElapsedTimer since_asked_;
+  double scale_;
+  std::unique_ptr<QWidget> backdrop_;  // there while the game has the full screen
+};
+
+}  // namespace orvane

@@ -1,0 +1,42 @@
+// What the player wishes of the windows' size: a scale for windows, or the full screen.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "src/frontend/desktop/windows/scale.h"
+
+namespace orvane {
+
+class Zoom {
+ public:
+  // Windows start with the scale `start`, or where there is none with the best whole one. The
+  // insides of all windows are given, the one with the menu bar first.
+  Zoom(const ScreenFacts& screen, std::optional<double> start, const std::vector<Extent>& windows);
+
+  // The next half step up or down; nothing where the first window would not fit any more, or would
+  // be smaller than it was drawn.
+  void Enlarge();
+  void Reduce();
+  // Back to the best whole scale.
+  void Reset() { windowed_ = best_; }
+
+  bool IsFullScreen() const { return full_screen_; }
+  void SetFullScreen(bool full_screen) { full_screen_ = full_screen; }
+
+  // The scale with which these windows are shown: on the full screen the largest with which all
+  // fit, otherwise what the player has chosen, or less where a window would not fit by that choice.
+  double ScaleFor(const std::vector<Span>& windows) const;
+
+  const ScreenFacts& TheScreen() const { return screen_; }
+
+ private:
+  ScreenFacts screen_;
+  double best_;
+  double windowed_;
+  double least_;  // without regard to what fits: the game starts with it
+  double largest_;
+  bool full_screen_ = false;
+};
+
+}  // namespace orvane

@@ -1,0 +1,107 @@
+#include "src/frontend/script/run/scratch_folder.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <system_error>
+
+#include "src/frontend/script/names/value.h"
+#include "src/frontend/script/run/script_error.h"
+#include "src/platform/game_folder.h"
+
+namespace orvane {
+namespace {
+
+namespace files = std::filesystem;
+
+// Files from this size on are linked to: sounds, of which a start would otherwise copy megabytes.
+constexpr uintmax_t kLinkedSize = 65536;
+
+files::path MakeTemporaryFolder() {
+  std::string path = (files::temp_directory_path() / "orvane-script-XXXXXX").string();
+  if (mkdtemp(path.data()) == nullptr) throw ScriptError("a scratch folder", "no way to make one");
+  return files::canonical(path);
+}
+
+void CopyFile(const files::path& from, const files::path& to) {
+  if (files::file_size(from) >= kLinkedSize) {
+    files::create_symlink(files::canonical(from), to);
+    return;
+  }
+  files::copy_file(from, to);
+  files::permissions(to, files::perms::owner_write, files::perm_options::add);
+}
+
+void CopyFolder(const files::path& from, const files::path& to) {
+  const auto options = files::directory_options::follow_directory_symlink;
+  for (const auto& entry : files::recursive_directory_iterator(from, options)) {
+    const files::path target = to / entry.path().lexically_relative(from);
+    if (entry.is_directory()) {
+      files::create_directories(target);
+    } else if (entry.is_regular_file()) {
+      CopyFile(entry.path(), target);
+    }
+  }
+}
+
+}  // namespace
+
+ScratchFolder::ScratchFolder(const files::path& original) {
+  if (!files::is_directory(original)) {
+    throw ScriptError("a game folder", "none at " + Quoted(original.string()));
+  }
+  path_ = MakeTemporaryFolder();
+  try {
+    CopyFolder(original, path_);
+  } catch (const std::exception& failed) {
+    std::error_code ignored;
+    files::remove_all(path_, ignored);
+    throw ScriptError("a game folder that can be copied", failed.what());
+  }
+}
+
+ScratchFolder::~ScratchFolder() {
+  std::error_code ignored;
+  files::remove_all(path_, ignored);
+}
+
+files::path ScratchFolder::Inside(const std::string& name) const {
+  const files::path path = files::path(name).lexically_normal();
+  const bool leads_out = path.is_absolute() || (!path.empty() && *path.begin() == "..");
+  if (name.empty() || leads_out) throw ScriptError("a name in the game folder", Quoted(name));
+  return path_ / path;
+}
+
+std::optional<std::string> ScratchFolder::Read(const std::string& name) const {
+  Inside(name);
+  return GameFolder(path_).Read(name);
+}
+
+void ScratchFolder::Write(const std::string& name, const std::string& bytes) const {
+  const files::path path = Inside(name);
+  std::error_code ignored;
+  if (files::is_symlink(path, ignored)) files::remove(path, ignored);
+  files::create_directories(path.parent_path(), ignored);
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  if (!file) throw ScriptError("a file that can be written", Quoted(name));
+}
+
+void ScratchFolder::Delete(const std::string& name) const {
+  const files::path path = Inside(name);
+  std::error_code failed;
+  if (files::is_directory(path, failed)) throw ScriptError("a file", "a folder, " + Quoted(name));
+  files::remove(path, failed);
+  if (failed) throw ScriptError("a file that can be deleted", Quoted(name));
+}
+
+std::vector<std::string> ScratchFolder::List(const std::string& pattern) const {
+  const size_t slash = pattern.rfind('/');
+  if (slash == std::string::npos) return GameFolder(path_).List(pattern);
+  const std::string folder = pattern.substr(0, slash + 1);
+  std::vector<std::string> names = GameFolder(Inside(folder)).List(pattern.substr(slash + 1));
+  for (std::string& name : names) name.insert(0, folder);
+  return names;
+}
+
+}  // namespace orvane

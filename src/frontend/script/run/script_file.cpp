@@ -1,0 +1,98 @@
+#include "src/frontend/script/run/script_file.h"
+
+#include <fstream>
+#include <iterator>
+#include <lua.hpp>
+#include <memory>
+#include <optional>
+
+#include "src/frontend/script/calls/call.h"
+#include "src/frontend/script/calls/calls.h"
+#include "src/frontend/script/names/place.h"
+#include "src/frontend/script/run/session.h"
+
+namespace orvane {
+namespace {
+
+struct CloseState {
+  void operator()(lua_State* lua) const { lua_close(lua); }
+};
+using StateOwner = std::unique_ptr<lua_State, CloseState>;
+
+// A script may not end the player or start others.
+void RemoveUnwanted(lua_State* lua) {
+  lua_getglobal(lua, "os");
+  for (const char* name : {"exit", "execute"}) {
+    lua_pushnil(lua);
+    lua_setfield(lua, -2, name);
+  }
+  lua_pop(lua, 1);
+}
+
+// Makes `require` look beside the script first.
+void LookBeside(lua_State* lua, const std::string& file) {
+  const std::string parent = std::filesystem::path(file).parent_path().string();
+  const std::string folder = parent.empty() ? std::string(1, '.') : parent;
+  lua_getglobal(lua, "package");
+  lua_getfield(lua, -1, "path");
+  const std::string others = lua_tostring(lua, -1);
+  const std::string path = folder + "/?.lua;" + folder + "/?/init.lua;" + others;
+  lua_pop(lua, 1);
+  lua_pushlstring(lua, path.data(), path.size());
+  lua_setfield(lua, -2, "path");
+  lua_pop(lua, 1);
+}
+
+void RegisterCalls(lua_State* lua) {
+  RegisterTestCalls(lua);
+  RegisterProgramCalls(lua);
+  RegisterPlayerCalls(lua);
+  RegisterBoxCalls(lua);
+  RegisterTimeCalls(lua);
+  RegisterChanceCalls(lua);
+  RegisterSoundCalls(lua);
+  RegisterPictureCalls(lua);
+  RegisterFileCalls(lua);
+}
+
+std::string TextOnTop(lua_State* lua) {
+  return lua_type(lua, -1) == LUA_TSTRING ? lua_tostring(lua, -1) : "an error";
+}
+
+std::optional<std::string> ReadText(const std::string& file) {
+  std::error_code failed;
+  if (std::filesystem::is_directory(file, failed)) return std::nullopt;
+  std::ifstream input(file, std::ios::binary);
+  if (!input) return std::nullopt;
+  return std::string((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
+}
+
+// Compiles and runs the script's text. Returns what went wrong, empty when nothing did.
+std::string RunText(lua_State* lua, const std::string& file, std::string text) {
+  // A first line for the shell stays a line, so that the others keep their numbers.
+  if (text.rfind('#', 0) == 0) text = std::string("--").append(text);
+  lua_pushcfunction(lua, &PlaceMessage);
+  if (luaL_loadbuffer(lua, text.data(), text.size(), ("@" + file).c_str()) != LUA_OK) {
+    return OnOneLine(WithWholeSource(TextOnTop(lua), file));
+  }
+  return lua_pcall(lua, 0, 0, 1) == LUA_OK ? "" : TextOnTop(lua);
+}
+
+}  // namespace
+
+void RunScript(const std::string& file, const std::filesystem::path& game_folder, Tally& tally) {
+  const std::optional<std::string> text = ReadText(file);
+  if (!text) return tally.Break(file + ":1: expected a script that can be read, found none");
+  const StateOwner state(luaL_newstate());
+  if (state == nullptr) return tally.Break(file + ":1: expected memory for the script, found none");
+  luaL_openlibs(state.get());
+  RemoveUnwanted(state.get());
+  LookBeside(state.get(), file);
+  Session session(state.get(), game_folder, tally);
+  SetSession(state.get(), &session);
+  RegisterCalls(state.get());
+  const std::string failure = RunText(state.get(), file, *text);
+  if (!failure.empty()) tally.Break(failure);
+}
+
+}  // namespace orvane

@@ -1,0 +1,20 @@
+// The stick of a game pad as a cross of four directions.
+#pragma once
+
+#include "src/frontend/shared/pad_state.h"
+
+namespace orvane {
+
+class PadStick {
+ public:
+  // Takes the stick's place, -1 to 1 on each axis, right and down positive, and sets at most one
+  // direction in `state`: that of the longer way out. It comes and goes at different lengths, so
+  // that a hand that trembles does not make the party stumble.
+  void Add(double x, double y, PadState& state);
+
+ private:
+  bool held_ = false;
+  bool upright_ = false;  // the direction held is up or down
+};
+
+}  // namespace orvane

@@ -1,0 +1,192 @@
+#include "src/screens/equipment.h"
+
+#include <string>
+
+#include "src/core/sheets.h"
+#include "src/screens/item.h"
+
+namespace orvane {
+namespace {
+
+constexpr const char* kNothing = "なし";
+
+constexpr int kBook = 5;
+constexpr int kRecovery = 6;
+
+// Kinds of the heroes' weapons and armour.
+constexpr int kWeapon[] = {1, 3};
+constexpr int kArmour[] = {2, 4};
+
+constexpr Place kEquipPlace{8, 40, 89, 33};
+constexpr Place kRemovePlace{8, 88, 89, 41};
+constexpr Place kClosePlace{8, 184, 89, 25};
+constexpr Place kFacePlace{240, 144, 50, 50};
+
+// Two columns of captions with their values, three rows each.
+void AddRows(TabStrip& tabs, int hero, ControlArray<Label>& captions, ControlArray<Label>& values,
+             const char* const (&texts)[3], double top, double value_left) {
+  for (int row = 0; row < 3; ++row) {
+    const double y = top + row * 24;
+    captions.Add(row, PaneOf(tabs, hero), Place{112, y, 65, 17}, LabelValues{texts[row]});
+    values.Add(row, PaneOf(tabs, hero), Place{value_left, y, 297 - value_left, 17});
+  }
+}
+
+}  // namespace
+
+WeponScreen::WeponScreen(Game& game)
+    : Screen(game.stage, "Wepon", "装備", 473, 241),
+      Label5(*this, "Label5", {32, 24, 113, 17}, {"アイテムリスト"}),
+      List1(*this, "List1", {8, 48, 137, 172}),
+      SSTab1(*this, "SSTab1", {160, 8, 305, 225}, {{"", ""}, {true, true}}),
+      Command1(PaneOf(SSTab1, 0), "Command1", kEquipPlace, {"装備 >>"}),
+      Command2(PaneOf(SSTab1, 0), "Command2", kRemovePlace, {"<< すべて　　はずす"}),
+      Command5(PaneOf(SSTab1, 0), "Command5", kClosePlace, {"閉じる"}),
+      Command3(PaneOf(SSTab1, 1), "Command3", kEquipPlace, {"装備 >>"}),
+      Command4(PaneOf(SSTab1, 1), "Command4", kRemovePlace, {"<< すべて　　はずす"}),
+      Command6(PaneOf(SSTab1, 1), "Command6", kClosePlace, {"閉じる"}),
+      Picture1(PaneOf(SSTab1, 0), "Picture1", kFacePlace, {Sheet("face_man"), 1}),
+      Picture2(PaneOf(SSTab1, 1), "Picture2", kFacePlace, {Sheet("face_woman"), 1}),
+      game_(game) {
+  AddRows(SSTab1, 0, Label1, Label2, {"武器 ：", "防具 ：", "本  ："}, 40, 160);
+  AddRows(SSTab1, 1, Label6, Label7, {"武器 ：", "防具 ：", " 本  ："}, 40, 160);
+  AddRows(SSTab1, 0, Label3, Label4, {"攻撃力 ：", "守備力 ：", "精神力 ："}, 128, 180);
+  AddRows(SSTab1, 1, Label8, Label9, {"攻撃力 ：", "守備力 ：", "精神力 ："}, 128, 180);
+  Members.emplace_back("LastRow", &LastRow);
+  List1.OnClick = [this] { RowChosen(); };
+  SSTab1.OnClick = [this] { TabOpened(); };
+  for (int hero = 0; hero < 2; ++hero) {
+    EquipButton(hero).OnClick = [this, hero] { Equip(hero); };
+    RemoveButton(hero).OnClick = [this, hero] { RemoveAll(hero); };
+  }
+  Command5.OnClick = Command6.OnClick = [this] { TheStage().Unload(*this); };
+}
+
+void WeponScreen::OnLoad() {
+  LastRow = 0;
+  ShowEquipment();
+  Command1.Enabled = false;
+  Command3.Enabled = false;
+  FillItemList(game_, List1);
+  const int hero = SSTab1.Tab();
+  RemoveButton(hero).Enabled = !WearsNothing(hero);
+}
+
+void WeponScreen::OnActivate(bool) {
+  State& state = game_.state;
+  for (int hero = 0; hero < 2; ++hero) {
+    state.Attack[hero] = state.BaseAttack[hero] + state.WeaponAttack[hero];
+    state.Defence[hero] = state.BaseDefence[hero] + state.ArmourDefence[hero];
+  }
+  ShowEquipment();
+  FillItemList(game_, List1);
+}
+
+void WeponScreen::OnUnload() {
+  game_.Main.Timer1.SetEnabled(true);
+}
+
+void WeponScreen::ShowEquipment() {
+  const State& state = game_.state;
+  for (int hero = 0; hero < 2; ++hero) {
+    Names(hero)[0].Caption = state.WeaponName[hero].Trimmed();
+    Names(hero)[1].Caption = state.ArmourName[hero].Trimmed();
+    Names(hero)[2].Caption = state.BookName[hero].Trimmed();
+    Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
+    Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
+    Numbers(hero)[2].Caption = std::to_string(state.Spirit[hero]);
+    SSTab1.SetTabCaption(hero, state.HeroName[hero].Trimmed());
+  }
+}
+
+bool WeponScreen::WearsNothing(int hero) {
+  for (int row = 0; row < 3; ++row) {
+    if (Names(hero)[row].Caption != kNothing) return false;
+  }
+  return true;
+}
+
+bool WeponScreen::MayEquip(int hero) {
+  const State& state = game_.state;
+  const int other = hero ^ 1;
+  const int kind = state.ItemRec.Kind;
+  if (kind == kRecovery || kind == kWeapon[other] || kind == kArmour[other]) return false;
+  const std::string row = Trim(List1.Text());
+  return row != state.BookName[other].Trimmed() && row != kNothing;
+}
+
+void WeponScreen::RowChosen() {
+  const int hero = SSTab1.Tab();
+  ReadItem(game_, game_.state.Items[List1.ListIndex]);
+  LastRow = List1.ListIndex;
+  EquipButton(hero).Enabled = MayEquip(hero);
+}
+
+void WeponScreen::TabOpened() {
+  const int hero = SSTab1.Tab();
+  ReadItem(game_, game_.state.Items[LastRow]);
+  EquipButton(hero).Enabled = List1.ListIndex >= 0 && MayEquip(hero);
+  RemoveButton(hero).Enabled = !WearsNothing(hero);
+}
+
+void WeponScreen::Equip(int hero) {
+  State& state = game_.state;
+  if (List1.ListIndex < 0) return;
+  RemoveButton(hero).Enabled = true;
+  const std::string name = List1.Text();
+  const int kind = state.ItemRec.Kind;
+  if (kind == kWeapon[hero]) {
+    Names(hero)[0].Caption = name;
+    state.WeaponName[hero] = name;
+    WearWeapon(hero);
+  } else if (kind == kArmour[hero]) {
+    Names(hero)[1].Caption = name;
+    state.ArmourName[hero] = name;
+    WearArmour(hero);
+  } else if (kind == kBook) {
+    Names(hero)[2].Caption = name;
+    state.BookName[hero] = name;
+    state.BookSkill[hero] = Int16(state.ItemRec.Value);
+  }
+}
+
+void WeponScreen::RemoveAll(int hero) {
+  for (int row = 0; row < 3; ++row) Names(hero)[row].Caption = kNothing;
+  TakeOffWeapon(hero);
+  TakeOffArmour(hero);
+  game_.state.BookName[hero] = kNothing;
+  game_.state.BookSkill[hero] = 0;
+  RemoveButton(hero).Enabled = false;
+}
+
+void WeponScreen::WearWeapon(int hero) {
+  State& state = game_.state;
+  state.WeaponAttack[hero] = Int16(state.ItemRec.Value);
+  state.Attack[hero] = state.BaseAttack[hero] + state.WeaponAttack[hero];
+  Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
+}
+
+void WeponScreen::WearArmour(int hero) {
+  State& state = game_.state;
+  state.ArmourDefence[hero] = Int16(state.ItemRec.Value);
+  state.Defence[hero] = state.BaseDefence[hero] + state.ArmourDefence[hero];
+  Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
+}
+
+void WeponScreen::TakeOffWeapon(int hero) {
+  State& state = game_.state;
+  state.Attack[hero] = state.BaseAttack[hero];
+  Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
+  state.WeaponAttack[hero] = 0;
+  state.WeaponName[hero] = kNothing;
+}
+
+void WeponScreen::TakeOffArmour(int hero) {
+  State& state = game_.state;
+  state.Defence[hero] = state.BaseDefence[hero];
+  Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
+  state.ArmourDefence[hero] = 0;
+  state.ArmourName[hero] = kNothing;
+}
+
+}  // namespace orvane

@@ -1,0 +1,199 @@
+#include "src/sound/fluid/synth.h"
+
+#include <fluidsynth.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane {
+
+struct FluidHandles {
+  fluid_settings_t* Settings = nullptr;
+  fluid_synth_t* Voices = nullptr;
+  int Font = FLUID_FAILED;
+
+  FluidHandles() = default;
+  FluidHandles(const FluidHandles&) = delete;
+  FluidHandles& operator=(const FluidHandles&) = delete;
+  ~FluidHandles() {
+    if (Voices != nullptr) delete_fluid_synth(Voices);
+    if (Settings != nullptr) delete_fluid_settings(Settings);
+  }
+};
+
+namespace {
+
+constexpr int kBankChannels = 16;
+constexpr int kPlayChannels = Synth::kBanks * kBankChannels;
+// Channels that never play: choosing an instrument on one keeps its samples in memory. As many as
+// two pieces use, so that field and battle find theirs ready, and no more: one may take a megabyte.
+constexpr int kKeepers = 20;
+// The synth has its channels by sixteens.
+constexpr int kChannels = kPlayChannels + 32;
+constexpr int kPolyphony = 128;
+// The pieces are balanced against the effects at this gain.
+constexpr double kGain = 1.2;
+
+constexpr int kVolume = 7;
+constexpr int kExpression = 11;
+constexpr int kSustain = 64;
+constexpr int kResetControllers = 121;
+constexpr int kBendMiddle = 8192;
+constexpr int kBendSemitones = 2;
+
+struct Setting {
+  int Control = 0;
+  int Value = 0;
+};
+// What resetting the controllers leaves as it is: volume, balance, place and effects.
+constexpr std::array<Setting, 5> kFresh = {{{kVolume, 100}, {8, 64}, {10, 64}, {91, 0}, {93, 0}}};
+
+}  // namespace
+
+std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
+  for (int level = 0; level < LAST_LOG_LEVEL; ++level) {
+    fluid_set_log_function(level, nullptr, nullptr);  // sound never complains
+  }
+  auto fluid = std::make_unique<FluidHandles>();
+  fluid->Settings = new_fluid_settings();
+  if (fluid->Settings == nullptr) return nullptr;
+  fluid_settings_setnum(fluid->Settings, "synth.sample-rate", rate);
+  fluid_settings_setnum(fluid->Settings, "synth.gain", kGain);
+  fluid_settings_setint(fluid->Settings, "synth.polyphony", kPolyphony);
+  fluid_settings_setint(fluid->Settings, "synth.midi-channels", kChannels);
+  // A whole font unpacked is over a hundred megabytes; a piece needs a dozen of its instruments.
+  fluid_settings_setint(fluid->Settings, "synth.dynamic-sample-loading", 1);
+  fluid_settings_setint(fluid->Settings, "synth.lock-memory", 0);
+  fluid->Voices = new_fluid_synth(fluid->Settings);
+  if (fluid->Voices == nullptr) return nullptr;
+  fluid->Font = fluid_synth_sfload(fluid->Voices, font.c_str(), 0);
+  if (fluid->Font == FLUID_FAILED) return nullptr;
+  return std::unique_ptr<Synth>(new Synth(std::move(fluid)));
+}
+
+Synth::Synth(std::unique_ptr<FluidHandles> fluid) : fluid_(std::move(fluid)) {
+  for (int channel = 0; channel < kPlayChannels; ++channel) {
+    const bool drums = channel % kBankChannels == kDrumChannel;
+    fluid_synth_set_channel_type(fluid_->Voices, channel,
+                                 drums ? CHANNEL_TYPE_DRUM : CHANNEL_TYPE_MELODIC);
+  }
+}
+
+Synth::~Synth() = default;
+
+Patch Synth::Resolve(const Patch& patch) const {
+  fluid_sfont_t* font = fluid_synth_get_sfont_by_id(fluid_->Voices, fluid_->Font);
+  const int bank = patch.Bank == kDrumBank ? kDrumBank : 0;
+  for (const Patch& choice : {patch, Patch{bank, patch.Program}, Patch{bank, 0}}) {
+    if (fluid_sfont_get_preset(font, choice.Bank, choice.Program) != nullptr) return choice;
+  }
+  return patch;
+}
+
+void Synth::Select(int channel, const Patch& patch) {
+  fluid_synth_program_select(fluid_->Voices, channel, fluid_->Font, patch.Bank, patch.Program);
+}
+
+void Synth::Keep(const Patch& patch) {
+  const std::scoped_lock turn(turn_);
+  const Patch wanted = Resolve(patch);
+  const auto found = std::find(kept_.begin(), kept_.end(), wanted);
+  if (found != kept_.end()) {
+    const auto keeper = keepers_.begin() + (found - kept_.begin());
+    std::rotate(keeper, keeper + 1, keepers_.end());
+    std::rotate(found, found + 1, kept_.end());
+    return;
+  }
+  int channel = kPlayChannels + static_cast<int>(kept_.size());
+  if (kept_.size() == kKeepers) {
+    channel = keepers_.front();
+    keepers_.erase(keepers_.begin());
+    kept_.erase(kept_.begin());
+  }
+  Select(channel, wanted);
+  keepers_.push_back(channel);
+  kept_.push_back(wanted);
+}
+
+void Synth::Send(int bank, const SongEvent& event) {
+  const int channel = bank * kBankChannels + event.Channel();
+  Bank& state = banks_.at(static_cast<size_t>(bank));
+  if (const std::optional<Patch> patch = state.Patches.Read(event)) {
+    Select(channel, Resolve(*patch));
+    return;
+  }
+  const int bend = event.First | (event.Second << 7);
+  switch (event.Kind()) {
+    case 8:
+      fluid_synth_noteoff(fluid_->Voices, channel, event.First);
+      break;
+    case kNoteOn:
+      fluid_synth_noteon(fluid_->Voices, channel, event.First, event.Second);
+      break;
+    case 10:
+      fluid_synth_key_pressure(fluid_->Voices, channel, event.First, event.Second);
+      break;
+    case kControl:
+      // Bank numbers are the patch reader's, and the modes above would join the channels up.
+      if (event.First == 0 || event.First == 32 || event.First > kResetControllers + 2) break;
+      if (event.First == kExpression) {
+        state.Expression.at(static_cast<size_t>(event.Channel())) = event.Second;
+      }
+      fluid_synth_cc(fluid_->Voices, channel, event.First, event.Second);
+      break;
+    case 13:
+      fluid_synth_channel_pressure(fluid_->Voices, channel, event.First);
+      break;
+    case 14:
+      fluid_synth_pitch_bend(fluid_->Voices, channel, bend);
+      break;
+    default:
+      break;
+  }
+}
+
+void Synth::ReleaseKeys(int bank) {
+  for (int i = 0; i < kBankChannels; ++i) {
+    const int channel = bank * kBankChannels + i;
+    fluid_synth_cc(fluid_->Voices, channel, kSustain, 0);
+    fluid_synth_all_notes_off(fluid_->Voices, channel);
+  }
+}
+
+void Synth::Reset(int bank) {
+  banks_.at(static_cast<size_t>(bank)).Patches = PatchReader();
+  banks_.at(static_cast<size_t>(bank)).Expression.fill(127);
+  for (int i = 0; i < kBankChannels; ++i) {
+    const int channel = bank * kBankChannels + i;
+    fluid_synth_cc(fluid_->Voices, channel, kResetControllers, 0);
+    for (const Setting& fresh : kFresh) {
+      fluid_synth_cc(fluid_->Voices, channel, fresh.Control, fresh.Value);
+    }
+    fluid_synth_pitch_wheel_sens(fluid_->Voices, channel, kBendSemitones);
+    fluid_synth_pitch_bend(fluid_->Voices, channel, kBendMiddle);
+  }
+}
+
+void Synth::Fade(int bank, float level) {
+  const Bank& state = banks_.at(static_cast<size_t>(bank));
+  for (int i = 0; i < kBankChannels; ++i) {
+    const auto full = static_cast<float>(state.Expression.at(static_cast<size_t>(i)));
+    fluid_synth_cc(fluid_->Voices, bank * kBankChannels + i, kExpression,
+                   static_cast<int>(std::lround(full * level)));
+  }
+}
+
+void Synth::Clear(int bank) {
+  for (int i = 0; i < kBankChannels; ++i) {
+    fluid_synth_all_sounds_off(fluid_->Voices, bank * kBankChannels + i);
+    fluid_synth_unset_program(fluid_->Voices, bank * kBankChannels + i);
+  }
+}
+
+void Synth::Render(Block& block) {
+  Block voices;
+  fluid_synth_write_float(fluid_->Voices, kBlockFrames, voices.data(), 0, 2, voices.data(), 1, 2);
+  for (size_t i = 0; i < block.size(); ++i) block[i] += voices[i];
+}
+
+}  // namespace orvane

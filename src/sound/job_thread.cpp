@@ -1,0 +1,58 @@
+#include "src/sound/job_thread.h"
+
+#include <utility>
+
+namespace orvane {
+
+JobThread::JobThread(std::function<void()> when_idle, std::chrono::milliseconds pause)
+    : when_idle_(std::move(when_idle)), pause_(pause), thread_([this] { Run(); }) {}
+
+JobThread::~JobThread() {
+  {
+    const std::scoped_lock lock(mutex_);
+    stop_ = true;
+  }
+  changed_.notify_all();
+  thread_.join();
+}
+
+void JobThread::Post(std::function<void()> job) {
+  {
+    const std::scoped_lock lock(mutex_);
+    jobs_.push_back(std::move(job));
+  }
+  changed_.notify_all();
+}
+
+void JobThread::Finish() {
+  std::unique_lock lock(mutex_);
+  changed_.wait(lock, [this] { return jobs_.empty() && !busy_; });
+}
+
+void JobThread::Run() {
+  const auto wanted = [this] { return stop_ || !jobs_.empty(); };
+  std::unique_lock lock(mutex_);
+  while (!stop_) {
+    std::function<void()> job;
+    if (when_idle_) {
+      if (!changed_.wait_for(lock, pause_, wanted)) job = std::exchange(when_idle_, nullptr);
+    } else {
+      changed_.wait(lock, wanted);
+    }
+    if (stop_) break;
+    if (!job) {
+      if (jobs_.empty()) continue;
+      job = std::move(jobs_.front());
+      jobs_.pop_front();
+    }
+    busy_ = true;
+    lock.unlock();
+    job();
+    job = nullptr;  // what it holds is let go before anybody hears that it is done
+    lock.lock();
+    busy_ = false;
+    changed_.notify_all();
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,220 @@
+#include "src/sound/sound_engine.h"
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string_view>
+
+#include "src/platform/sound_channels.h"
+#include "src/sound/job_thread.h"
+#include "src/sound/mixer.h"
+#include "src/sound/output.h"
+#include "src/sound/play_log.h"
+#include "src/sound/recorder.h"
+#include "src/sound/sound_font.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::array<std::string_view, Mixer::kChannels> kAliases = {
+    "bgm1", "bgm2", "bgm3", "bgm4", "bgm5", "bgm6", "bgm7", "bgm8", "snd1",
+    "snd2", "snd3", "snd4", "snd5", "snd6", "snd7", "snd8", "snd9", "snd10"};
+
+// The sound font is read when the program has settled, unless music is wanted before.
+constexpr std::chrono::milliseconds kSettled(2000);
+// A larger file is no sound of a game.
+constexpr std::streamoff kMostBytes = 16 << 20;
+
+// What is heard in the field, and what a battle that comes upon it begins with.
+struct Follower {
+  std::string_view Field;
+  std::string_view Battle;
+};
+constexpr std::array<Follower, 4> kFollowers = {
+    {{"bgm1", "bgm4"}, {"bgm2", "bgm4"}, {"bgm3", "bgm4"}, {"bgm8", "bgm6"}}};
+
+// The number of a channel; -1 for an unknown name.
+int ChannelOf(std::string_view alias) {
+  for (size_t i = 0; i < kAliases.size(); ++i) {
+    if (kAliases[i] == alias) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+// All bytes of a file; none if it cannot be read.
+std::vector<std::uint8_t> ReadFile(const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return {};
+  std::ifstream file(path, std::ios::binary | std::ios::ate);
+  const std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : 0;
+  if (size <= 0 || size > kMostBytes) return {};
+  std::vector<char> bytes(static_cast<size_t>(size));
+  file.seekg(0);
+  if (!file.read(bytes.data(), size)) return {};
+  return {bytes.begin(), bytes.end()};
+}
+
+// The file of the piece that follows on the one in `path`; empty if none does.
+std::string FollowerOf(size_t channel, const std::string& path) {
+  for (const Follower& each : kFollowers) {
+    if (each.Field != kAliases.at(channel)) continue;
+    return std::filesystem::path(path)
+        .replace_filename(SoundFile(std::string(each.Battle)))
+        .string();
+  }
+  return "";
+}
+
+}  // namespace
+
+// The parts of the engine, in the order in which they stand on each other.
+class SoundEngine::Machine {
+ public:
+  explicit Machine(const SoundOptions& options) : options_(options) {
+    if (!options.RecordFile.empty()) {
+      recorder_.emplace(options.RecordFile, kRate);
+      log_.emplace(options.RecordFile + ".log", kRate);
+    }
+    if (options.Plays == SoundOptions::Sink::Caller) return;
+    jobs_.Post([this] { OpenOutput(); });
+  }
+
+  // Without a time all that was asked for takes effect at once.
+  void Pull(float* out, size_t frames, Mixer::TimePoint from = Mixer::TimePoint::max()) {
+    if (log_) log_->Pulled(frames, from);
+    mixer_.Pull(out, frames, from);
+    if (recorder_) recorder_->Write(out, frames);
+  }
+
+  void Note(const std::string& what) {
+    if (log_) log_->Write(what);
+  }
+
+  bool Open(size_t channel, const std::string& path);
+  void WaitUntilReady() { jobs_.Finish(); }
+  Mixer& Channels() { return mixer_; }
+  bool& IsOpen(size_t channel) { return open_.at(channel); }
+
+ private:
+  // These run on the job thread.
+  void OpenOutput();
+  void OpenSynth();
+  void Prepare(Piece& piece, const std::string& follower);
+
+  const SoundOptions options_;
+  std::array<bool, Mixer::kChannels> open_{};
+  bool audible_ = true;
+  bool synth_asked_ = false;
+  std::unique_ptr<Synth> synth_;
+  Mixer mixer_{kRate};
+  std::optional<Recorder> recorder_;
+  std::optional<PlayLog> log_;
+  std::unique_ptr<Output> output_;
+  JobThread jobs_{[this] { OpenSynth(); }, kSettled};
+};
+
+void SoundEngine::Machine::OpenOutput() {
+  const PullFunction pull = [this](float* out, size_t frames, Mixer::TimePoint from) {
+    Pull(out, frames, from);
+  };
+  if (options_.Plays == SoundOptions::Sink::Device) output_ = OpenDevice(kRate, pull);
+  audible_ = output_ != nullptr || recorder_;
+  if (!output_) output_ = OpenClock(kRate, pull);
+  if (log_) log_->Begin(output_->Delay());
+}
+
+void SoundEngine::Machine::OpenSynth() {
+  // A font that nobody would hear is not worth its memory.
+  if (synth_asked_ || !audible_) return;
+  synth_asked_ = true;
+  const std::string font = options_.FontFile.empty() ? FindSoundFont() : options_.FontFile;
+  if (!font.empty()) synth_ = Synth::Load(font, kRate);
+  mixer_.UseSynth(synth_.get());
+}
+
+void SoundEngine::Machine::Prepare(Piece& piece, const std::string& follower) {
+  OpenSynth();
+  if (synth_) {
+    // Now, as the field's first bar may wait a moment and a battle's may not; and first, as what
+    // was kept first is the first to go.
+    if (const std::optional<Song> next =
+            follower.empty() ? std::nullopt : ReadSong(ReadFile(follower))) {
+      for (const Patch& patch : PatchesOf(*next)) synth_->Keep(patch);
+    }
+    for (const Patch& patch : PatchesOf(piece.Notes)) synth_->Keep(patch);
+  }
+  piece.Ready.store(true, std::memory_order_release);
+}
+
+bool SoundEngine::Machine::Open(size_t channel, const std::string& path) {
+  const std::vector<std::uint8_t> file = ReadFile(path);
+  if (file.empty()) return false;
+  const auto number = static_cast<int>(channel);
+  if (std::optional<Song> song = ReadSong(file)) {
+    auto piece = std::make_shared<Piece>();
+    piece->Notes = std::move(*song);
+    mixer_.Open(number, std::shared_ptr<const Piece>(piece));
+    jobs_.Post([this, piece, next = FollowerOf(channel, path)] { Prepare(*piece, next); });
+  } else if (std::shared_ptr<const Clip> clip = ReadClip(file, kRate)) {
+    mixer_.Open(number, std::move(clip));
+  } else {
+    return false;
+  }
+  return true;
+}
+
+SoundOptions SoundOptions::FromEnvironment() {
+  SoundOptions options;
+  if (const char* file = std::getenv("ORVANE_RECORD")) options.RecordFile = file;
+  return options;
+}
+
+SoundEngine::SoundEngine(const SoundOptions& options)
+    : machine_(std::make_unique<Machine>(options)) {}
+
+SoundEngine::~SoundEngine() = default;
+
+std::string SoundEngine::Send(const std::string& text) {
+  const SoundCommand command = ParseSoundCommand(text);
+  const int channel = ChannelOf(command.Alias);
+  if (channel < 0) return "";
+  bool& open = machine_->IsOpen(static_cast<size_t>(channel));
+  if (command.What == SoundCommand::Verb::Open) {
+    if (open) return "";
+    open = machine_->Open(static_cast<size_t>(channel), command.File);
+    if (open) machine_->Note("open " + command.Alias);
+    return open ? "1" : "";
+  }
+  if (!open) return "";
+  switch (command.What) {
+    case SoundCommand::Verb::Status:
+      return machine_->Channels().Playing(channel) ? "playing" : "stopped";
+    case SoundCommand::Verb::Play:
+      machine_->Channels().Play(channel);
+      machine_->Note("play " + command.Alias);
+      break;
+    case SoundCommand::Verb::Close:
+      machine_->Channels().Close(channel);
+      machine_->Note("close " + command.Alias);
+      open = false;
+      break;
+    default:
+      break;
+  }
+  return "";
+}
+
+void SoundEngine::Note(const std::string& what) {
+  machine_->Note(what);
+}
+
+void SoundEngine::Pull(float* out, size_t frames) {
+  machine_->Pull(out, frames);
+}
+
+void SoundEngine::WaitUntilReady() {
+  machine_->WaitUntilReady();
+}
+
+}  // namespace orvane

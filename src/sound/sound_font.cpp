@@ -1,0 +1,35 @@
+#include "src/sound/sound_font.h"
+
+#include <array>
+#include <filesystem>
+
+namespace orvane {
+namespace {
+
+// Best first. The music is balanced with the first one; the others are any system's own choice.
+constexpr std::array kFonts = {
+    "FluidR3Mono_GM.sf3",    "TimGM6mb.sf2",   "FluidR3_GM.sf2",
+    "MuseScore_General.sf3", "default-GM.sf3", "default-GM.sf2",
+};
+constexpr std::array kFolders = {
+    "/usr/share/sounds/sf3",
+    "/usr/share/sounds/sf2",
+    "/usr/share/soundfonts",
+    "/usr/local/share/soundfonts",
+    "/usr/share/fluidr3mono-gm-soundfont",
+};
+
+}  // namespace
+
+std::string FindSoundFont() {
+  for (const std::string font : kFonts) {
+    for (const std::string folder : kFolders) {
+      std::error_code error;
+      const std::filesystem::path path = std::filesystem::path(folder) / font;
+      if (std::filesystem::is_regular_file(path, error)) return path.string();
+    }
+  }
+  return "";
+}
+
+}  // namespace orvane

@@ -1,0 +1,210 @@
+#include "src/ui/surface.h"
+
+#include <gtest/gtest.h>
+
+#include "src/base/error.h"
+
+namespace orvane {
+namespace {
+
+// A surface whose pixel (x, y) has the colour y * 256 + x.
+Surface Numbered(int width, int height) {
+  Surface::Pixels pixels;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) pixels.push_back(static_cast<Colour>(y * 256 + x));
+  }
+  return {width, height, std::move(pixels)};
+}
+
+int Painted(const Surface& surface, Colour colour) {
+  int count = 0;
+  for (int y = 0; y < surface.Height(); ++y) {
+    for (int x = 0; x < surface.Width(); ++x) count += surface.At(x, y) == colour ? 1 : 0;
+  }
+  return count;
+}
+
+TEST(BitBlt, CopiesARectangle) {
+  Surface target(10, 10, 0xFFFFFF);
+  BitBlt(target, 2, 3, 4, 2, Numbered(8, 8), 1, 5, RasterOp::SRCCOPY);
+  EXPECT_EQ(target.At(2, 3), 5u * 256 + 1);
+  EXPECT_EQ(target.At(5, 4), 6u * 256 + 4);
+  EXPECT_EQ(Painted(target, 0xFFFFFF), 100 - 8);
+}
+
+TEST(BitBlt, JoinsBitsByTheOperation) {
+  Surface target(1, 1, 0x0F0F0F);
+  BitBlt(target, 0, 0, 1, 1, Surface(1, 1, 0xF00000), 0, 0, RasterOp::SRCPAINT);
+  EXPECT_EQ(target.At(0, 0), 0xFF0F0Fu);
+  BitBlt(target, 0, 0, 1, 1, Surface(1, 1, 0x0F00FF), 0, 0, RasterOp::SRCAND);
+  EXPECT_EQ(target.At(0, 0), 0x0F000Fu);
+}
+
+TEST(BitBlt, AMaskAndItsImageLeaveTheGroundAround) {
+  Surface scene(2, 1, 0x336699);
+  const Surface mask(2, 1, Surface::Pixels{0x000000, 0xFFFFFF});
+  const Surface image(2, 1, Surface::Pixels{0xFFFFFF, 0x123456});
+  BitBlt(scene, 0, 0, 2, 1, mask, 0, 0, RasterOp::SRCPAINT);
+  BitBlt(scene, 0, 0, 2, 1, image, 0, 0, RasterOp::SRCAND);
+  EXPECT_EQ(scene.At(0, 0), 0x336699u);
+  EXPECT_EQ(scene.At(1, 0), 0x123456u);
+}
+
+TEST(BitBlt, IsClippedAtEveryEdge) {
+  const Surface source = Numbered(4, 4);
+  Surface target(4, 4, 0xFFFFFF);
+  BitBlt(target, -2, -1, 4, 4, source, 0, 0, RasterOp::SRCCOPY);
+  EXPECT_EQ(target.At(0, 0), 1u * 256 + 2);
+  EXPECT_EQ(Painted(target, 0xFFFFFF), 16 - 2 * 3);
+  Surface other(4, 4, 0xFFFFFF);
+  BitBlt(other, 3, 3, 4, 4, source, 0, 0, RasterOp::SRCCOPY);
+  EXPECT_EQ(other.At(3, 3), 0u);
+  EXPECT_EQ(Painted(other, 0xFFFFFF), 15);
+  BitBlt(other, 100, 100, 4, 4, source, 0, 0, RasterOp::SRCCOPY);
+  EXPECT_EQ(Painted(other, 0xFFFFFF), 15);
+}
+
+TEST(BitBlt, WhatTheSourceLacksStaysAsItWas) {
+  Surface target(4, 4, 0xFFFFFF);
+  BitBlt(target, 0, 0, 4, 4, Surface(4, 3, 0), 0, 0, RasterOp::SRCCOPY);
+  EXPECT_EQ(target.At(0, 2), 0u);
+  EXPECT_EQ(target.At(0, 3), 0xFFFFFFu);
+  Surface other(4, 4, 0xFFFFFF);
+  BitBlt(other, 0, 0, 4, 4, Surface(4, 4, 0), -1, -2, RasterOp::SRCCOPY);
+  EXPECT_EQ(other.At(0, 3), 0xFFFFFFu);
+  EXPECT_EQ(other.At(1, 2), 0u);
+}
+
+TEST(BitBlt, WithinOneSurfaceTheOldPixelsAreRead) {
+  Surface surface = Numbered(4, 4);
+  BitBlt(surface, 0, 1, 4, 3, surface, 0, 0, RasterOp::SRCCOPY);
+  EXPECT_EQ(surface.At(2, 3), 2u * 256 + 2);
+  EXPECT_EQ(surface.At(2, 0), 2u);
+}
+
+TEST(StretchBlt, EnlargingRepeatsPixels) {
+  Surface target(6, 4, 0);
+  StretchBlt(target, {0, 0, 6, 4}, Numbered(2, 2), {0, 0, 2, 2}, RasterOp::SRCCOPY);
+  EXPECT_EQ(target.At(2, 1), 0u);
+  EXPECT_EQ(target.At(3, 1), 1u);
+  EXPECT_EQ(target.At(5, 2), 257u);
+}
+
+TEST(StretchBlt, EveryPixelReadsTheFlooredPlace) {
+  const Surface source = Numbered(40, 36);
+  Surface target(36, 33);
+  StretchBlt(target, {0, 0, 36, 33}, source, {0, 0, 40, 36}, RasterOp::SRCCOPY);
+  for (int y = 0; y < 33; ++y) {
+    for (int x = 0; x < 36; ++x) EXPECT_EQ(target.At(x, y), source.At(x * 40 / 36, y * 36 / 33));
+  }
+}
+
+TEST(StretchBlt, ClippingDoesNotShiftTheScale) {
+  const Surface source = Numbered(10, 10);
+  Surface target(10, 10, 0xFFFFFF);
+  StretchBlt(target, {-7, -3, 25, 20}, source, {0, 0, 10, 10}, RasterOp::SRCCOPY);
+  for (int y = 0; y < 10; ++y) {
+    for (int x = 0; x < 10; ++x) {
+      EXPECT_EQ(target.At(x, y), source.At((x + 7) * 10 / 25, (y + 3) * 10 / 20));
+    }
+  }
+}
+
+TEST(StretchBlt, ARectangleThatHangsOverItsSheetIsClippedThere) {
+  Surface target(64, 64, 0xFFFFFF);
+  StretchBlt(target, {0, 0, 64, 64}, Surface(64, 50, 0), {0, 0, 64, 64}, RasterOp::SRCCOPY);
+  EXPECT_EQ(target.At(63, 49), 0u);
+  EXPECT_EQ(target.At(0, 50), 0xFFFFFFu);
+}
+
+TEST(StretchBlt, NoSizeDrawsNothing) {
+  Surface target(4, 4, 0xFFFFFF);
+  StretchBlt(target, {0, 0, 0, 4}, Surface(4, 4), {0, 0, 4, 4}, RasterOp::SRCCOPY);
+  StretchBlt(target, {0, 0, 4, 4}, Surface(4, 4), {0, 0, 4, 0}, RasterOp::SRCCOPY);
+  EXPECT_EQ(Painted(target, 0xFFFFFF), 16);
+}
+
+TEST(StretchBlt, WithinOneSurfaceACopyIsRead) {
+  Surface surface = Numbered(8, 8);
+  const Surface before = surface;
+  StretchBlt(surface, {0, 0, 8, 8}, surface, {0, 0, 4, 4}, RasterOp::SRCCOPY);
+  for (int y = 0; y < 8; ++y) {
+    for (int x = 0; x < 8; ++x) EXPECT_EQ(surface.At(x, y), before.At(x / 2, y / 2));
+  }
+}
+
+TEST(FillBox, TakesBothCornersInAnyOrder) {
+  Surface surface(10, 10, 0);
+  FillBox(surface, 5, 6, 2, 4, 0xAA);
+  EXPECT_EQ(Painted(surface, 0xAA), 4 * 3);
+  EXPECT_EQ(surface.At(5, 6), 0xAAu);
+  EXPECT_EQ(surface.At(2, 4), 0xAAu);
+  FillBox(surface, -5, -5, 100, 100, 0xBB);
+  EXPECT_EQ(Painted(surface, 0xBB), 100);
+  FillBox(surface, 10, 0, 20, 9, 0xCC);
+  EXPECT_EQ(Painted(surface, 0xCC), 0);
+}
+
+TEST(DrawCircle, IsAThinOutline) {
+  Surface surface(41, 41, 0);
+  DrawCircle(surface, 20, 20, 15, 0xFFFFFF);
+  for (const auto& [x, y] : {std::pair{35, 20}, {5, 20}, {20, 35}, {20, 5}}) {
+    EXPECT_EQ(surface.At(x, y), 0xFFFFFFu);
+  }
+  for (int y = 0; y < 41; ++y) {
+    for (int x = 0; x < 41; ++x) {
+      const int square = (x - 20) * (x - 20) + (y - 20) * (y - 20);
+      if (surface.At(x, y) != 0) {
+        EXPECT_NEAR(square, 15 * 15, 16) << x << ", " << y;
+      } else {
+        EXPECT_GT(std::abs(square - 15 * 15), 0);
+      }
+    }
+  }
+  // Every row that the circle crosses has it at the same distance on both sides.
+  for (int y = 5; y <= 35; ++y) {
+    int left = 0;
+    while (left < 41 && surface.At(left, y) == 0) ++left;
+    EXPECT_LT(left, 21);
+    EXPECT_EQ(surface.At(40 - left, y), 0xFFFFFFu);
+  }
+}
+
+TEST(DrawCircle, IsClipped) {
+  Surface surface(10, 10, 0);
+  DrawCircle(surface, 0, 0, 5, 1);
+  EXPECT_EQ(surface.At(5, 0), 1u);
+  DrawCircle(surface, 5, -100, 250, 1);
+  DrawCircle(surface, 5, 5, -1, 2);
+  EXPECT_EQ(Painted(surface, 2), 0);
+}
+
+TEST(Surface, ShowsOnlyWhatHasBeenPublished) {
+  Surface surface(4, 4, 7);
+  surface.Refresh();
+  FillBox(surface, 1, 1, 1, 1, 9);
+  EXPECT_EQ(surface.At(1, 1), 9u);
+  EXPECT_EQ(surface.ShownAt(1, 1), 7u);
+  const uint64_t before = surface.Revision();
+  surface.Refresh();
+  EXPECT_EQ(surface.ShownAt(1, 1), 9u);
+  EXPECT_GT(surface.Revision(), before);
+  const uint64_t after = surface.Revision();
+  surface.Refresh();
+  EXPECT_EQ(surface.Revision(), after) << "nothing new was drawn";
+}
+
+TEST(Surface, CopiesPartWhenOneIsDrawnOn) {
+  Surface one(2, 2, 1);
+  Surface other = one;
+  FillBox(other, 0, 0, 1, 1, 2);
+  EXPECT_EQ(one.At(0, 0), 1u);
+  EXPECT_EQ(other.At(0, 0), 2u);
+}
+
+TEST(Surface, AnswersNothingOutside) {
+  EXPECT_THROW(static_cast<void>(Surface(2, 2).At(2, 0)), RunError);
+}
+
+}  // namespace
+}  // namespace orvane

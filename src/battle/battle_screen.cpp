@@ -46,42 +46,46 @@ BattleScreen::BattleScreen(Game& the_game)
     : Screen(the_game.stage, "Battle", "BATTLE !", 454, 396),
       game(the_game),
       state(the_game.state),
-      Picture1(*this, "Picture1", {8, 8, 436, 268}, {Surface(432, 264), 2}),
-      Picture13(Picture1, "Picture13", {0, 16, 202, 50}, {Sheet("name_panel_enemy"), 1}),
-      Label24(Picture13, "Label24", {8, 16, 184, 20}, {"敵の名前", 0, kNameFont, Align::Centre}),
-      Picture9(Picture1, "Picture9", {216, 16, 202, 50}, {Sheet("name_panel_hero"), 1}),
-      Label20(Picture9, "Label20", {8, 16, 184, 20}, {"", 0, kNameFont, Align::Centre}),
-      Picture10(Picture1, "Picture10", {48, 8, 338, 95}, {Sheet("victory_panel"), 1}),
-      Label21(Picture10, "Label21", {16, 8, 305, 25}, {"", Rgb(128, 0, 128), kNameFont}),
-      Frame1(*this, "Frame1", {8, 280, 153, 105}, {"コマンド"}),
-      Command1(Frame1, "Command1", {8, 32, 65, 33}, {"戦う"}),
-      Command2(Frame1, "Command2", {72, 32, 65, 33}, {"魔法"}),
-      Command3(Frame1, "Command3", {8, 64, 65, 33}, {"技"}),
-      Command4(Frame1, "Command4", {72, 64, 65, 33}, {"アイテム"}),
-      Command5(Frame1, "Command5", {80, 16, 49, 12}, {"逃げる"}),
-      SSTab1(*this, "SSTab1", {168, 288, 281, 99}, {{"", ""}, {true, true}}),
-      Picture4(PaneOf(SSTab1, 0), "Picture4", {224, 24, 50, 50}, {Sheet("face_man"), 1}),
-      Picture5(PaneOf(SSTab1, 1), "Picture5", {224, 24, 50, 50}, {Sheet("face_woman"), 1}),
-      List1(*this, "List1", {8, 280, 193, 100}),
-      List2(*this, "List2", {8, 280, 153, 100}),
-      List3(*this, "List3", {8, 280, 153, 100}),
-      List4(*this, "List4", {8, 280, 153, 100}),
-      Picture2(*this, "Picture2", kOutOfSight, {Sheet("hero_man")}),
-      Picture3(*this, "Picture3", kOutOfSight, {Sheet("hero_woman")}),
-      Picture7(*this, "Picture7", kOutOfSight, {Sheet("ground_open")}),
-      Picture11(*this, "Picture11", kOutOfSight, {Sheet("ground_waste")}),
-      Picture12(*this, "Picture12", kOutOfSight, {Sheet("ground_lair")}),
-      Picture8(*this, "Picture8", kOutOfSight, {Sheet("effects")}),
-      Timer1(*this, "Timer1", kActionInterval, kActionPace),
-      Timer2(*this, "Timer2", kMusicInterval) {
+      Scene(*this, "Picture1", {8, 8, 436, 268}, {Surface(432, 264), 2}),
+      EnemyActionPanel(Scene, "Picture13", {0, 16, 202, 50}, {Sheet("name_panel_enemy"), 1}),
+      EnemyActionName(EnemyActionPanel, "Label24", {8, 16, 184, 20},
+                      {"敵の名前", 0, kNameFont, Align::Centre}),
+      HeroActionPanel(Scene, "Picture9", {216, 16, 202, 50}, {Sheet("name_panel_hero"), 1}),
+      HeroActionName(HeroActionPanel, "Label20", {8, 16, 184, 20},
+                     {"", 0, kNameFont, Align::Centre}),
+      VictoryPanel(Scene, "Picture10", {48, 8, 338, 95}, {Sheet("victory_panel"), 1}),
+      ExperienceGained(VictoryPanel, "Label21", {16, 8, 305, 25},
+                       {"", Rgb(128, 0, 128), kNameFont}),
+      CommandFrame(*this, "Frame1", {8, 280, 153, 105}, {"コマンド"}),
+      FightButton(CommandFrame, "Command1", {8, 32, 65, 33}, {"戦う"}),
+      SpellButton(CommandFrame, "Command2", {72, 32, 65, 33}, {"魔法"}),
+      TechniqueButton(CommandFrame, "Command3", {8, 64, 65, 33}, {"技"}),
+      ItemButton(CommandFrame, "Command4", {72, 64, 65, 33}, {"アイテム"}),
+      FleeButton(CommandFrame, "Command5", {80, 16, 49, 12}, {"逃げる"}),
+      HeroTabs(*this, "SSTab1", {168, 288, 281, 99}, {{"", ""}, {true, true}}),
+      ManFace(PaneOf(HeroTabs, 0), "Picture4", {224, 24, 50, 50}, {Sheet("face_man"), 1}),
+      WomanFace(PaneOf(HeroTabs, 1), "Picture5", {224, 24, 50, 50}, {Sheet("face_woman"), 1}),
+      Skills(*this, "List1", {8, 280, 193, 100}),
+      Targets(*this, "List2", {8, 280, 153, 100}),
+      BagItems(*this, "List3", {8, 280, 153, 100}),
+      Receivers(*this, "List4", {8, 280, 153, 100}),
+      ManSheet(*this, "Picture2", kOutOfSight, {Sheet("hero_man")}),
+      WomanSheet(*this, "Picture3", kOutOfSight, {Sheet("hero_woman")}),
+      OpenGround(*this, "Picture7", kOutOfSight, {Sheet("ground_open")}),
+      WasteGround(*this, "Picture11", kOutOfSight, {Sheet("ground_waste")}),
+      LairGround(*this, "Picture12", kOutOfSight, {Sheet("ground_lair")}),
+      EffectSheet(*this, "Picture8", kOutOfSight, {Sheet("effects")}),
+      ActionTimer(*this, "Timer1", kActionInterval, kActionPace),
+      MusicTimer(*this, "Timer2", kMusicInterval) {
   IsScene = true;
   AddNumbers();
   AddPane(0);
   AddPane(1);
   AddSheets();
-  for (Control* hidden : std::initializer_list<Control*>{
-           &Picture13, &Picture9, &Picture10, &List1, &List2, &List3, &List4, &Picture2, &Picture3,
-           &Picture7, &Picture11, &Picture12, &Picture8}) {
+  for (Control* hidden :
+       std::initializer_list<Control*>{&EnemyActionPanel, &HeroActionPanel, &VictoryPanel, &Skills,
+                                       &Targets, &BagItems, &Receivers, &ManSheet, &WomanSheet,
+                                       &OpenGround, &WasteGround, &LairGround, &EffectSheet}) {
     hidden->Visible = false;
   }
   TieHandlers();
@@ -96,62 +100,68 @@ void BattleScreen::AddNumbers() {
   constexpr std::array<Place, 2> on_heroes = {{{344, 184, 37, 16}, {360, 240, 37, 16}}};
   int index = 0;
   for (const Place& place : on_enemies) {
-    Label15.Add(index++, Picture1, place, LabelValues{"", kWhite, kNumberFont}).Visible = false;
+    EnemyNumbers.Add(index++, Scene, place, LabelValues{"", kWhite, kNumberFont}).Visible = false;
   }
   index = 0;
   for (const Place& place : on_heroes) {
-    Label16.Add(index++, Picture1, place, LabelValues{"", kWhite, kNumberFont}).Visible = false;
+    HeroNumbers.Add(index++, Scene, place, LabelValues{"", kWhite, kNumberFont}).Visible = false;
   }
-  Label22.Add(0, Picture10, Place{8, 40, 145, 17}, LabelValues{"", Rgb(0, 0, 192), kPanelFont});
-  Label22.Add(1, Picture10, Place{176, 40, 145, 17}, LabelValues{"", Rgb(192, 0, 0), kPanelFont});
-  Label25.Add(0, Picture10, Place{8, 64, 145, 17}, LabelValues{"", Rgb(0, 0, 255), kPanelFont});
-  Label25.Add(1, Picture10, Place{176, 64, 145, 17}, LabelValues{"", Rgb(255, 0, 0), kPanelFont});
-  for (int hero = 0; hero < 2; ++hero) Label22[hero].Visible = Label25[hero].Visible = false;
+  LevelMessages.Add(0, VictoryPanel, Place{8, 40, 145, 17},
+                    LabelValues{"", Rgb(0, 0, 192), kPanelFont});
+  LevelMessages.Add(1, VictoryPanel, Place{176, 40, 145, 17},
+                    LabelValues{"", Rgb(192, 0, 0), kPanelFont});
+  MasteryMessages.Add(0, VictoryPanel, Place{8, 64, 145, 17},
+                      LabelValues{"", Rgb(0, 0, 255), kPanelFont});
+  MasteryMessages.Add(1, VictoryPanel, Place{176, 64, 145, 17},
+                      LabelValues{"", Rgb(255, 0, 0), kPanelFont});
+  for (int hero = 0; hero < 2; ++hero)
+    LevelMessages[hero].Visible = MasteryMessages[hero].Visible = false;
 }
 
 void BattleScreen::AddPane(int hero) {
-  const Holder pane = PaneOf(SSTab1, hero);
+  const Holder pane = PaneOf(HeroTabs, hero);
   for (const PaneCaption& caption : kPane) {
     captions_.emplace_back(
         std::make_unique<Label>(pane, "", caption.At, LabelValues{caption.Text}));
   }
-  Label3.Add(hero, pane, Place{48, 40, 73, 17});
-  Label4.Add(hero, pane, Place{48, 64, 73, 17});
-  Label8.Add(hero, pane, Place{176, 40, 41, 17});
-  Label9.Add(hero, pane, Place{176, 56, 41, 17});
-  Label10.Add(hero, pane, Place{176, 72, 41, 17});
-  Label12.Add(hero, pane, Place{248, 80, 25, 17});
+  HPValues.Add(hero, pane, Place{48, 40, 73, 17});
+  MPValues.Add(hero, pane, Place{48, 64, 73, 17});
+  AttackValues.Add(hero, pane, Place{176, 40, 41, 17});
+  DefenceValues.Add(hero, pane, Place{176, 56, 41, 17});
+  SpiritValues.Add(hero, pane, Place{176, 72, 41, 17});
+  LevelValues.Add(hero, pane, Place{248, 80, 25, 17});
 }
 
 void BattleScreen::AddSheets() {
   for (int kind = 0; kind < kEnemyKinds; ++kind) {
     const std::string name = (kind < 10 ? "enemy_0" : "enemy_") + std::to_string(kind);
-    Picture6.Add(kind, *this, kOutOfSight, PictureValues{Sheet(name)}).Visible = false;
+    EnemySheets.Add(kind, *this, kOutOfSight, PictureValues{Sheet(name)}).Visible = false;
   }
-  Picture6.Add(kUnusedSheet, *this, kOutOfSight, PictureValues{Sheet("enemy_100")}).Visible = false;
+  EnemySheets.Add(kUnusedSheet, *this, kOutOfSight, PictureValues{Sheet("enemy_100")}).Visible =
+      false;
 }
 
 void BattleScreen::TieHandlers() {
   // While an action plays no command does anything, whatever its button looks like.
   const auto command = [this](void (*run)(BattleScreen&)) {
     return [this, run] {
-      if (!Timer1.IsEnabled()) run(*this);
+      if (!ActionTimer.IsEnabled()) run(*this);
     };
   };
   const auto handler = [this](void (*run)(BattleScreen&)) { return [this, run] { run(*this); }; };
-  Command1.OnClick = command(CommandFight);
-  Command2.OnClick = command(CommandMagic);
-  Command3.OnClick = command(CommandWaza);
-  Command4.OnClick = command(CommandItem);
-  Command5.OnClick = command(CommandFlee);
-  SSTab1.OnClick = handler(PaneOpened);
-  List1.OnClick = handler(SkillChosen);
-  List2.OnClick = handler(TargetChosen);
-  List3.OnClick = handler(ItemChosen);
-  List4.OnClick = handler(ItemTargetChosen);
-  Picture1.OnClick = handler(LeaveVictory);
-  Timer1.OnTick = handler(ActionTick);
-  Timer2.OnTick = handler(BattleMusic);
+  FightButton.OnClick = command(CommandFight);
+  SpellButton.OnClick = command(CommandMagic);
+  TechniqueButton.OnClick = command(CommandWaza);
+  ItemButton.OnClick = command(CommandItem);
+  FleeButton.OnClick = command(CommandFlee);
+  HeroTabs.OnClick = handler(PaneOpened);
+  Skills.OnClick = handler(SkillChosen);
+  Targets.OnClick = handler(TargetChosen);
+  BagItems.OnClick = handler(ItemChosen);
+  Receivers.OnClick = handler(ItemTargetChosen);
+  Scene.OnClick = handler(LeaveVictory);
+  ActionTimer.OnTick = handler(ActionTick);
+  MusicTimer.OnTick = handler(BattleMusic);
 }
 
 void BattleScreen::OnLoad() {

@@ -9,25 +9,25 @@ namespace orvane {
 namespace {
 
 void EnableMenus(MainScreen& main, bool enabled) {
-  main.m1.Enabled = enabled;
-  main.m2.Enabled = enabled;
-  main.m3.Enabled = enabled;
+  main.FileMenu.Enabled = enabled;
+  main.ItemMenu.Enabled = enabled;
+  main.InfoMenu.Enabled = enabled;
 }
 
 void StartClosingStory(MainScreen& main) {
   EnableMenus(main, false);
-  main.Timer1.SetEnabled(false);
-  main.Timer3.SetEnabled(true);
+  main.WalkTimer.SetEnabled(false);
+  main.StoryTimer.SetEnabled(true);
 }
 
 void LeaveTitle(MainScreen& main) {
-  for (Label* label : {&main.Label1, &main.Label2, &main.Label3, &main.Label4})
+  for (Label* label : {&main.TitleLabel, &main.Copyright, &main.TitleReading, &main.TitleShadow})
     label->Visible = false;
-  main.m11.Enabled = false;
-  main.m12.Enabled = true;
-  main.m2.Enabled = true;
-  main.m3.Enabled = true;
-  main.Picture6.Visible = true;
+  main.LoadItem.Enabled = false;
+  main.SaveItem.Enabled = true;
+  main.ItemMenu.Enabled = true;
+  main.InfoMenu.Enabled = true;
+  main.StatusPanel.Visible = true;
 }
 
 std::string Gauge(const char* caption, int now, int limit) {
@@ -40,7 +40,7 @@ void ActivateMain(Game& game) {
   const State& state = game.state;
   MainScreen& main = game.Main;
   if (state.GameStarted == False) return;
-  const bool could_save = main.m12.Enabled;
+  const bool could_save = main.SaveItem.Enabled;
   LeaveTitle(main);
   ShowStatus(game);
   if (state.InBook == False) {
@@ -48,30 +48,31 @@ void ActivateMain(Game& game) {
   }
   if (state.OpeningDone == False) {
     EnableMenus(main, false);
-    main.Timer3.SetEnabled(true);
+    main.StoryTimer.SetEnabled(true);
   } else if (state.OpeningDone == True) {
-    main.Timer1.SetEnabled(true);
+    main.WalkTimer.SetEnabled(true);
   }
   if (state.BossFight == True) {
     StartClosingStory(main);
   } else if (state.LastBossFight == True) {
-    if (state.LastBossDown == False) main.m12.Enabled = false;
+    if (state.LastBossDown == False) main.SaveItem.Enabled = false;
     if (state.LastBossDown == True) StartClosingStory(main);
   }
-  if (state.LastBossFight == False && !main.Timer3.IsEnabled()) {
+  if (state.LastBossFight == False && !main.StoryTimer.IsEnabled()) {
     // The door that led into a room has decided about saving there, and nothing changes it on the
     // inside.
-    main.m12.Enabled = state.InBook == False || could_save;
-  } else if (main.Timer3.IsEnabled()) {
-    main.m12.Enabled = false;
+    main.SaveItem.Enabled = state.InBook == False || could_save;
+  } else if (main.StoryTimer.IsEnabled()) {
+    main.SaveItem.Enabled = false;
   }
 }
 
 void ShowStatus(Game& game) {
   const State& state = game.state;
   for (int hero = 0; hero < 2; ++hero) {
-    game.Main.Label5[hero * 2].Caption = Gauge("HP ：", state.HP[hero], state.MaxHP[hero]);
-    game.Main.Label5[hero * 2 + 1].Caption = Gauge("MP ：", state.MP[hero], state.MaxMP[hero]);
+    game.Main.StatusValues[hero * 2].Caption = Gauge("HP ：", state.HP[hero], state.MaxHP[hero]);
+    game.Main.StatusValues[hero * 2 + 1].Caption =
+        Gauge("MP ：", state.MP[hero], state.MaxMP[hero]);
   }
 }
 

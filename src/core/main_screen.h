@@ -13,30 +13,30 @@ class MainScreen : public Screen {
  public:
   MainScreen(Stage& stage, Game& game);
 
-  PictureBox Picture1;  // the title picture, then the field
-  Label Label4;         // the title's shadow
-  Label Label1;
-  Label Label3;
-  Label Label2;
-  CommandButton Command1;
-  PictureBox Picture5;  // the message window
-  ControlArray<Label> Label6{"Label6"};
-  Label Label8;
-  PictureBox Picture9;  // the speaker's face
-  Label Label7;
-  PictureBox Picture6;  // the status panel
-  PictureBox Picture7;
-  PictureBox Picture8;
-  ControlArray<Label> Label5{"Label5"};
-  PictureBox Picture2;  // sheets: the man, the woman, the tiles
-  PictureBox Picture3;
-  PictureBox Picture4;
-  MenuItem m1, m11, m12, m13, m14;
-  MenuItem m2, m21, m22;
-  MenuItem m3, m32, m33, m34, m35;
-  Timer Timer1;  // the field frame
-  Timer Timer2;  // a pickup's message
-  Timer Timer3;  // a story scene
+  PictureBox FieldPicture;  // the title picture, then the field
+  Label TitleShadow;        // the title's shadow
+  Label TitleLabel;
+  Label TitleReading;
+  Label Copyright;
+  CommandButton BeginButton;
+  PictureBox MessageWindow;  // the message window
+  ControlArray<Label> MessageLines{"Label6"};
+  Label StoryLine;
+  PictureBox SpeakerFace;  // the speaker's face
+  Label GoOnMark;
+  PictureBox StatusPanel;  // the status panel
+  PictureBox ManFace;
+  PictureBox WomanFace;
+  ControlArray<Label> StatusValues{"Label5"};
+  PictureBox ManSheet;  // sheets: the man, the woman, the tiles
+  PictureBox WomanSheet;
+  PictureBox TileSheet;
+  MenuItem FileMenu, LoadItem, SaveItem, FileSeparator, QuitItem;
+  MenuItem ItemMenu, EquipmentItem, BagItem;
+  MenuItem InfoMenu, HeroesItem, SettingsItem, InfoSeparator, VersionItem;
+  Timer WalkTimer;     // the field frame
+  Timer MessageTimer;  // a pickup's message
+  Timer StoryTimer;    // a story scene
 
  protected:
   void OnLoad() override;

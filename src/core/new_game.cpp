@@ -64,7 +64,7 @@ void NewGameDefaults(Game& game) {
   state.MapA = 3;
   state.MapB = 3;
   state.ActionState = 0;
-  game.Main.Timer1.SetEnabled(false);
+  game.Main.WalkTimer.SetEnabled(false);
 }
 
 }  // namespace orvane

@@ -11,7 +11,7 @@ constexpr int kMusicChannels = 8;
 constexpr int kEffectChannels = 10;
 
 bool WantsToQuit(Game& game) {
-  game.Main.Timer1.SetEnabled(false);
+  game.Main.WalkTimer.SetEnabled(false);
   return game.stage.ShowBox("終了しますか？", "ゲームの終了", BoxButtons::OkCancel) ==
          BoxAnswer::Ok;
 }
@@ -25,13 +25,13 @@ bool WantsToQuit(Game& game) {
 
 void AskToQuit(Game& game) {
   if (WantsToQuit(game)) Quit(game);
-  game.Main.Timer1.SetEnabled(true);
+  game.Main.WalkTimer.SetEnabled(true);
 }
 
 void AskToCloseMain(Game& game) {
-  const bool walking = game.Main.Timer1.IsEnabled();
+  const bool walking = game.Main.WalkTimer.IsEnabled();
   if (WantsToQuit(game)) Quit(game);
-  game.Main.Timer1.SetEnabled(walking);
+  game.Main.WalkTimer.SetEnabled(walking);
 }
 
 void CloseAllSound(Game& game, int last_music) {

@@ -13,16 +13,16 @@ void StartUp(Game& game) {
     state.HeroName[hero] = state.HeroName[hero].Trimmed();
     state.HeroNameText[hero] = state.HeroName[hero].Trimmed();
   }
-  StretchBlt(main.Picture1.Picture, {0, 0, 480, 320}, main.Picture1.Picture, {0, 0, 320, 160},
-             RasterOp::SRCCOPY);
+  StretchBlt(main.FieldPicture.Picture, {0, 0, 480, 320}, main.FieldPicture.Picture,
+             {0, 0, 320, 160}, RasterOp::SRCCOPY);
   state.GameStarted = False;
   NewGameDefaults(game);
-  main.m12.Enabled = false;
-  main.m2.Enabled = false;
-  main.m3.Enabled = false;
+  main.SaveItem.Enabled = false;
+  main.ItemMenu.Enabled = false;
+  main.InfoMenu.Enabled = false;
   state.HeroX = (state.SaveX - 1) * TileSize;
   state.HeroY = (state.SaveY - 1) * TileSize;
-  main.Label2.Caption = "Copyright (C) 2001 Kelmark";
+  main.Copyright.Caption = "Copyright (C) 2001 Kelmark";
   game.items.CheckComplete();
   for (int number = 1; number <= ItemFile::RecordCount; ++number) ReadItem(game, number);
   game.links.SetStoryText();

@@ -56,19 +56,19 @@ void DrawStrip(Surface& scene, const Surface& sheet, const Strip& strip, int y) 
 
 EndingScreen::EndingScreen(Game& game)
     : Screen(game.stage, "Ending", "ENDING", kWidth, kHeight),
-      Picture2(*this, "Picture2", kOutOfSight, {Sheet("ending_still")}),
-      Picture1(*this, "Picture1", kOutOfSight, {Sheet("credits")}),
-      Label1(*this, "Label1", {64, 264, 337, 25},
-             {"Presented by Kelmark 2001 ", Rgb(0xE0, 0xE0, 0xE0), {Gothic, 12, true}}),
-      Timer1(*this, "Timer1", kInterval),
+      StillPicture(*this, "Picture2", kOutOfSight, {Sheet("ending_still")}),
+      CreditsSheet(*this, "Picture1", kOutOfSight, {Sheet("credits")}),
+      Presenter(*this, "Label1", {64, 264, 337, 25},
+                {"Presented by Kelmark 2001 ", Rgb(0xE0, 0xE0, 0xE0), {Gothic, 12, true}}),
+      ScrollTimer(*this, "Timer1", kInterval),
       game_(game),
       scene_(kWidth, kHeight) {
   IsScene = true;
   const LabelValues card{"", Rgb(255, 255, 255), {Gothic, 15.75, true}};
-  Label2.Add(0, *this, Place{112, 112, 225, 25}, card).Caption = "Thank you for playing";
-  Label2.Add(1, *this, Place{152, 152, 185, 25}, card).Caption = "To be continue...?";
-  for (Control* hidden :
-       std::initializer_list<Control*>{&Picture1, &Picture2, &Label1, &Label2[0], &Label2[1]}) {
+  CardLines.Add(0, *this, Place{112, 112, 225, 25}, card).Caption = "Thank you for playing";
+  CardLines.Add(1, *this, Place{152, 152, 185, 25}, card).Caption = "To be continue...?";
+  for (Control* hidden : std::initializer_list<Control*>{&CreditsSheet, &StillPicture, &Presenter,
+                                                         &CardLines[0], &CardLines[1]}) {
     hidden->Visible = false;
   }
   OwnSurface = &scene_;
@@ -77,11 +77,11 @@ EndingScreen::EndingScreen(Game& game)
   for (int index = 0; index < CreditY.Size; ++index) {
     Members.emplace_back("CreditY(" + std::to_string(index) + ")", &CreditY[index]);
   }
-  Timer1.OnTick = [this] { Tick(); };
+  ScrollTimer.OnTick = [this] { Tick(); };
 }
 
 void EndingScreen::OnActivate(bool) {
-  Timer1.SetEnabled(true);
+  ScrollTimer.SetEnabled(true);
   for (const Strip& strip : kStrips) CreditY[strip.Index] = strip.Start;
 }
 
@@ -89,7 +89,7 @@ void EndingScreen::Tick() {
   CreditStep = 1;
   KeepMusic(game_, "bgm7");
   for (Int16& y : CreditY) y -= CreditStep;
-  BitBlt(scene_, 0, 0, kWidth, kHeight, Picture2.Picture, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(scene_, 0, 0, kWidth, kHeight, StillPicture.Picture, 0, 0, RasterOp::SRCCOPY);
   DrawStrips();
   if (CreditY[kLastStrip] <= kLastCardAt) ShowLastCard();
   scene_.Refresh();
@@ -97,16 +97,16 @@ void EndingScreen::Tick() {
 
 void EndingScreen::DrawStrips() {
   for (const Strip& strip : kStrips)
-    DrawStrip(scene_, Picture1.Picture, strip, CreditY[strip.Index]);
+    DrawStrip(scene_, CreditsSheet.Picture, strip, CreditY[strip.Index]);
 }
 
 void EndingScreen::ShowLastCard() {
-  DrawStrip(scene_, Picture1.Picture, kStrips[0], kTitleRestY);
-  Label1.Visible = true;
-  Label2[0].Visible = true;
-  Label2[1].Visible = true;
+  DrawStrip(scene_, CreditsSheet.Picture, kStrips[0], kTitleRestY);
+  Presenter.Visible = true;
+  CardLines[0].Visible = true;
+  CardLines[1].Visible = true;
   CreditsDone = True;
-  Timer1.SetEnabled(false);
+  ScrollTimer.SetEnabled(false);
 }
 
 void EndingScreen::OnPress() {

@@ -11,11 +11,11 @@ class EndingScreen : public Screen {
  public:
   explicit EndingScreen(Game& game);
 
-  PictureBox Picture2;  // the still picture
-  PictureBox Picture1;  // the strips of the credits
-  Label Label1;
-  ControlArray<Label> Label2{"Label2"};
-  Timer Timer1;
+  PictureBox StillPicture;  // the still picture
+  PictureBox CreditsSheet;  // the strips of the credits
+  Label Presenter;
+  ControlArray<Label> CardLines{"Label2"};
+  Timer ScrollTimer;
 
   Array<Int16, 11> CreditY;  // top edge of each strip on the screen
   Int16 CreditStep;          // pixels a tick

@@ -44,7 +44,7 @@ void EncounterCheck(Game& game) {
 
 void EnterBattle(Game& game) {
   LoadBattleSounds(game);
-  game.Main.Timer1.SetEnabled(false);
+  game.Main.WalkTimer.SetEnabled(false);
   game.links.ShowBattle();
 }
 

@@ -37,12 +37,12 @@ void FieldTick(Game& game) {
       state.KeyRight == False) {
     DrawHero(game, 0);
   }
-  game.Main.Picture1.Picture.Refresh();
+  game.Main.FieldPicture.Picture.Refresh();
 }
 
 void DrawMap(Game& game) {
-  Surface& field = game.Main.Picture1.Picture;
-  const Surface& sheet = game.Main.Picture4.Picture;
+  Surface& field = game.Main.FieldPicture.Picture;
+  const Surface& sheet = game.Main.TileSheet.Picture;
   for (int column = 0; column < MapColumns; ++column) {
     for (int row = 0; row < MapRows; ++row) {
       const int code = game.state.MapTile[column][row];

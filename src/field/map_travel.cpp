@@ -53,7 +53,7 @@ void LeaveRoom(Game& game) {
   state.HeroY = state.BookReturnY;
   ReadMap(game);
   state.InBook = False;
-  game.Main.m12.Enabled = true;
+  game.Main.SaveItem.Enabled = true;
 }
 
 void ChangeRow(Game& game, int step) {
@@ -104,8 +104,8 @@ void BookRoomCheck(Game& game) {
   State& state = game.state;
   if (state.TileUp == 47 || state.TileUp == 116) {
     state.InBook = True;
-    game.Main.m12.Enabled = false;
-    game.Main.m11.Enabled = false;
+    game.Main.SaveItem.Enabled = false;
+    game.Main.LoadItem.Enabled = false;
     EnterRoom(game, DoorRoomFile(state));
   } else if (state.TileUp == 131) {
     state.InBook = True;

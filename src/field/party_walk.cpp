@@ -98,8 +98,8 @@ void DrawHero(Game& game, int counter) {
   const int x = state.HeroX - kFeetX;
   const int y = state.HeroY - kFeetY;
   const int frame = counter % 3 * kFrameWidth;
-  Surface& field = game.Main.Picture1.Picture;
-  const Surface& sheet = game.Main.Picture2.Picture;
+  Surface& field = game.Main.FieldPicture.Picture;
+  const Surface& sheet = game.Main.ManSheet.Picture;
   BitBlt(field, x, y, kFrameWidth, kFrameHeight, sheet, kMasks + frame, state.HeroSpriteY,
          RasterOp::SRCPAINT);
   BitBlt(field, x, y, kFrameWidth, kFrameHeight, sheet, frame, state.HeroSpriteY, RasterOp::SRCAND);

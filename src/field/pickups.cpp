@@ -71,8 +71,8 @@ void WarnOfFullBag(Game& game, const char* text) {
 }
 
 void StartMessage(Game& game) {
-  game.Main.Timer1.SetEnabled(false);
-  game.Main.Timer2.SetEnabled(true);
+  game.Main.WalkTimer.SetEnabled(false);
+  game.Main.MessageTimer.SetEnabled(true);
 }
 
 }  // namespace
@@ -116,8 +116,8 @@ void ShowItemGot(Game& game, int slot) {
   for (int each = 0; each < BagSize; ++each) empty += state.Items[each] == NoItem ? 1 : 0;
   // One less than the bag holds; the caller counts the new item.
   state.ItemCount = BagSize - 1 - empty;
-  game.Main.Label6[0].Caption = state.ItemRec.Name.Trimmed();
-  game.Main.Label6[1].Caption = "を手に入れた";
+  game.Main.MessageLines[0].Caption = state.ItemRec.Name.Trimmed();
+  game.Main.MessageLines[1].Caption = "を手に入れた";
 }
 
 void RecoverAll(Game& game) {
@@ -129,9 +129,9 @@ void RecoverAll(Game& game) {
       state.MP[hero] = state.MaxMP[hero];
     }
     StartMessage(game);
-    game.Main.Label6[0].Caption = "HP・MP全回復！";
-    game.Main.Label6[1].Caption = "";
-    game.Main.Picture5.Visible = true;
+    game.Main.MessageLines[0].Caption = "HP・MP全回復！";
+    game.Main.MessageLines[1].Caption = "";
+    game.Main.MessageWindow.Visible = true;
   }
   state.OnRecovery = True;
 }
@@ -141,21 +141,21 @@ void MessageTick(Game& game) {
   state.MessageFrame += 1;
   game.sound.Open("snd1");
   if (state.MessageFrame == 1) game.sound.Play("snd1");
-  game.Main.Picture5.Visible = true;
-  game.Main.Label7.Visible = state.MessageFrame % 10 >= 5;
+  game.Main.MessageWindow.Visible = true;
+  game.Main.GoOnMark.Visible = state.MessageFrame % 10 >= 5;
 }
 
 void CloseMessage(Game& game) {
   MainScreen& main = game.Main;
-  main.Picture5.Visible = false;
+  main.MessageWindow.Visible = false;
   game.state.MessageFrame = 0;
   ShowStatus(game);
   game.state.RecoveryShown = False;
-  main.m1.Enabled = true;
-  main.m2.Enabled = true;
-  main.m3.Enabled = true;
-  main.Timer2.SetEnabled(false);
-  main.Timer1.SetEnabled(true);
+  main.FileMenu.Enabled = true;
+  main.ItemMenu.Enabled = true;
+  main.InfoMenu.Enabled = true;
+  main.MessageTimer.SetEnabled(false);
+  main.WalkTimer.SetEnabled(true);
 }
 
 }  // namespace orvane

@@ -17,7 +17,7 @@ void RecoverAll(Game& game);
 // Recounts the bag and puts the name of a slot's item into the message.
 void ShowItemGot(Game& game, int slot);
 
-// One tick of Main's Timer2, while a message waits for a click.
+// One tick of Main's MessageTimer, while a message waits for a click.
 void MessageTick(Game& game);
 
 // Takes a message away; the field goes on.

@@ -36,7 +36,7 @@ void StartNextRound(Game& game) {
 void StartLastStage(Game& game) {
   State& state = game.state;
   state.Round = 4;
-  game.Main.m12.Enabled = false;
+  game.Main.SaveItem.Enabled = false;
   state.StoryNo = kThirdDragonEnd + 1;
   state.MapA = 0;
   state.MapB = 0;
@@ -49,7 +49,7 @@ void StartLastStage(Game& game) {
 }
 
 void StartEnding(Game& game) {
-  game.Main.Timer3.SetEnabled(false);
+  game.Main.StoryTimer.SetEnabled(false);
   game.links.ShowEnding();
   game.stage.Unload(game.Main);
 }
@@ -84,18 +84,18 @@ void StoryTick(Game& game) {
   State& state = game.state;
   MainScreen& main = game.Main;
   state.StoryFrame += 2;
-  main.Picture5.Visible = true;
-  main.Label7.Visible = state.StoryFrame % 10 >= 5;
-  main.Label6[0].Visible = false;
-  main.Label6[1].Visible = false;
-  main.Picture9.Visible = true;
-  main.Label8.Visible = true;
-  main.Label8.Caption = state.StoryText[state.StoryNo];
-  const Surface& speaker = state.StoryNo % 2 == 0 ? main.Picture7.Picture : main.Picture8.Picture;
-  BitBlt(main.Picture9.Picture, 0, 0, kFaceSize, kFaceSize, speaker, 0, 0, RasterOp::SRCCOPY);
-  main.Picture9.Picture.Refresh();
+  main.MessageWindow.Visible = true;
+  main.GoOnMark.Visible = state.StoryFrame % 10 >= 5;
+  main.MessageLines[0].Visible = false;
+  main.MessageLines[1].Visible = false;
+  main.SpeakerFace.Visible = true;
+  main.StoryLine.Visible = true;
+  main.StoryLine.Caption = state.StoryText[state.StoryNo];
+  const Surface& speaker = state.StoryNo % 2 == 0 ? main.ManFace.Picture : main.WomanFace.Picture;
+  BitBlt(main.SpeakerFace.Picture, 0, 0, kFaceSize, kFaceSize, speaker, 0, 0, RasterOp::SRCCOPY);
+  main.SpeakerFace.Picture.Refresh();
   DrawMap(game);
-  main.Picture1.Picture.Refresh();
+  main.FieldPicture.Picture.Refresh();
 }
 
 void FieldClick(Game& game) {
@@ -113,14 +113,15 @@ void FieldClick(Game& game) {
 
 void EndStory(Game& game) {
   MainScreen& main = game.Main;
-  main.Timer3.SetEnabled(false);
-  for (MenuItem* menu : {&main.m1, &main.m2, &main.m3, &main.m12}) menu->Enabled = true;
-  main.Label6[0].Visible = true;
-  main.Label6[1].Visible = true;
-  main.Picture9.Visible = false;
-  main.Label8.Visible = false;
-  main.Picture5.Visible = false;
-  main.Timer1.SetEnabled(true);
+  main.StoryTimer.SetEnabled(false);
+  for (MenuItem* menu : {&main.FileMenu, &main.ItemMenu, &main.InfoMenu, &main.SaveItem})
+    menu->Enabled = true;
+  main.MessageLines[0].Visible = true;
+  main.MessageLines[1].Visible = true;
+  main.SpeakerFace.Visible = false;
+  main.StoryLine.Visible = false;
+  main.MessageWindow.Visible = false;
+  main.WalkTimer.SetEnabled(true);
 }
 
 }  // namespace orvane

@@ -8,7 +8,7 @@ struct Game;
 // Fills StoryText.
 void SetStoryText(Game& game);
 
-// One tick of Main's Timer3: shows the present line and its speaker.
+// One tick of Main's StoryTimer: shows the present line and its speaker.
 void StoryTick(Game& game);
 
 // A click on the field: closes a message or steps the story on.

@@ -15,11 +15,11 @@ Program::Parts::Parts(const std::filesystem::path& folder, const Services& servi
       input_name(game),
       save(game),
       load(game),
-      wepon(game),
+      equipment(game),
       item(game),
       item_use(game, item),
-      chardata(game),
-      custom(game),
+      heroes(game),
+      settings(game),
       version(game),
       ending(game) {
   TieLinks();
@@ -31,12 +31,12 @@ Program::Parts::Parts(const std::filesystem::path& folder, const Services& servi
 void Program::Parts::TieLinks() {
   game.links.SetBattleInterval = [this](int milliseconds) {
     game.stage.Load(battle);
-    battle.Timer1.SetInterval(milliseconds);
+    battle.ActionTimer.SetInterval(milliseconds);
   };
   game.links.ShowBattle = [this] {
     game.stage.Show(battle);
     game.stage.Hide(game.Main);
-    battle.Timer2.SetEnabled(true);
+    battle.MusicTimer.SetEnabled(true);
   };
   game.links.ShowEnding = [this] { game.stage.Show(ending); };
   game.links.SetStoryText = [this] { SetStoryText(game); };
@@ -48,32 +48,32 @@ void Program::Parts::TieLinks() {
 
 Handler Program::Parts::Opens(Screen& screen) {
   return [this, &screen] {
-    game.Main.Timer1.SetEnabled(false);
+    game.Main.WalkTimer.SetEnabled(false);
     game.stage.Show(screen);
   };
 }
 
 void Program::Parts::TieMenus() {
   MainScreen& main = game.Main;
-  for (MenuItem* menu : {&main.m1, &main.m2, &main.m3})
+  for (MenuItem* menu : {&main.FileMenu, &main.ItemMenu, &main.InfoMenu})
     menu->OnClick = [this] { StopWalking(game); };
-  main.m11.OnClick = Opens(load);
-  main.m12.OnClick = Opens(save);
-  main.m14.OnClick = [this] { AskToQuit(game); };
-  main.m21.OnClick = Opens(wepon);
-  main.m22.OnClick = Opens(item);
-  main.m32.OnClick = Opens(chardata);
-  main.m33.OnClick = Opens(custom);
-  main.m35.OnClick = Opens(version);
+  main.LoadItem.OnClick = Opens(load);
+  main.SaveItem.OnClick = Opens(save);
+  main.QuitItem.OnClick = [this] { AskToQuit(game); };
+  main.EquipmentItem.OnClick = Opens(equipment);
+  main.BagItem.OnClick = Opens(item);
+  main.HeroesItem.OnClick = Opens(heroes);
+  main.SettingsItem.OnClick = Opens(settings);
+  main.VersionItem.OnClick = Opens(version);
 }
 
 void Program::Parts::TieMain() {
   MainScreen& main = game.Main;
-  main.Command1.OnClick = [this] { game.stage.ShowModal(input_name); };
-  main.Picture1.OnClick = [this] { FieldClick(game); };
-  main.Timer1.OnTick = [this] { FieldTick(game); };
-  main.Timer2.OnTick = [this] { MessageTick(game); };
-  main.Timer3.OnTick = [this] { StoryTick(game); };
+  main.BeginButton.OnClick = [this] { game.stage.ShowModal(input_name); };
+  main.FieldPicture.OnClick = [this] { FieldClick(game); };
+  main.WalkTimer.OnTick = [this] { FieldTick(game); };
+  main.MessageTimer.OnTick = [this] { MessageTick(game); };
+  main.StoryTimer.OnTick = [this] { StoryTick(game); };
 }
 
 }  // namespace orvane

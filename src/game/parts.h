@@ -25,11 +25,11 @@ struct Program::Parts {
   InputNameScreen input_name;
   SaveScreen save;
   LoadScreen load;
-  WeponScreen wepon;
+  EquipmentScreen equipment;
   ItemScreen item;
   ItemUseScreen item_use;
-  ChardataScreen chardata;
-  CustomScreen custom;
+  HeroesScreen heroes;
+  SettingsScreen settings;
   VersionScreen version;
   EndingScreen ending;
 

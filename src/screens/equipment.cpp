@@ -34,59 +34,61 @@ void AddRows(TabStrip& tabs, int hero, ControlArray<Label>& captions, ControlArr
 
 }  // namespace
 
-WeponScreen::WeponScreen(Game& game)
+EquipmentScreen::EquipmentScreen(Game& game)
     : Screen(game.stage, "Wepon", "装備", 473, 241),
-      Label5(*this, "Label5", {32, 24, 113, 17}, {"アイテムリスト"}),
-      List1(*this, "List1", {8, 48, 137, 172}),
-      SSTab1(*this, "SSTab1", {160, 8, 305, 225}, {{"", ""}, {true, true}}),
-      Command1(PaneOf(SSTab1, 0), "Command1", kEquipPlace, {"装備 >>"}),
-      Command2(PaneOf(SSTab1, 0), "Command2", kRemovePlace, {"<< すべて　　はずす"}),
-      Command5(PaneOf(SSTab1, 0), "Command5", kClosePlace, {"閉じる"}),
-      Command3(PaneOf(SSTab1, 1), "Command3", kEquipPlace, {"装備 >>"}),
-      Command4(PaneOf(SSTab1, 1), "Command4", kRemovePlace, {"<< すべて　　はずす"}),
-      Command6(PaneOf(SSTab1, 1), "Command6", kClosePlace, {"閉じる"}),
-      Picture1(PaneOf(SSTab1, 0), "Picture1", kFacePlace, {Sheet("face_man"), 1}),
-      Picture2(PaneOf(SSTab1, 1), "Picture2", kFacePlace, {Sheet("face_woman"), 1}),
+      BagCaption(*this, "Label5", {32, 24, 113, 17}, {"アイテムリスト"}),
+      Bag(*this, "List1", {8, 48, 137, 172}),
+      HeroTabs(*this, "SSTab1", {160, 8, 305, 225}, {{"", ""}, {true, true}}),
+      ManEquip(PaneOf(HeroTabs, 0), "Command1", kEquipPlace, {"装備 >>"}),
+      ManRemoveAll(PaneOf(HeroTabs, 0), "Command2", kRemovePlace, {"<< すべて　　はずす"}),
+      ManClose(PaneOf(HeroTabs, 0), "Command5", kClosePlace, {"閉じる"}),
+      WomanEquip(PaneOf(HeroTabs, 1), "Command3", kEquipPlace, {"装備 >>"}),
+      WomanRemoveAll(PaneOf(HeroTabs, 1), "Command4", kRemovePlace, {"<< すべて　　はずす"}),
+      WomanClose(PaneOf(HeroTabs, 1), "Command6", kClosePlace, {"閉じる"}),
+      ManFace(PaneOf(HeroTabs, 0), "Picture1", kFacePlace, {Sheet("face_man"), 1}),
+      WomanFace(PaneOf(HeroTabs, 1), "Picture2", kFacePlace, {Sheet("face_woman"), 1}),
       game_(game) {
-  AddRows(SSTab1, 0, Label1, Label2, {"武器 ：", "防具 ：", "本  ："}, 40, 160);
-  AddRows(SSTab1, 1, Label6, Label7, {"武器 ：", "防具 ：", " 本  ："}, 40, 160);
-  AddRows(SSTab1, 0, Label3, Label4, {"攻撃力 ：", "守備力 ：", "精神力 ："}, 128, 180);
-  AddRows(SSTab1, 1, Label8, Label9, {"攻撃力 ：", "守備力 ：", "精神力 ："}, 128, 180);
+  AddRows(HeroTabs, 0, ManWornCaptions, ManWorn, {"武器 ：", "防具 ：", "本  ："}, 40, 160);
+  AddRows(HeroTabs, 1, WomanWornCaptions, WomanWorn, {"武器 ：", "防具 ：", " 本  ："}, 40, 160);
+  AddRows(HeroTabs, 0, ManNumberCaptions, ManNumbers, {"攻撃力 ：", "守備力 ：", "精神力 ："}, 128,
+          180);
+  AddRows(HeroTabs, 1, WomanNumberCaptions, WomanNumbers, {"攻撃力 ：", "守備力 ：", "精神力 ："},
+          128, 180);
   Members.emplace_back("LastRow", &LastRow);
-  List1.OnClick = [this] { RowChosen(); };
-  SSTab1.OnClick = [this] { TabOpened(); };
+  Bag.OnClick = [this] { RowChosen(); };
+  HeroTabs.OnClick = [this] { TabOpened(); };
   for (int hero = 0; hero < 2; ++hero) {
     EquipButton(hero).OnClick = [this, hero] { Equip(hero); };
     RemoveButton(hero).OnClick = [this, hero] { RemoveAll(hero); };
   }
-  Command5.OnClick = Command6.OnClick = [this] { TheStage().Unload(*this); };
+  ManClose.OnClick = WomanClose.OnClick = [this] { TheStage().Unload(*this); };
 }
 
-void WeponScreen::OnLoad() {
+void EquipmentScreen::OnLoad() {
   LastRow = 0;
   ShowEquipment();
-  Command1.Enabled = false;
-  Command3.Enabled = false;
-  FillItemList(game_, List1);
-  const int hero = SSTab1.Tab();
+  ManEquip.Enabled = false;
+  WomanEquip.Enabled = false;
+  FillItemList(game_, Bag);
+  const int hero = HeroTabs.Tab();
   RemoveButton(hero).Enabled = !WearsNothing(hero);
 }
 
-void WeponScreen::OnActivate(bool) {
+void EquipmentScreen::OnActivate(bool) {
   State& state = game_.state;
   for (int hero = 0; hero < 2; ++hero) {
     state.Attack[hero] = state.BaseAttack[hero] + state.WeaponAttack[hero];
     state.Defence[hero] = state.BaseDefence[hero] + state.ArmourDefence[hero];
   }
   ShowEquipment();
-  FillItemList(game_, List1);
+  FillItemList(game_, Bag);
 }
 
-void WeponScreen::OnUnload() {
-  game_.Main.Timer1.SetEnabled(true);
+void EquipmentScreen::OnUnload() {
+  game_.Main.WalkTimer.SetEnabled(true);
 }
 
-void WeponScreen::ShowEquipment() {
+void EquipmentScreen::ShowEquipment() {
   const State& state = game_.state;
   for (int hero = 0; hero < 2; ++hero) {
     Names(hero)[0].Caption = state.WeaponName[hero].Trimmed();
@@ -95,45 +97,45 @@ void WeponScreen::ShowEquipment() {
     Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
     Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
     Numbers(hero)[2].Caption = std::to_string(state.Spirit[hero]);
-    SSTab1.SetTabCaption(hero, state.HeroName[hero].Trimmed());
+    HeroTabs.SetTabCaption(hero, state.HeroName[hero].Trimmed());
   }
 }
 
-bool WeponScreen::WearsNothing(int hero) {
+bool EquipmentScreen::WearsNothing(int hero) {
   for (int row = 0; row < 3; ++row) {
     if (Names(hero)[row].Caption != kNothing) return false;
   }
   return true;
 }
 
-bool WeponScreen::MayEquip(int hero) {
+bool EquipmentScreen::MayEquip(int hero) {
   const State& state = game_.state;
   const int other = hero ^ 1;
   const int kind = state.ItemRec.Kind;
   if (kind == kRecovery || kind == kWeapon[other] || kind == kArmour[other]) return false;
-  const std::string row = Trim(List1.Text());
+  const std::string row = Trim(Bag.Text());
   return row != state.BookName[other].Trimmed() && row != kNothing;
 }
 
-void WeponScreen::RowChosen() {
-  const int hero = SSTab1.Tab();
-  ReadItem(game_, game_.state.Items[List1.ListIndex]);
-  LastRow = List1.ListIndex;
+void EquipmentScreen::RowChosen() {
+  const int hero = HeroTabs.Tab();
+  ReadItem(game_, game_.state.Items[Bag.ListIndex]);
+  LastRow = Bag.ListIndex;
   EquipButton(hero).Enabled = MayEquip(hero);
 }
 
-void WeponScreen::TabOpened() {
-  const int hero = SSTab1.Tab();
+void EquipmentScreen::TabOpened() {
+  const int hero = HeroTabs.Tab();
   ReadItem(game_, game_.state.Items[LastRow]);
-  EquipButton(hero).Enabled = List1.ListIndex >= 0 && MayEquip(hero);
+  EquipButton(hero).Enabled = Bag.ListIndex >= 0 && MayEquip(hero);
   RemoveButton(hero).Enabled = !WearsNothing(hero);
 }
 
-void WeponScreen::Equip(int hero) {
+void EquipmentScreen::Equip(int hero) {
   State& state = game_.state;
-  if (List1.ListIndex < 0) return;
+  if (Bag.ListIndex < 0) return;
   RemoveButton(hero).Enabled = true;
-  const std::string name = List1.Text();
+  const std::string name = Bag.Text();
   const int kind = state.ItemRec.Kind;
   if (kind == kWeapon[hero]) {
     Names(hero)[0].Caption = name;
@@ -150,7 +152,7 @@ void WeponScreen::Equip(int hero) {
   }
 }
 
-void WeponScreen::RemoveAll(int hero) {
+void EquipmentScreen::RemoveAll(int hero) {
   for (int row = 0; row < 3; ++row) Names(hero)[row].Caption = kNothing;
   TakeOffWeapon(hero);
   TakeOffArmour(hero);
@@ -159,21 +161,21 @@ void WeponScreen::RemoveAll(int hero) {
   RemoveButton(hero).Enabled = false;
 }
 
-void WeponScreen::WearWeapon(int hero) {
+void EquipmentScreen::WearWeapon(int hero) {
   State& state = game_.state;
   state.WeaponAttack[hero] = Int16(state.ItemRec.Value);
   state.Attack[hero] = state.BaseAttack[hero] + state.WeaponAttack[hero];
   Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
 }
 
-void WeponScreen::WearArmour(int hero) {
+void EquipmentScreen::WearArmour(int hero) {
   State& state = game_.state;
   state.ArmourDefence[hero] = Int16(state.ItemRec.Value);
   state.Defence[hero] = state.BaseDefence[hero] + state.ArmourDefence[hero];
   Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
 }
 
-void WeponScreen::TakeOffWeapon(int hero) {
+void EquipmentScreen::TakeOffWeapon(int hero) {
   State& state = game_.state;
   state.Attack[hero] = state.BaseAttack[hero];
   Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
@@ -181,7 +183,7 @@ void WeponScreen::TakeOffWeapon(int hero) {
   state.WeaponName[hero] = kNothing;
 }
 
-void WeponScreen::TakeOffArmour(int hero) {
+void EquipmentScreen::TakeOffArmour(int hero) {
   State& state = game_.state;
   state.Defence[hero] = state.BaseDefence[hero];
   Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);

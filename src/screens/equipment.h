@@ -10,24 +10,24 @@
 
 namespace orvane {
 
-class WeponScreen : public Screen {
+class EquipmentScreen : public Screen {
  public:
-  explicit WeponScreen(Game& game);
+  explicit EquipmentScreen(Game& game);
 
-  Label Label5;
-  ListBox List1;  // row n is slot n of the bag
-  TabStrip SSTab1;
-  CommandButton Command1, Command2, Command5;  // the man's: equip, remove all, close
-  CommandButton Command3, Command4, Command6;  // the woman's
-  ControlArray<Label> Label2{"Label2"};        // the man's weapon, armour, book
-  ControlArray<Label> Label7{"Label7"};        // the woman's
-  ControlArray<Label> Label4{"Label4"};        // the man's attack, defence, spirit
-  ControlArray<Label> Label9{"Label9"};        // the woman's
-  ControlArray<Label> Label1{"Label1"};        // captions
-  ControlArray<Label> Label6{"Label6"};
-  ControlArray<Label> Label3{"Label3"};
-  ControlArray<Label> Label8{"Label8"};
-  PictureBox Picture1, Picture2;
+  Label BagCaption;
+  ListBox Bag;  // row n is slot n of the bag
+  TabStrip HeroTabs;
+  CommandButton ManEquip, ManRemoveAll, ManClose;        // the man's: equip, remove all, close
+  CommandButton WomanEquip, WomanRemoveAll, WomanClose;  // the woman's
+  ControlArray<Label> ManWorn{"Label2"};                 // the man's weapon, armour, book
+  ControlArray<Label> WomanWorn{"Label7"};               // the woman's
+  ControlArray<Label> ManNumbers{"Label4"};              // the man's attack, defence, spirit
+  ControlArray<Label> WomanNumbers{"Label9"};            // the woman's
+  ControlArray<Label> ManWornCaptions{"Label1"};         // captions
+  ControlArray<Label> WomanWornCaptions{"Label6"};
+  ControlArray<Label> ManNumberCaptions{"Label3"};
+  ControlArray<Label> WomanNumberCaptions{"Label8"};
+  PictureBox ManFace, WomanFace;
   Int16 LastRow;  // the row last selected
 
  protected:
@@ -50,10 +50,10 @@ class WeponScreen : public Screen {
   bool MayEquip(int hero);
   bool WearsNothing(int hero);
 
-  ControlArray<Label>& Names(int hero) { return hero == 0 ? Label2 : Label7; }
-  ControlArray<Label>& Numbers(int hero) { return hero == 0 ? Label4 : Label9; }
-  CommandButton& EquipButton(int hero) { return hero == 0 ? Command1 : Command3; }
-  CommandButton& RemoveButton(int hero) { return hero == 0 ? Command2 : Command4; }
+  ControlArray<Label>& Names(int hero) { return hero == 0 ? ManWorn : WomanWorn; }
+  ControlArray<Label>& Numbers(int hero) { return hero == 0 ? ManNumbers : WomanNumbers; }
+  CommandButton& EquipButton(int hero) { return hero == 0 ? ManEquip : WomanEquip; }
+  CommandButton& RemoveButton(int hero) { return hero == 0 ? ManRemoveAll : WomanRemoveAll; }
 
   Game& game_;
 };

@@ -37,38 +37,40 @@ void EnlargeFace(PictureBox& box) {
 
 }  // namespace
 
-ChardataScreen::ChardataScreen(Game& game)
+HeroesScreen::HeroesScreen(Game& game)
     : Screen(game.stage, "Chardata", "キャラデータ", 403, 444),
-      SSTab1(*this, "SSTab1", {0, 0, 401, 441}, {{"", ""}, {true, true}}),
-      Picture1(PaneOf(SSTab1, 0), "Picture1", kFacePlace, {FaceSurface("face_man"), 2}),
-      Picture2(PaneOf(SSTab1, 1), "Picture2", kFacePlace, {FaceSurface("face_woman"), 2}),
-      Frame3(PaneOf(SSTab1, 0), "Frame3", kStatusPlace, {"ステータス"}),
-      Frame1(PaneOf(SSTab1, 0), "Frame1", kEquipmentPlace, {"装備"}),
-      Frame7(PaneOf(SSTab1, 0), "Frame7", kNextLevelPlace, {"次のレベルまであと"}),
-      Frame2(PaneOf(SSTab1, 0), "Frame2", kSkillsPlace, {"技"}),
-      Frame4(PaneOf(SSTab1, 1), "Frame4", kStatusPlace, {"ステータス"}),
-      Frame5(PaneOf(SSTab1, 1), "Frame5", kEquipmentPlace, {"装備"}),
-      Frame8(PaneOf(SSTab1, 1), "Frame8", kNextLevelPlace, {"次のレベルまであと"}),
-      Frame6(PaneOf(SSTab1, 1), "Frame6", kSkillsPlace, {"魔法"}),
-      Command1(PaneOf(SSTab1, 0), "Command1", kClosePlace, {"閉じる"}),
-      Command2(PaneOf(SSTab1, 1), "Command2", kClosePlace, {"閉じる"}),
+      HeroTabs(*this, "SSTab1", {0, 0, 401, 441}, {{"", ""}, {true, true}}),
+      ManFace(PaneOf(HeroTabs, 0), "Picture1", kFacePlace, {FaceSurface("face_man"), 2}),
+      WomanFace(PaneOf(HeroTabs, 1), "Picture2", kFacePlace, {FaceSurface("face_woman"), 2}),
+      ManStatus(PaneOf(HeroTabs, 0), "Frame3", kStatusPlace, {"ステータス"}),
+      ManEquipment(PaneOf(HeroTabs, 0), "Frame1", kEquipmentPlace, {"装備"}),
+      ManNextLevel(PaneOf(HeroTabs, 0), "Frame7", kNextLevelPlace, {"次のレベルまであと"}),
+      ManTechniques(PaneOf(HeroTabs, 0), "Frame2", kSkillsPlace, {"技"}),
+      WomanStatus(PaneOf(HeroTabs, 1), "Frame4", kStatusPlace, {"ステータス"}),
+      WomanEquipment(PaneOf(HeroTabs, 1), "Frame5", kEquipmentPlace, {"装備"}),
+      WomanNextLevel(PaneOf(HeroTabs, 1), "Frame8", kNextLevelPlace, {"次のレベルまであと"}),
+      WomanSpells(PaneOf(HeroTabs, 1), "Frame6", kSkillsPlace, {"魔法"}),
+      ManClose(PaneOf(HeroTabs, 0), "Command1", kClosePlace, {"閉じる"}),
+      WomanClose(PaneOf(HeroTabs, 1), "Command2", kClosePlace, {"閉じる"}),
       game_(game) {
   AddPane(0);
   AddPane(1);
-  Command1.OnClick = Command2.OnClick = [this] { TheStage().Unload(*this); };
+  ManClose.OnClick = WomanClose.OnClick = [this] { TheStage().Unload(*this); };
 }
 
-ChardataScreen::Pane ChardataScreen::PaneOfHero(int hero) {
+HeroesScreen::Pane HeroesScreen::PaneOfHero(int hero) {
   if (hero == 0)
-    return {Frame3, Frame1, Frame7, Frame2, Label10, Label14, Label21, Label23, Label22};
-  return {Frame4, Frame5, Frame8, Frame6, Label11, Label15, Label24, Label28, Label27};
+    return {ManStatus, ManEquipment,  ManNextLevel,   ManTechniques,  ManStatusValues,
+            ManWorn,   ManSkillNames, ManSkillCounts, ManSkillMasters};
+  return {WomanStatus, WomanEquipment,  WomanNextLevel,   WomanSpells,      WomanStatusValues,
+          WomanWorn,   WomanSkillNames, WomanSkillCounts, WomanSkillMasters};
 }
 
-void ChardataScreen::AddCaption(const Holder& holder, const Place& place, const char* text) {
+void HeroesScreen::AddCaption(const Holder& holder, const Place& place, const char* text) {
   captions_.push_back(std::make_unique<Label>(holder, "", place, LabelValues{text}));
 }
 
-void ChardataScreen::AddPane(int hero) {
+void HeroesScreen::AddPane(int hero) {
   const Pane pane = PaneOfHero(hero);
   int row = 0;
   for (const char* caption : kStatusCaptions) {
@@ -83,7 +85,7 @@ void ChardataScreen::AddPane(int hero) {
     AddCaption(pane.Equipment, {8, top, 39, 17}, caption);
     pane.Worn.Add(row++, pane.Equipment, Place{48, top, 109, 17});
   }
-  Label16.Add(hero, pane.NextLevel, Place{hero == 0 ? 16.0 : 8.0, 16, 129, 17});
+  ExperienceToNext.Add(hero, pane.NextLevel, Place{hero == 0 ? 16.0 : 8.0, 16, 129, 17});
   AddCaption(pane.NextLevel, {152, 16, 57, 17}, "ポイント");
   AddCaption(pane.Skills, {32, 16, 65, 17}, hero == 0 ? "技名" : "魔法名");
   AddCaption(pane.Skills, {136, 16, 57, 17}, "熟練度");
@@ -95,12 +97,12 @@ void ChardataScreen::AddPane(int hero) {
   }
 }
 
-void ChardataScreen::OnLoad() {
-  EnlargeFace(Picture1);
-  EnlargeFace(Picture2);
+void HeroesScreen::OnLoad() {
+  EnlargeFace(ManFace);
+  EnlargeFace(WomanFace);
 }
 
-void ChardataScreen::OnActivate(bool) {
+void HeroesScreen::OnActivate(bool) {
   State& state = game_.state;
   for (int hero = 0; hero < 2; ++hero) {
     state.Attack[hero] = state.WeaponAttack[hero] + state.BaseAttack[hero];
@@ -108,30 +110,30 @@ void ChardataScreen::OnActivate(bool) {
   }
   for (int hero = 0; hero < 2; ++hero) {
     const double missing = ExperienceToLeave(hero, state.Level[hero]) - state.Exp[hero] * 1.0;
-    Label16[hero].Caption = std::to_string(static_cast<long long>(missing));
-    SSTab1.SetTabCaption(hero, state.HeroName[hero].Trimmed());
+    ExperienceToNext[hero].Caption = std::to_string(static_cast<long long>(missing));
+    HeroTabs.SetTabCaption(hero, state.HeroName[hero].Trimmed());
   }
   WazaChart();
   MagicChart();
 }
 
-void ChardataScreen::OnUnload() {
-  game_.Main.Timer1.SetEnabled(true);
+void HeroesScreen::OnUnload() {
+  game_.Main.WalkTimer.SetEnabled(true);
 }
 
-void ChardataScreen::WazaChart() {
+void HeroesScreen::WazaChart() {
   const State& state = game_.state;
   ShowStatus(0);
   ShowSkills(0, state.WazaKnown, state.WazaUse, state.WazaMaster, state.WazaName);
 }
 
-void ChardataScreen::MagicChart() {
+void HeroesScreen::MagicChart() {
   const State& state = game_.state;
   ShowStatus(1);
   ShowSkills(1, state.MagicKnown, state.MagicUse, state.MagicMaster, state.MagicName);
 }
 
-void ChardataScreen::ShowStatus(int hero) {
+void HeroesScreen::ShowStatus(int hero) {
   const State& state = game_.state;
   const Pane pane = PaneOfHero(hero);
   const int values[] = {state.Level[hero],   state.HP[hero],     state.MP[hero],
@@ -144,9 +146,8 @@ void ChardataScreen::ShowStatus(int hero) {
   pane.Worn[2].Caption = state.BookName[hero].Full();
 }
 
-void ChardataScreen::ShowSkills(int hero, const Array<Int16, 11>& known,
-                                const Array<Int16, 11>& use, const Array<Int16, 11>& master,
-                                const Array<std::string, 11>& names) {
+void HeroesScreen::ShowSkills(int hero, const Array<Int16, 11>& known, const Array<Int16, 11>& use,
+                              const Array<Int16, 11>& master, const Array<std::string, 11>& names) {
   const Pane pane = PaneOfHero(hero);
   for (int skill = 0; skill < kSkills; ++skill) {
     if (known[skill] != True) continue;

@@ -10,26 +10,27 @@
 
 namespace orvane {
 
-class ChardataScreen : public Screen {
+class HeroesScreen : public Screen {
  public:
-  explicit ChardataScreen(Game& game);
+  explicit HeroesScreen(Game& game);
 
-  TabStrip SSTab1;
-  PictureBox Picture1, Picture2;           // the faces, scaled up when the screen loads
-  Frame Frame3, Frame1, Frame7, Frame2;    // the man's status, equipment, next level, techniques
-  Frame Frame4, Frame5, Frame8, Frame6;    // the woman's, with spells
-  CommandButton Command1, Command2;        // close
-  ControlArray<Label> Label10{"Label10"};  // status values
-  ControlArray<Label> Label11{"Label11"};
-  ControlArray<Label> Label14{"Label14"};  // equipment
-  ControlArray<Label> Label15{"Label15"};
-  ControlArray<Label> Label16{"Label16"};  // experience to the next level
-  ControlArray<Label> Label21{"Label21"};  // the man's skills: name, count, master value
-  ControlArray<Label> Label23{"Label23"};
-  ControlArray<Label> Label22{"Label22"};
-  ControlArray<Label> Label24{"Label24"};  // the woman's
-  ControlArray<Label> Label28{"Label28"};
-  ControlArray<Label> Label27{"Label27"};
+  TabStrip HeroTabs;
+  PictureBox ManFace, WomanFace;  // the faces, scaled up when the screen loads
+  Frame ManStatus, ManEquipment, ManNextLevel,
+      ManTechniques;  // the man's status, equipment, next level, techniques
+  Frame WomanStatus, WomanEquipment, WomanNextLevel, WomanSpells;  // the woman's, with spells
+  CommandButton ManClose, WomanClose;                              // close
+  ControlArray<Label> ManStatusValues{"Label10"};                  // status values
+  ControlArray<Label> WomanStatusValues{"Label11"};
+  ControlArray<Label> ManWorn{"Label14"};  // equipment
+  ControlArray<Label> WomanWorn{"Label15"};
+  ControlArray<Label> ExperienceToNext{"Label16"};  // experience to the next level
+  ControlArray<Label> ManSkillNames{"Label21"};     // the man's skills: name, count, master value
+  ControlArray<Label> ManSkillCounts{"Label23"};
+  ControlArray<Label> ManSkillMasters{"Label22"};
+  ControlArray<Label> WomanSkillNames{"Label24"};  // the woman's
+  ControlArray<Label> WomanSkillCounts{"Label28"};
+  ControlArray<Label> WomanSkillMasters{"Label27"};
 
  protected:
   void OnLoad() override;

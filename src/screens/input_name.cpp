@@ -22,17 +22,17 @@ const char* Objection(const std::string& first, const std::string& second) {
 
 InputNameScreen::InputNameScreen(Game& game)
     : Screen(game.stage, "InputName", "名前の入力", 336, 158),
-      Label1(*this, "Label1", {16, 8, 305, 17}, {"キャラクターの名前を入力してください"}),
-      Label4(*this, "Label4", {216, 32, 73, 17}, {"（６文字以内）"}),
-      Label2(*this, "Label2", {88, 48, 73, 17}, {"主人公（男）"}),
-      Label3(*this, "Label3", {88, 104, 65, 17}, {"主人公（女）"}),
-      Picture1(*this, "Picture1", {24, 40, 50, 50}, {Sheet("face_man"), 1}),
-      Picture2(*this, "Picture2", {24, 96, 50, 50}, {Sheet("face_woman"), 1}),
+      Request(*this, "Label1", {16, 8, 305, 17}, {"キャラクターの名前を入力してください"}),
+      LengthHint(*this, "Label4", {216, 32, 73, 17}, {"（６文字以内）"}),
+      ManCaption(*this, "Label2", {88, 48, 73, 17}, {"主人公（男）"}),
+      WomanCaption(*this, "Label3", {88, 104, 65, 17}, {"主人公（女）"}),
+      ManFace(*this, "Picture1", {24, 40, 50, 50}, {Sheet("face_man"), 1}),
+      WomanFace(*this, "Picture2", {24, 96, 50, 50}, {Sheet("face_woman"), 1}),
       OKButton(*this, "OKButton", {240, 80, 81, 25}, {"OK"}),
       CancelButton(*this, "CancelButton", {240, 112, 81, 25}, {"ｷｬﾝｾﾙ"}),
       game_(game) {
-  Text1.Add(0, *this, Place{88, 64, 129, 18});
-  Text1.Add(1, *this, Place{88, 120, 129, 18});
+  Names.Add(0, *this, Place{88, 64, 129, 18});
+  Names.Add(1, *this, Place{88, 120, 129, 18});
   OKButton.OnClick = [this] { Accept(); };
   CancelButton.OnClick = [this] { TheStage().Unload(*this); };
 }
@@ -43,20 +43,20 @@ void InputNameScreen::OnActivate(bool) {
 
 void InputNameScreen::OnUnload() {
   TheStage().Hide(*this);
-  Text1[0].Text.clear();
-  Text1[1].Text.clear();
+  Names[0].Text.clear();
+  Names[1].Text.clear();
 }
 
 void InputNameScreen::Accept() {
   State& state = game_.state;
-  for (int hero = 0; hero < 2; ++hero) state.HeroNameText[hero] = Trim(Text1[hero].Text);
+  for (int hero = 0; hero < 2; ++hero) state.HeroNameText[hero] = Trim(Names[hero].Text);
   if (const char* objection = Objection(state.HeroNameText[0], state.HeroNameText[1])) {
     return Warn(game_, objection);
   }
   for (int hero = 0; hero < 2; ++hero) state.HeroName[hero] = state.HeroNameText[hero];
-  game_.Main.Command1.Visible = false;
+  game_.Main.BeginButton.Visible = false;
   state.GameStarted = True;
-  game_.Main.m11.Enabled = false;
+  game_.Main.LoadItem.Enabled = false;
   TheStage().Unload(*this);
 }
 

@@ -11,10 +11,10 @@ class InputNameScreen : public Screen {
  public:
   explicit InputNameScreen(Game& game);
 
-  Label Label1, Label4, Label2;
-  ControlArray<TextBox> Text1{"Text1"};
-  Label Label3;
-  PictureBox Picture1, Picture2;
+  Label Request, LengthHint, ManCaption;
+  ControlArray<TextBox> Names{"Text1"};
+  Label WomanCaption;
+  PictureBox ManFace, WomanFace;
   CommandButton OKButton, CancelButton;
 
  protected:

@@ -15,29 +15,29 @@ constexpr int kComparedChars = 5;
 
 ItemScreen::ItemScreen(Game& game)
     : Screen(game.stage, "Item", "アイテム", 257, 164),
-      Label1(*this, "Label1", {40, 8, 113, 25}, {"アイテムリスト"}),
-      List1(*this, "List1", {8, 32, 153, 124}),
-      Command1(*this, "Command1", {176, 40, 73, 33}, {"使う"}),
-      Command2(*this, "Command2", {176, 80, 73, 33}, {"捨てる"}),
-      Command8(*this, "Command8", {176, 120, 73, 33}, {"整理"}),
+      ListCaption(*this, "Label1", {40, 8, 113, 25}, {"アイテムリスト"}),
+      Bag(*this, "List1", {8, 32, 153, 124}),
+      UseButton(*this, "Command1", {176, 40, 73, 33}, {"使う"}),
+      DiscardButton(*this, "Command2", {176, 80, 73, 33}, {"捨てる"}),
+      TidyButton(*this, "Command8", {176, 120, 73, 33}, {"整理"}),
       game_(game) {
-  List1.OnClick = [this] { RowChosen(); };
-  Command1.OnClick = [this] { Use(); };
-  Command2.OnClick = [this] { Discard(); };
-  Command8.OnClick = [this] { Tidy(); };
+  Bag.OnClick = [this] { RowChosen(); };
+  UseButton.OnClick = [this] { Use(); };
+  DiscardButton.OnClick = [this] { Discard(); };
+  TidyButton.OnClick = [this] { Tidy(); };
 }
 
 void ItemScreen::OnActivate(bool) {
-  if (List1.ListIndex < 0) {
-    Command1.Enabled = false;
-    Command2.Enabled = false;
+  if (Bag.ListIndex < 0) {
+    UseButton.Enabled = false;
+    DiscardButton.Enabled = false;
   }
-  FillItemList(game_, List1);
+  FillItemList(game_, Bag);
 }
 
 void ItemScreen::OnClose() {
   // Before Main is active again, which may stop the walk for a scene.
-  game_.Main.Timer1.SetEnabled(true);
+  game_.Main.WalkTimer.SetEnabled(true);
   TheStage().Hide(*this);
 }
 
@@ -55,32 +55,32 @@ bool ItemScreen::IsWorn() const {
 
 void ItemScreen::RowChosen() {
   const State& state = game_.state;
-  const int item = state.Items[List1.ListIndex];
+  const int item = state.Items[Bag.ListIndex];
   ReadItem(game_, item);
-  Command1.Enabled = state.ItemRec.Kind == kRecovery;
-  Command2.Enabled = item != NoItem && state.ItemRec.Kind != kBook && !IsWorn();
+  UseButton.Enabled = state.ItemRec.Kind == kRecovery;
+  DiscardButton.Enabled = item != NoItem && state.ItemRec.Kind != kBook && !IsWorn();
 }
 
 void ItemScreen::Use() {
   if (game_.state.ItemRec.Kind != kRecovery) return Warn(game_, "使えません。");
-  if (List1.ListIndex >= 0) AskWho();
+  if (Bag.ListIndex >= 0) AskWho();
 }
 
 void ItemScreen::Discard() {
   State& state = game_.state;
-  if (List1.ListIndex < 0) return;
-  ReadItem(game_, state.Items[List1.ListIndex]);
+  if (Bag.ListIndex < 0) return;
+  ReadItem(game_, state.Items[Bag.ListIndex]);
   const std::string question = "捨ててもよろしいですか？\n" + state.ItemRec.Name.Full();
   if (TheStage().ShowBox(question, "アイテム削除", BoxButtons::OkCancel) != BoxAnswer::Ok) return;
-  state.Items[List1.ListIndex] = NoItem;
+  state.Items[Bag.ListIndex] = NoItem;
   state.ItemCount -= 1;
-  FillItemList(game_, List1);
-  Command2.Enabled = false;
+  FillItemList(game_, Bag);
+  DiscardButton.Enabled = false;
 }
 
 void ItemScreen::Tidy() {
   SortItems(game_.state);
-  FillItemList(game_, List1);
+  FillItemList(game_, Bag);
 }
 
 void FillItemList(Game& game, ListBox& list) {

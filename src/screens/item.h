@@ -11,9 +11,9 @@ class ItemScreen : public Screen {
  public:
   explicit ItemScreen(Game& game);
 
-  Label Label1;
-  ListBox List1;  // row n is slot n of the bag
-  CommandButton Command1, Command2, Command8;
+  Label ListCaption;
+  ListBox Bag;  // row n is slot n of the bag
+  CommandButton UseButton, DiscardButton, TidyButton;
 
   // Opens the question who is to get the selected item.
   Handler AskWho;

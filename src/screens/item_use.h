@@ -9,12 +9,12 @@ class ItemUseScreen : public Screen {
  public:
   ItemUseScreen(Game& game, ItemScreen& item);
 
-  Label Label3, Label4, Label5;
-  Frame Frame1;
-  PictureBox Picture1, Picture2;
-  ControlArray<CommandButton> Command1{"Command1"};
-  ControlArray<Label> Label1{"Label1"};
-  ControlArray<Label> Label2{"Label2"};
+  Label Question, ItemName, HealingValue;
+  Frame HeroesFrame;
+  PictureBox ManFace, WomanFace;
+  ControlArray<CommandButton> HeroButtons{"Command1"};
+  ControlArray<Label> HPValues{"Label1"};
+  ControlArray<Label> MPValues{"Label2"};
 
  protected:
   void OnActivate(bool entered) override;

@@ -31,8 +31,8 @@ void LoadScreen::Load() {
   state.MapB = state.SaveMapB;
   state.HeroX = state.SaveX;
   state.HeroY = state.SaveY;
-  game_.Main.Command1.Visible = false;
-  game_.Main.m11.Enabled = false;
+  game_.Main.BeginButton.Visible = false;
+  game_.Main.LoadItem.Enabled = false;
   TheStage().Unload(*this);
 }
 

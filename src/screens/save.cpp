@@ -28,7 +28,7 @@ void SaveScreen::Save() {
   state.SaveX = state.HeroX;
   state.SaveY = state.HeroY;
   game_.folder.Replace(Opened(), PackRecord(state));
-  game_.Main.Timer1.SetEnabled(true);
+  game_.Main.WalkTimer.SetEnabled(true);
   TheStage().Unload(*this);
 }
 

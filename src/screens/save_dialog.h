@@ -15,14 +15,14 @@ class SaveDialog : public Screen {
   // `verb` is "セーブ" or "ロード".
   SaveDialog(Game& game, const std::string& name, const std::string& verb);
 
-  Label Label1;
-  FileListBox File1;
+  Label Request;
+  FileListBox Files;
   CommandButton OKButton;
-  Frame Frame1;
-  Label Label4;
-  ControlArray<PictureBox> Picture1{"Picture1"};
-  ControlArray<Label> Label2{"Label2"};
-  ControlArray<Label> Label3{"Label3"};
+  Frame PartyFrame;
+  Label RoundLabel;
+  ControlArray<PictureBox> Faces{"Picture1"};
+  ControlArray<Label> Names{"Label2"};
+  ControlArray<Label> Levels{"Label3"};
 
  protected:
   // The files that are there now.

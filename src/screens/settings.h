@@ -7,17 +7,17 @@
 
 namespace orvane {
 
-class CustomScreen : public Screen {
+class SettingsScreen : public Screen {
  public:
-  explicit CustomScreen(Game& game);
+  explicit SettingsScreen(Game& game);
 
-  Frame Frame2;
-  ControlArray<TextBox> Text1{"Text1"};
-  ControlArray<PictureBox> Picture1{"Picture1"};
-  Frame Frame1;
-  Slider Slider1;  // ms of the battle's action timer
-  Label Label1, Label2;
-  CommandButton Command1;
+  Frame NamesFrame;
+  ControlArray<TextBox> Names{"Text1"};
+  ControlArray<PictureBox> Faces{"Picture1"};
+  Frame SpeedFrame;
+  Slider BattleSpeed;  // ms of the battle's action timer
+  Label FastLabel, SlowLabel;
+  CommandButton ChangeButton;
 
  protected:
   void OnActivate(bool entered) override;

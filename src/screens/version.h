@@ -11,9 +11,9 @@ class VersionScreen : public Screen {
  public:
   explicit VersionScreen(Game& game);
 
-  PictureBox picIcon;
-  Label lblTitle, lblVersion, lblDescription;
-  CommandButton cmdOK;
+  PictureBox Icon;
+  Label TitleLabel, VersionLabel, Description;
+  CommandButton OKButton;
 };
 
 }  // namespace orvane

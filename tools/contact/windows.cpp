@@ -54,16 +54,16 @@ struct Windows::Screens {
 
 Windows::Windows(const Sheets& sheets) : sheets_(sheets), screens_(std::make_unique<Screens>()) {
   MainScreen& main = screens_->game.Main;
-  main.Picture5.Picture = sheets.at("message_window");
-  main.Picture6.Picture = sheets.at("status_panel");
-  main.Picture7.Picture = sheets.at("face_man");
-  main.Picture8.Picture = sheets.at("face_woman");
+  main.MessageWindow.Picture = sheets.at("message_window");
+  main.StatusPanel.Picture = sheets.at("status_panel");
+  main.ManFace.Picture = sheets.at("face_man");
+  main.WomanFace.Picture = sheets.at("face_woman");
   BattleScreen& battle = screens_->battle;
-  battle.Picture9.Picture = sheets.at("name_panel_hero");
-  battle.Picture13.Picture = sheets.at("name_panel_enemy");
-  battle.Picture10.Picture = sheets.at("victory_panel");
-  screens_->ending.Picture2.Picture = sheets.at("ending_still");
-  screens_->ending.Picture1.Picture = sheets.at("credits");
+  battle.HeroActionPanel.Picture = sheets.at("name_panel_hero");
+  battle.EnemyActionPanel.Picture = sheets.at("name_panel_enemy");
+  battle.VictoryPanel.Picture = sheets.at("victory_panel");
+  screens_->ending.StillPicture.Picture = sheets.at("ending_still");
+  screens_->ending.CreditsSheet.Picture = sheets.at("credits");
   screens_->game.stage.KeepDesigns();  // a screen goes back to them when it is shown
 }
 
@@ -72,35 +72,35 @@ Windows::~Windows() = default;
 Shown Windows::TheTitle() {
   MainScreen& main = screens_->game.Main;
   const Surface& title = sheets_.at("title");
-  Surface field(main.Picture1.Picture.Width(), main.Picture1.Picture.Height());
+  Surface field(main.FieldPicture.Picture.Width(), main.FieldPicture.Picture.Height());
   StretchBlt(field, {0, 0, 480, 320}, title, {0, 0, title.Width(), title.Height()},
              RasterOp::SRCCOPY);
-  main.Picture1.Picture = field;
-  return {"title as seen", Whole(main.Picture1)};
+  main.FieldPicture.Picture = field;
+  return {"title as seen", Whole(main.FieldPicture)};
 }
 
 std::vector<Shown> Windows::OfTheField() {
   MainScreen& main = screens_->game.Main;
-  main.Label5[0].Caption = "HP ：128/164";
-  main.Label5[1].Caption = "MP ：7/38";
-  main.Label5[2].Caption = "HP ：9999/9999";
-  main.Label5[3].Caption = "MP ：9999/9999";
-  std::vector<Shown> result = {{"status panel", Whole(main.Picture6)}};
-  main.Label6[0].Caption = "ドラゴンソード";
-  main.Label6[1].Caption = "を手に入れた";
-  result.push_back({"message window, found", Whole(main.Picture5)});
-  main.Label6[0].Caption = "HP・MP全回復！";
-  main.Label6[1].Caption = "";
-  result.push_back({"message window, healed", Whole(main.Picture5)});
-  main.Label6[0].Visible = main.Label6[1].Visible = false;
-  main.Label8.Visible = main.Picture9.Visible = true;
-  main.Label8.Caption =
+  main.StatusValues[0].Caption = "HP ：128/164";
+  main.StatusValues[1].Caption = "MP ：7/38";
+  main.StatusValues[2].Caption = "HP ：9999/9999";
+  main.StatusValues[3].Caption = "MP ：9999/9999";
+  std::vector<Shown> result = {{"status panel", Whole(main.StatusPanel)}};
+  main.MessageLines[0].Caption = "ドラゴンソード";
+  main.MessageLines[1].Caption = "を手に入れた";
+  result.push_back({"message window, found", Whole(main.MessageWindow)});
+  main.MessageLines[0].Caption = "HP・MP全回復！";
+  main.MessageLines[1].Caption = "";
+  result.push_back({"message window, healed", Whole(main.MessageWindow)});
+  main.MessageLines[0].Visible = main.MessageLines[1].Visible = false;
+  main.StoryLine.Visible = main.SpeakerFace.Visible = true;
+  main.StoryLine.Caption =
       "ああ、村のじじいどもが修行のために作った世界だ。俺たちが落ちた穴が入り口だったんだ。";
-  main.Picture9.Picture = sheets_.at("face_man");
-  result.push_back({"message window, the man", Whole(main.Picture5)});
-  main.Label8.Caption = "ちょっと待って！なにか変よ…え？りゅ、龍が…もう一体！?";
-  main.Picture9.Picture = sheets_.at("face_woman");
-  result.push_back({"message window, the woman", Whole(main.Picture5)});
+  main.SpeakerFace.Picture = sheets_.at("face_man");
+  result.push_back({"message window, the man", Whole(main.MessageWindow)});
+  main.StoryLine.Caption = "ちょっと待って！なにか変よ…え？りゅ、龍が…もう一体！?";
+  main.SpeakerFace.Picture = sheets_.at("face_woman");
+  result.push_back({"message window, the woman", Whole(main.MessageWindow)});
   return result;
 }
 
@@ -108,25 +108,24 @@ std::vector<Shown> Windows::OfTheBattle() {
   BattleScreen& battle = screens_->battle;
   const FixedText<8> man = "アルト";
   const FixedText<8> woman = "セシリアーヌ";
-  battle.Label24.Caption = "デス･スプリート";
-  battle.Label20.Caption = "獄　炎";
-  battle.Label21.Caption = "経験値　15000ポイント獲得！";
-  battle.Label22[0].Caption = LeftChars(man.Full(), 6) + "LEVEL UP !";
-  battle.Label22[1].Caption = LeftChars(woman.Full(), 6) + "LEVEL UP !";
-  battle.Label25[0].Caption = LeftChars(man.Full(), 6) + " MASTER !";
-  battle.Label25[1].Caption = LeftChars(woman.Full(), 6) + " MASTER !";
+  battle.EnemyActionName.Caption = "デス･スプリート";
+  battle.HeroActionName.Caption = "獄　炎";
+  battle.ExperienceGained.Caption = "経験値　15000ポイント獲得！";
+  battle.LevelMessages[0].Caption = LeftChars(man.Full(), 6) + "LEVEL UP !";
+  battle.LevelMessages[1].Caption = LeftChars(woman.Full(), 6) + "LEVEL UP !";
+  battle.MasteryMessages[0].Caption = LeftChars(man.Full(), 6) + " MASTER !";
+  battle.MasteryMessages[1].Caption = LeftChars(woman.Full(), 6) + " MASTER !";
   for (int hero = 0; hero < 2; ++hero) {
-    battle.Label22[hero].Visible = battle.Label25[hero].Visible = true;
+    battle.LevelMessages[hero].Visible = battle.MasteryMessages[hero].Visible = true;
   }
   std::vector<Shown> result;
   for (const char* ground : {"ground_open", "ground_waste", "ground_lair"}) {
-    battle.Picture1.Picture = Ground(sheets_, ground);
-    PutHeroes(battle.Picture1.Picture, sheets_);
+    battle.Scene.Picture = Ground(sheets_, ground);
+    PutHeroes(battle.Scene.Picture, sheets_);
     for (const bool won : {false, true}) {
-      battle.Picture9.Visible = battle.Picture13.Visible = !won;
-      battle.Picture10.Visible = won;
-      result.push_back(
-          {std::string(won ? "won on " : "names on ") + ground, Whole(battle.Picture1)});
+      battle.HeroActionPanel.Visible = battle.EnemyActionPanel.Visible = !won;
+      battle.VictoryPanel.Visible = won;
+      result.push_back({std::string(won ? "won on " : "names on ") + ground, Whole(battle.Scene)});
     }
   }
   return result;
@@ -139,7 +138,7 @@ std::vector<Shown> Windows::OfTheEnding() {
   screens_->game.stage.Show(ending);
   std::vector<Shown> result;
   for (int tick = 1; tick <= ticks; ++tick) {
-    ending.Timer1.OnTick();
+    ending.ScrollTimer.OnTick();
     if (tick % between != 0 || tick == between) continue;
     Surface scene = *ending.OwnSurface;
     PutContents(scene, ending, nullptr, 0, 0);

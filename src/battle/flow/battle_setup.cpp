@@ -45,11 +45,11 @@ const char* FightMusic(const State& state) {
 }  // namespace
 
 void NameTab(BattleScreen& battle, int hero) {
-  battle.SSTab1.SetTabCaption(hero, battle.state.HeroName[hero].Trimmed());
+  battle.HeroTabs.SetTabCaption(hero, battle.state.HeroName[hero].Trimmed());
 }
 
 void LoadBattle(BattleScreen& battle) {
-  battle.Command2.Enabled = false;
+  battle.SpellButton.Enabled = false;
   BattleSetUp(battle);
   NameTab(battle, 0);
   NameTab(battle, 1);
@@ -58,16 +58,16 @@ void LoadBattle(BattleScreen& battle) {
 void OpenBattle(BattleScreen& battle) {
   const State& state = battle.state;
   FillEnemyTable(battle.state);
-  battle.SSTab1.SetTab(0);
-  battle.Command1.Enabled = true;
-  battle.Command4.Enabled = true;
-  battle.Command3.Enabled = true;
+  battle.HeroTabs.SetTab(0);
+  battle.FightButton.Enabled = true;
+  battle.ItemButton.Enabled = true;
+  battle.TechniqueButton.Enabled = true;
   BattleSetUp(battle);
   StatusDisplay(battle);
   const bool bone_dragon =
       state.EnemyKind == BoneDragonKind && state.BossFight != True && state.LastBossFight != True;
-  if (!bone_dragon) battle.Command5.Enabled = false;
-  battle.Timer2.SetEnabled(true);
+  if (!bone_dragon) battle.FleeButton.Enabled = false;
+  battle.MusicTimer.SetEnabled(true);
   NameTab(battle, 0);
   NameTab(battle, 1);
 }
@@ -86,7 +86,7 @@ void BattleSetUp(BattleScreen& battle) {
   } else {
     SetUpGroup(battle);
   }
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void BattleMusic(BattleScreen& battle) {
@@ -99,10 +99,10 @@ void AbandonBattle(BattleScreen& battle) {
   state.FieldFrame = state.MessageFrame = state.StoryFrame = 0;
   state.ActionState = 0;
   ClearDirections(battle.game);
-  battle.Timer2.SetEnabled(false);
+  battle.MusicTimer.SetEnabled(false);
   battle.game.stage.Hide(battle);
   battle.game.stage.Show(battle.game.Main);
-  battle.game.Main.Timer1.SetEnabled(true);
+  battle.game.Main.WalkTimer.SetEnabled(true);
 }
 
 }  // namespace orvane

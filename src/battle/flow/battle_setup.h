@@ -14,7 +14,7 @@ void OpenBattle(BattleScreen& battle);
 // Forms the enemy group and draws the opening scene.
 void BattleSetUp(BattleScreen& battle);
 
-// One tick of Timer2: keeps the music of the fight going.
+// One tick of MusicTimer: keeps the music of the fight going.
 void BattleMusic(BattleScreen& battle);
 
 // The player has closed the window: the battle ends without a result.

@@ -21,31 +21,31 @@ constexpr int kGreatHealRow = 8;
 constexpr int kLastTargetRow = 2;
 
 int Acting(BattleScreen& battle) {
-  return battle.SSTab1.Tab();
+  return battle.HeroTabs.Tab();
 }
 
 void CommandLock(BattleScreen& battle, int tab) {
-  battle.Command1.Enabled = false;
-  battle.Command4.Enabled = false;
-  battle.SSTab1.SetTabEnabled(tab, false);
-  battle.SSTab1.SetTabEnabled(tab ^ 1, false);
+  battle.FightButton.Enabled = false;
+  battle.ItemButton.Enabled = false;
+  battle.HeroTabs.SetTabEnabled(tab, false);
+  battle.HeroTabs.SetTabEnabled(tab ^ 1, false);
   battle.state.HeroBusy[tab] = True;
 }
 
 void CommandUnlock(BattleScreen& battle) {
   const int tab = Acting(battle);
-  battle.Command1.Enabled = true;
-  battle.Command4.Enabled = true;
-  (tab == 0 ? battle.Command3 : battle.Command2).Enabled = true;
+  battle.FightButton.Enabled = true;
+  battle.ItemButton.Enabled = true;
+  (tab == 0 ? battle.TechniqueButton : battle.SpellButton).Enabled = true;
   battle.state.HeroBusy[tab] = False;
-  battle.List1.Clear();
-  battle.SSTab1.SetTabEnabled(tab, true);
+  battle.Skills.Clear();
+  battle.HeroTabs.SetTabEnabled(tab, true);
 }
 
 void FaintedTabOff(BattleScreen& battle) {
   for (int hero = 0; hero < 2; ++hero) {
     if (battle.state.HeroFainted[hero] != True) continue;
-    battle.SSTab1.SetTabEnabled(hero, false);
+    battle.HeroTabs.SetTabEnabled(hero, false);
     return;
   }
 }
@@ -55,21 +55,21 @@ bool OtherIsFree(BattleScreen& battle) {
 }
 
 void OpenOtherTab(BattleScreen& battle) {
-  battle.SSTab1.SetTabEnabled(Acting(battle) ^ 1, true);
+  battle.HeroTabs.SetTabEnabled(Acting(battle) ^ 1, true);
 }
 
 // A choice is complete: its action plays.
 void Commit(BattleScreen& battle, ListBox& open_list) {
   battle.state.FieldFrame = 0;
   battle.state.HeroesActed += 1;
-  battle.Timer1.SetEnabled(true);
+  battle.ActionTimer.SetEnabled(true);
   open_list.Visible = false;
 }
 
 // Row 0 is the way back, rows 1 to 4 are the slots; against a big enemy there is only row 1.
 void FillTargets(BattleScreen& battle) {
   const State& state = battle.state;
-  ListBox& list = battle.List2;
+  ListBox& list = battle.Targets;
   list.SetRow(0, kWayBack);
   if (IsBigFight(state)) return list.SetRow(1, state.EnemyName[EnemyRow(state)].Full());
   for (int slot = 1; slot <= state.EnemyCount; ++slot) {
@@ -81,21 +81,21 @@ void FillTargets(BattleScreen& battle) {
 }
 
 void TargetListOpen(BattleScreen& battle) {
-  battle.List1.Visible = false;
-  battle.List2.Visible = true;
+  battle.Skills.Visible = false;
+  battle.Targets.Visible = true;
   FillEnemyTable(battle.state);
   FillTargets(battle);
 }
 
 void OpenSkillList(BattleScreen& battle, CommandButton& button, const Array<Int16, 11>& known,
                    const Array<std::string, 11>& names, const Array<Int16, 11>& costs) {
-  battle.List1.Visible = true;
-  battle.List1.SetRow(0, kWayBack);
+  battle.Skills.Visible = true;
+  battle.Skills.SetRow(0, kWayBack);
   CommandLock(battle, Acting(battle));
   button.Enabled = false;
   for (int row = 1; row <= kSkills; ++row) {
     const bool learned = known[row - 1] == True;
-    battle.List1.SetRow(
+    battle.Skills.SetRow(
         row, learned ? names[row - 1] + "   (MP消費:" + std::to_string(costs[row - 1]) + ")"
                      : std::string("未修得"));
   }
@@ -125,52 +125,52 @@ void MagicChosen(BattleScreen& battle, int row) {
   if (Refused(battle, state.MagicKnown[row - 1], state.MP[1], state.MagicMP[row - 1])) return;
   if (row <= kLastTargetRow) return TargetListOpen(battle);
   if (row == kHealRow || row == kGreatHealRow) state.ActionKind = Action::Heal;
-  Commit(battle, battle.List1);
+  Commit(battle, battle.Skills);
 }
 
 }  // namespace
 
 void CommandFight(BattleScreen& battle) {
-  battle.List2.Visible = true;
+  battle.Targets.Visible = true;
   battle.state.ActionKind = Action::Fight;
   CommandLock(battle, Acting(battle));
-  battle.Command2.Enabled = false;
-  battle.Command3.Enabled = false;
+  battle.SpellButton.Enabled = false;
+  battle.TechniqueButton.Enabled = false;
   FillTargets(battle);
 }
 
 void CommandMagic(BattleScreen& battle) {
   const State& state = battle.state;
   battle.state.ActionKind = Action::Magic;
-  OpenSkillList(battle, battle.Command2, state.MagicKnown, state.MagicName, state.MagicMP);
+  OpenSkillList(battle, battle.SpellButton, state.MagicKnown, state.MagicName, state.MagicMP);
 }
 
 void CommandWaza(BattleScreen& battle) {
   const State& state = battle.state;
   battle.state.ActionKind = Action::Waza;
-  OpenSkillList(battle, battle.Command3, state.WazaKnown, state.WazaName, state.WazaMP);
+  OpenSkillList(battle, battle.TechniqueButton, state.WazaKnown, state.WazaName, state.WazaMP);
 }
 
 void CommandItem(BattleScreen& battle) {
   State& state = battle.state;
   CommandLock(battle, Acting(battle));
-  battle.Command3.Enabled = false;
-  battle.List3.Clear();
-  battle.List3.Visible = true;
-  battle.List3.AddItem(kWayBack);
+  battle.TechniqueButton.Enabled = false;
+  battle.BagItems.Clear();
+  battle.BagItems.Visible = true;
+  battle.BagItems.AddItem(kWayBack);
   for (int slot = 0; slot < BagSize; ++slot) {
     ReadItem(battle.game, state.Items[slot]);
-    battle.List3.AddItem(state.Items[slot] == NoItem ? std::string("なし")
-                                                     : state.ItemRec.Name.Full());
+    battle.BagItems.AddItem(state.Items[slot] == NoItem ? std::string("なし")
+                                                        : state.ItemRec.Name.Full());
   }
 }
 
 void SkillChosen(BattleScreen& battle) {
-  const int row = battle.List1.ListIndex;
+  const int row = battle.Skills.ListIndex;
   if (row == 0) {
     CommandUnlock(battle);
     if (OtherIsFree(battle)) OpenOtherTab(battle);
-    battle.List1.Visible = false;
+    battle.Skills.Visible = false;
     FaintedTabOff(battle);
   } else if (battle.state.ActionKind == Action::Waza) {
     WazaChosen(battle, row);
@@ -180,66 +180,66 @@ void SkillChosen(BattleScreen& battle) {
 }
 
 void TargetChosen(BattleScreen& battle) {
-  if (battle.List2.ListIndex == 0) {
+  if (battle.Targets.ListIndex == 0) {
     CommandUnlock(battle);
-    battle.List2.Visible = false;
-    battle.List2.Clear();
-    battle.List1.Clear();
+    battle.Targets.Visible = false;
+    battle.Targets.Clear();
+    battle.Skills.Clear();
     if (OtherIsFree(battle)) OpenOtherTab(battle);
     FaintedTabOff(battle);
-  } else if (battle.List2.Text() == kDeadRow) {
+  } else if (battle.Targets.Text() == kDeadRow) {
     Warn(battle.game, "その敵はすでに死んでいる");
   } else {
-    Commit(battle, battle.List2);
+    Commit(battle, battle.Targets);
   }
 }
 
 void ItemChosen(BattleScreen& battle) {
   const State& state = battle.state;
-  const int row = battle.List3.ListIndex;
+  const int row = battle.BagItems.ListIndex;
   if (row == 0) {
     CommandUnlock(battle);
     if (OtherIsFree(battle)) {
       OpenOtherTab(battle);
-      battle.List2.Visible = false;
+      battle.Targets.Visible = false;
     }
     FaintedTabOff(battle);
-    battle.List3.Visible = false;
-    battle.List3.Clear();
+    battle.BagItems.Visible = false;
+    battle.BagItems.Clear();
     return;
   }
   if (state.Items[row - 1] == NoItem || state.Items[row - 1] < kFirstBattleItem) {
     return Warn(battle.game, "それは使えません");
   }
-  battle.List4.Clear();
-  battle.List4.AddItem(kWayBack);
-  battle.List4.AddItem(state.HeroName[0].Trimmed());
-  battle.List4.AddItem(state.HeroName[1].Trimmed());
-  battle.List4.Visible = true;
-  battle.List3.Visible = false;
+  battle.Receivers.Clear();
+  battle.Receivers.AddItem(kWayBack);
+  battle.Receivers.AddItem(state.HeroName[0].Trimmed());
+  battle.Receivers.AddItem(state.HeroName[1].Trimmed());
+  battle.Receivers.Visible = true;
+  battle.BagItems.Visible = false;
 }
 
 void ItemTargetChosen(BattleScreen& battle) {
-  if (battle.List4.ListIndex == 0) {
-    battle.List4.Visible = false;
-    battle.List3.Visible = true;
-    battle.List4.Clear();
+  if (battle.Receivers.ListIndex == 0) {
+    battle.Receivers.Visible = false;
+    battle.BagItems.Visible = true;
+    battle.Receivers.Clear();
     return;
   }
   battle.state.ActionKind = Action::Item;
-  Commit(battle, battle.List4);
+  Commit(battle, battle.Receivers);
 }
 
 void CommandFlee(BattleScreen& battle) {
   State& state = battle.state;
-  battle.Timer1.SetEnabled(false);
+  battle.ActionTimer.SetEnabled(false);
   for (int hero = 0; hero < 2; ++hero) {
     if (state.HeroFainted[hero] != True) continue;
     state.HP[hero] = 1;
     state.HeroFainted[hero] = False;
   }
   LetGoAndSilence(battle);
-  battle.Timer2.SetEnabled(false);
+  battle.MusicTimer.SetEnabled(false);
   battle.game.stage.Hide(battle);
   battle.game.stage.Show(battle.game.Main);
   FreeCommands(battle);
@@ -247,8 +247,8 @@ void CommandFlee(BattleScreen& battle) {
 
 void PaneOpened(BattleScreen& battle) {
   const bool first = Acting(battle) == 0;
-  battle.Command2.Enabled = !first;
-  battle.Command3.Enabled = first;
+  battle.SpellButton.Enabled = !first;
+  battle.TechniqueButton.Enabled = first;
 }
 
 }  // namespace orvane

@@ -20,21 +20,21 @@ constexpr int kDeathShake = 20;  // twips
 int BeginFrame(BattleScreen& battle) {
   Randomize(battle.game);
   for (CommandButton* button :
-       {&battle.Command1, &battle.Command2, &battle.Command3, &battle.Command4}) {
+       {&battle.FightButton, &battle.SpellButton, &battle.TechniqueButton, &battle.ItemButton}) {
     button->Enabled = false;
   }
   return battle.state.ActionState;
 }
 
 void ShowName(BattleScreen& battle, const char* name) {
-  battle.Picture13.Visible = true;
-  battle.Label24.Caption = name;
+  battle.EnemyActionPanel.Visible = true;
+  battle.EnemyActionName.Caption = name;
 }
 
 void HideNumbers(BattleScreen& battle) {
-  battle.Picture13.Visible = false;
-  battle.Label16[0].Visible = false;
-  battle.Label16[1].Visible = false;
+  battle.EnemyActionPanel.Visible = false;
+  battle.HeroNumbers[0].Visible = false;
+  battle.HeroNumbers[1].Visible = false;
 }
 
 void EndAttack(BattleScreen& battle) {
@@ -61,26 +61,26 @@ void DrawSparks(BattleScreen& battle) {
 
 void DrawDeathBand(BattleScreen& battle, int frame) {
   const int half = (frame - 10) * 4;
-  FillBox(battle.Picture1.Picture, 0, 146 - half, 432, 146 + half, Rgb(255, 0, (frame - 10) * 10));
+  FillBox(battle.Scene.Picture, 0, 146 - half, 432, 146 + half, Rgb(255, 0, (frame - 10) * 10));
 }
 
 // One hero stands: his pane alone is open, and one action is enough to bring the enemies.
 void LeaveToOne(BattleScreen& battle, int standing) {
-  battle.SSTab1.SetTabEnabled(standing ^ 1, false);
-  battle.SSTab1.SetTab(standing);
-  battle.SSTab1.SetTabEnabled(standing, true);
+  battle.HeroTabs.SetTabEnabled(standing ^ 1, false);
+  battle.HeroTabs.SetTab(standing);
+  battle.HeroTabs.SetTabEnabled(standing, true);
   battle.state.HeroesActed = 1;
 }
 
 void EnableCommands(BattleScreen& battle) {
   const State& state = battle.state;
-  battle.Command1.Enabled = true;
-  if (state.HeroFainted[1] == False && battle.SSTab1.Tab() == 1) {
-    battle.Command2.Enabled = true;
-  } else if (state.HeroFainted[0] == False && battle.SSTab1.Tab() == 0) {
-    battle.Command3.Enabled = true;
+  battle.FightButton.Enabled = true;
+  if (state.HeroFainted[1] == False && battle.HeroTabs.Tab() == 1) {
+    battle.SpellButton.Enabled = true;
+  } else if (state.HeroFainted[0] == False && battle.HeroTabs.Tab() == 0) {
+    battle.TechniqueButton.Enabled = true;
   }
-  battle.Command4.Enabled = true;
+  battle.ItemButton.Enabled = true;
 }
 
 void EndPhase(BattleScreen& battle) {
@@ -91,16 +91,16 @@ void EndPhase(BattleScreen& battle) {
   const bool first_stands = state.HeroFainted[0] == False;
   const bool second_stands = state.HeroFainted[1] == False;
   if (first_stands && second_stands) {
-    battle.SSTab1.SetTabEnabled(0, true);
-    battle.SSTab1.SetTabEnabled(1, true);
+    battle.HeroTabs.SetTabEnabled(0, true);
+    battle.HeroTabs.SetTabEnabled(1, true);
   } else {
     LeaveToOne(battle, first_stands ? 0 : 1);
     if (!first_stands && !second_stands) {
-      battle.SSTab1.SetTabEnabled(1, false);
+      battle.HeroTabs.SetTabEnabled(1, false);
       PartyWiped(battle);
     }
   }
-  battle.Timer1.SetEnabled(false);
+  battle.ActionTimer.SetEnabled(false);
 }
 
 }  // namespace
@@ -117,7 +117,7 @@ void EnemyAtaNormal(BattleScreen& battle) {
     DrawHeroes(battle);
     EndAttack(battle);
   }
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void EnemyAtaFire(BattleScreen& battle) {
@@ -132,7 +132,7 @@ void EnemyAtaFire(BattleScreen& battle) {
   }
   if (frame >= 36 && frame <= 54) DamageDisplay(battle);
   if (frame == 56) EndAttack(battle);
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void EnemyAtaDeath(BattleScreen& battle) {
@@ -151,7 +151,7 @@ void EnemyAtaDeath(BattleScreen& battle) {
   }
   if (frame >= 36 && frame <= 54) DamageDisplay(battle);
   if (frame == 56) EndAttack(battle);
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void AfterEnemyAta(BattleScreen& battle) {
@@ -161,7 +161,7 @@ void AfterEnemyAta(BattleScreen& battle) {
 
 void PartyWiped(BattleScreen& battle) {
   constexpr int last_music = 7;
-  battle.Timer1.SetEnabled(false);
+  battle.ActionTimer.SetEnabled(false);
   CloseAllSound(battle.game, last_music);
   battle.game.stage.ShowBox("全滅しました。", "GAME OVER", BoxButtons::Ok);
   battle.game.stage.EndProgram(0);

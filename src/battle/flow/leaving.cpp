@@ -11,9 +11,9 @@ void LetGoAndSilence(BattleScreen& battle) {
 }
 
 void FreeCommands(BattleScreen& battle) {
-  battle.Command5.Enabled = true;
+  battle.FleeButton.Enabled = true;
   for (int hero = 0; hero < 2; ++hero) {
-    battle.SSTab1.SetTabEnabled(hero, true);
+    battle.HeroTabs.SetTabEnabled(hero, true);
     battle.state.HeroBusy[hero] = False;
   }
 }

@@ -34,7 +34,7 @@ bool StepsBack(int frame) {
 
 // A hero pays for a skill; nothing tests here what the command has tested.
 void Pay(BattleScreen& battle, int hero, const Array<Int16, 11>& costs) {
-  battle.state.MP[hero] -= costs[battle.List1.ListIndex - 1];
+  battle.state.MP[hero] -= costs[battle.Skills.ListIndex - 1];
   StatusDisplay(battle);
 }
 
@@ -49,13 +49,13 @@ void HoldWithNumbers(BattleScreen& battle) {
 }
 
 void HideEnemyNumber(BattleScreen& battle, int slot) {
-  battle.Label15[slot - 1].Visible = false;
+  battle.EnemyNumbers[slot - 1].Visible = false;
 }
 
 void HideHeroNumbers(BattleScreen& battle) {
-  battle.Label16[0].Visible = false;
-  battle.Label16[1].Visible = false;
-  battle.Picture9.Visible = false;
+  battle.HeroNumbers[0].Visible = false;
+  battle.HeroNumbers[1].Visible = false;
+  battle.HeroActionPanel.Visible = false;
 }
 
 void EndAttack(BattleScreen& battle) {
@@ -72,17 +72,17 @@ void WazaRun(BattleScreen& battle) {
   const int frame = battle.state.ActionState;
   if (frame == 2) Pay(battle, 0, battle.state.WazaMP);
   if (StepsOut(frame)) HeroStepOut(battle, frame);
-  if (ShowsSkill(frame)) WazaPlay(battle, frame, battle.List1.ListIndex);
+  if (ShowsSkill(frame)) WazaPlay(battle, frame, battle.Skills.ListIndex);
   if (frame == 26) RebuildScene(battle);
   if (ShowsNumbers(frame)) HoldWithNumbers(battle);
   if (StepsBack(frame)) {
-    battle.Picture9.Visible = false;
-    HideEnemyNumber(battle, battle.List2.ListIndex);
+    battle.HeroActionPanel.Visible = false;
+    HideEnemyNumber(battle, battle.Targets.ListIndex);
     HideEnemyNumber(battle, BigSlot);
     HeroStepBack(battle, frame);
   }
   if (frame == kLastFrame) EndAttack(battle);
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void MagicRun(BattleScreen& battle) {
@@ -90,24 +90,24 @@ void MagicRun(BattleScreen& battle) {
   if (frame == 2) Pay(battle, 1, battle.state.MagicMP);
   if (StepsOut(frame)) HeroStepOut(battle, frame);
   if (frame == 6) EnemyFlash(battle);
-  if (ShowsSkill(frame)) MagicPlay(battle, frame, battle.List1.ListIndex);
+  if (ShowsSkill(frame)) MagicPlay(battle, frame, battle.Skills.ListIndex);
   if (frame == 26) RebuildScene(battle);
   if (ShowsNumbers(frame)) HoldWithNumbers(battle);
   if (StepsBack(frame)) {
-    battle.Picture9.Visible = false;
+    battle.HeroActionPanel.Visible = false;
     for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) HideEnemyNumber(battle, slot);
     HideEnemyNumber(battle, BigSlot);
     HeroStepBack(battle, frame);
   }
   if (frame == kLastFrame) EndAttack(battle);
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void HealRun(BattleScreen& battle) {
   const int frame = battle.state.ActionState;
   if (frame == 2) Pay(battle, 1, battle.state.MagicMP);
   if (StepsOut(frame)) HeroStepOut(battle, frame);
-  if (ShowsSkill(frame)) MagicPlay(battle, frame, battle.List1.ListIndex);
+  if (ShowsSkill(frame)) MagicPlay(battle, frame, battle.Skills.ListIndex);
   if (frame == 26) DrawHeroes(battle);
   if (ShowsNumbers(frame)) DamageDisplay(battle);
   if (StepsBack(frame)) {
@@ -117,17 +117,17 @@ void HealRun(BattleScreen& battle) {
   if (frame == kLastFrame) {
     StatusDisplay(battle);
     HeroActionEnd(battle);
-    battle.Label16[0].ForeColor = kWhite;
-    battle.Label16[1].ForeColor = kWhite;
+    battle.HeroNumbers[0].ForeColor = kWhite;
+    battle.HeroNumbers[1].ForeColor = kWhite;
     DrawHeroes(battle);
   }
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void ItemRun(BattleScreen& battle) {
   State& state = battle.state;
   const int frame = state.ActionState;
-  const int target = battle.List4.ListIndex - 1;
+  const int target = battle.Receivers.ListIndex - 1;
   Randomize(battle.game);
   if (StepsOut(frame)) HeroStepOut(battle, frame);
   if (frame == 6) battle.game.sound.Play("snd5");
@@ -145,12 +145,12 @@ void ItemRun(BattleScreen& battle) {
   }
   if (frame == kLastFrame) {
     HeroActionEnd(battle);
-    battle.Label16[target].ForeColor = kWhite;
-    state.Items[battle.List3.ListIndex - 1] = NoItem;
+    battle.HeroNumbers[target].ForeColor = kWhite;
+    state.Items[battle.BagItems.ListIndex - 1] = NoItem;
     state.ItemCount -= 1;
     DrawHeroes(battle);
   }
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 }  // namespace orvane

@@ -43,7 +43,7 @@ void PassToEnemies(BattleScreen& battle, int roll_frame) {
   State& state = battle.state;
   for (int hero = 0; hero < 2; ++hero) {
     state.HeroBusy[hero] = False;
-    battle.SSTab1.SetTabEnabled(hero, false);
+    battle.HeroTabs.SetTabEnabled(hero, false);
   }
   state.ActionKind = Action::EnemyAttack;
   DecideEnemyPhase(battle, roll_frame);
@@ -51,22 +51,22 @@ void PassToEnemies(BattleScreen& battle, int roll_frame) {
 }
 
 void AskNextHero(BattleScreen& battle) {
-  battle.Command1.Enabled = true;
-  (battle.SSTab1.Tab() == 0 ? battle.Command3 : battle.Command2).Enabled = true;
-  battle.Command4.Enabled = true;
-  battle.Timer1.SetEnabled(false);
+  battle.FightButton.Enabled = true;
+  (battle.HeroTabs.Tab() == 0 ? battle.TechniqueButton : battle.SpellButton).Enabled = true;
+  battle.ItemButton.Enabled = true;
+  battle.ActionTimer.SetEnabled(false);
 }
 
 // What the ends of all actions share.
 void CloseAction(BattleScreen& battle, int roll_frame) {
   State& state = battle.state;
-  const int other = battle.SSTab1.Tab() ^ 1;
+  const int other = battle.HeroTabs.Tab() ^ 1;
   if (state.HeroFainted[other] == False) {
-    battle.SSTab1.SetTab(other);
-    battle.SSTab1.SetTabEnabled(other, true);
+    battle.HeroTabs.SetTab(other);
+    battle.HeroTabs.SetTabEnabled(other, true);
   } else {
-    battle.SSTab1.SetTabEnabled(other ^ 1, true);
-    battle.SSTab1.SetTabEnabled(other, false);
+    battle.HeroTabs.SetTabEnabled(other ^ 1, true);
+    battle.HeroTabs.SetTabEnabled(other, false);
   }
   if (state.HeroesActed == 2) {
     PassToEnemies(battle, roll_frame);
@@ -114,26 +114,26 @@ void FightRun(BattleScreen& battle) {
   if (frame >= 6 && frame <= 24) DamageDisplay(battle);
   if (frame == 26 || frame == 28) {
     DrawEnemySide(battle);
-    battle.Label15[battle.List2.ListIndex - 1].Visible = false;
-    battle.Label15[BigSlot - 1].Visible = false;
+    battle.EnemyNumbers[battle.Targets.ListIndex - 1].Visible = false;
+    battle.EnemyNumbers[BigSlot - 1].Visible = false;
     HeroStepBack(battle, frame);
   }
   if (frame == kFightEnd) {
     HitEnemies(battle);
     CloseAction(battle, kFightEnd);
-    battle.List2.Clear();
+    battle.Targets.Clear();
     state.ActionState = 0;
     DrawEnemySide(battle);
     DrawHeroes(battle);
     VictoryCheck(battle);
   }
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 void HeroActionEnd(BattleScreen& battle) {
   CloseAction(battle, kActionEnd);
-  battle.List1.Clear();
-  battle.List2.Clear();
+  battle.Skills.Clear();
+  battle.Targets.Clear();
   battle.state.ActionState = 0;
 }
 

@@ -1,11 +1,11 @@
-// The frame player: one tick of the battle's Timer1 plays one frame of the running action.
+// The frame player: one tick of the battle's ActionTimer plays one frame of the running action.
 #pragma once
 
 namespace orvane {
 
 class BattleScreen;
 
-// One tick of Timer1.
+// One tick of ActionTimer.
 void ActionTick(BattleScreen& battle);
 
 // One frame of a fight.

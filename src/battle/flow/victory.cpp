@@ -61,17 +61,17 @@ void GrowStrength(State& state, int hero) {
 void VictoryCheck(BattleScreen& battle) {
   State& state = battle.state;
   if (EnemyLeft(state)) return;
-  battle.Picture10.Visible = true;
+  battle.VictoryPanel.Visible = true;
   for (CommandButton* button :
-       {&battle.Command1, &battle.Command2, &battle.Command3, &battle.Command4}) {
+       {&battle.FightButton, &battle.SpellButton, &battle.TechniqueButton, &battle.ItemButton}) {
     button->Enabled = false;
   }
-  battle.Timer1.SetEnabled(false);
+  battle.ActionTimer.SetEnabled(false);
   battle.game.sound.Play("snd7");
   if (state.EnemyTurns <= 0) state.HeroesActed = 0;
   state.EnemyKind = EnemyRow(state);
   const Int32 gain = state.EnemyExp[state.EnemyKind] * state.EnemyCount;
-  battle.Label21.Caption = "経験値　" + std::to_string(gain) + "ポイント獲得！";
+  battle.ExperienceGained.Caption = "経験値　" + std::to_string(gain) + "ポイント獲得！";
   Reward(battle, 0, gain);
   Reward(battle, 1, gain);
   LevelUp(battle);
@@ -79,39 +79,39 @@ void VictoryCheck(BattleScreen& battle) {
 
 void ProficiencyGain(BattleScreen& battle, int hero) {
   State& state = battle.state;
-  battle.Label25[hero].Visible = false;
+  battle.MasteryMessages[hero].Visible = false;
   if (state.BookSkill[hero] <= 0) return;
   const int skill = state.BookSkill[hero] - 1;
   Int16& use = hero == 0 ? state.WazaUse[skill] : state.MagicUse[skill];
   use += ProficiencyOfFight(state);
   if (use < state.WazaMaster[skill]) return;
-  battle.Label25[hero].Caption = ShortName(state, hero) + " MASTER !";
-  battle.Label25[hero].Visible = true;
+  battle.MasteryMessages[hero].Caption = ShortName(state, hero) + " MASTER !";
+  battle.MasteryMessages[hero].Visible = true;
 }
 
 void LevelUp(BattleScreen& battle) {
   State& state = battle.state;
-  battle.Label22[0].Visible = false;
-  battle.Label22[1].Visible = false;
+  battle.LevelMessages[0].Visible = false;
+  battle.LevelMessages[1].Visible = false;
   for (int hero = 0; hero < 2; ++hero) {
     while (ExperienceToLeave(hero, state.Level[hero]) <= state.Exp[hero]) {
-      battle.Label22[hero].Visible = true;
-      battle.Label22[hero].Caption = ShortName(state, hero) + "LEVEL UP !";
+      battle.LevelMessages[hero].Visible = true;
+      battle.LevelMessages[hero].Caption = ShortName(state, hero) + "LEVEL UP !";
       state.Level[hero] += 1;
       GrowStrength(state, hero);
     }
   }
-  battle.Command5.Enabled = false;
+  battle.FleeButton.Enabled = false;
 }
 
 void LeaveVictory(BattleScreen& battle) {
   State& state = battle.state;
-  if (!battle.Picture10.Visible) return;
+  if (!battle.VictoryPanel.Visible) return;
   state.ActionKind = Action::None;
-  battle.Picture10.Visible = false;
+  battle.VictoryPanel.Visible = false;
   LetGoAndSilence(battle);
   if (state.LastBossFight == True) state.LastBossDown = True;
-  battle.Timer2.SetEnabled(false);
+  battle.MusicTimer.SetEnabled(false);
   battle.game.stage.Hide(battle);
   FreeCommands(battle);
   battle.game.stage.Show(battle.game.Main);

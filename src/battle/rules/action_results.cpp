@@ -15,19 +15,19 @@ void Write(Label& label, int number) {
 
 void CalcFight(BattleScreen& battle) {
   State& state = battle.state;
-  const int hero = battle.SSTab1.Tab();
+  const int hero = battle.HeroTabs.Tab();
   state.AttackDamage = FightDamage(state.Attack[hero], state.EnemyDefence[state.EnemyKind],
                                    state.Level[hero], Rnd(battle.game));
-  Write(battle.Label15[TargetSlot(battle) - 1], state.AttackDamage);
+  Write(battle.EnemyNumbers[TargetSlot(battle) - 1], state.AttackDamage);
 }
 
 void CalcMagicFor(BattleScreen& battle, int slot, double draw) {
   State& state = battle.state;
-  const int n = battle.List1.ListIndex;
+  const int n = battle.Skills.ListIndex;
   const double factor = FactorOf(state.MagicUse[n - 1], state.MagicMaster[n - 1]);
   state.MagicDamage[slot - 1] = SpellDamage(n, state.MagicMP[n - 1], state.Spirit[1],
-                                            state.Level[battle.SSTab1.Tab()], factor, draw);
-  Write(battle.Label15[slot - 1], state.MagicDamage[slot - 1]);
+                                            state.Level[battle.HeroTabs.Tab()], factor, draw);
+  Write(battle.EnemyNumbers[slot - 1], state.MagicDamage[slot - 1]);
 }
 
 // The first draw is for a big enemy; in other fights it goes unused, and every target takes a fresh
@@ -35,7 +35,7 @@ void CalcMagicFor(BattleScreen& battle, int slot, double draw) {
 void CalcMagic(BattleScreen& battle) {
   const double draw = Rnd(battle.game);
   if (IsBigFight(battle.state)) return CalcMagicFor(battle, BigSlot, draw);
-  if (battle.List1.ListIndex <= LastOneTargetSpell) {
+  if (battle.Skills.ListIndex <= LastOneTargetSpell) {
     return CalcMagicFor(battle, TargetSlot(battle), Rnd(battle.game));
   }
   for (int slot = 1; slot <= battle.state.EnemyCount; ++slot)
@@ -44,12 +44,12 @@ void CalcMagic(BattleScreen& battle) {
 
 void CalcWaza(BattleScreen& battle) {
   State& state = battle.state;
-  const int n = battle.List1.ListIndex;
+  const int n = battle.Skills.ListIndex;
   const double factor = FactorOf(state.WazaUse[n - 1], state.WazaMaster[n - 1]);
   state.WazaDamage =
-      TechniqueDamage(n, state.WazaMP[n - 1], state.Spirit[0], state.Attack[battle.SSTab1.Tab()],
+      TechniqueDamage(n, state.WazaMP[n - 1], state.Spirit[0], state.Attack[battle.HeroTabs.Tab()],
                       state.EnemyDefence[state.EnemyKind], factor, Rnd(battle.game));
-  Write(battle.Label15[TargetSlot(battle) - 1], state.WazaDamage);
+  Write(battle.EnemyNumbers[TargetSlot(battle) - 1], state.WazaDamage);
 }
 
 void CalcEnemyAttack(BattleScreen& battle) {
@@ -58,12 +58,12 @@ void CalcEnemyAttack(BattleScreen& battle) {
   const int target = state.EnemyRoll % 2;
   state.EnemyDamage = EnemyAttackDamage(state.EnemyAttack[state.EnemyKind], state.EnemyRoll,
                                         state.Round, state.Defence[target]);
-  Write(battle.Label16[target], state.EnemyDamage);
+  Write(battle.HeroNumbers[target], state.EnemyDamage);
 }
 
 void CalcHeal(BattleScreen& battle) {
   State& state = battle.state;
-  const int n = battle.List1.ListIndex;
+  const int n = battle.Skills.ListIndex;
   const double factor = FactorOf(state.MagicUse[n - 1], state.MagicMaster[n - 1]);
   state.HealAmount[0] = HealingOf(n, state.MaxHP[0], 8, state.Spirit[1], factor);
   state.HealAmount[1] = HealingOf(n, state.MaxHP[1], 9, state.Spirit[1], factor);
@@ -85,14 +85,14 @@ constexpr BattleItem kBattleItems[] = {{47, 200, 20}, {48, 500, 50}, {49, 9999, 
 
 void CalcItem(BattleScreen& battle) {
   State& state = battle.state;
-  const int hero = battle.List4.ListIndex - 1;
+  const int hero = battle.Receivers.ListIndex - 1;
   for (const BattleItem& item : kBattleItems) {
-    if (state.Items[battle.List3.ListIndex - 1] != item.Number) continue;
+    if (state.Items[battle.BagItems.ListIndex - 1] != item.Number) continue;
     state.HP[hero] += item.HP;
     state.MP[hero] += item.MP;
     state.HeroFainted[hero] = False;
     NameTab(battle, hero);
-    Write(battle.Label16[hero], item.HP);
+    Write(battle.HeroNumbers[hero], item.HP);
   }
   StatusDisplay(battle);
 }
@@ -113,8 +113,8 @@ void CalcBreath(BattleScreen& battle) {
     state.BreathDamage[0] = BreathOn(battle, 50, 850);
     state.BreathDamage[1] = BreathOn(battle, 50, 750);
   }
-  Write(battle.Label16[0], state.BreathDamage[0]);
-  Write(battle.Label16[1], state.BreathDamage[1]);
+  Write(battle.HeroNumbers[0], state.BreathDamage[0]);
+  Write(battle.HeroNumbers[1], state.BreathDamage[1]);
 }
 
 }  // namespace
@@ -165,8 +165,8 @@ void DamageCalc(BattleScreen& battle) {
     }
   }
   if (state.ActionKind == Action::Heal) {
-    Write(battle.Label16[0], state.HealAmount[0]);
-    Write(battle.Label16[1], state.HealAmount[1]);
+    Write(battle.HeroNumbers[0], state.HealAmount[0]);
+    Write(battle.HeroNumbers[1], state.HealAmount[1]);
   }
 }
 

@@ -12,7 +12,7 @@ constexpr int LastOneTargetSpell = 3;  // spells beyond this row strike all
 
 // The slot of the target, from 1.
 inline int TargetSlot(BattleScreen& battle) {
-  return IsBigFight(battle.state) ? BigSlot : battle.List2.ListIndex;
+  return IsBigFight(battle.state) ? BigSlot : battle.Targets.ListIndex;
 }
 
 // The frame at which the numbers of an action appear and its result is computed.

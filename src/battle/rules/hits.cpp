@@ -8,12 +8,12 @@ namespace {
 
 void Faint(BattleScreen& battle, int hero) {
   battle.state.HeroFainted[hero] = True;
-  battle.SSTab1.SetTabCaption(hero, "気絶");
+  battle.HeroTabs.SetTabCaption(hero, "気絶");
 }
 
 void HitWithMagic(BattleScreen& battle, int slot) {
   State& state = battle.state;
-  if (battle.List1.ListIndex <= LastOneTargetSpell) {
+  if (battle.Skills.ListIndex <= LastOneTargetSpell) {
     state.EnemyLife[slot - 1] -= state.MagicDamage[slot - 1];
     EnemyKillCheck(battle, slot);
   } else {

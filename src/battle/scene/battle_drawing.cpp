@@ -33,18 +33,18 @@ Surface& Ground(BattleScreen& battle) {
     case 14:
     case 19:
     case 234:
-      return battle.Picture11.Picture;
+      return battle.WasteGround.Picture;
     default:
-      return battle.Picture7.Picture;
+      return battle.OpenGround.Picture;
   }
 }
 
 // Draws a part of the ground; in the last dragon's lair that lies over everything else.
 void DrawGround(BattleScreen& battle, const Rect& target, const Rect& area) {
-  Surface& scene = battle.Picture1.Picture;
+  Surface& scene = battle.Scene.Picture;
   StretchBlt(scene, target, Ground(battle), area, RasterOp::SRCCOPY);
   if (battle.state.LastBossFight == True) {
-    StretchBlt(scene, target, battle.Picture12.Picture, area, RasterOp::SRCCOPY);
+    StretchBlt(scene, target, battle.LairGround.Picture, area, RasterOp::SRCCOPY);
   }
 }
 
@@ -56,13 +56,13 @@ void DrawBig(BattleScreen& battle, int row, const Cell& cell, int shift = 0) {
   RedrawCells(battle, kBigCells);
   Rect place = kBigPlace;
   place.X += shift;
-  DrawSprite(battle, place, battle.Picture6[row].Picture, cell);
+  DrawSprite(battle, place, battle.EnemySheets[row].Picture, cell);
 }
 
 void FlashSlot(BattleScreen& battle, int slot) {
-  const Surface& sheet = battle.Picture6[battle.state.EnemyKind].Picture;
-  BitBlt(battle.Picture1.Picture, SlotX(slot), SlotY(slot), kEnemyCell.Width, kEnemyCell.Height,
-         sheet, kEnemyCell.MaskX, kEnemyCell.MaskY, RasterOp::SRCPAINT);
+  const Surface& sheet = battle.EnemySheets[battle.state.EnemyKind].Picture;
+  BitBlt(battle.Scene.Picture, SlotX(slot), SlotY(slot), kEnemyCell.Width, kEnemyCell.Height, sheet,
+         kEnemyCell.MaskX, kEnemyCell.MaskY, RasterOp::SRCPAINT);
 }
 
 std::string Gauge(int now, int limit) {
@@ -72,7 +72,7 @@ std::string Gauge(int now, int limit) {
 }  // namespace
 
 void DrawSprite(BattleScreen& battle, const Rect& target, const Surface& sheet, const Cell& cell) {
-  Surface& scene = battle.Picture1.Picture;
+  Surface& scene = battle.Scene.Picture;
   StretchBlt(scene, target, sheet, {cell.MaskX, cell.MaskY, cell.Width, cell.Height},
              RasterOp::SRCPAINT);
   StretchBlt(scene, target, sheet, {cell.ImageX, cell.ImageY, cell.Width, cell.Height},
@@ -82,7 +82,7 @@ void DrawSprite(BattleScreen& battle, const Rect& target, const Surface& sheet, 
 void DrawEffect(BattleScreen& battle, int column, int row, const Rect& target) {
   const int x = column * kEffectSize;
   const int y = row * kEffectSize;
-  DrawSprite(battle, target, battle.Picture8.Picture,
+  DrawSprite(battle, target, battle.EffectSheet.Picture,
              {kEffectMasks + x, y, x, y, kEffectSize, kEffectSize});
 }
 
@@ -99,7 +99,7 @@ void DrawBackground(BattleScreen& battle) {
 }
 
 void DrawEnemyGroup(BattleScreen& battle) {
-  RedrawCells(battle, SlotCells(battle.List2.ListIndex));
+  RedrawCells(battle, SlotCells(battle.Targets.ListIndex));
   for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
     if (battle.state.EnemyAlive[slot - 1] == True) DrawEnemyInSlot(battle, slot);
   }
@@ -131,14 +131,14 @@ void DrawEnemySide(BattleScreen& battle) {
 
 void DrawEnemyInSlot(BattleScreen& battle, int slot, int shift) {
   DrawSprite(battle, {SlotX(slot) + shift, SlotY(slot), kEnemyCell.Width, kEnemyCell.Height},
-             battle.Picture6[battle.state.EnemyKind].Picture, kEnemyCell);
+             battle.EnemySheets[battle.state.EnemyKind].Picture, kEnemyCell);
 }
 
 void EnemyRecoil(BattleScreen& battle) {
   if (IsBigFight(battle.state)) {
     return DrawBig(battle, EnemyRow(battle.state), BigCellOf(battle.state), -kRecoil);
   }
-  const int slot = battle.List2.ListIndex;
+  const int slot = battle.Targets.ListIndex;
   if (battle.state.EnemyAlive[slot - 1] != True) return;
   RedrawCells(battle, SlotCells(slot));
   DrawEnemyInSlot(battle, slot, -kRecoil);
@@ -147,10 +147,10 @@ void EnemyRecoil(BattleScreen& battle) {
 void EnemyFlash(BattleScreen& battle) {
   if (IsBigFight(battle.state)) {
     const Cell& cell = BigCellOf(battle.state);
-    StretchBlt(battle.Picture1.Picture, kBigPlace, battle.Picture6[EnemyRow(battle.state)].Picture,
+    StretchBlt(battle.Scene.Picture, kBigPlace, battle.EnemySheets[EnemyRow(battle.state)].Picture,
                {cell.MaskX, cell.MaskY, cell.Width, cell.Height}, RasterOp::SRCPAINT);
-  } else if (battle.List1.ListIndex <= kLastTargetSpell) {
-    FlashSlot(battle, battle.List2.ListIndex);
+  } else if (battle.Skills.ListIndex <= kLastTargetSpell) {
+    FlashSlot(battle, battle.Targets.ListIndex);
   } else {
     for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
       if (battle.state.EnemyAlive[slot - 1] == True) FlashSlot(battle, slot);
@@ -168,12 +168,12 @@ void StatusDisplay(BattleScreen& battle) {
     if (state.HP[hero] < 0) state.HP[hero] = 0;
     if (state.HP[hero] > state.MaxHP[hero]) state.HP[hero] = state.MaxHP[hero];
     if (state.MP[hero] > state.MaxMP[hero]) state.MP[hero] = state.MaxMP[hero];
-    battle.Label12[hero].Caption = std::to_string(state.Level[hero]);
-    battle.Label3[hero].Caption = Gauge(state.HP[hero], state.MaxHP[hero]);
-    battle.Label4[hero].Caption = Gauge(state.MP[hero], state.MaxMP[hero]);
-    battle.Label8[hero].Caption = std::to_string(state.Attack[hero]);
-    battle.Label9[hero].Caption = std::to_string(state.Defence[hero]);
-    battle.Label10[hero].Caption = std::to_string(state.Spirit[hero]);
+    battle.LevelValues[hero].Caption = std::to_string(state.Level[hero]);
+    battle.HPValues[hero].Caption = Gauge(state.HP[hero], state.MaxHP[hero]);
+    battle.MPValues[hero].Caption = Gauge(state.MP[hero], state.MaxMP[hero]);
+    battle.AttackValues[hero].Caption = std::to_string(state.Attack[hero]);
+    battle.DefenceValues[hero].Caption = std::to_string(state.Defence[hero]);
+    battle.SpiritValues[hero].Caption = std::to_string(state.Spirit[hero]);
   }
 }
 

@@ -23,13 +23,13 @@ constexpr Rect kBothCells{10, 4, 2, 4};
 constexpr Rect kHeroCells[] = {{10, 4, 2, 2}, {10, 6, 2, 2}};
 
 int Acting(BattleScreen& battle) {
-  return battle.SSTab1.Tab();
+  return battle.HeroTabs.Tab();
 }
 
 }  // namespace
 
 void DrawHeroAt(BattleScreen& battle, int hero, int x, int frame) {
-  const Surface& sheet = hero == 0 ? battle.Picture2.Picture : battle.Picture3.Picture;
+  const Surface& sheet = hero == 0 ? battle.ManSheet.Picture : battle.WomanSheet.Picture;
   const int column = frame % 3 * kCellWidth;
   DrawSprite(battle, {x, kLineY[hero], kWidth, kHeight}, sheet,
              {kMasks + column, kFacingRow, column, kFacingRow, kCellWidth, kCellHeight});

@@ -16,7 +16,7 @@ void Hop(BattleScreen& battle, Label& label) {
 
 void DrawHitMark(BattleScreen& battle) {
   if (IsBigFight(battle.state)) return DrawEffect(battle, 6, 1, {110, 170, 48, 48});
-  const int slot = battle.List2.ListIndex;
+  const int slot = battle.Targets.ListIndex;
   DrawEffect(battle, 6, 1, {SlotX(slot) + 20, SlotY(slot) + 20, 48, 48});
 }
 
@@ -30,28 +30,28 @@ void HopNumbers(BattleScreen& battle) {
   switch (state.ActionKind) {
     case Action::Fight:
       DrawHitMark(battle);
-      return Hop(battle, battle.Label15[TargetSlot(battle) - 1]);
+      return Hop(battle, battle.EnemyNumbers[TargetSlot(battle) - 1]);
     case Action::Magic:
-      if (IsBigFight(state) || battle.List1.ListIndex <= LastOneTargetSpell) {
-        return Hop(battle, battle.Label15[TargetSlot(battle) - 1]);
+      if (IsBigFight(state) || battle.Skills.ListIndex <= LastOneTargetSpell) {
+        return Hop(battle, battle.EnemyNumbers[TargetSlot(battle) - 1]);
       }
       for (int slot = 1; slot <= state.EnemyCount; ++slot) {
-        if (state.EnemyAlive[slot - 1] == True) Hop(battle, battle.Label15[slot - 1]);
+        if (state.EnemyAlive[slot - 1] == True) Hop(battle, battle.EnemyNumbers[slot - 1]);
       }
       return;
     case Action::Waza:
-      return Hop(battle, battle.Label15[TargetSlot(battle) - 1]);
+      return Hop(battle, battle.EnemyNumbers[TargetSlot(battle) - 1]);
     case Action::EnemyAttack:
-      return Hop(battle, battle.Label16[state.EnemyRoll % 2]);
+      return Hop(battle, battle.HeroNumbers[state.EnemyRoll % 2]);
     case Action::Heal:
-      HopHealing(battle, battle.Label16[0]);
-      return HopHealing(battle, battle.Label16[1]);
+      HopHealing(battle, battle.HeroNumbers[0]);
+      return HopHealing(battle, battle.HeroNumbers[1]);
     case Action::Item:
-      return HopHealing(battle, battle.Label16[battle.List4.ListIndex - 1]);
+      return HopHealing(battle, battle.HeroNumbers[battle.Receivers.ListIndex - 1]);
     case Action::BossSpecial:
     case Action::LastBossSpecial:
-      Hop(battle, battle.Label16[0]);
-      return Hop(battle, battle.Label16[1]);
+      Hop(battle, battle.HeroNumbers[0]);
+      return Hop(battle, battle.HeroNumbers[1]);
     default:
       return;
   }

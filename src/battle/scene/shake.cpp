@@ -12,11 +12,11 @@ double Pixels(int frame, int twips) {
 }  // namespace
 
 void ShakeUpDown(BattleScreen& battle, int frame, int twips) {
-  battle.Picture1.At.Top += Pixels(frame, twips);
+  battle.Scene.At.Top += Pixels(frame, twips);
 }
 
 void ShakeLeftRight(BattleScreen& battle, int frame, int twips) {
-  battle.Picture1.At.Left += Pixels(frame, twips);
+  battle.Scene.At.Left += Pixels(frame, twips);
 }
 
 }  // namespace orvane

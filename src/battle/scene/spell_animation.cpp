@@ -63,7 +63,7 @@ void Magic4(BattleScreen& battle, int c) {
 void Magic5(BattleScreen& battle, int c) {
   if (c != 10) return;
   battle.game.sound.Play("snd8");
-  FillBox(battle.Picture1.Picture, 0, 0, 480, 288, kWhite);
+  FillBox(battle.Scene.Picture, 0, 0, 480, 288, kWhite);
 }
 
 // サンプレゼンター: a sun that grows.
@@ -77,7 +77,7 @@ void Magic6(BattleScreen& battle, int c) {
 // ダークプレッシャー: a ring that sinks.
 void Magic7(BattleScreen& battle, int c) {
   battle.game.sound.Play("snd9");
-  DrawCircle(battle.Picture1.Picture, 300 - 2 * c, 10 * c - 150, 250, kWhite);
+  DrawCircle(battle.Scene.Picture, 300 - 2 * c, 10 * c - 150, 250, kWhite);
   ShakeUpDown(battle, c, kShake);
 }
 
@@ -109,7 +109,7 @@ void Magic9(BattleScreen& battle, int c) {
 void Magic10(BattleScreen& battle, int c) {
   battle.game.sound.Play("snd4");
   ShakeUpDown(battle, c, kShake);
-  FillBox(battle.Picture1.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(255, 255, 10 * c));
+  FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(255, 255, 10 * c));
   Randomize(battle.game);
   for (int k = 0; k <= 10; ++k) {
     const Int16 x = RoundToInt16(Int(Rnd(battle.game) * 350));
@@ -129,15 +129,15 @@ void MagicTarget(BattleScreen& battle) {
   State& state = battle.state;
   state.MagicBossX = BigTargetX;
   state.MagicBossY = BigTargetY;
-  state.MagicX = SlotX(battle.List2.ListIndex);
-  state.MagicY = SlotY(battle.List2.ListIndex);
+  state.MagicX = SlotX(battle.Targets.ListIndex);
+  state.MagicY = SlotY(battle.Targets.ListIndex);
 }
 
 void MagicPlay(BattleScreen& battle, int frame, int spell) {
-  battle.Picture9.Visible = true;
-  battle.Label20.Caption = battle.state.MagicName[battle.List1.ListIndex - 1];
+  battle.HeroActionPanel.Visible = true;
+  battle.HeroActionName.Caption = battle.state.MagicName[battle.Skills.ListIndex - 1];
   if (spell >= 1 && spell <= 10) kMagic[spell - 1](battle, frame);
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 }  // namespace orvane

@@ -22,7 +22,7 @@ constexpr int kHomeY = 140;
 constexpr int kHoldTime = 100;  // ms
 
 void Pose(BattleScreen& battle, int x, int y, const Cell& pose = kPoseA) {
-  DrawSprite(battle, {x, y, kPoseWidth, kPoseHeight}, battle.Picture2.Picture, pose);
+  DrawSprite(battle, {x, y, kPoseWidth, kPoseHeight}, battle.ManSheet.Picture, pose);
 }
 
 void PoseAtHome(BattleScreen& battle) {
@@ -135,7 +135,7 @@ void Waza6(BattleScreen& battle, int c) {
 void Waza7(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c == 20 || c == 22) Play(battle, "snd2");
-  FillBox(battle.Picture1.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(0, 0, 0));
+  FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(0, 0, 0));
   if (c >= 20) DrawSlash(battle);
 }
 
@@ -150,7 +150,7 @@ void Waza8(BattleScreen& battle, int c) {
   for (int a = 0; a <= 360; a += 30) {
     const Int16 left = RoundToInt16(std::cos(a * c) * 50 + 10 + static_cast<double>(state.WazaX));
     const Int16 top = RoundToInt16(std::sin(a * c) * 50 + static_cast<double>(state.WazaY));
-    DrawSprite(battle, {left, top, 48, 64}, battle.Picture2.Picture, kPoseA);
+    DrawSprite(battle, {left, top, 48, 64}, battle.ManSheet.Picture, kPoseA);
   }
 }
 
@@ -172,7 +172,7 @@ void Waza9(BattleScreen& battle, int c) {
 // Four heroes close on the middle of the scene from its corners.
 void CloseIn(BattleScreen& battle, int c) {
   if (c == 6) Play(battle, "snd10");
-  if (c == 8) FillBox(battle.Picture1.Picture, 0, 0, 480, 288, Rgb(255, 255, 255));
+  if (c == 8) FillBox(battle.Scene.Picture, 0, 0, 480, 288, Rgb(255, 255, 255));
   for (int d = 0; d <= 1; ++d) {
     const int y = SignOf(d) * (c - 5) * 11 + 210 * d;
     Pose(battle, 390 - (c - 5) * 20, y);
@@ -205,18 +205,18 @@ void WazaTarget(BattleScreen& battle) {
   State& state = battle.state;
   state.WazaBossX = BigTargetX;
   state.WazaBossY = BigTargetY;
-  state.WazaX = SlotX(battle.List2.ListIndex);
-  state.WazaY = SlotY(battle.List2.ListIndex);
+  state.WazaX = SlotX(battle.Targets.ListIndex);
+  state.WazaY = SlotY(battle.Targets.ListIndex);
 }
 
 void WazaPlay(BattleScreen& battle, int frame, int waza) {
-  battle.Picture9.Visible = true;
-  battle.Label20.Caption = battle.state.WazaName[battle.List1.ListIndex - 1];
+  battle.HeroActionPanel.Visible = true;
+  battle.HeroActionName.Caption = battle.state.WazaName[battle.Skills.ListIndex - 1];
   if (waza >= 1 && waza <= 10) {
     WazaTarget(battle);
     kWaza[waza - 1](battle, frame);
   }
-  battle.Picture1.Picture.Refresh();
+  battle.Scene.Picture.Refresh();
 }
 
 }  // namespace orvane

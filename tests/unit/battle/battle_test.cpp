@@ -43,7 +43,7 @@ class BattleTest : public testing::Test {
   Game game_{"/nonexistent", Services{quiet_.Sound, chance_, quiet_.Boxes, quiet_.Time}};
   State& state_ = game_.state;
   BattleScreen battle_{game_};
-  ChardataScreen chardata_{game_};
+  HeroesScreen heroes_{game_};
 };
 
 TEST_F(BattleTest, SetUpSeedsOnceAndDrawsAKindInThreeRoundsOnly) {
@@ -56,10 +56,10 @@ TEST_F(BattleTest, SetUpSeedsOnceAndDrawsAKindInThreeRoundsOnly) {
 }
 
 TEST_F(BattleTest, EveryCallOfTheArithmeticSeedsAndTheComputingFrameDraws) {
-  battle_.List2.ListIndex = 1;
+  battle_.Targets.ListIndex = 1;
   EXPECT_EQ(CallsOf(Action::Fight, 6, DamageCalc), "sd");
   EXPECT_EQ(CallsOf(Action::Fight, 8, DamageCalc), "s");
-  battle_.List1.ListIndex = 1;
+  battle_.Skills.ListIndex = 1;
   EXPECT_EQ(CallsOf(Action::Waza, 26, DamageCalc), "sd");
   EXPECT_EQ(CallsOf(Action::Waza, 44, DamageCalc), "s");
   EXPECT_EQ(CallsOf(Action::Magic, 26, DamageCalc), "sdd");
@@ -80,7 +80,7 @@ TEST_F(BattleTest, EveryFrameOfAnEnemyAttackSeedsBeforeItDraws) {
 }
 
 TEST_F(BattleTest, EveryFrameOfAnItemSeeds) {
-  battle_.List3.ListIndex = battle_.List4.ListIndex = 1;
+  battle_.BagItems.ListIndex = battle_.Receivers.ListIndex = 1;
   EXPECT_EQ(CallsOf(Action::Item, 2, ItemRun), "s");
   EXPECT_EQ(CallsOf(Action::Item, 6, ItemRun), "s" + std::string(12, 'd'));
   EXPECT_EQ(CallsOf(Action::Item, 26, ItemRun), "ss");
@@ -91,32 +91,32 @@ TEST_F(BattleTest, TheFireDrawsNothingInTheFirstRoundAndKeepsItsDamage) {
   state_.BreathDamage[0] = 77;
   EXPECT_EQ(CallsOf(Action::BossSpecial, 36, EnemyAtaFire), "ss");
   EXPECT_EQ(state_.BreathDamage[0], 77);
-  EXPECT_EQ(battle_.Label16[0].Caption, "77");
+  EXPECT_EQ(battle_.HeroNumbers[0].Caption, "77");
 }
 
 // The two tables of mastery counts hold the same numbers, but each has its readers.
 TEST_F(BattleTest, AWinTellsOfTheWomansMasteryByTheMansTable) {
-  game_.stage.Show(chardata_);
+  game_.stage.Show(heroes_);
   state_.MagicKnown[0] = True;
   state_.BookSkill[1] = 1;
   state_.MagicUse[0] = 20;
   state_.WazaMaster[0] = 30;
-  game_.stage.Unload(chardata_);
-  game_.stage.Show(chardata_);
+  game_.stage.Unload(heroes_);
+  game_.stage.Show(heroes_);
   ProficiencyGain(battle_, 1);
-  EXPECT_FALSE(battle_.Label25[1].Visible) << "21 of 30";
-  EXPECT_EQ(chardata_.Label27[0].Caption, "MASTER") << "20 of 20";
+  EXPECT_FALSE(battle_.MasteryMessages[1].Visible) << "21 of 30";
+  EXPECT_EQ(heroes_.ManSkillMasters[0].Caption, "MASTER") << "20 of 20";
   state_.WazaMaster[0] = 20;
   state_.MagicMaster[0] = 30;
-  game_.stage.Unload(chardata_);
-  game_.stage.Show(chardata_);
+  game_.stage.Unload(heroes_);
+  game_.stage.Show(heroes_);
   ProficiencyGain(battle_, 1);
-  EXPECT_TRUE(battle_.Label25[1].Visible) << "22 of 20";
-  EXPECT_EQ(chardata_.Label27[0].Caption, "/30");
+  EXPECT_TRUE(battle_.MasteryMessages[1].Visible) << "22 of 20";
+  EXPECT_EQ(heroes_.ManSkillMasters[0].Caption, "/30");
 }
 
 TEST_F(BattleTest, ASpellIsMasteredByTheWomansTable) {
-  battle_.List1.ListIndex = battle_.List2.ListIndex = 1;
+  battle_.Skills.ListIndex = battle_.Targets.ListIndex = 1;
   state_.Spirit[1] = 5;
   state_.MagicUse[0] = 20;
   state_.WazaMaster[0] = 1000;

@@ -107,10 +107,10 @@ TEST_F(FocusTest, a_list_has_the_keyboard_as_soon_as_it_is_there_and_gives_it_ba
   Type(Qt::Key_Return);
   EXPECT_EQ(At(window), "List2");
   Type(Qt::Key_Down);
-  EXPECT_EQ(Battle().List2.ListIndex, -1) << "the highlight chooses nothing";
-  EXPECT_TRUE(Battle().List2.Visible);
+  EXPECT_EQ(Battle().Targets.ListIndex, -1) << "the highlight chooses nothing";
+  EXPECT_TRUE(Battle().Targets.Visible);
   Type(Qt::Key_Return);  // the way back
-  EXPECT_FALSE(Battle().List2.Visible);
+  EXPECT_FALSE(Battle().Targets.Visible);
   EXPECT_EQ(At(window), "Command1");
 }
 
@@ -134,14 +134,16 @@ TEST_F(FocusTest, nothing_has_the_keyboard_during_an_action_and_the_command_has_
   Type(Qt::Key_Down);
   const std::string command = At(window);
   ASSERT_NE(command, "Command1");
-  Battle().SSTab1.SetTabEnabled(0, false);
-  Battle().SSTab1.SetTabEnabled(1, false);
-  for (CommandButton* button : {&Battle().Command1, &Battle().Command3, &Battle().Command4}) {
+  Battle().HeroTabs.SetTabEnabled(0, false);
+  Battle().HeroTabs.SetTabEnabled(1, false);
+  for (CommandButton* button :
+       {&Battle().FightButton, &Battle().TechniqueButton, &Battle().ItemButton}) {
     button->Enabled = false;
   }
   windows_.Follow();
   EXPECT_EQ(At(window), "nothing");
-  for (CommandButton* button : {&Battle().Command1, &Battle().Command3, &Battle().Command4}) {
+  for (CommandButton* button :
+       {&Battle().FightButton, &Battle().TechniqueButton, &Battle().ItemButton}) {
     button->Enabled = true;
   }
   windows_.Follow();
@@ -167,10 +169,10 @@ TEST_F(FocusTest, control_and_tab_turn_the_tabs_and_the_keyboard_goes_with_them)
 
 TEST_F(FocusTest, tabs_that_are_off_are_not_turned_to) {
   Open("Battle");
-  Battle().SSTab1.SetTabEnabled(1, false);
+  Battle().HeroTabs.SetTabEnabled(1, false);
   windows_.Follow();
   Type(Qt::Key_Tab, Qt::ControlModifier);
-  EXPECT_EQ(Battle().SSTab1.Tab(), 0);
+  EXPECT_EQ(Battle().HeroTabs.Tab(), 0);
 }
 
 TEST_F(FocusTest, the_menu_key_opens_the_first_menu_that_is_on) {

@@ -105,14 +105,14 @@ TEST_F(BattleTest, AWinTellsOfTheWomansMasteryByTheMansTable) {
   game_.stage.Show(heroes_);
   ProficiencyGain(battle_, 1);
   EXPECT_FALSE(battle_.MasteryMessages[1].Visible) << "21 of 30";
-  EXPECT_EQ(heroes_.ManSkillMasters[0].Caption, "MASTER") << "20 of 20";
+  EXPECT_EQ(heroes_.WomanSkillMasters[0].Caption, "MASTER") << "20 of 20";
   state_.WazaMaster[0] = 20;
   state_.MagicMaster[0] = 30;
   game_.stage.Unload(heroes_);
   game_.stage.Show(heroes_);
   ProficiencyGain(battle_, 1);
   EXPECT_TRUE(battle_.MasteryMessages[1].Visible) << "22 of 20";
-  EXPECT_EQ(heroes_.ManSkillMasters[0].Caption, "/30");
+  EXPECT_EQ(heroes_.WomanSkillMasters[0].Caption, "/30");
 }
 
 TEST_F(BattleTest, ASpellIsMasteredByTheWomansTable) {

@@ -7,12 +7,8 @@ float FixedLuck::Draw() {
   return static_cast<float>(state_ >> 8) / static_cast<float>(1u << 24);
 }
 
-BoxAnswer OkBoxes::Show(const Box& box) {
-  return box.Buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
-}
-
 HeadlessGame::HeadlessGame() {
-  program_ = std::make_unique<Program>(ORVANE_GAME_FOLDER, Services{sound_, luck_, boxes_, sleep_});
+  program_ = std::make_unique<Program>(Services{sound_, luck_, files_});
   program_->Click(Get<CommandButton>("Main", "Command1"));
   program_->EnterText(Get<TextBox>("InputName", "Text1(0)"), "カイ");
   program_->EnterText(Get<TextBox>("InputName", "Text1(1)"), "リナ");

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "src/game/program.h"
+#include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
 
 namespace orvane::bench {
@@ -17,12 +18,6 @@ class FixedLuck : public Chance {
 
  private:
   uint32_t state_ = 2001;
-};
-
-class OkBoxes : public BoxKeeper {
- public:
-  BoxAnswer Show(const Box& box) override;
-  void ShowError(const Box&) override {}
 };
 
 // A game that has left its opening behind and stands on the field.
@@ -41,8 +36,7 @@ class HeadlessGame {
  private:
   NoSound sound_;
   FixedLuck luck_;
-  OkBoxes boxes_;
-  NoSleep sleep_;
+  FolderStorage files_{ORVANE_GAME_FOLDER};
   std::unique_ptr<Program> program_;
 };
 

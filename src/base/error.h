@@ -1,4 +1,4 @@
-// What ends the program: bad data found by a checked type, or the game's own decision to stop.
+// What bad data, found by a checked type, ends the program with.
 #pragma once
 
 #include <exception>
@@ -24,9 +24,6 @@ class RunError : public std::exception {
   ErrorKind Kind;
   std::string Subject;
 };
-
-// Thrown to leave all handlers that are running once the program has ended.
-struct ProgramEnded {};
 
 // The text of the error box for an error, in Japanese.
 std::string ErrorText(const RunError& error);

@@ -5,7 +5,6 @@
 #include "src/core/links.h"
 #include "src/core/main_screen.h"
 #include "src/core/state.h"
-#include "src/platform/game_folder.h"
 #include "src/platform/services.h"
 #include "src/platform/sound_channels.h"
 #include "src/ui/stage.h"
@@ -13,16 +12,12 @@
 namespace orvane {
 
 struct Game {
-  Game(const std::filesystem::path& path, const Services& front_end)
+  explicit Game(const Services& front_end)
       : services(front_end),
-        folder(path),
-        stage(services),
-        sound(services.Sound, folder.PathText()),
-        items(folder),
+        sound(services.Sound, services.Files.FolderName()),
         Main(stage, *this) {}
 
   Services services;
-  GameFolder folder;
   State state;
   Stage stage;
   SoundChannels sound;
@@ -46,7 +41,11 @@ inline void ReadItem(Game& game, int number) {
   game.items.Read(number, game.state.ItemRec);
 }
 
-// A warning box with an OK button.
-void Warn(Game& game, const std::string& text);
+// A warning box with an OK button; `then` follows its answer.
+inline void Warn(Game& game, const std::string& text, const Handler& then = {}) {
+  game.stage.Ask({text, "警告", BoxButtons::Ok}, [then](BoxAnswer) {
+    if (then) then();
+  });
+}
 
 }  // namespace orvane

@@ -25,18 +25,18 @@ Int32 LittleEndian(std::string_view bytes, size_t at) {
 
 }  // namespace
 
-void ItemFile::CheckComplete() const {
-  const auto bytes = folder_.Read(kFile);
-  if (!bytes || bytes->size() < size_t{RecordSize} * RecordCount)
+void ItemFile::Open(const Storage& files) {
+  bytes_ = files.Open(kFile);
+  if (bytes_ == nullptr || bytes_->size() < size_t{RecordSize} * RecordCount)
     throw RunError(ErrorKind::File, kFile);
 }
 
 void ItemFile::Read(int number, ItemRecord& buffer) const {
   buffer = ItemRecord();
-  const auto bytes = folder_.Read(kFile);
-  if (!bytes || number < 1 || bytes->size() < size_t{RecordSize} * static_cast<size_t>(number))
+  if (bytes_ == nullptr || number < 1 ||
+      bytes_->size() < size_t{RecordSize} * static_cast<size_t>(number))
     return;
-  const std::string_view record = std::string_view(*bytes).substr(
+  const std::string_view record = std::string_view(*bytes_).substr(
       size_t{RecordSize} * static_cast<size_t>(number - 1), RecordSize);
   buffer.Name = FromCp932(record.substr(kNameAt, kNameSize));
   buffer.Kind = LittleEndian(record, kKindAt);

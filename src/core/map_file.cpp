@@ -53,8 +53,8 @@ std::string GridMapFile(int map_a, int map_b) {
   return "Mapdata/map" + std::to_string(map_b) + "-" + std::to_string(map_a) + ".dat";
 }
 
-void ReadMapFile(const GameFolder& folder, const std::string& name, SharedState& state) {
-  const auto text = folder.Read(name);
+void ReadMapFile(const Storage& files, const std::string& name, SharedState& state) {
+  const auto text = files.Read(name);
   if (!text) throw RunError(ErrorKind::File, name);
   NumberReader reader(*text, name);
   for (int column = 0; column < MapColumns; ++column) {

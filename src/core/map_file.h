@@ -4,7 +4,7 @@
 #include <string>
 
 #include "src/core/shared_state.h"
-#include "src/platform/game_folder.h"
+#include "src/platform/storage.h"
 
 namespace orvane {
 
@@ -18,6 +18,6 @@ std::string GridMapFile(int map_a, int map_b);
 // Reads 480 numbers, separated by commas, blanks and line ends, into the map; what follows is
 // ignored. Throws RunError: File when the file is missing or ends too early, Type for a word that
 // is no number, Overflow for a number beyond 16 bits.
-void ReadMapFile(const GameFolder& folder, const std::string& name, SharedState& state);
+void ReadMapFile(const Storage& files, const std::string& name, SharedState& state);
 
 }  // namespace orvane

@@ -10,28 +10,25 @@ namespace {
 constexpr int kMusicChannels = 8;
 constexpr int kEffectChannels = 10;
 
-bool WantsToQuit(Game& game) {
+// Asks, and ends the program on OK; on Cancel the walk's timer becomes what the caller says.
+void Ask(Game& game, bool walks_on) {
   game.Main.WalkTimer.SetEnabled(false);
-  return game.stage.ShowBox("終了しますか？", "ゲームの終了", BoxButtons::OkCancel) ==
-         BoxAnswer::Ok;
-}
-
-[[noreturn]] void Quit(Game& game) {
-  CloseAllSound(game, kMusicChannels);
-  game.stage.EndProgram(0);
+  game.stage.Ask({"終了しますか？", "ゲームの終了", BoxButtons::OkCancel},
+                 [&game, walks_on](BoxAnswer answer) {
+                   if (answer != BoxAnswer::Ok) return game.Main.WalkTimer.SetEnabled(walks_on);
+                   CloseAllSound(game, kMusicChannels);
+                   game.stage.EndProgram(0);
+                 });
 }
 
 }  // namespace
 
 void AskToQuit(Game& game) {
-  if (WantsToQuit(game)) Quit(game);
-  game.Main.WalkTimer.SetEnabled(true);
+  Ask(game, true);
 }
 
 void AskToCloseMain(Game& game) {
-  const bool walking = game.Main.WalkTimer.IsEnabled();
-  if (WantsToQuit(game)) Quit(game);
-  game.Main.WalkTimer.SetEnabled(walking);
+  Ask(game, game.Main.WalkTimer.IsEnabled());
 }
 
 void CloseAllSound(Game& game, int last_music) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "src/base/cp932.h"
+#include "src/core/game.h"
 #include "src/core/state_table.h"
 
 namespace orvane {
@@ -75,6 +76,19 @@ std::string PackRecord(const GameRecord& record) {
 void UnpackRecord(std::string_view bytes, GameRecord& record) {
   Unpacker unpacker(bytes);
   VisitRecord(record, unpacker);
+}
+
+void WriteSave(Game& game, const std::string& file, const Handler& then) {
+  std::string bytes = PackRecord(game.state);
+  const std::string before = game.services.Files.Read(file).value_or("");
+  if (before.size() > bytes.size()) bytes += before.substr(bytes.size());
+  game.stage.Await();
+  game.services.Files.Replace(file, bytes, [&game, file, then](const std::string& failure) {
+    game.stage.Resume([file, then, failure] {
+      if (!failure.empty()) throw RunError(ErrorKind::File, file + ": " + failure);
+      if (then) then();
+    });
+  });
 }
 
 }  // namespace orvane

@@ -5,8 +5,11 @@
 #include <string_view>
 
 #include "src/core/game_record.h"
+#include "src/ui/control.h"
 
 namespace orvane {
+
+struct Game;
 
 constexpr size_t SaveFileSize = 540;
 
@@ -16,5 +19,10 @@ std::string PackRecord(const GameRecord& record);
 // Reads a record from a save file's bytes. Missing bytes count as zeros, and as blanks in text;
 // what is too much is ignored. Nothing is validated.
 void UnpackRecord(std::string_view bytes, GameRecord& record);
+
+// Writes the game's record into a file of the game folder; what a longer file holds behind the
+// record stays. `then` follows once the bytes last. A file that cannot be written ends the program
+// with what the system says.
+void WriteSave(Game& game, const std::string& file, const Handler& then);
 
 }  // namespace orvane

@@ -23,7 +23,7 @@ void StartUp(Game& game) {
   state.HeroX = (state.SaveX - 1) * TileSize;
   state.HeroY = (state.SaveY - 1) * TileSize;
   main.Copyright.Caption = "Copyright (C) 2001 Kelmark";
-  game.items.CheckComplete();
+  game.items.Open(game.services.Files);
   for (int number = 1; number <= ItemFile::RecordCount; ++number) ReadItem(game, number);
   game.links.SetStoryText();
   game.links.FillSkillTables();

@@ -31,7 +31,7 @@ class EndingScreen : public Screen {
   void Tick();
   void DrawStrips();
   void ShowLastCard();
-  [[noreturn]] void EndProgram();
+  void EndProgram();
 
   Game& game_;
   Surface scene_;

@@ -24,6 +24,16 @@ void KeepFieldMusic(Game& game) {
   }
 }
 
+// A party that no direction drives stands; then the frame is shown.
+void FinishFrame(Game& game) {
+  const State& state = game.state;
+  if (state.KeyUp == False && state.KeyDown == False && state.KeyLeft == False &&
+      state.KeyRight == False) {
+    DrawHero(game, 0);
+  }
+  game.Main.FieldPicture.Picture.Refresh();
+}
+
 }  // namespace
 
 void FieldTick(Game& game) {
@@ -32,12 +42,7 @@ void FieldTick(Game& game) {
   state.FieldFrame += 1;
   KeepFieldMusic(game);
   DrawMap(game);
-  CharStep(game, state.FieldFrame);
-  if (state.KeyUp == False && state.KeyDown == False && state.KeyLeft == False &&
-      state.KeyRight == False) {
-    DrawHero(game, 0);
-  }
-  game.Main.FieldPicture.Picture.Refresh();
+  CharStep(game, state.FieldFrame, [&game] { FinishFrame(game); });
 }
 
 void DrawMap(Game& game) {

@@ -40,7 +40,7 @@ std::string DoorRoomFile(const State& state) {
 
 void EnterRoom(Game& game, const std::string& file) {
   State& state = game.state;
-  ReadMapFile(game.folder, file, state);
+  ReadMapFile(game.services.Files, file, state);
   state.BookReturnX = state.HeroX;
   state.BookReturnY = state.HeroY;
   state.HeroX = kRoomX;
@@ -68,7 +68,7 @@ void ChangeRow(Game& game, int step) {
 }  // namespace
 
 void ReadMap(Game& game) {
-  ReadMapFile(game.folder, GridMapFile(game.state.MapA, game.state.MapB), game.state);
+  ReadMapFile(game.services.Files, GridMapFile(game.state.MapA, game.state.MapB), game.state);
 }
 
 void EdgeCheck(Game& game) {

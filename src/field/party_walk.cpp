@@ -40,57 +40,67 @@ void LookAround(State& state) {
   state.TileRight = state.MapTile[column + 1][row];
 }
 
-// What lies in the tile opens, unless its warning has already come.
-void OpenChests(Game& game) {
-  if (game.state.OnChest != False) return;
-  if (game.state.TileHere == kChest) OpenTreasure(game);
-  if (IsBookChest(game.state.TileHere)) OpenBook(game);
+// What lies in the tile opens, unless its warning has already come; `then` follows, where a warning
+// comes after its answer.
+void OpenChests(Game& game, const Handler& then) {
+  const int tile = game.state.TileHere;
+  if (game.state.OnChest == False && tile == kChest) return OpenTreasure(game, then);
+  if (game.state.OnChest == False && IsBookChest(tile)) return OpenBook(game, then);
+  then();
+}
+
+// What a step brings: events of the tile just left, edges of the map, the figure.
+void AfterStep(Game& game, int counter, const Handler& then) {
+  OpenChests(game, [&game, counter, then] {
+    State& state = game.state;
+    if (state.TileHere == kRecovery) {
+      RecoverAll(game);
+    } else {
+      state.OnRecovery = False;
+    }
+    if (state.TileHere != kChest && !IsBookChest(state.TileHere)) state.OnChest = False;
+    EdgeCheck(game);
+    DrawHero(game, counter);
+    then();
+  });
 }
 
 // Moves along one axis if the way is free; otherwise the hero stands and looks there.
-void Step(Game& game, int counter, bool free, Int16 SharedState::*axis, int distance) {
-  if (!free) return DrawHero(game, 0);
+void Step(Game& game, int counter, bool free, Int16& axis, int distance, const Handler& then) {
+  if (!free) {
+    DrawHero(game, 0);
+    return then();
+  }
   EncounterCheck(game);
-  game.state.*axis += distance;
-  AfterStep(game, counter);
+  axis += distance;
+  AfterStep(game, counter, then);
 }
 
 }  // namespace
 
-void CharStep(Game& game, int counter) {
+void CharStep(Game& game, int counter, const Handler& then) {
   State& state = game.state;
   LookAround(state);
-  if (!IsWalkable(state.TileHere)) return;
+  if (!IsWalkable(state.TileHere)) return then();
   if (state.KeyUp != False) {
     const bool free = IsWalkable(state.TileUp) && state.HeroY > kLowest;
     if (free) BookRoomCheck(game);
-    Step(game, counter, free, &SharedState::HeroY, -kStep);
+    Step(game, counter, free, state.HeroY, -kStep, then);
   } else if (state.KeyDown != False) {
-    Step(game, counter, IsWalkable(state.TileDown) && state.HeroY < kHighestY, &SharedState::HeroY,
-         kStep);
+    Step(game, counter, IsWalkable(state.TileDown) && state.HeroY < kHighestY, state.HeroY, kStep,
+         then);
   } else if (state.KeyLeft != False) {
-    Step(game, counter, IsWalkable(state.TileLeft) && state.HeroX > kLowest, &SharedState::HeroX,
-         -kStep);
+    Step(game, counter, IsWalkable(state.TileLeft) && state.HeroX > kLowest, state.HeroX, -kStep,
+         then);
   } else if (state.KeyRight != False) {
-    Step(game, counter, IsWalkable(state.TileRight) && state.HeroX < kHighestX, &SharedState::HeroX,
-         kStep);
+    Step(game, counter, IsWalkable(state.TileRight) && state.HeroX < kHighestX, state.HeroX, kStep,
+         then);
   } else {
-    OpenChests(game);
-    if (state.TileHere == kRecovery) RecoverAll(game);
+    OpenChests(game, [&game, then] {
+      if (game.state.TileHere == kRecovery) RecoverAll(game);
+      then();
+    });
   }
-}
-
-void AfterStep(Game& game, int counter) {
-  State& state = game.state;
-  OpenChests(game);
-  if (state.TileHere == kRecovery) {
-    RecoverAll(game);
-  } else {
-    state.OnRecovery = False;
-  }
-  if (state.TileHere != kChest && !IsBookChest(state.TileHere)) state.OnChest = False;
-  EdgeCheck(game);
-  DrawHero(game, counter);
 }
 
 void DrawHero(Game& game, int counter) {

@@ -64,10 +64,12 @@ bool StoreItem(Game& game, const Find* find, int slot) {
   return true;
 }
 
-void WarnOfFullBag(Game& game, const char* text) {
-  Warn(game, text);
-  ClearDirections(game);
-  game.state.OnChest = True;
+void WarnOfFullBag(Game& game, const char* text, const Handler& then) {
+  Warn(game, text, [&game, then] {
+    ClearDirections(game);
+    game.state.OnChest = True;
+    then();
+  });
 }
 
 void StartMessage(Game& game) {
@@ -77,26 +79,27 @@ void StartMessage(Game& game) {
 
 }  // namespace
 
-void OpenTreasure(Game& game) {
+void OpenTreasure(Game& game, const Handler& then) {
   State& state = game.state;
   const ChestKind kind{std::begin(kTreasures), std::end(kTreasures), state.TreasureNo,
                        "アイテムがいっぱいです。"};
   const Find* find = FindHere(state, kind);
-  if (state.TreasureLeft[state.TreasureNo] != True) return;
-  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText);
+  if (state.TreasureLeft[state.TreasureNo] != True) return then();
+  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText, then);
   StoreItem(game, find, FirstEmptySlot(state));
   state.TreasureLeft[state.TreasureNo] = False;
   state.ItemCount += 1;
   StartMessage(game);
+  then();
 }
 
-void OpenBook(Game& game) {
+void OpenBook(Game& game, const Handler& then) {
   State& state = game.state;
   const ChestKind kind{std::begin(kBooks), std::end(kBooks), state.BookNo,
                        "アイテムがいっぱいです"};
   const Find* find = FindHere(state, kind);
-  if (state.BookLeft[state.BookNo] != True) return;
-  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText);
+  if (state.BookLeft[state.BookNo] != True) return then();
+  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText, then);
   const int slot = FirstEmptySlot(state);
   // Where no slot took a book, the spare slot beyond the bag is read, and its number teaches
   // nothing.
@@ -107,6 +110,7 @@ void OpenBook(Game& game) {
   state.BookLeft[state.BookNo] = False;
   state.ItemCount += 1;
   StartMessage(game);
+  then();
 }
 
 void ShowItemGot(Game& game, int slot) {

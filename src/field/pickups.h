@@ -1,15 +1,18 @@
 // Chests, book chests and recovery points, and their message.
 #pragma once
 
+#include "src/ui/control.h"
+
 namespace orvane {
 
 struct Game;
 
 // The chest of the map on screen, if it is still closed: its item for this round goes into the bag.
-void OpenTreasure(Game& game);
+// `then` follows, where the bag is full after the answer to the warning.
+void OpenTreasure(Game& game, const Handler& then);
 
-// The book chest of the map on screen: its book, which also teaches a technique and a spell.
-void OpenBook(Game& game);
+// The same for the book chest of the map: its book also teaches a technique and a spell.
+void OpenBook(Game& game, const Handler& then);
 
 // Heals the party, once per visit.
 void RecoverAll(Game& game);

@@ -9,8 +9,8 @@
 
 namespace orvane {
 
-Program::Parts::Parts(const std::filesystem::path& folder, const Services& services)
-    : game(folder, services),
+Program::Parts::Parts(const Services& services)
+    : game(services),
       battle(game),
       input_name(game),
       save(game),

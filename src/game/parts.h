@@ -18,7 +18,7 @@
 namespace orvane {
 
 struct Program::Parts {
-  Parts(const std::filesystem::path& folder, const Services& services);
+  explicit Parts(const Services& services);
 
   Game game;
   BattleScreen battle;

@@ -1,5 +1,7 @@
 #include "src/game/program.h"
 
+#include <stdexcept>
+
 #include "src/field/direction_keys.h"
 #include "src/game/parts.h"
 #include "src/ui/reach.h"
@@ -43,6 +45,21 @@ Direction DirectionOf(Key key) {
   return Direction::Up;
 }
 
+// While it lives a handler runs; no other may be entered then.
+class Entry {
+ public:
+  explicit Entry(bool& entered) : entered_(entered) {
+    if (entered_) throw std::logic_error("a handler is entered under another");
+    entered_ = true;
+  }
+  ~Entry() { entered_ = false; }
+  Entry(const Entry&) = delete;
+  Entry& operator=(const Entry&) = delete;
+
+ private:
+  bool& entered_;
+};
+
 void RunClick(const Control& control) {
   const Handler* handler = ClickHandler(control);
   if (handler != nullptr && *handler) (*handler)();
@@ -54,8 +71,10 @@ Refusal WhyNot(const Control& control) {
 
 }  // namespace
 
-Program::Program(const std::filesystem::path& folder, const Services& services)
-    : services_(services), parts_(std::make_unique<Parts>(folder, services)) {
+Program::Program(const Services& services) : parts_(std::make_unique<Parts>(services)) {
+  TheStage().OnResume([this] {
+    if (!entered_) Enter({});
+  });
   Enter([this] { parts_->game.stage.Show(parts_->game.Main); });
 }
 
@@ -79,21 +98,24 @@ std::string Program::TextOfError() const {
 }
 
 void Program::Enter(const Handler& handler) {
-  if (HasEnded()) return;
+  if (!TheStage().IsRunning()) return;
+  const Entry entry(entered_);
   try {
-    handler();
-  } catch (const ProgramEnded&) {
-    // The program has ended within the handler, and what was left of it is left out.
+    if (handler) handler();
+    TheStage().RunDue();
   } catch (const RunError& error) {
-    if (HasEnded()) return;
-    error_ = error;
-    TheStage().MarkEnded(kErrorStatus);
-    services_.Boxes.ShowError({TextOfError(), kErrorTitle, BoxButtons::Ok});
+    Fail(error);
   }
 }
 
+void Program::Fail(const RunError& error) {
+  if (!TheStage().IsRunning()) return;
+  error_ = error;
+  TheStage().EndWithBox({TextOfError(), kErrorTitle, BoxButtons::Ok}, kErrorStatus);
+}
+
 Refusal Program::Reach(Screen& screen) {
-  if (HasEnded()) return "the program has ended";
+  if (!TheStage().IsRunning()) return "the program has ended";
   if (!screen.IsVisible()) return screen.Name() + " is hidden";
   if (!TheStage().TakesInput(screen))
     return "a box or a modal screen stands before " + screen.Name();
@@ -219,12 +241,29 @@ bool Program::KeysReachMain() {
 }
 
 void Program::Tick(Timer& timer) {
-  if (!timer.Ticks() || timer.InTick) return;
-  timer.InTick = true;
-  Enter([&] {
-    if (timer.OnTick) timer.OnTick();
-  });
-  timer.InTick = false;
+  if (!timer.Ticks() || timer.InTick || !TheStage().TimeRuns()) return;
+  Enter([&] { TheStage().Tick(timer); });
+}
+
+Refusal Program::Answer(BoxAnswer answer) {
+  Stage& stage = TheStage();
+  if (!stage.BoxStands()) return "no box stands";
+  if (!Offers(stage.Boxes().back().Shown.Buttons, answer)) return "the box has no such button";
+  if (!stage.IsRunning()) {
+    stage.Answer(answer);
+    return {};
+  }
+  if (!stage.TimeRuns()) return "the program stands still";
+  Enter([&] { stage.Answer(answer); });
+  return {};
+}
+
+void Program::EndHold() {
+  TheStage().EndHold();
+}
+
+void Program::End(int status) {
+  TheStage().EndProgram(status);
 }
 
 }  // namespace orvane

@@ -2,7 +2,6 @@
 // timers.
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,10 +21,10 @@ using Refusal = std::string;
 
 class Program {
  public:
-  // Starts the program in a game folder, up to the title and the first activation of Main. An error
-  // on the way shows its box and leaves a program that has ended. The services must outlive the
+  // Starts the program, up to the title and the first activation of Main. An error on the way
+  // leaves a program of which nothing but the error's box stands. The services must outlive the
   // program.
-  Program(const std::filesystem::path& folder, const Services& services);
+  explicit Program(const Services& services);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
@@ -37,7 +36,8 @@ class Program {
   bool HasEnded();
   // 0 after quit, game over and the ending, 1 after an error.
   int ExitStatus();
-  // The error that ended the program, if one did, and the text of its box.
+  // The error that has stopped the program, if one has, and the text of its box. The box stands on
+  // the stage; its answer ends the program.
   const std::optional<RunError>& Error() const { return error_; }
   std::string TextOfError() const;
 
@@ -69,12 +69,22 @@ class Program {
   void KeyDown(Key key);
   void KeyUp(Key key);
 
-  // Runs code as an event does: a run-time error in it shows its box and ends the program.
+  // Answers the box in front, and so runs what follows.
+  Refusal Answer(BoxAnswer answer);
+
+  // Runs code as an event does: no other handler is running then, and a run-time error in it stops
+  // the program with its box.
   void Enter(const Handler& handler);
 
-  // One tick of a timer; nothing when it is off, its tick is running, or the program has ended. A
-  // front end asks a TimerQueue which timer is due.
+  // One tick of a timer; nothing when it is off, its last tick has not come to its end, or time
+  // stands. A front end asks a TimerQueue which timer is due.
   void Tick(Timer& timer);
+
+  // The hold that the last handler has asked for (Stage::HeldFor) is over.
+  void EndHold();
+
+  // Ends the program from outside, as the end of a session does, with this exit status.
+  void End(int status);
 
  private:
   struct Parts;
@@ -84,10 +94,12 @@ class Program {
   // The same, and the control can be used.
   Refusal Reach(Control& control);
   bool KeysReachMain();
+  // Stops the program with the box of an error.
+  void Fail(const RunError& error);
 
-  Services services_;
   std::optional<RunError> error_;
   std::unique_ptr<Parts> parts_;
+  bool entered_ = false;  // a handler runs
 };
 
 }  // namespace orvane

@@ -1,12 +1,15 @@
-// The one place that talks to the operating system beyond the standard library.
+// The one place that talks to the operating system about writing a file that lasts.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace orvane {
 
 // Writes `bytes` to a new file beside `path`, flushes it to the disk, gives it the name `path` and
-// flushes the folder. Returns false when any step fails; then the old file stands as it was.
-bool ReplaceFileDurably(const std::string& path, const std::string& bytes);
+// flushes the folder. A file that is replaced hands its mode on; one that may not be written is not
+// replaced. Returns what the system says is in the way, or nothing once the bytes last; when a step
+// fails the old file stands as it was.
+std::string ReplaceFileDurably(const std::filesystem::path& path, const std::string& bytes);
 
 }  // namespace orvane

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "src/platform/durable_file.h"
+#include "src/platform/path_text.h"
 
 namespace orvane {
 namespace {
@@ -35,22 +36,23 @@ std::string PreparePlayerFolder(const std::filesystem::path& installed,
                                 const std::filesystem::path& own) {
   std::error_code failed;
   std::filesystem::create_directories(own, failed);
-  if (failed) return "cannot make the folder " + own.string() + ": " + failed.message();
+  if (failed) return "cannot make the folder " + TextOf(own) + ": " + failed.message();
   auto entries = std::filesystem::recursive_directory_iterator(installed, failed);
   for (; !failed && entries != std::filesystem::recursive_directory_iterator();
        entries.increment(failed)) {
     const auto to = own / entries->path().lexically_relative(installed);
     if (entries->is_directory()) {
       std::filesystem::create_directories(to, failed);
-      if (failed) return "cannot make the folder " + to.string() + ": " + failed.message();
+      if (failed) return "cannot make the folder " + TextOf(to) + ": " + failed.message();
       continue;
     }
     const auto bytes = ReadWhole(entries->path());
-    if (!bytes) return "cannot read " + entries->path().string();
+    if (!bytes) return "cannot read " + TextOf(entries->path());
     if (Stands(to, *bytes)) continue;
-    if (!ReplaceFileDurably(to.string(), *bytes)) return "cannot write " + to.string();
+    if (const std::string failure = ReplaceFileDurably(to, *bytes); !failure.empty())
+      return "cannot write " + TextOf(to) + ": " + failure;
   }
-  if (failed) return "cannot read the folder " + installed.string() + ": " + failed.message();
+  if (failed) return "cannot read the folder " + TextOf(installed) + ": " + failed.message();
   return {};
 }
 

@@ -1,9 +1,10 @@
-// Services for a program that nobody plays, in tools and tests: no sound, no waiting, the same
-// chance always, and boxes that are cancelled at once.
+// Services for a program that nobody plays, in tools and tests: no sound, the same chance always,
+// and no files but those that are put there.
 #pragma once
 
 #include <string>
 
+#include "src/platform/memory_storage.h"
 #include "src/platform/services.h"
 
 namespace orvane {
@@ -19,24 +20,12 @@ class NoChance : public Chance {
   void Reseed() override {}
 };
 
-class NoBoxes : public BoxKeeper {
- public:
-  BoxAnswer Show(const Box& /*box*/) override { return BoxAnswer::Cancel; }
-  void ShowError(const Box& /*box*/) override {}
-};
-
-class NoSleep : public Sleeper {
- public:
-  void Sleep(int /*milliseconds*/) override {}
-};
-
 struct QuietServices {
-  Services All() { return {Sound, Luck, Boxes, Time}; }
+  Services All() { return {Sound, Luck, Files}; }
 
   NoSound Sound;
   NoChance Luck;
-  NoBoxes Boxes;
-  NoSleep Time;
+  MemoryStorage Files;
 };
 
 }  // namespace orvane

@@ -71,7 +71,13 @@ void ItemScreen::Discard() {
   if (Bag.ListIndex < 0) return;
   ReadItem(game_, state.Items[Bag.ListIndex]);
   const std::string question = "捨ててもよろしいですか？\n" + state.ItemRec.Name.Full();
-  if (TheStage().ShowBox(question, "アイテム削除", BoxButtons::OkCancel) != BoxAnswer::Ok) return;
+  TheStage().Ask({question, "アイテム削除", BoxButtons::OkCancel}, [this](BoxAnswer answer) {
+    if (answer == BoxAnswer::Ok) ThrowAway();
+  });
+}
+
+void ItemScreen::ThrowAway() {
+  State& state = game_.state;
   state.Items[Bag.ListIndex] = NoItem;
   state.ItemCount -= 1;
   FillItemList(game_, Bag);

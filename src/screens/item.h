@@ -27,6 +27,7 @@ class ItemScreen : public Screen {
   void RowChosen();
   void Use();
   void Discard();
+  void ThrowAway();
   void Tidy();
   bool IsWorn() const;
 

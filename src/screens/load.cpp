@@ -10,7 +10,7 @@ LoadScreen::LoadScreen(Game& game) : SaveDialog(game, "Load", "ロード") {
 }
 
 void LoadScreen::ReadChosen() {
-  const auto bytes = game_.folder.Read(Opened());
+  const auto bytes = game_.services.Files.Read(Opened());
   if (!bytes) throw RunError(ErrorKind::File, Opened());
   UnpackRecord(*bytes, game_.state);
 }

@@ -14,10 +14,15 @@ void SaveScreen::OnLoad() {
 }
 
 void SaveScreen::Save() {
-  State& state = game_.state;
   if (NothingChosen()) return;
-  if (TheStage().ShowBox("よろしいですか？", "ゲームのセーブ", BoxButtons::YesNo) != BoxAnswer::Yes)
-    return;
+  TheStage().Ask({"よろしいですか？", "ゲームのセーブ", BoxButtons::YesNo},
+                 [this](BoxAnswer answer) {
+                   if (answer == BoxAnswer::Yes) Write();
+                 });
+}
+
+void SaveScreen::Write() {
+  State& state = game_.state;
   state.SaveRound = state.Round;
   for (int hero = 0; hero < 2; ++hero) {
     state.SaveName[hero] = state.HeroName[hero];
@@ -27,9 +32,10 @@ void SaveScreen::Save() {
   state.SaveMapB = state.MapB;
   state.SaveX = state.HeroX;
   state.SaveY = state.HeroY;
-  game_.folder.Replace(Opened(), PackRecord(state));
-  game_.Main.WalkTimer.SetEnabled(true);
-  TheStage().Unload(*this);
+  WriteSave(game_, Opened(), [this] {
+    game_.Main.WalkTimer.SetEnabled(true);
+    TheStage().Unload(*this);
+  });
 }
 
 }  // namespace orvane

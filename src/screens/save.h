@@ -15,6 +15,7 @@ class SaveScreen : public SaveDialog {
 
  private:
   void Save();
+  void Write();
 };
 
 }  // namespace orvane

@@ -23,7 +23,7 @@ SaveDialog::SaveDialog(Game& game, const std::string& name, const std::string& v
 }
 
 void SaveDialog::ListFiles() {
-  Files.Rows = game_.folder.List(Files.Pattern);
+  Files.Rows = game_.services.Files.List(Files.Pattern);
 }
 
 void SaveDialog::ShowParty(int round, const Array<HeroNameField, 3>& names,

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "src/base/error.h"
 #include "src/ui/controls.h"
 
 namespace orvane {
@@ -105,33 +104,68 @@ void Stage::Leave(Screen& screen) {
   if (was_active && Active() != nullptr) Active()->OnActivate(false);
 }
 
-BoxAnswer Stage::ShowBox(const std::string& text, const std::string& title, BoxButtons buttons) {
-  ++boxes_standing_;
-  BoxAnswer answer{};
-  try {
-    answer = services_.Boxes.Show({text, title, buttons});
-  } catch (...) {
-    --boxes_standing_;
-    throw;
-  }
-  --boxes_standing_;
-  if (ended_) throw ProgramEnded{};  // something that ran while the box stood has ended the program
-  return answer;
+void Stage::Ask(Box box, AnswerHandler then) {
+  if (IsRunning()) boxes_.push_back({std::move(box), ++boxes_asked_, std::move(then), ticking_});
 }
 
-void Stage::MarkEnded(int status) {
-  if (ended_) return;
-  ended_ = true;
-  exit_status_ = status;
+void Stage::Answer(BoxAnswer answer) {
+  if (boxes_.empty()) return;
+  const StandingBox answered = std::move(boxes_.back());
+  boxes_.pop_back();
+  if (stopped_) return EndProgram(exit_status_);
+  RunFor(answered.Asker, [&] {
+    if (answered.Then) answered.Then(answer);
+  });
+}
+
+void Stage::Resume(Handler follow) {
+  --awaited_;
+  due_.push_back(std::move(follow));
+  if (wake_) wake_();
+}
+
+void Stage::RunDue() {
+  while (!due_.empty() && IsRunning()) {
+    const Handler follow = std::move(due_.front());
+    due_.pop_front();
+    if (follow) follow();
+  }
+}
+
+void Stage::Tick(Timer& timer) {
+  RunFor(&timer, timer.OnTick);
+}
+
+void Stage::RunFor(Timer* timer, const Handler& handler) {
+  if (timer != nullptr) timer->InTick = true;
+  Timer* before = std::exchange(ticking_, timer);
+  if (handler) handler();
+  ticking_ = before;
+  if (timer != nullptr) timer->InTick = IsAwaitedBy(*timer);
+}
+
+bool Stage::IsAwaitedBy(const Timer& timer) const {
+  return std::any_of(boxes_.begin(), boxes_.end(),
+                     [&timer](const StandingBox& box) { return box.Asker == &timer; });
 }
 
 void Stage::EndProgram(int status) {
-  MarkEnded(status);
-  throw ProgramEnded{};
+  if (ended_) return;
+  ended_ = true;
+  exit_status_ = status;
+  boxes_.clear();
+}
+
+void Stage::EndWithBox(Box box, int status) {
+  if (!IsRunning()) return;
+  boxes_.clear();
+  Ask(std::move(box));
+  stopped_ = true;
+  exit_status_ = status;
 }
 
 bool Stage::TakesInput(const Screen& screen) const {
-  if (!screen.visible_ || ended_ || BoxStands()) return false;
+  if (!screen.visible_ || !TimeRuns() || BoxStands()) return false;
   return std::none_of(screens_.begin(), screens_.end(), [&screen](const Screen* other) {
     return other != &screen && other->visible_ && other->modal_;
   });

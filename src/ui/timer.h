@@ -15,7 +15,8 @@ struct TimerValues {
 
 // A timer that ticks on the one thread of the program while it is enabled and its screen is loaded.
 // Late ticks do not pile up. Enabling restarts the interval; disabling takes effect at once, also
-// from within a tick. A tick is never entered again while it runs.
+// from within a tick. A tick is never entered again while it runs, nor while a box that it asked
+// for stands.
 class Timer : public ControlOf<TimerValues, ControlKind::Timer> {
  public:
   Timer(Screen& screen, std::string name, int interval, int pace = 0)
@@ -36,8 +37,8 @@ class Timer : public ControlOf<TimerValues, ControlKind::Timer> {
 
   // Bookkeeping of the queue that serves the ticks.
   bool Restarted = true;  // the interval starts anew as soon as the queue looks
-  bool InTick = false;
-  double Due = 0;  // when the next tick is due, in ms of the queue's clock
+  bool InTick = false;    // its tick runs, or waits for the answer to a box
+  double Due = 0;         // when the next tick is due, in ms of the queue's clock
 };
 
 }  // namespace orvane

@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-TimerQueue::TimerQueue(Stage& stage, Pacing pacing) : pacing_(pacing) {
+TimerQueue::TimerQueue(const Stage& stage, Pacing pacing) : stage_(stage), pacing_(pacing) {
   for (const Screen* screen : stage.Screens()) {
     for (Control* control : screen->Controls()) {
       if (control->Kind() == ControlKind::Timer) timers_.push_back(static_cast<Timer*>(control));
@@ -26,6 +26,7 @@ void TimerQueue::Arm(double now) {
 
 std::optional<double> TimerQueue::NextDue(double now) {
   Arm(now);
+  if (!stage_.TimeRuns()) return std::nullopt;
   std::optional<double> next;
   for (const Timer* timer : timers_) {
     if (timer->Ticks() && !timer->InTick && (!next || timer->Due < *next)) next = timer->Due;
@@ -35,6 +36,7 @@ std::optional<double> TimerQueue::NextDue(double now) {
 
 Timer* TimerQueue::FirstDue(double now) {
   Arm(now);
+  if (!stage_.TimeRuns()) return nullptr;
   Timer* first = nullptr;
   for (Timer* timer : timers_) {
     if (!timer->Ticks() || timer->InTick || timer->Due > now) continue;

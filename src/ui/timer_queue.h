@@ -17,14 +17,16 @@ enum class Pacing {
 
 class TimerQueue {
  public:
-  TimerQueue(Stage& stage, Pacing pacing);
+  TimerQueue(const Stage& stage, Pacing pacing);
 
-  // When the next tick is due, in ms, or nothing while no timer ticks. `now` is the queue's clock
-  // in ms; timers enabled since the last look start their interval there.
+  // When the next tick is due, in ms, or nothing while no timer ticks or the stage's time stands.
+  // `now` is the queue's clock in ms; timers enabled since the last look start their interval
+  // there.
   std::optional<double> NextDue(double now);
 
-  // The timer whose tick is due first, at `now` or before, or null. A timer within its tick is
-  // passed over, so one that is late ticks once, as soon as it can.
+  // The timer whose tick is due first, at `now` or before, or null, as while the stage's time
+  // stands. A timer within its tick is passed over, so one that is late ticks once, as soon as it
+  // can.
   Timer* FirstDue(double now);
 
   // Tells that a timer's tick begins at `now`; sets when the next one is due.
@@ -34,6 +36,7 @@ class TimerQueue {
   double Period(const Timer& timer) const;
   void Arm(double now);
 
+  const Stage& stage_;
   std::vector<Timer*> timers_;
   Pacing pacing_;
 };

@@ -44,7 +44,7 @@ Surface Whole(const PictureBox& box) {
 }  // namespace
 
 struct Windows::Screens {
-  Screens() : game(".", quiet.All()), battle(game), ending(game) {}
+  Screens() : game(quiet.All()), battle(game), ending(game) {}
 
   QuietServices quiet;
   Game game;

@@ -37,13 +37,6 @@ void HideNumbers(BattleScreen& battle) {
   battle.HeroNumbers[1].Visible = false;
 }
 
-void EndAttack(BattleScreen& battle) {
-  HitHeroes(battle);
-  HideNumbers(battle);
-  battle.state.EnemyTurns -= 1;
-  AfterEnemyAta(battle);
-}
-
 void DrawFireball(BattleScreen& battle, int frame) {
   const Int16 x = RoundToInt16(std::cos(frame) * 10 + 355);
   const int y = 246 - (frame - 15) * 20;
@@ -95,12 +88,35 @@ void EndPhase(BattleScreen& battle) {
     battle.HeroTabs.SetTabEnabled(1, true);
   } else {
     LeaveToOne(battle, first_stands ? 0 : 1);
-    if (!first_stands && !second_stands) {
-      battle.HeroTabs.SetTabEnabled(1, false);
-      PartyWiped(battle);
-    }
+    if (!first_stands && !second_stands) battle.HeroTabs.SetTabEnabled(1, false);
   }
   battle.ActionTimer.SetEnabled(false);
+}
+
+bool BothHaveFainted(const State& state) {
+  return state.HeroFainted[0] != False && state.HeroFainted[1] != False;
+}
+
+// The end of the party: closes all sound, tells so, and ends the program with the answer.
+void PartyWiped(BattleScreen& battle) {
+  constexpr int last_music = 7;
+  CloseAllSound(battle.game, last_music);
+  battle.game.stage.Ask({"全滅しました。", "GAME OVER", BoxButtons::Ok},
+                        [&battle](BoxAnswer) { battle.game.stage.EndProgram(0); });
+}
+
+// The last frame of an attack: the next one follows, or the heroes are asked again. Where nobody is
+// left to be asked the scene stays as it was before it.
+void EndAttack(BattleScreen& battle) {
+  HitHeroes(battle);
+  HideNumbers(battle);
+  battle.state.EnemyTurns -= 1;
+  if (battle.state.EnemyTurns < 1) {
+    EndPhase(battle);
+    if (BothHaveFainted(battle.state)) return PartyWiped(battle);
+  }
+  battle.state.ActionState = 0;
+  battle.Scene.Picture.Refresh();
 }
 
 }  // namespace
@@ -115,7 +131,7 @@ void EnemyAtaNormal(BattleScreen& battle) {
   if (frame >= 16 && frame <= 34) DamageDisplay(battle);
   if (frame == 36) {
     DrawHeroes(battle);
-    EndAttack(battle);
+    return EndAttack(battle);
   }
   battle.Scene.Picture.Refresh();
 }
@@ -131,7 +147,7 @@ void EnemyAtaFire(BattleScreen& battle) {
     DrawRoundBoss(battle);
   }
   if (frame >= 36 && frame <= 54) DamageDisplay(battle);
-  if (frame == 56) EndAttack(battle);
+  if (frame == 56) return EndAttack(battle);
   battle.Scene.Picture.Refresh();
 }
 
@@ -150,21 +166,8 @@ void EnemyAtaDeath(BattleScreen& battle) {
     DrawHeroes(battle);
   }
   if (frame >= 36 && frame <= 54) DamageDisplay(battle);
-  if (frame == 56) EndAttack(battle);
+  if (frame == 56) return EndAttack(battle);
   battle.Scene.Picture.Refresh();
-}
-
-void AfterEnemyAta(BattleScreen& battle) {
-  if (battle.state.EnemyTurns < 1) EndPhase(battle);
-  battle.state.ActionState = 0;
-}
-
-void PartyWiped(BattleScreen& battle) {
-  constexpr int last_music = 7;
-  battle.ActionTimer.SetEnabled(false);
-  CloseAllSound(battle.game, last_music);
-  battle.game.stage.ShowBox("全滅しました。", "GAME OVER", BoxButtons::Ok);
-  battle.game.stage.EndProgram(0);
 }
 
 }  // namespace orvane

@@ -10,10 +10,4 @@ void EnemyAtaNormal(BattleScreen& battle);
 void EnemyAtaFire(BattleScreen& battle);
 void EnemyAtaDeath(BattleScreen& battle);
 
-// Closes one enemy attack: the next one follows, or the heroes are asked again.
-void AfterEnemyAta(BattleScreen& battle);
-
-// Both heroes have fainted: closes all sound, tells so, and ends the program.
-[[noreturn]] void PartyWiped(BattleScreen& battle);
-
 }  // namespace orvane

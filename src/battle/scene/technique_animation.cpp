@@ -100,7 +100,7 @@ void Waza4(BattleScreen& battle, int c) {
 
 // One of the four poses that every frame of the fall shows, after the hold at its beginning.
 void Fall(BattleScreen& battle, int c, int j) {
-  if (c == 14) battle.game.services.Time.Sleep(kHoldTime);
+  if (c == 14) battle.game.stage.Hold(kHoldTime);
   if (c == 22) {
     AimAtBig(battle);
     Play(battle, "snd2");

@@ -40,7 +40,7 @@ class BattleTest : public testing::Test {
 
   QuietServices quiet_;
   NotedChance chance_;
-  Game game_{"/nonexistent", Services{quiet_.Sound, chance_, quiet_.Boxes, quiet_.Time}};
+  Game game_{Services{quiet_.Sound, chance_, quiet_.Files}};
   State& state_ = game_.state;
   BattleScreen battle_{game_};
   HeroesScreen heroes_{game_};

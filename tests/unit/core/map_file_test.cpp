@@ -2,26 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "src/base/error.h"
+#include "src/platform/memory_storage.h"
 
 namespace orvane {
 namespace {
 
 class MapFileTest : public testing::Test {
  protected:
-  MapFileTest()
-      : path_(std::filesystem::temp_directory_path() /
-              ("orvane-map-" +
-               std::string(testing::UnitTest::GetInstance()->current_test_info()->name()))) {
-    std::filesystem::create_directories(path_ / "Mapdata");
-  }
-  ~MapFileTest() override { std::filesystem::remove_all(path_); }
-
-  void Write(const std::string& text) { std::ofstream(path_ / "Mapdata/map1-2.dat") << text; }
-  void Read() { ReadMapFile(GameFolder(path_), GridMapFile(2, 1), state); }
+  void Write(const std::string& text) { files_.Files["Mapdata/map1-2.dat"] = text; }
+  void Read() { ReadMapFile(files_, GridMapFile(2, 1), state); }
   ErrorKind KindOfError() {
     try {
       Read();
@@ -42,7 +32,7 @@ class MapFileTest : public testing::Test {
   SharedState state;
 
  private:
-  std::filesystem::path path_;
+  MemoryStorage files_;
 };
 
 TEST_F(MapFileTest, RunsDownTheColumns) {

@@ -21,7 +21,7 @@ namespace {
 class FocusTest : public testing::Test {
  protected:
   FocusTest()
-      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
+      : program_(quiet_.All()),
         events_(program_),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})) {}
 

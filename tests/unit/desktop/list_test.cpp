@@ -17,7 +17,7 @@ constexpr int LastRow = 19;
 class ListTest : public testing::Test {
  protected:
   ListTest()
-      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
+      : program_(quiet_.All()),
         events_(program_),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})) {
     program_.TheState().GameStarted = True;

@@ -36,9 +36,7 @@ class ListViewTest : public testing::Test {
     return image;
   }
 
-  TestServices quiet_;
-  Services services_ = quiet_.All();
-  Stage stage_{services_};
+  Stage stage_;
   Listing screen_{stage_};
   NoEvents events_;
   QWidget window_;

@@ -202,7 +202,7 @@ TEST_F(PadTest, does_not_press_in_a_new_window_what_was_pressed_in_the_field) {
 class PadInGame : public testing::Test {
  protected:
   PadInGame()
-      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
+      : program_(quiet_.All()),
         events_(program_),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})),
         pad_(events_, [this] { return program_.TheStage().Active() == Find("Main"); }) {

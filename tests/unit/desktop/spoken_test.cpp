@@ -28,7 +28,7 @@ namespace {
 class SpokenTest : public testing::Test {
  protected:
   SpokenTest()
-      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
+      : program_(quiet_.All()),
         events_(program_),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})) {}
 

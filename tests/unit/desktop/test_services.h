@@ -7,23 +7,18 @@
 
 #include "src/frontend/desktop/windows/events.h"
 #include "src/game/program.h"
+#include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
 
 namespace orvane {
 
-// An error of the game is one of the test.
-class NoErrors : public NoBoxes {
- public:
-  void ShowError(const Box& box) override { ADD_FAILURE() << box.Text; }
-};
-
+// A program in the built game folder. An error of the game is one of the test.
 struct TestServices {
-  Services All() { return {Sound, Luck, Boxes, Time}; }
+  Services All() { return {Sound, Luck, Files}; }
 
   NoSound Sound;
   NoChance Luck;
-  NoErrors Boxes;
-  NoSleep Time;
+  FolderStorage Files{ORVANE_GAME_FOLDER};
 };
 
 // Widgets report into the void.

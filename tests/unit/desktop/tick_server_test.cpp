@@ -65,9 +65,7 @@ class TickServerTest : public testing::Test {
     return clock.elapsed();
   }
 
-  TestServices quiet_;
-  Services services_ = quiet_.All();
-  Stage stage_{services_};
+  Stage stage_;
   Clockwork screen_{stage_};
   Counted events_;
 };

@@ -13,7 +13,7 @@ class EncounterTest : public testing::Test {
  protected:
   QuietServices quiet_;
   NotedChance chance_;
-  Game game_{"/nonexistent", Services{quiet_.Sound, chance_, quiet_.Boxes, quiet_.Time}};
+  Game game_{Services{quiet_.Sound, chance_, quiet_.Files}};
 };
 
 TEST_F(EncounterTest, SeedsTheGeneratorBeforeEachStepsOneDraw) {

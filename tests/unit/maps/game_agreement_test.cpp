@@ -8,6 +8,7 @@
 #include "src/core/game.h"
 #include "src/field/party_walk.h"
 #include "src/field/tiles.h"
+#include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
 #include "tools/maps/explore.h"
 #include "tools/maps/step.h"
@@ -44,7 +45,7 @@ class MapFolder {
 class GameWalker {
  public:
   GameWalker(const World& world, const std::filesystem::path& folder)
-      : world_(world), game_(folder, quiet_.All()) {
+      : world_(world), files_(folder), game_(Services{quiet_.Sound, quiet_.Luck, files_}) {
     game_.links.ShowBattle = [this] { battle_ = true; };
   }
 
@@ -57,7 +58,7 @@ class GameWalker {
     state.KeyRight = direction == Direction::Right ? -1 : 0;
     battle_ = false;
     try {
-      CharStep(game_, 0);
+      CharStep(game_, 0, [] {});
     } catch (const RunError&) {
       tiles_of_.reset();
       return {Event::NoSuchMap, party};
@@ -120,6 +121,7 @@ class GameWalker {
 
   const World& world_;
   QuietServices quiet_;  // never a chance encounter
+  FolderStorage files_;
   Game game_;
   bool battle_ = false;
   std::optional<Place> tiles_of_;

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -41,19 +43,66 @@ class DurableFileTest : public testing::Test {
 };
 
 TEST_F(DurableFileTest, ReplacesTheFile) {
-  EXPECT_TRUE(ReplaceFileDurably(File(), new_record));
+  EXPECT_EQ(ReplaceFileDurably(File(), new_record), "");
   EXPECT_EQ(Content(), new_record);
   EXPECT_EQ(FilesInFolder(), 1) << "nothing is left beside it";
 }
 
 TEST_F(DurableFileTest, MakesAFileThatIsNotThere) {
   std::filesystem::remove(File());
-  EXPECT_TRUE(ReplaceFileDurably(File(), new_record));
+  EXPECT_EQ(ReplaceFileDurably(File(), new_record), "");
   EXPECT_EQ(Content(), new_record);
 }
 
 TEST_F(DurableFileTest, RefusesAFolderThatIsNotThere) {
-  EXPECT_FALSE(ReplaceFileDurably(File() + "/no/such", new_record));
+  EXPECT_EQ(ReplaceFileDurably(File() + "/no/such", new_record), "Not a directory");
+}
+
+TEST_F(DurableFileTest, AFileThatIsReplacedHandsItsModeOn) {
+  for (const mode_t mode : {0600u, 0664u}) {
+    chmod(File().c_str(), mode);
+    EXPECT_EQ(ReplaceFileDurably(File(), new_record), "");
+    struct stat facts {};
+    stat(File().c_str(), &facts);
+    EXPECT_EQ(facts.st_mode & 07777u, mode);
+  }
+}
+
+TEST_F(DurableFileTest, AFileThatNobodyMayWriteIsNotReplaced) {
+  chmod(File().c_str(), 0444);
+  EXPECT_EQ(ReplaceFileDurably(File(), new_record), "Permission denied");
+  EXPECT_EQ(Content(), old_record);
+  EXPECT_EQ(FilesInFolder(), 1);
+}
+
+// Replaces the file as a user who owns neither it nor the folder; returns what is in the way.
+std::string ReplaceAsAnother(const std::string& file, const std::string& record) {
+  int ends[2];
+  if (pipe(ends) != 0) return "no pipe";
+  const pid_t child = fork();
+  if (child == 0) {
+    constexpr uid_t nobody = 65534;
+    const std::string failure =
+        setuid(nobody) == 0 ? ReplaceFileDurably(file, record) : "no other user";
+    const bool told = write(ends[1], failure.data(), failure.size()) >= 0;
+    _exit(told ? 0 : 1);
+  }
+  close(ends[1]);
+  std::string failure(200, ' ');
+  const ssize_t size = read(ends[0], failure.data(), failure.size());
+  close(ends[0]);
+  waitpid(child, nullptr, 0);
+  return failure.substr(0, static_cast<size_t>(std::max<ssize_t>(size, 0)));
+}
+
+TEST_F(DurableFileTest, WhatBelongsToAnotherStaysAsItIs) {
+  if (getuid() != 0) GTEST_SKIP() << "only root can become somebody else";
+  chmod(File().c_str(), 0644);
+  EXPECT_EQ(ReplaceAsAnother(File(), new_record), "Permission denied") << "the file";
+  chmod(File().c_str(), 0666);
+  EXPECT_EQ(ReplaceAsAnother(File(), new_record), "Permission denied") << "the folder";
+  EXPECT_EQ(Content(), old_record);
+  EXPECT_EQ(FilesInFolder(), 1);
 }
 
 // Stops a child that saves at its k-th way into or out of the system, and kills it there. Returns
@@ -86,7 +135,7 @@ TEST_F(DurableFileTest, AWriterKilledAtAnyStepLeavesTheOldOrTheNewRecordWhole) {
     const std::string content = Content();
     ASSERT_TRUE(content == old_record || content == new_record) << "killed at step " << step;
     (content == old_record ? old_ones : new_ones) += 1;
-    ASSERT_TRUE(ReplaceFileDurably(File(), old_record)) << "after a kill at step " << step;
+    ASSERT_EQ(ReplaceFileDurably(File(), old_record), "") << "after a kill at step " << step;
     ASSERT_LT(++step, 1000);
   }
   EXPECT_EQ(Content(), new_record) << "the last run came to its end";
@@ -102,7 +151,7 @@ TEST_F(DurableFileTest, ADiskThatIsFullLeavesTheOldRecord) {
       signal(SIGXFSZ, SIG_IGN);
       const rlimit limit{room, room};
       setrlimit(RLIMIT_FSIZE, &limit);
-      _exit(ReplaceFileDurably(File(), new_record) ? 1 : 0);
+      _exit(ReplaceFileDurably(File(), new_record).empty() ? 1 : 0);
     }
     int status = 0;
     waitpid(child, &status, 0);

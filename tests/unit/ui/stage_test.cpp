@@ -9,21 +9,6 @@
 namespace orvane {
 namespace {
 
-class Silent : public SoundDevice, public Chance, public BoxKeeper, public Sleeper {
- public:
-  std::string Send(const std::string&) override { return ""; }
-  float Draw() override { return 0; }
-  void Reseed() override {}
-  BoxAnswer Show(const Box&) override {
-    if (WhileItStands) WhileItStands();
-    return BoxAnswer::Ok;
-  }
-  void ShowError(const Box&) override {}
-  void Sleep(int) override {}
-
-  Handler WhileItStands;
-};
-
 class Window : public Screen {
  public:
   Window(Stage& stage, const std::string& name) : Screen(stage, name, name, 200, 100) {}
@@ -45,9 +30,7 @@ class StageTest : public testing::Test {
  protected:
   StageTest() { stage.KeepDesigns(); }
 
-  Silent silent;
-  Services services{silent, silent, silent, silent};
-  Stage stage{services};
+  Stage stage;
   Window first{stage, "First"};
   Window second{stage, "Second"};
 };
@@ -100,17 +83,88 @@ TEST_F(StageTest, AModalScreenKeepsInputFromTheOthers) {
 
 TEST_F(StageTest, ABoxKeepsInputFromAll) {
   stage.Show(first);
-  bool reached = true;
-  silent.WhileItStands = [&] { reached = stage.TakesInput(first); };
-  stage.ShowBox("text", "title", BoxButtons::Ok);
-  EXPECT_FALSE(reached);
+  stage.Ask({"text", "title", BoxButtons::Ok});
+  EXPECT_FALSE(stage.TakesInput(first));
+  stage.Answer(BoxAnswer::Ok);
   EXPECT_TRUE(stage.TakesInput(first));
   EXPECT_EQ(first.Log, "load enter ") << "a box that closes activates nothing";
 }
 
-TEST_F(StageTest, AProgramThatEndsUnderABoxLeavesItsHandlers) {
-  silent.WhileItStands = [&] { stage.MarkEnded(0); };
-  EXPECT_THROW(stage.ShowBox("text", "title", BoxButtons::Ok), ProgramEnded);
+TEST_F(StageTest, TheBoxInFrontIsAnsweredFirst) {
+  std::string order;
+  const auto note = [&order](const char* name) {
+    return [&order, name](BoxAnswer answer) {
+      order += std::string(name) + (answer == BoxAnswer::Ok ? "+" : "-");
+    };
+  };
+  stage.Ask({"first", "", BoxButtons::OkCancel}, note("1"));
+  stage.Ask({"second", "", BoxButtons::OkCancel}, note("2"));
+  EXPECT_EQ(stage.Boxes().back().Shown.Text, "second");
+  EXPECT_NE(stage.Boxes().front().Number, stage.Boxes().back().Number);
+  stage.Answer(BoxAnswer::Cancel);
+  stage.Answer(BoxAnswer::Ok);
+  EXPECT_EQ(order, "2-1+");
+}
+
+TEST_F(StageTest, WhatFollowsABoxMayBringAnother) {
+  stage.Ask({"first"}, [&](BoxAnswer) { stage.Ask({"second"}); });
+  stage.Answer(BoxAnswer::Ok);
+  ASSERT_EQ(stage.BoxCount(), 1);
+  EXPECT_EQ(stage.Boxes().back().Shown.Text, "second");
+}
+
+TEST_F(StageTest, NothingFollowsTheBoxesOfAProgramThatHasEnded) {
+  bool followed = false;
+  stage.Ask({"text"}, [&](BoxAnswer) { followed = true; });
+  stage.EndProgram(3);
+  stage.EndProgram(4);
+  EXPECT_FALSE(stage.BoxStands());
+  stage.Answer(BoxAnswer::Ok);
+  EXPECT_FALSE(followed);
+  EXPECT_EQ(stage.ExitStatus(), 3) << "the first end counts";
+  stage.Ask({"late"});
+  EXPECT_FALSE(stage.BoxStands());
+}
+
+TEST_F(StageTest, TheLastBoxStandsAloneAndItsAnswerEndsTheProgram) {
+  stage.Show(first);
+  stage.Ask({"question"}, [&](BoxAnswer) { ADD_FAILURE() << "it is not answered"; });
+  stage.EndWithBox({"error"}, 1);
+  ASSERT_EQ(stage.BoxCount(), 1);
+  EXPECT_FALSE(stage.HasEnded());
+  EXPECT_FALSE(stage.TimeRuns());
+  EXPECT_FALSE(stage.TakesInput(first));
+  stage.Answer(BoxAnswer::Ok);
+  EXPECT_TRUE(stage.HasEnded());
+  EXPECT_EQ(stage.ExitStatus(), 1);
+}
+
+TEST_F(StageTest, AHoldStopsTimeAndInputUntilItIsOver) {
+  stage.Show(first);
+  stage.Hold(100);
+  stage.Hold(100);
+  EXPECT_EQ(stage.HeldFor(), 200);
+  EXPECT_FALSE(stage.TakesInput(first));
+  EXPECT_FALSE(stage.TimeRuns());
+  stage.EndHold();
+  EXPECT_TRUE(stage.TakesInput(first));
+  EXPECT_TRUE(stage.TimeRuns());
+}
+
+TEST_F(StageTest, WhatIsAwaitedFollowsWhenItIsAskedFor) {
+  stage.Show(first);
+  bool woken = false;
+  bool followed = false;
+  stage.OnResume([&] { woken = true; });
+  stage.Await();
+  EXPECT_FALSE(stage.TakesInput(first));
+  stage.RunDue();
+  stage.Resume([&] { followed = true; });
+  EXPECT_TRUE(woken);
+  EXPECT_FALSE(followed) << "a handler may still be running";
+  EXPECT_TRUE(stage.TimeRuns());
+  stage.RunDue();
+  EXPECT_TRUE(followed);
 }
 
 TEST_F(StageTest, OnlyWhatCanBeSeenAndIsEnabledCanBeUsed) {
@@ -205,6 +259,37 @@ TEST_F(TimerTest, ATickWithinItselfIsPassedOver) {
   first.Clock.InTick = true;
   EXPECT_EQ(queue.FirstDue(50), nullptr);
   first.Clock.InTick = false;
+  EXPECT_EQ(queue.FirstDue(50), &first.Clock);
+}
+
+TEST_F(TimerTest, ATickThatAskedIsNotOverBeforeTheAnswer) {
+  stage.Load(first);
+  stage.Load(second);
+  first.Clock.SetEnabled(true);
+  second.Clock.SetEnabled(true);
+  Serve(0);
+  first.Clock.OnTick = [&] { stage.Ask({"text"}, [&](BoxAnswer) { stage.Ask({"and more"}); }); };
+  stage.Tick(first.Clock);
+  EXPECT_EQ(queue.FirstDue(50), &second.Clock) << "other timers go on";
+  queue.Begin(second.Clock, 50);
+  EXPECT_EQ(queue.FirstDue(50), nullptr);
+  stage.Answer(BoxAnswer::Ok);
+  EXPECT_EQ(queue.FirstDue(50), nullptr) << "what follows has asked again";
+  stage.Answer(BoxAnswer::Ok);
+  EXPECT_EQ(queue.FirstDue(50), &first.Clock);
+}
+
+TEST_F(TimerTest, NothingTicksWhileTimeStands) {
+  stage.Load(first);
+  first.Clock.SetEnabled(true);
+  Serve(0);
+  stage.Hold(1);
+  EXPECT_EQ(queue.FirstDue(50), nullptr);
+  EXPECT_FALSE(queue.NextDue(50));
+  stage.EndHold();
+  stage.Await();
+  EXPECT_FALSE(queue.NextDue(50));
+  stage.Resume({});
   EXPECT_EQ(queue.FirstDue(50), &first.Clock);
 }
 

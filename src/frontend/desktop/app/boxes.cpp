@@ -1,16 +1,20 @@
 #include "src/frontend/desktop/app/boxes.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpacerItem>
+#include <QVariant>
 #include <algorithm>
-#include <utility>
+#include <vector>
 
 namespace orvane {
 namespace {
+
+constexpr const char* kAnswer = "answer";  // what pressing a button says
 
 struct Choice {
   const char* Text;
@@ -60,55 +64,72 @@ class CalmBox : public QMessageBox {
   }
 };
 
-}  // namespace
-
-BoxAnswer MessageBoxes::Run(const Box& box, QWidget* parent) {
-  CalmBox shown(parent);
+// Gives a box its texts and buttons.
+void Furnish(CalmBox& shown, const Box& box) {
   shown.setIcon(QMessageBox::NoIcon);
   shown.setTextFormat(Qt::PlainText);
   shown.setWindowTitle(QString::fromStdString(box.Title));
   shown.setText(QString::fromStdString(box.Text));
-  const auto& choices = Choices(box.Buttons);
-  std::vector<std::pair<QAbstractButton*, BoxAnswer>> buttons;
-  for (const Choice& choice : choices) {
-    QPushButton* button = shown.addButton(QString::fromUtf8(choice.Text), choice.Role);
-    shown.Watch(button);
-    buttons.emplace_back(button, choice.Answer);
+  QPushButton* first = nullptr;
+  QPushButton* last = nullptr;
+  for (const Choice& choice : Choices(box.Buttons)) {
+    last = shown.addButton(QString::fromUtf8(choice.Text), choice.Role);
+    last->setProperty(kAnswer, int(choice.Answer));
+    shown.Watch(last);
+    if (first == nullptr) first = last;
   }
-  shown.setDefaultButton(static_cast<QPushButton*>(buttons.front().first));
-  shown.setEscapeButton(buttons.back().first);
+  shown.setDefaultButton(first);
+  shown.setEscapeButton(last);
   WidenForTitle(shown);
-  standing_.push_back(&shown);
-  shown.exec();
-  std::erase(standing_, &shown);
-  for (const auto& [button, answer] : buttons) {
-    if (button == shown.clickedButton()) return answer;
+}
+
+}  // namespace
+
+MessageBoxes::~MessageBoxes() {
+  for (const auto& [number, box] : shown_) delete box.data();
+}
+
+bool MessageBoxes::Follow(const Stage& stage, QWidget* parent) {
+  const auto stands = [&stage](int number) {
+    return std::any_of(stage.Boxes().begin(), stage.Boxes().end(),
+                       [number](const StandingBox& box) { return box.Number == number; });
+  };
+  const size_t gone = std::erase_if(shown_, [&stands](const auto& each) {
+    if (stands(each.first)) return false;
+    if (each.second == nullptr) return true;
+    each.second->hide();
+    each.second->deleteLater();  // it may be what has just reported its answer
+    return true;
+  });
+  for (const StandingBox& box : stage.Boxes()) {
+    QPointer<QMessageBox>& shown = shown_[box.Number];
+    if (shown == nullptr) shown = Open(box, parent);
+    // One that was answered while no input was taken stands still.
+    if (!shown->isVisible()) shown->show();
   }
-  return choices.back().Answer;
+  return gone > 0;
 }
 
-BoxAnswer MessageBoxes::Show(const Box& box) {
-  if (host_ == nullptr) return Choices(box.Buttons).back().Answer;
-  const BoxAnswer answer = Run(box, host_->BeginBox());
-  host_->EndBox();
-  return answer;
+QMessageBox* MessageBoxes::Open(const StandingBox& box, QWidget* parent) {
+  auto* shown = new CalmBox(parent);
+  Furnish(*shown, box.Shown);
+  QObject::connect(
+      shown, &QMessageBox::finished, shown, [this, shown, buttons = box.Shown.Buttons] {
+        const QAbstractButton* pressed = shown->clickedButton();
+        const QVariant answer = pressed != nullptr ? pressed->property(kAnswer) : QVariant();
+        answer_(answer.isValid() ? BoxAnswer(answer.toInt()) : AnswerOfClosing(buttons));
+      });
+  shown->setModal(true);
+  return shown;
 }
 
-void MessageBoxes::ShowError(const Box& box) {
-  if (host_ == nullptr) {
-    kept_errors_.push_back(box);
-    return;
-  }
-  Show({box.Text, box.Title, BoxButtons::Ok});
-}
-
-void MessageBoxes::ShowKeptError() {
-  for (const Box& box : std::exchange(kept_errors_, {})) Run(box, nullptr);
-}
-
-void MessageBoxes::CloseAll() {
-  // Closing one takes it off the list only when its loop returns.
-  for (QMessageBox* box : standing_) box->done(QDialog::Rejected);
+void ShowProblem(const std::string& sentence) {
+  CalmBox box;
+  Furnish(box, {sentence, "Orvane", BoxButtons::Ok});
+  QObject::connect(&box, &QMessageBox::finished, QCoreApplication::instance(),
+                   &QCoreApplication::quit);
+  box.show();
+  QCoreApplication::exec();
 }
 
 }  // namespace orvane

@@ -1,43 +1,37 @@
-// Message boxes.
+// Message boxes: those that stand on the game's stage, each in a window of its own.
 #pragma once
 
-#include <vector>
+#include <QMessageBox>
+#include <QPointer>
+#include <functional>
+#include <map>
+#include <string>
 
-#include "src/platform/services.h"
-
-class QMessageBox;
-class QWidget;
+#include "src/ui/stage.h"
 
 namespace orvane {
 
-// What stands around a box while it waits for its answer.
-class BoxHost {
+class MessageBoxes {
  public:
-  virtual ~BoxHost() = default;
-  // Shows all that the game has done so far and returns the window that the box belongs to.
-  virtual QWidget* BeginBox() = 0;
-  virtual void EndBox() = 0;
-};
+  // `answer` takes the player's answer to the box in front.
+  explicit MessageBoxes(std::function<void(BoxAnswer)> answer) : answer_(std::move(answer)) {}
+  ~MessageBoxes();
+  MessageBoxes(const MessageBoxes&) = delete;
+  MessageBoxes& operator=(const MessageBoxes&) = delete;
 
-class MessageBoxes : public BoxKeeper {
- public:
-  // Until there is a host, an error box is kept for later and other boxes count as cancelled.
-  void Attach(BoxHost* host) { host_ = host; }
-
-  BoxAnswer Show(const Box& box) override;
-  void ShowError(const Box& box) override;
-
-  // Shows the error box that was kept, if there is one.
-  void ShowKeptError();
-  // Closes the boxes that stand, as cancelled.
-  void CloseAll();
+  // Shows the boxes that have come to stand, in front of `parent`, which may be null, and takes
+  // down those that stand no more. Returns whether one has been taken down.
+  bool Follow(const Stage& stage, QWidget* parent);
 
  private:
-  BoxAnswer Run(const Box& box, QWidget* parent);
+  QMessageBox* Open(const StandingBox& box, QWidget* parent);
 
-  BoxHost* host_ = nullptr;
-  std::vector<Box> kept_errors_;
-  std::vector<QMessageBox*> standing_;
+  std::function<void(BoxAnswer)> answer_;
+  std::map<int, QPointer<QMessageBox>> shown_;  // by the number on the stage
 };
+
+// Shows a sentence in a box of its own, without a game, until it is answered or the application is
+// told to quit.
+void ShowProblem(const std::string& sentence);
 
 }  // namespace orvane

@@ -1,9 +1,9 @@
 #include "src/frontend/desktop/app/desktop.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QKeyEvent>
 #include <QMetaObject>
+#include <QTimer>
 #include <cstdlib>
 #include <exception>
 #include <memory>
@@ -13,18 +13,31 @@
 
 namespace orvane {
 
-Desktop::Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper, const Zoom& zoom)
+namespace {
+
+// Sets a flag while it lives.
+class Raised {
+ public:
+  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Raised() { flag_ = false; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
+
+Desktop::Desktop(Program& program, const Zoom& zoom)
     : program_(program),
-      boxes_(boxes),
-      sleeper_(sleeper),
       first_(program.TheStage().Active()),
       zoom_(zoom),
       windows_(program.TheStage(), *this, zoom),
+      boxes_([this](BoxAnswer answer) { Send([answer](Program& game) { game.Answer(answer); }); }),
       ticks_(program.TheStage(), *this),
       keys_(*this, [this] { return KeysReachGame(); }),
       pad_(*this, [this] { return KeysReachGame(); }) {
-  boxes_.Attach(this);
-  sleeper_.Attach([this](int milliseconds) { Sleep(milliseconds); });
   QCoreApplication::instance()->installEventFilter(this);
   OnEndSignals([this] { End(); });
   OnCallSignal([this] { ComeToFront(); });
@@ -32,8 +45,6 @@ Desktop::Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper,
 
 Desktop::~Desktop() {
   QCoreApplication::instance()->removeEventFilter(this);
-  sleeper_.Attach({});
-  boxes_.Attach(nullptr);
 }
 
 int Desktop::Run() {
@@ -48,7 +59,7 @@ int Desktop::Run() {
 
 void Desktop::Send(const std::function<void(Program&)>& event) {
   // What widgets report while they are being brought up to date is no event of the player's.
-  if (following_ || asleep_) return;
+  if (following_ || held_) return;
   if (!program_.HasEnded()) Try(event);
   Follow();
 }
@@ -63,47 +74,47 @@ void Desktop::Try(const std::function<void(Program&)>& event) {
   try {
     event(program_);
   } catch (const std::exception& failure) {
-    program_.TheStage().MarkEnded(EXIT_FAILURE);
-    boxes_.ShowError({failure.what(), "Orvane", BoxButtons::Ok});
+    program_.TheStage().EndWithBox({failure.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
   }
 }
 
 void Desktop::Follow() {
+  if (IsHeld()) return;
   if (!program_.HasEnded()) {
     FollowWindows();
+    FollowBoxes();
     ticks_.Arm();
     keys_.Follow();
     if (program_.TheStage().Active() != nullptr || program_.TheStage().BoxStands()) return;
   }
-  if (last_box_stands_) return;
   // The game has ended, or has left no window by which anyone could end it.
   End();
 }
 
-void Desktop::End() {
-  program_.TheStage().MarkEnded(0);
+void Desktop::FollowBoxes() {
+  const Raised following(following_);
+  const Stage& stage = program_.TheStage();
+  if (boxes_.Follow(stage, windows_.Active()) && !stage.BoxStands()) windows_.RaiseActive();
+}
+
+bool Desktop::IsHeld() {
+  const int milliseconds = program_.TheStage().HeldFor();
+  if (held_ || milliseconds <= 0) return held_;
+  held_ = true;
   ticks_.Stop();
-  boxes_.CloseAll();
-  QCoreApplication::exit(program_.ExitStatus());
-}
-
-QWidget* Desktop::BeginBox() {
-  if (program_.HasEnded()) {
-    // The box that says why must be read before the end, which would close it.
-    last_box_stands_ = true;
-    ticks_.Stop();
-    following_ = true;
-    windows_.Follow();
-    following_ = false;
-  } else {
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, this, [this] {
+    held_ = false;
+    program_.EndHold();
     Follow();
-  }
-  return windows_.Active();
+  });
+  return true;
 }
 
-void Desktop::EndBox() {
-  last_box_stands_ = false;
-  if (!program_.HasEnded()) windows_.RaiseActive();
+void Desktop::End() {
+  program_.End(0);
+  ticks_.Stop();
+  boxes_.Follow(program_.TheStage(), nullptr);
+  QCoreApplication::exit(program_.ExitStatus());
 }
 
 void Desktop::ComeToFront() {
@@ -113,19 +124,6 @@ void Desktop::ComeToFront() {
   front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
   front->raise();
   front->activateWindow();
-}
-
-void Desktop::Sleep(int milliseconds) {
-  following_ = true;
-  windows_.Follow();
-  following_ = false;
-  asleep_ = true;
-  ticks_.Stop();
-  windows_.PaintNow();
-  QEventLoop loop;
-  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
-  asleep_ = false;
 }
 
 bool Desktop::KeysReachGame() const {
@@ -156,7 +154,7 @@ bool Desktop::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Desktop::TakeActivation(ScreenWindow& window) {
-  if (asleep_ || following_ || program_.HasEnded()) return;
+  if (held_ || following_ || program_.HasEnded()) return;
   const Stage& stage = program_.TheStage();
   if (!windows_.IsPlayersChoice(window) || stage.Active() == &window.Model()) return;
   if (stage.BoxStands()) return;
@@ -214,23 +212,23 @@ void Desktop::RescaleLater() {
 void Desktop::Rescale() {
   rescaling_later_ = false;
   if (program_.HasEnded() || !CanRescale() || windows_.Suit(zoom_)) return;
-  following_ = true;
-  windows_.Rescale(zoom_);
-  following_ = false;
+  {
+    const Raised following(following_);
+    windows_.Rescale(zoom_);
+  }
   keys_.Follow();
 }
 
 // A box belongs to a window that must stay.
 bool Desktop::CanRescale() const {
-  return !asleep_ && !program_.TheStage().BoxStands();
+  return !held_ && !program_.TheStage().BoxStands();
 }
 
 void Desktop::FollowWindows() {
   // New windows show at once in the size that suits them.
   if (CanRescale() && !windows_.Suit(zoom_)) return RescaleLater();
-  following_ = true;
+  const Raised following(following_);
   windows_.Follow();
-  following_ = false;
 }
 
 }  // namespace orvane

@@ -5,7 +5,6 @@
 #include <functional>
 
 #include "src/frontend/desktop/app/boxes.h"
-#include "src/frontend/desktop/app/sleeper.h"
 #include "src/frontend/desktop/app/tick_server.h"
 #include "src/frontend/desktop/input/keys.h"
 #include "src/frontend/desktop/input/pad.h"
@@ -18,11 +17,10 @@ class QKeyEvent;
 
 namespace orvane {
 
-class Desktop : public QObject, public Events, public BoxHost {
+class Desktop : public QObject, public Events {
  public:
-  // Opens the windows of a program that runs, with the scale of `zoom`, which is set. The first
-  // three must outlive it.
-  Desktop(Program& program, MessageBoxes& boxes, DesktopSleeper& sleeper, const Zoom& zoom);
+  // Opens the windows of a program, which must outlive it, with the scale of `zoom`, which is set.
+  Desktop(Program& program, const Zoom& zoom);
   ~Desktop() override;
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
@@ -35,8 +33,6 @@ class Desktop : public QObject, public Events, public BoxHost {
 
   void Send(const std::function<void(Program&)>& event) override;
   void Painted(const Screen& screen) override;
-  QWidget* BeginBox() override;
-  void EndBox() override;
 
  protected:
   // Watches the windows for what the window manager does to them, and the keys that change their
@@ -46,7 +42,9 @@ class Desktop : public QObject, public Events, public BoxHost {
  private:
   void Try(const std::function<void(Program&)>& event);
   void Follow();
-  void Sleep(int milliseconds);
+  void FollowBoxes();
+  // Whether the game is held; sees to the end of a hold that has just been asked for.
+  bool IsHeld();
   void End();
   void ComeToFront();
   bool KeysReachGame() const;
@@ -60,18 +58,16 @@ class Desktop : public QObject, public Events, public BoxHost {
   void FollowWindows();
 
   Program& program_;
-  MessageBoxes& boxes_;
-  DesktopSleeper& sleeper_;
   const Screen* first_;  // the screen that the game opens with, which the keys belong to
   Zoom zoom_;
   Windows windows_;
+  MessageBoxes boxes_;
   TickServer ticks_;
   Keys keys_;
   Pad pad_;
   std::function<void(const Screen&)> painted_;
   bool following_ = false;
-  bool asleep_ = false;
-  bool last_box_stands_ = false;  // the box of an error that has ended the game
+  bool held_ = false;
   bool rescaling_later_ = false;
 };
 

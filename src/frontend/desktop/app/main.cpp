@@ -13,7 +13,6 @@
 #include "src/frontend/desktop/app/home.h"
 #include "src/frontend/desktop/app/instance.h"
 #include "src/frontend/desktop/app/signals.h"
-#include "src/frontend/desktop/app/sleeper.h"
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/look.h"
 #include "src/frontend/desktop/windows/scale.h"
@@ -21,6 +20,7 @@
 #include "src/frontend/shared/chance.h"
 #include "src/frontend/shared/options.h"
 #include "src/game/program.h"
+#include "src/platform/folder_storage.h"
 #include "src/sound/sound_engine.h"
 
 namespace {
@@ -61,20 +61,13 @@ Zoom ChooseZoom(const Options& options, Program& program) {
   return Zoom(screen, start, windows);
 }
 
-// Shows why the game cannot start, until the box is answered or the program is told to end.
-void ShowError(MessageBoxes& boxes) {
-  OnEndSignals([&boxes] { boxes.CloseAll(); });
-  boxes.ShowKeptError();
-}
-
 // The game cannot start: says so in a box as well as to whoever reads the terminal.
 int TellProblem(const std::string& problem, int argument_count, char** arguments) {
   Complain(problem);
   QApplication application(argument_count, arguments);
   SetUpLook(application);
-  MessageBoxes boxes;
-  boxes.ShowError({problem, "Orvane", BoxButtons::Ok});
-  ShowError(boxes);
+  OnEndSignals([] { QCoreApplication::quit(); });
+  ShowProblem(problem);
   return EXIT_FAILURE;
 }
 
@@ -90,20 +83,15 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   if (!problem.empty()) return TellProblem(problem, argument_count, arguments);
   SoundEngine sound;
   DesktopChance chance(options.Seed);
-  MessageBoxes boxes;
-  DesktopSleeper sleeper;
-  Program program(home.Folder, {sound, chance, boxes, sleeper});
+  FolderStorage files(home.Folder);
+  Program program({sound, chance, files});
   QApplication application(argument_count, arguments);
   SetUpLook(application);
   if (const std::string hint = FontHint(); !hint.empty()) Complain(hint);
   SetUpSpeech();
   const Zoom zoom = ChooseZoom(options, program);
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());
-  if (program.HasEnded()) {
-    ShowError(boxes);
-    return program.ExitStatus();
-  }
-  Desktop desktop(program, boxes, sleeper, zoom);
+  Desktop desktop(program, zoom);
   desktop.TellOfPainting(
       [&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
   return desktop.Run();

@@ -98,12 +98,6 @@ void Windows::RaiseActive() {
   window->activateWindow();
 }
 
-void Windows::PaintNow() {
-  for (const auto& window : windows_) {
-    if (window->isVisible()) window->repaint();
-  }
-}
-
 bool Windows::IsPlayersChoice(const ScreenWindow& window) {
   // A window manager takes some time over a request, and may never grant it.
   constexpr qint64 patience = 700;

@@ -24,8 +24,6 @@ class Windows {
   void Rescale(const Zoom& zoom);
   // Brings the active screen's window to the front again, after a box.
   void RaiseActive();
-  // Paints at once what waits for painting.
-  void PaintNow();
 
   // The window of the active screen, or null.
   ScreenWindow* Active() const;

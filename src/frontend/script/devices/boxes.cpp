@@ -3,9 +3,9 @@
 #include <array>
 #include <utility>
 
-#include "src/base/error.h"
 #include "src/frontend/script/names/place.h"
 #include "src/frontend/script/names/value.h"
+#include "src/frontend/script/run/script_error.h"
 
 namespace orvane {
 namespace {
@@ -24,36 +24,14 @@ constexpr std::array<ButtonName, 4> kButtons = {{
 
 constexpr int kRoomForCall = 8;  // slots of Lua's stack that a call of a function takes
 
-bool Offers(BoxButtons buttons, BoxAnswer answer) {
-  switch (buttons) {
-    case BoxButtons::Ok:
-      return answer == BoxAnswer::Ok;
-    case BoxButtons::OkCancel:
-      return answer == BoxAnswer::Ok || answer == BoxAnswer::Cancel;
-    case BoxButtons::YesNo:
-      return answer == BoxAnswer::Yes || answer == BoxAnswer::No;
-  }
-  return false;
-}
-
 std::string Described(const Box& box) {
   return "the box " + Quoted(box.Text) + " (" + ButtonsName(box.Buttons) + ")";
 }
 
 }  // namespace
 
-BoxAnswer ScriptBoxes::Show(const Box& box) {
-  shown_.push_back(box);
-  try {
-    return AnswerTo(box);
-  } catch (const ScriptError& failed) {
-    failure_ = failed;
-  }
-  give_up_();
-  throw ProgramEnded{};
-}
-
 BoxAnswer ScriptBoxes::AnswerTo(const Box& box) {
+  shown_.push_back(box);
   if (answers_.empty()) throw ScriptError("an answer queued for " + Described(box), "none");
   const Answer answer = std::move(answers_.front());
   answers_.pop_front();
@@ -103,10 +81,6 @@ void ScriptBoxes::QueueButton(std::string_view button) {
 void ScriptBoxes::QueueFunction(lua_State* lua, int at) {
   lua_pushvalue(lua, at);
   answers_.push_back({"", luaL_ref(lua, LUA_REGISTRYINDEX)});
-}
-
-std::optional<ScriptError> ScriptBoxes::TakeFailure() {
-  return std::exchange(failure_, std::nullopt);
 }
 
 lua_State* ScriptBoxes::SetLua(lua_State* lua) {

@@ -2,32 +2,28 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <lua.hpp>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "src/frontend/script/run/script_error.h"
-#include "src/platform/services.h"
+#include "src/ui/box.h"
 
 namespace orvane {
 
-class ScriptBoxes : public BoxKeeper {
+class ScriptBoxes {
  public:
-  // `give_up` marks the program as ended; it is called before a box without an answer is left.
-  ScriptBoxes(lua_State* lua, std::function<void()> give_up)
-      : lua_(lua), give_up_(std::move(give_up)) {}
-  ~ScriptBoxes() override { ClearAnswers(); }
+  explicit ScriptBoxes(lua_State* lua) : lua_(lua) {}
+  ~ScriptBoxes() { ClearAnswers(); }
   ScriptBoxes(const ScriptBoxes&) = delete;
   ScriptBoxes& operator=(const ScriptBoxes&) = delete;
 
-  // Gives the next queued answer. Without one, or with one that the box does not offer, the failure
-  // is kept and the program is left by ProgramEnded: it cannot go on.
-  BoxAnswer Show(const Box& box) override;
-  // Keeps the text; needs no answer.
-  void ShowError(const Box& box) override { error_text_ = box.Text; }
+  // Notes a box that has come and gives the next queued answer; a function that answers runs now.
+  // Throws ScriptError without one, or with one that the box does not offer.
+  BoxAnswer AnswerTo(const Box& box);
+  // Keeps the text of an error's box, which needs no answer.
+  void KeepError(const Box& box) { error_text_ = box.Text; }
 
   // Forgets the boxes shown.
   void Restart();
@@ -40,9 +36,6 @@ class ScriptBoxes : public BoxKeeper {
   const std::vector<Box>& Shown() const { return shown_; }
   const std::optional<std::string>& TextOfError() const { return error_text_; }
 
-  // The failure of a box since the last call, once.
-  std::optional<ScriptError> TakeFailure();
-
   // The Lua state or coroutine that runs the program now: functions are called there. Returns the
   // one before.
   lua_State* SetLua(lua_State* lua);
@@ -53,16 +46,13 @@ class ScriptBoxes : public BoxKeeper {
     int Function = LUA_NOREF;
   };
 
-  BoxAnswer AnswerTo(const Box& box);
   // Calls a function that answers and returns the button.
   std::string CallFunction(int function);
 
   lua_State* lua_;
-  std::function<void()> give_up_;
   std::deque<Answer> answers_;
   std::vector<Box> shown_;
   std::optional<std::string> error_text_;
-  std::optional<ScriptError> failure_;
 };
 
 // Whether a text names a button, and the name of a set of buttons: "OK", "OKCancel", "YesNo".

@@ -6,7 +6,6 @@
 
 #include "src/frontend/script/names/value.h"
 #include "src/frontend/script/run/script_error.h"
-#include "src/platform/game_folder.h"
 
 namespace orvane {
 namespace {
@@ -50,6 +49,7 @@ ScratchFolder::ScratchFolder(const files::path& original) {
     throw ScriptError("a game folder", "none at " + Quoted(original.string()));
   }
   path_ = MakeTemporaryFolder();
+  files_ = std::make_unique<ScriptStorage>(path_);
   try {
     CopyFolder(original, path_);
   } catch (const std::exception& failed) {
@@ -73,10 +73,10 @@ files::path ScratchFolder::Inside(const std::string& name) const {
 
 std::optional<std::string> ScratchFolder::Read(const std::string& name) const {
   Inside(name);
-  return GameFolder(path_).Read(name);
+  return files_->Read(name);
 }
 
-void ScratchFolder::Write(const std::string& name, const std::string& bytes) const {
+void ScratchFolder::Write(const std::string& name, const std::string& bytes) {
   const files::path path = Inside(name);
   std::error_code ignored;
   if (files::is_symlink(path, ignored)) files::remove(path, ignored);
@@ -85,6 +85,7 @@ void ScratchFolder::Write(const std::string& name, const std::string& bytes) con
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) throw ScriptError("a file that can be written", Quoted(name));
+  files_->Written(name, bytes);
 }
 
 void ScratchFolder::Delete(const std::string& name) const {
@@ -97,9 +98,9 @@ void ScratchFolder::Delete(const std::string& name) const {
 
 std::vector<std::string> ScratchFolder::List(const std::string& pattern) const {
   const size_t slash = pattern.rfind('/');
-  if (slash == std::string::npos) return GameFolder(path_).List(pattern);
+  if (slash == std::string::npos) return files_->List(pattern);
   const std::string folder = pattern.substr(0, slash + 1);
-  std::vector<std::string> names = GameFolder(Inside(folder)).List(pattern.substr(slash + 1));
+  std::vector<std::string> names = FolderStorage(Inside(folder)).List(pattern.substr(slash + 1));
   for (std::string& name : names) name.insert(0, folder);
   return names;
 }

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "src/frontend/script/devices/script_storage.h"
 
 namespace orvane {
 
@@ -19,6 +22,8 @@ class ScratchFolder {
 
   // Where it is, with no separator at the end.
   const std::filesystem::path& Path() const { return path_; }
+  // Its files, as a program works with them.
+  Storage& Files() { return *files_; }
 
   // The calls below take names with "/" between folders, and throw ScriptError for one that leads
   // out of the folder.
@@ -27,7 +32,7 @@ class ScratchFolder {
   std::optional<std::string> Read(const std::string& name) const;
   // Writes a file in its place, so that whoever holds it open sees the bytes too. The original
   // stays as it is. Throws ScriptError when it cannot be written.
-  void Write(const std::string& name, const std::string& bytes) const;
+  void Write(const std::string& name, const std::string& bytes);
   // Removes a file, if there is one.
   void Delete(const std::string& name) const;
   // The names of the files that match a pattern, sorted; with the folders that the pattern names.
@@ -37,6 +42,7 @@ class ScratchFolder {
   std::filesystem::path Inside(const std::string& name) const;
 
   std::filesystem::path path_;
+  std::unique_ptr<ScriptStorage> files_;
 };
 
 }  // namespace orvane

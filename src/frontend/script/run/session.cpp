@@ -4,11 +4,12 @@
 #include <utility>
 
 #include "src/frontend/script/run/script_error.h"
+#include "src/ui/stage.h"
 
 namespace orvane {
 
 Session::Session(lua_State* lua, std::filesystem::path game_folder, Tally& results)
-    : Results(results), Boxes(lua, [this] { GiveUp(); }), game_folder_(std::move(game_folder)) {}
+    : Results(results), Boxes(lua), game_folder_(std::move(game_folder)) {}
 
 Session::~Session() {
   EndProgram();
@@ -38,7 +39,7 @@ void Session::Start(const StartOptions& options) {
 }
 
 void Session::MakeProgram() {
-  program_ = std::make_unique<Program>(folder_->Path(), Services{Sound, Luck, Boxes, Clock});
+  program_ = std::make_unique<Program>(Services{Sound, Luck, folder_->Files()});
   names_ = std::make_unique<Names>(program_->TheState(), program_->TheStage());
   timers_ = std::make_unique<TimerQueue>(program_->TheStage(), Pacing::AsAsked);
 }
@@ -74,10 +75,6 @@ void Session::EndProgram() {
   Sound.Silence();
 }
 
-void Session::GiveUp() {
-  if (program_ != nullptr) program_->TheStage().MarkEnded(1);
-}
-
 Program& Session::TheProgram() {
   if (program_ == nullptr) throw ScriptError("a program that has been started", "none");
   return *program_;
@@ -98,16 +95,49 @@ bool Session::HasEnded() {
 }
 
 void Session::Run(const Handler& event) {
+  const int stood = program_ == nullptr ? 0 : program_->TheStage().BoxCount();
+  event();
+  Settle(stood);
+  if (HasEnded()) Sound.Silence();
+}
+
+void Session::Settle(int boxes_before) {
+  if (program_ == nullptr) return;
+  const Stage& stage = program_->TheStage();
+  PassHold();
+  while (stage.BoxCount() > boxes_before || (stage.BoxStands() && !stage.IsRunning())) {
+    const Box box = stage.Boxes().back().Shown;
+    if (!stage.IsRunning()) {
+      Boxes.KeepError(box);
+      program_->Answer(BoxAnswer::Ok);
+      return;
+    }
+    AnswerBox(box);
+    PassHold();
+  }
+}
+
+// The box that has come stands while a function of the script finds the answer. A program whose box
+// finds none cannot go on.
+void Session::AnswerBox(const Box& box) {
   ++depth_;
   try {
-    event();
-  } catch (...) {
+    const int number = program_->TheStage().Boxes().back().Number;
+    const BoxAnswer answer = Boxes.AnswerTo(box);
+    const Stage& stage = program_->TheStage();
+    if (stage.BoxStands() && stage.Boxes().back().Number == number) program_->Answer(answer);
+  } catch (const ScriptError&) {
     --depth_;
+    program_->End(1);
+    Sound.Silence();
     throw;
   }
   --depth_;
-  if (HasEnded()) Sound.Silence();
-  if (const std::optional<ScriptError> failure = Boxes.TakeFailure()) throw ScriptError(*failure);
+}
+
+void Session::PassHold() {
+  Clock.MoveTo(Clock.Now() + program_->TheStage().HeldFor());
+  program_->EndHold();
 }
 
 void Session::Tick(Timer& timer) {

@@ -54,7 +54,8 @@ class Session {
   // True when no program runs: none has been started, or it has ended.
   bool HasEnded();
 
-  // Runs what an event does. A box that found no answer meanwhile is reported by ScriptError.
+  // Runs what an event does, answers the boxes that it brings, and lets the time pass that it
+  // holds. Throws ScriptError for a box without an answer, which ends the program.
   void Run(const Handler& event);
   // Lets the clock run; timers tick when they are due.
   void Wait(double milliseconds);
@@ -90,8 +91,12 @@ class Session {
 
  private:
   void EndProgram();
-  void GiveUp();
   void MakeProgram();
+  // Answers the boxes beyond those that stood before, as long as there are any.
+  void Settle(int boxes_before);
+  void AnswerBox(const Box& box);
+  // Lets the time pass that the last handler has asked to be held.
+  void PassHold();
 
   std::filesystem::path game_folder_;
   std::unique_ptr<ScratchFolder> folder_;

@@ -1,0 +1,48 @@
+#include "src/platform/folder_storage.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "src/platform/durable_file.h"
+#include "src/platform/path_text.h"
+
+namespace orvane {
+
+std::string FolderStorage::FolderName() const {
+  std::string text = TextOf(path_);
+  while (text.size() > 1 && text.back() == '/') text.pop_back();
+  return text;
+}
+
+std::optional<std::string> FolderStorage::Read(const std::string& name) const {
+  if (!Exists(name)) return std::nullopt;
+  std::ifstream file(path_ / PathOf(name), std::ios::binary);
+  if (!file) return std::nullopt;
+  std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  if (file.bad()) return std::nullopt;
+  return bytes;
+}
+
+bool FolderStorage::Exists(const std::string& name) const {
+  std::error_code failed;
+  return std::filesystem::is_regular_file(path_ / PathOf(name), failed);
+}
+
+std::vector<std::string> FolderStorage::List(const std::string& pattern) const {
+  std::vector<std::string> names;
+  std::error_code failed;
+  for (const auto& entry : std::filesystem::directory_iterator(path_, failed)) {
+    const std::string name = TextOf(entry.path().filename());
+    if (entry.is_regular_file(failed) && MatchesPattern(name, pattern)) names.push_back(name);
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+void FolderStorage::Replace(const std::string& name, const std::string& bytes, Outcome outcome) {
+  outcome(ReplaceFileDurably(path_ / PathOf(name), bytes));
+}
+
+}  // namespace orvane

@@ -20,7 +20,7 @@ struct Chord {
   int Seventh() const;
 };
 
-// Reads a symbol as "D", "F#m7", "Bbmaj7", "G/B"; the qualities are those of the table in
+// Reads a symbol such as "D", "F#m7", "Bbmaj7", "G/B"; the qualities are those of the table in
 // chord.cpp. Throws std::invalid_argument for anything else.
 Chord ReadChord(std::string_view symbol);
 

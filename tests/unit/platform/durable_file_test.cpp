@@ -56,8 +56,8 @@ TEST_F(DurableFileTest, RefusesAFolderThatIsNotThere) {
   EXPECT_FALSE(ReplaceFileDurably(File() + "/no/such", new_record));
 }
 
-// Stops a child that saves at its k-th way into or out of the system, and kills it there. Returns
-// false when the child came to its end before.
+// Kills a child that saves as it enters or leaves a system call, counted by `step` from its start.
+// Returns false when the child ends before.
 bool KillAtStep(int step, const std::string& file, const std::string& record) {
   const pid_t child = fork();
   if (child == 0) {

@@ -25,7 +25,8 @@ paths() {
     sed -E 's/:/ /; s/[.,]+$//; s/,$//'
 }
 
-# File names in backquotes: the last parts of a path of ours. Words in angle brackets or capitals stand for any.
+# File names in backquotes: the last parts of a path of ours. Words in capitals stand for any.
+# shellcheck disable=SC2016  # the backquotes are those of the documents
 names() { grep -noE '`[A-Za-z0-9_./-]+\.(cpp|h|sh|lua|md|csv|tsx|cmake)`' "$1" | tr -d '`' | sed 's/:/ /'; }
 
 # is_there PATH: as a path or a pattern; braces stand for each of their words.

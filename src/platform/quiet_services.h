@@ -1,4 +1,4 @@
-// Services for a program that nobody plays, in tools and tests: no sound, no waiting, the same
+// Services for a program without a player, in tools and tests: no sound, no waiting, the same
 // chance always, and boxes that are cancelled at once.
 #pragma once
 

@@ -43,7 +43,7 @@ class BoxKeeper {
   virtual void ShowError(const Box& box) = 0;
 };
 
-// Time, for whoever must stop it.
+// Time, and how the game stops it.
 class Sleeper {
  public:
   virtual ~Sleeper() = default;

@@ -76,7 +76,7 @@ void Desktop::Follow() {
     if (program_.TheStage().Active() != nullptr || program_.TheStage().BoxStands()) return;
   }
   if (last_box_stands_) return;
-  // The game has ended, or has left no window by which anyone could end it.
+  // The game has ended, or has left no window by which the player could end it.
   End();
 }
 
@@ -144,7 +144,7 @@ bool Desktop::eventFilter(QObject* watched, QEvent* event) {
       if (const auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeState(*window);
       return false;
     case QEvent::Quit:
-      // The session ends; nobody is asked.
+      // The session ends; the player is not asked.
       End();
       return true;
     case QEvent::KeyPress:

@@ -67,7 +67,7 @@ void ShowError(MessageBoxes& boxes) {
   boxes.ShowKeptError();
 }
 
-// The game cannot start: says so in a box as well as to whoever reads the terminal.
+// The game cannot start: says so in a box and on the terminal.
 int TellProblem(const std::string& problem, int argument_count, char** arguments) {
   Complain(problem);
   QApplication application(argument_count, arguments);

@@ -9,7 +9,7 @@ namespace orvane {
 
 class DesktopSleeper : public Sleeper {
  public:
-  // Who carries the sleep out, keeping windows painted; before that the thread just waits.
+  // What carries the sleep out, keeping windows painted; while it is empty the thread just waits.
   void Attach(std::function<void(int)> sleep) { sleep_ = std::move(sleep); }
 
   void Sleep(int milliseconds) override;

@@ -14,37 +14,37 @@ class BattleScreen : public Screen {
   Game& game;
   State& state;
 
-  PictureBox Scene;             // the scene
-  PictureBox EnemyActionPanel;  // the enemy's action name
+  PictureBox Scene;
+  PictureBox EnemyActionPanel;
   Label EnemyActionName;
-  PictureBox HeroActionPanel;  // the hero's action name
+  PictureBox HeroActionPanel;
   Label HeroActionName;
-  ControlArray<Label> EnemyNumbers{"Label15"};  // numbers on enemies, by slot
-  ControlArray<Label> HeroNumbers{"Label16"};   // numbers on heroes
-  PictureBox VictoryPanel;                      // the victory panel
+  ControlArray<Label> EnemyNumbers{"Label15"};  // by slot
+  ControlArray<Label> HeroNumbers{"Label16"};
+  PictureBox VictoryPanel;
   Label ExperienceGained;
-  ControlArray<Label> LevelMessages{"Label22"};    // level messages
-  ControlArray<Label> MasteryMessages{"Label25"};  // mastery messages
+  ControlArray<Label> LevelMessages{"Label22"};
+  ControlArray<Label> MasteryMessages{"Label25"};
   Frame CommandFrame;
   CommandButton FightButton, SpellButton, TechniqueButton, ItemButton, FleeButton;
-  TabStrip HeroTabs;                       // a pane for each hero; the open one acts
-  ControlArray<Label> HPValues{"Label3"};  // HP, MP, attack, defence, spirit, level
+  TabStrip HeroTabs;  // a pane for each hero; the open one acts
+  ControlArray<Label> HPValues{"Label3"};
   ControlArray<Label> MPValues{"Label4"};
   ControlArray<Label> AttackValues{"Label8"};
   ControlArray<Label> DefenceValues{"Label9"};
   ControlArray<Label> SpiritValues{"Label10"};
   ControlArray<Label> LevelValues{"Label12"};
-  PictureBox ManFace, WomanFace;                     // the heroes' faces
-  ListBox Skills;                                    // spells or techniques
-  ListBox Targets;                                   // targets
-  ListBox BagItems;                                  // items
-  ListBox Receivers;                                 // who gets the item
-  PictureBox ManSheet, WomanSheet;                   // sheets: the heroes,
-  ControlArray<PictureBox> EnemySheets{"Picture6"};  // the enemies by kind,
-  PictureBox OpenGround, WasteGround, LairGround;    // the grounds,
-  PictureBox EffectSheet;                            // the effects
-  Timer ActionTimer;                                 // the action
-  Timer MusicTimer;                                  // the music
+  PictureBox ManFace, WomanFace;
+  ListBox Skills;  // spells or techniques
+  ListBox Targets;
+  ListBox BagItems;
+  ListBox Receivers;  // who gets the item
+  PictureBox ManSheet, WomanSheet;
+  ControlArray<PictureBox> EnemySheets{"Picture6"};  // by kind
+  PictureBox OpenGround, WasteGround, LairGround;
+  PictureBox EffectSheet;
+  Timer ActionTimer;  // a tick plays a frame of the action
+  Timer MusicTimer;
 
  protected:
   void OnLoad() override;

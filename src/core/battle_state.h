@@ -1,5 +1,5 @@
-// The state of a battle and its constant tables. A value that nobody sets keeps what the last
-// battle left.
+// The state of a battle and its constant tables. A value that is not set keeps what the last battle
+// left.
 #pragma once
 
 #include <string>

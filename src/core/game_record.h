@@ -45,7 +45,7 @@ struct GameRecord {
   Array<ItemNameField, 3> WeaponName;  // "なし" when nothing is worn
   Array<ItemNameField, 3> ArmourName;
   Array<ItemNameField, 3> BookName;
-  Int16 ItemCount;         // kept by hand by whoever changes the bag
+  Int16 ItemCount;         // kept by every routine that changes the bag
   Array<Int16, 21> Items;  // item numbers, 99 for an empty slot; slot 20 is spare
   Array<Int32, 3> Exp;
   Int16 StoryNo;                     // how far the story has run

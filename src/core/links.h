@@ -7,9 +7,10 @@
 namespace orvane {
 
 struct Links {
-  std::function<void(int)>
-      SetBattleInterval;             // ms of the battle's action timer; creates the screen
-  std::function<void()> ShowBattle;  // shows Battle, hides Main, starts the battle's music timer
+  // Sets the period of the battle's action timer in ms; creates the screen.
+  std::function<void(int)> SetBattleInterval;
+  // Shows Battle, hides Main, starts the battle's music timer.
+  std::function<void()> ShowBattle;
   std::function<void()> ShowEnding;
   std::function<void()> SetStoryText;
   std::function<void()> FillSkillTables;

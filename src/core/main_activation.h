@@ -15,7 +15,7 @@ void ShowStatus(Game& game);
 // Takes the party off its way, as opening a menu does; what is held down waits for the next press.
 void StopWalking(Game& game);
 
-// No direction drives the hero any more.
+// Clears the direction that drives the hero.
 void ClearDirections(Game& game);
 
 }  // namespace orvane

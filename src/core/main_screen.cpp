@@ -19,7 +19,7 @@ const Font kTitleFont{Mincho, 36, true};
 const Font kPanelFont{Gothic, 9.75, true};
 const Font kItemFont{Gothic, 14.25, true};
 
-// The field's surface, with the title picture in its left top corner.
+// The field's surface, with the title picture in its top left corner.
 Surface TitleSurface() {
   Surface surface(481, 304);
   const Surface title = Sheet("title");

@@ -14,27 +14,27 @@ class MainScreen : public Screen {
   MainScreen(Stage& stage, Game& game);
 
   PictureBox FieldPicture;  // the title picture, then the field
-  Label TitleShadow;        // the title's shadow
+  Label TitleShadow;
   Label TitleLabel;
   Label TitleReading;
   Label Copyright;
   CommandButton BeginButton;
-  PictureBox MessageWindow;  // the message window
+  PictureBox MessageWindow;
   ControlArray<Label> MessageLines{"Label6"};
   Label StoryLine;
-  PictureBox SpeakerFace;  // the speaker's face
+  PictureBox SpeakerFace;
   Label GoOnMark;
-  PictureBox StatusPanel;  // the status panel
+  PictureBox StatusPanel;
   PictureBox ManFace;
   PictureBox WomanFace;
   ControlArray<Label> StatusValues{"Label5"};
-  PictureBox ManSheet;  // sheets: the man, the woman, the tiles
+  PictureBox ManSheet;
   PictureBox WomanSheet;
   PictureBox TileSheet;
   MenuItem FileMenu, LoadItem, SaveItem, FileSeparator, QuitItem;
   MenuItem ItemMenu, EquipmentItem, BagItem;
   MenuItem InfoMenu, HeroesItem, SettingsItem, InfoSeparator, VersionItem;
-  Timer WalkTimer;     // the field frame
+  Timer WalkTimer;     // the field's frame
   Timer MessageTimer;  // a pickup's message
   Timer StoryTimer;    // a story scene
 

@@ -1,5 +1,4 @@
-// The fields of the state by name: one table serves the save files and whoever looks at a field by
-// name.
+// The fields of the state by name: one table serves the save files and every lookup by name.
 //
 // A visitor is called as visit(name, field), where a field is an Int16, an Int32, a FixedText, a
 // std::string, or an Array of one of these.
@@ -126,7 +125,7 @@ void VisitRunning(State& state, Visitor&& visit) {
   visit("WazaBossY", state.WazaBossY);
 }
 
-// The constant tables, which nobody may write but the routines that fill them.
+// The constant tables, which only the routines that fill them may write.
 template <class Visitor>
 void VisitTables(const State& state, Visitor&& visit) {
   visit("WazaName", state.WazaName);

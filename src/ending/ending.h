@@ -11,8 +11,8 @@ class EndingScreen : public Screen {
  public:
   explicit EndingScreen(Game& game);
 
-  PictureBox StillPicture;  // the still picture
-  PictureBox CreditsSheet;  // the strips of the credits
+  PictureBox StillPicture;
+  PictureBox CreditsSheet;
   Label Presenter;
   ControlArray<Label> CardLines{"Label2"};
   Timer ScrollTimer;

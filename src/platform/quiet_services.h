@@ -1,4 +1,4 @@
-// Services for a program that nobody plays, in tools and tests: no sound, the same chance always,
+// Services for a program without a player, in tools and tests: no sound, the same chance always,
 // and no files but those that are put there.
 #pragma once
 

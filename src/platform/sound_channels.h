@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-// The commands, for a game folder of which the path has no separator at its end.
+// The commands, for a game folder whose path has no separator at its end.
 std::string OpenCommand(const std::string& folder, const std::string& file,
                         const std::string& alias);
 std::string StatusCommand(const std::string& alias);

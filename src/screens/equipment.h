@@ -17,13 +17,13 @@ class EquipmentScreen : public Screen {
   Label BagCaption;
   ListBox Bag;  // row n is slot n of the bag
   TabStrip HeroTabs;
-  CommandButton ManEquip, ManRemoveAll, ManClose;        // the man's: equip, remove all, close
-  CommandButton WomanEquip, WomanRemoveAll, WomanClose;  // the woman's
-  ControlArray<Label> ManWorn{"Label2"};                 // the man's weapon, armour, book
-  ControlArray<Label> WomanWorn{"Label7"};               // the woman's
-  ControlArray<Label> ManNumbers{"Label4"};              // the man's attack, defence, spirit
-  ControlArray<Label> WomanNumbers{"Label9"};            // the woman's
-  ControlArray<Label> ManWornCaptions{"Label1"};         // captions
+  CommandButton ManEquip, ManRemoveAll, ManClose;
+  CommandButton WomanEquip, WomanRemoveAll, WomanClose;
+  ControlArray<Label> ManWorn{"Label2"};  // weapon, armour, book
+  ControlArray<Label> WomanWorn{"Label7"};
+  ControlArray<Label> ManNumbers{"Label4"};  // attack, defence, spirit
+  ControlArray<Label> WomanNumbers{"Label9"};
+  ControlArray<Label> ManWornCaptions{"Label1"};
   ControlArray<Label> WomanWornCaptions{"Label6"};
   ControlArray<Label> ManNumberCaptions{"Label3"};
   ControlArray<Label> WomanNumberCaptions{"Label8"};

@@ -15,20 +15,19 @@ class HeroesScreen : public Screen {
   explicit HeroesScreen(Game& game);
 
   TabStrip HeroTabs;
-  PictureBox ManFace, WomanFace;  // the faces, scaled up when the screen loads
-  Frame ManStatus, ManEquipment, ManNextLevel,
-      ManTechniques;  // the man's status, equipment, next level, techniques
-  Frame WomanStatus, WomanEquipment, WomanNextLevel, WomanSpells;  // the woman's, with spells
-  CommandButton ManClose, WomanClose;                              // close
-  ControlArray<Label> ManStatusValues{"Label10"};                  // status values
+  PictureBox ManFace, WomanFace;  // scaled up when the screen loads
+  Frame ManStatus, ManEquipment, ManNextLevel, ManTechniques;
+  Frame WomanStatus, WomanEquipment, WomanNextLevel, WomanSpells;
+  CommandButton ManClose, WomanClose;
+  ControlArray<Label> ManStatusValues{"Label10"};
   ControlArray<Label> WomanStatusValues{"Label11"};
-  ControlArray<Label> ManWorn{"Label14"};  // equipment
+  ControlArray<Label> ManWorn{"Label14"};
   ControlArray<Label> WomanWorn{"Label15"};
-  ControlArray<Label> ExperienceToNext{"Label16"};  // experience to the next level
-  ControlArray<Label> ManSkillNames{"Label21"};     // the man's skills: name, count, master value
+  ControlArray<Label> ExperienceToNext{"Label16"};
+  ControlArray<Label> ManSkillNames{"Label21"};
   ControlArray<Label> ManSkillCounts{"Label23"};
   ControlArray<Label> ManSkillMasters{"Label22"};
-  ControlArray<Label> WomanSkillNames{"Label24"};  // the woman's
+  ControlArray<Label> WomanSkillNames{"Label24"};
   ControlArray<Label> WomanSkillCounts{"Label28"};
   ControlArray<Label> WomanSkillMasters{"Label27"};
 

@@ -23,7 +23,7 @@ class ClipPlayer {
   void Close();
   // Whether the effect that was started last has not come to its end.
   bool Playing() const { return voices_[newest_].Sounding && !closed_; }
-  // Whether nothing is to be heard any more.
+  // Whether it has fallen silent.
   bool Silent() const;
   // Adds the next block.
   void Mix(Block& block);

@@ -48,7 +48,7 @@ void JobThread::Run() {
     busy_ = true;
     lock.unlock();
     job();
-    job = nullptr;  // what it holds is let go before anybody hears that it is done
+    job = nullptr;  // what it holds is let go before it counts as done
     lock.lock();
     busy_ = false;
     changed_.notify_all();

@@ -1,4 +1,4 @@
-// Work that nobody should wait for.
+// Work in the background.
 #pragma once
 
 #include <chrono>

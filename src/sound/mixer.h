@@ -20,7 +20,7 @@ namespace orvane {
 
 using Sound = std::variant<std::shared_ptr<const Clip>, std::shared_ptr<const Piece>>;
 
-// Numbered channels for whoever commands them, and a stream for whoever plays it. The two may be
+// Numbered channels for the commanding side, and a stream for the playing side. The two may be
 // different threads, one each; neither waits for the other's work, only for the passing of a
 // message.
 class Mixer {

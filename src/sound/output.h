@@ -1,4 +1,4 @@
-// Who pulls the mixer: the machine's audio device or, where there is none, the clock.
+// What pulls the mixer: the machine's audio device or, where there is none, the clock.
 #pragma once
 
 #include <chrono>
@@ -25,8 +25,8 @@ class Output {
   virtual double Delay() const = 0;
 };
 
-// The default audio device at `rate` frames a second. Null if there is none, or only one that
-// plays to nobody. May take tenths of a second.
+// The default audio device at `rate` frames a second. Null if there is none, or only a dummy that
+// makes no sound. May take tenths of a second.
 std::unique_ptr<Output> OpenDevice(int rate, PullFunction pull);
 
 // Pulls as much as the time that passes, and throws it away.

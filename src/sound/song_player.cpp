@@ -6,7 +6,7 @@
 namespace orvane {
 namespace {
 
-// A little more than the slowest of those who ask takes from one question to the next.
+// A little more than the slowest caller takes from one question to the next.
 constexpr double kLeadSeconds = 0.15;
 // Of a very short piece only this part, so that it does not end before it has well begun.
 constexpr double kLeadPart = 0.125;

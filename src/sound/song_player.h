@@ -15,8 +15,8 @@ struct Piece {
   std::atomic<bool> Ready = false;
 };
 
-// Music is kept going by somebody who asks now and then whether the piece has ended and, if so,
-// starts it over: that comes too late for the next bar. So a piece counts as ended shortly before
+// Music is kept going by a caller that asks now and then whether the piece has ended and, if so,
+// starts it over, which comes too late for the next bar. So a piece counts as ended shortly before
 // its last tick, and a start within that time waits for the tick: the bars join without a gap.
 class SongPlayer {
  public:

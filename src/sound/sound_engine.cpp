@@ -125,7 +125,7 @@ void SoundEngine::Machine::OpenOutput() {
 }
 
 void SoundEngine::Machine::OpenSynth() {
-  // A font that nobody would hear is not worth its memory.
+  // A font that is not heard is not worth its memory.
   if (synth_asked_ || !audible_) return;
   synth_asked_ = true;
   const std::string font = options_.FontFile.empty() ? FindSoundFont() : options_.FontFile;

@@ -12,7 +12,7 @@ struct SoundOptions {
   enum class Sink {
     Device,  // the machine's audio device, or the clock where there is none
     Clock,   // the clock: time passes, nothing is heard
-    Caller   // whoever calls Pull
+    Caller   // the caller of Pull
   };
   Sink Plays = Sink::Device;
   // Where to write all that is played, with a log of the commands and notes beside it, under the
@@ -28,13 +28,12 @@ struct SoundOptions {
 // Carries out the text commands on the channels "bgm1" to "bgm8" and "snd1" to "snd10", any of
 // which takes a standard MIDI file or a WAV file. Every command returns at once.
 //
-//   open    replies "1", or nothing if the channel is open already or the file is missing or
-//   broken. status  replies "stopped" or "playing", or nothing from a channel that is not open.
-//   What was
-//           never played or has run to its end is stopped; music is so a moment early, and a start
-//           within that moment follows on its last bar without a gap.
-//   play    starts from the beginning; no reply.
-//   close   ends the sound; no reply.
+// - open replies "1", or nothing if the channel is open already or the file is missing or broken.
+// - status replies "stopped" or "playing", or nothing from a channel that is not open. What was
+//   never played or has run to its end is stopped. Music counts as stopped a moment before its end,
+//   and a start within that moment follows on its last bar without a gap.
+// - play starts from the beginning; no reply.
+// - close ends the sound; no reply.
 //
 // Without a device or a sound font everything goes on in silence, and every piece lasts its time.
 class SoundEngine : public SoundDevice {

@@ -77,7 +77,7 @@ class Surface {
   uint64_t revision_ = 0;
 };
 
-// Copies `area` of the source, its left top corner at (x, y) of the destination, at scale 1. What
+// Copies `area` of the source, its top left corner at (x, y) of the destination, at scale 1. What
 // lies outside either surface is left out. Source and destination may be the same surface.
 void BitBlt(Surface& destination, int x, int y, int width, int height, const Surface& source,
             int source_x, int source_y, RasterOp operation);

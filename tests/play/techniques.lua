@@ -259,7 +259,7 @@ test("against a big enemy the ninth technique's blows fall around 120, 140", fun
 end)
 
 test("every technique that looks for its target finds a big enemy at 120, 140", function()
-  -- For each: a frame to look at, the cell, and where its left top corner must be.
+  -- For each: a frame to look at, the cell, and where its top left corner must be.
   local looks = {
     { row = 1, frame = 20, cell = { 4, 4 }, at = { 130, 170 } },
     { row = 2, frame = 20, cell = { 4, 5 }, at = { 130, 170 } },

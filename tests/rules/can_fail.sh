@@ -57,6 +57,34 @@ tree
 echo '#include <QWidget>' >>"$trial/src/frontend/desktop/a.cpp"
 passes "a toolkit's header where it belongs" "$here/floors.sh" "$trial"
 
+# The backquotes are those of the documents.
+# shellcheck disable=SC2016
+documents() {
+  rm -rf "$trial/src" "$trial/docs"
+  mkdir -p "$trial/src/core" "$trial/docs" "$trial/tools"
+  printf 'char* F() { return getenv("ORVANE_KNOWN"); }\n' >"$trial/src/core/a.cpp"
+  printf '`ORVANE_KNOWN`\n' >"$trial/CONTRIBUTING.md"
+  printf 'A\n{table}\nB\n' >"$trial/tools/balance_frame.md"
+  printf 'A\n| 1 |\nB\n' >"$trial/docs/balance.md"
+  printf '[a](docs/balance.md) `core/a.cpp` src/{core}/a.* ORVANE_KNOWN\n' >"$trial/README.md"
+}
+refuses_in() {
+  documents
+  printf '%s\n' "$2" >>"$trial/$1"
+  refuses "$2 in $1" "$here/docs.sh" "$trial"
+}
+documents
+passes "documents that name what is there" "$here/docs.sh" "$trial"
+refuses_in README.md '[a](docs/none.md)'
+refuses_in README.md 'src/core/none.cpp'
+refuses_in README.md 'src/{core,none}/a.cpp'
+# shellcheck disable=SC2016
+refuses_in README.md '`none.cpp`'
+refuses_in README.md 'ORVANE_NONE'
+refuses_in src/core/a.cpp 'char* G() { return getenv("ORVANE_NEW"); }'
+refuses_in tools/balance_frame.md 'C'
+rm -rf "$trial/docs" "$trial/tools"
+
 library() {
   printf '%s\n' "$1" >"$trial/a.cpp"
   "$compiler" -std=c++20 -O0 -c "$trial/a.cpp" -o "$trial/a.o" && rm -f "$trial/a.a" &&

@@ -1,4 +1,4 @@
-// Finds a sound that is known in a recording in which others sound with it.
+// Finds a known sound in a recording in which others sound with it.
 #pragma once
 
 #include <span>

@@ -22,7 +22,7 @@ constexpr double kLeastGainInRoll = 0.4;
 constexpr int kFramesToOneLate = 10;
 // About how long a start goes on, ever softer, under those that follow it.
 constexpr double kFade = 0.1;
-// How far from its asking a start is looked for, in seconds; in a roll not as far as its
+// How far from its request a start is looked for, in seconds; in a roll not as far as its
 // neighbours.
 constexpr double kReach = 0.04;
 constexpr double kReachInRoll = 0.012;
@@ -34,7 +34,7 @@ struct Start {
   double Asked = 0;    // in seconds
   double Painted = 0;  // the first painting after it
   double Closes = 0;   // when its channel is closed
-  int Again = 0;       // the how-manieth start after the first of a roll
+  int Again = 0;       // how many starts of its roll came before it
   double Rolls = 0;    // when its roll began
 };
 
@@ -117,7 +117,7 @@ struct Row {
   int Starts = 0;
   double Latest = -1;  // seconds behind the frame
   double Earliest = 1;
-  double Slowest = 0;  // seconds from the asking
+  double Slowest = 0;  // seconds from the request
   double Faintest = 9;
   int PaintedLate = 0;  // frames that came on the display long after their effect
 };

@@ -18,7 +18,7 @@ struct Notes {
   std::vector<Note> All;
 };
 
-// Reads the log of a recording; a file that is none gives nothing.
+// Reads the log of a recording; a file that is not one gives nothing.
 std::optional<Notes> ReadNotes(const std::string& path);
 
 }  // namespace orvane::test

@@ -7,7 +7,7 @@
 
 namespace orvane::test {
 
-// Both sides in full scale of 1.
+// Both sides; full scale is 1.
 struct Recording {
   int Rate = 44100;  // frames a second
   std::vector<float> Left;

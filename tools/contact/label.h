@@ -12,7 +12,7 @@ constexpr int kLabelHeight = 16;
 // How wide DrawLabel writes a text, in pixels.
 int LabelWidth(const std::string& text);
 
-// Writes UTF-8 text with its box's left top corner at (x, y); clipped.
+// Writes UTF-8 text with its box's top left corner at (x, y); clipped.
 void DrawLabel(Surface& surface, int x, int y, const std::string& text);
 
 }  // namespace orvane::contact

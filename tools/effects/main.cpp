@@ -1,4 +1,4 @@
-// orvane-effects: makes a WAV file of a recipe.
+// orvane-effects: makes a WAV file from a recipe.
 #include <exception>
 #include <fstream>
 #include <iostream>

@@ -72,7 +72,7 @@ struct Recipe {
 };
 
 // Reads a recipe; docs/music.md describes the words. Throws std::runtime_error with the number of
-// the line for whatever is not of the notation.
+// the line for anything that is not part of the notation.
 Recipe ReadRecipe(std::string_view text);
 
 }  // namespace orvane::effects

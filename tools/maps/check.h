@@ -1,4 +1,4 @@
-// What every map must keep, proved by walking.
+// What must hold for every map, proved by walking.
 #pragma once
 
 #include <string>

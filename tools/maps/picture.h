@@ -7,7 +7,7 @@
 namespace orvane::maps {
 
 // The map drawn with the tile sheet (480 x 128), enlarged by whole pixels. `marked` darkens the
-// cells that nobody can walk on.
+// cells that cannot be walked on.
 paint::Image Picture(const TileMap& map, const paint::Image& sheet, int scale, bool marked);
 
 }  // namespace orvane::maps

@@ -16,7 +16,7 @@ constexpr int kHighestCode = 240;  // codes 1 to 240 are drawn, 0 leaves its cel
 // A whole screen of tile codes. Column 0 is the left one, row 0 the top one.
 class TileMap {
  public:
-  // The code at a cell. Outside of the map it is 0, which nobody can walk on.
+  // The code at a cell. Outside of the map it is 0, which blocks.
   int At(int column, int row) const { return Inside(column, row) ? codes_[Index(column, row)] : 0; }
 
   // Sets a cell; a cell outside of the map is left alone.

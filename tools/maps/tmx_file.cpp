@@ -7,7 +7,7 @@
 namespace orvane::maps {
 namespace {
 
-// The first element of a name at or behind `from`, as the text between its angle brackets; empty
+// The first element of a name at or after `from`, as the text between its angle brackets; empty
 // when there is none. Enough for Tiled's files, which hold no comments and no CDATA.
 std::string_view Element(std::string_view text, const std::string& name, size_t from = 0) {
   for (size_t at = text.find("<" + name, from); at != std::string_view::npos;

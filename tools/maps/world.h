@@ -33,7 +33,7 @@ constexpr Place kSwappedMap{5, 4};  // the map in whose stead the hidden one is 
 // A place's file without folder and extension: "map<MapB>-<MapA>", "Fresh", "Book1", ...
 std::string FileName(const Place& place);
 
-// A place for people: "4,1" or the room's name.
+// A place as people read it: "4,1" or the room's name.
 std::string PlaceName(const Place& place);
 
 // Every place that the game can ask for, in the order of their names in the grid, then the rooms.

@@ -90,7 +90,7 @@ void PrintStems(const orvane::music::MidiFile& midi, const orvane::music::PieceN
   }
 }
 
-// Checks one file and prints what it is; the number of its faults.
+// Checks one file and prints what it is; returns the number of its faults.
 int CheckFile(const std::string& file, const Options& options, std::vector<Loudness>& all) {
   const std::string name = std::filesystem::path(file).stem().string();
   const std::string bytes = ReadAll(file);

@@ -17,7 +17,8 @@ struct Span {
   double most = 0;
 };
 
-// The span of a piece by its name, as "Round1"; a piece that is not one of the game's: anything.
+// The span of a piece by its name, such as "Round1"; a piece that is not one of the game's:
+// anything.
 Span SpanOf(const std::string& name);
 
 // Every fault of the file, in words; empty for a sound one. Looks at format, length, both ends,

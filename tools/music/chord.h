@@ -8,10 +8,9 @@ namespace orvane::music {
 
 // A chord as its pitch classes, from the root upward, and the bass below it.
 struct Chord {
-  int root = 0;  // 0 (c) to 11 (b)
-  int bass = 0;  // the root, or the note behind the slash
-  std::vector<int>
-      steps;  // semitones above the root, from 0, in the order root, third, fifth, more
+  int root = 0;            // 0 (c) to 11 (b)
+  int bass = 0;            // the root, or the note behind the slash
+  std::vector<int> steps;  // semitones above the root, from 0: root, third, fifth, more
 
   // Semitones above the root of the third (or what is suspended in its place), the fifth, and the
   // fourth tone; without a fourth tone Seventh() is 12.
@@ -20,7 +19,7 @@ struct Chord {
   int Seventh() const;
 };
 
-// Reads a symbol as "D", "F#m7", "Bbmaj7", "G/B"; the qualities are those of the table in
+// Reads a symbol such as "D", "F#m7", "Bbmaj7", "G/B"; the qualities are those of the table in
 // chord.cpp. Throws std::invalid_argument for anything else.
 Chord ReadChord(std::string_view symbol);
 

@@ -24,7 +24,7 @@ const Instrument* FindInstrument(std::string_view name);
 // The instrument that plays a program (on the drum channel: a kit), or nullptr.
 const Instrument* FindProgram(int program, bool drums);
 
-// The key of a drum by its name in a grid, as "kick" or "hat"; -1 for no drum.
+// The key of a drum by its name in a grid, such as "kick" or "hat"; -1 for no drum.
 int FindDrum(std::string_view name);
 
 }  // namespace orvane::music

@@ -1,4 +1,4 @@
-// orvane-music: makes a standard MIDI file of a score.
+// orvane-music: makes a standard MIDI file from a score.
 #include <exception>
 #include <fstream>
 #include <iostream>

@@ -51,7 +51,7 @@ char Log2(int unit) {
   return power;
 }
 
-// What the end loses so that a player who notices it late still repeats in time, on the average.
+// What the end loses so that a player who notices it late still repeats in time, on average.
 int CutAtEnd(const Sheet& sheet) {
   const double beats = sheet.score->poll / 2.0 / 60000.0 * sheet.sections.back().section->tempo_end;
   return static_cast<int>(beats * Quarter);

@@ -10,7 +10,7 @@ namespace orvane::music {
 struct Rendering {
   std::vector<float> left;
   std::vector<float> right;
-  int voices = 0;  // the most voices that the synthesizer had at work
+  int voices = 0;  // the most voices that the synthesizer played at once
 };
 
 // The gain that the pieces are balanced for.

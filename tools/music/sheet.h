@@ -64,7 +64,7 @@ struct Sheet {
 };
 
 // Writes the score out; throws ScoreError for bars of a wrong length and for tokens that are not
-// of the notation.
+// part of the notation.
 Sheet WriteOut(const Score& score);
 
 }  // namespace orvane::music

@@ -68,7 +68,7 @@ class Drawing {
   void Place(double x, double y, double scale_x, double scale_y, double turn = 0);
   void Replace();
 
-  // Fill or stroke the context's current path, which someone else has laid; it is used up.
+  // Fill or stroke the path that the caller has laid in the context, and use it up.
   void FillTraced(const Fill& fill);
   void StrokeTraced(uint32_t colour, double width);
 

@@ -24,7 +24,7 @@ Image MarshPlanks() {
   Image tile(TileSize, TileSize);
   for (const Board& board : boards) {
     for (int x = 0; x < TileSize; ++x) {
-      const int into = (x - board.joint + 2 * TileSize - 1) % TileSize;  // from the board's begin
+      const int into = (x - board.joint + 2 * TileSize - 1) % TileSize;  // from the board's start
       for (int row = 0; row < board.height; ++row) {
         const int y = board.top + row;
         const bool seam = row == board.height - 1;

@@ -5,7 +5,7 @@ namespace orvane {
 
 class BattleScreen;
 
-// No direction drives the hero any more, and the music of the fight is closed.
+// Clears the direction that drives the hero, and closes the music of the fight.
 void LetGoAndSilence(BattleScreen& battle);
 
 // Flight, both panes and both heroes are free for the next battle.

@@ -16,7 +16,7 @@ bool IsBigFight(const State& state);
 // The row of the enemy table that this fight is about.
 int EnemyRow(const State& state);
 
-// The left top corner of a slot, 1 to 4, on the scene.
+// The top left corner of a slot, 1 to 4, on the scene.
 int SlotX(int slot);
 int SlotY(int slot);
 

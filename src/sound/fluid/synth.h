@@ -61,9 +61,8 @@ class Synth {
   std::unique_ptr<FluidHandles> fluid_;
   std::mutex turn_;
   std::array<Bank, kBanks> banks_{};
-  std::vector<Patch>
-      kept_;  // by the place of the channel that keeps them; asked for last at the end
-  std::vector<int> keepers_;  // the channel of each
+  std::vector<Patch> kept_;   // in the order in which they were asked for
+  std::vector<int> keepers_;  // the channel that keeps each
 };
 
 }  // namespace orvane

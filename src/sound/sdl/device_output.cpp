@@ -17,8 +17,8 @@ constexpr std::size_t kFrameBytes = 2 * sizeof(float);
 void SayNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
                 const char* /*format*/, ...) {}
 
-// A machine without a sound card is no reason to write to the player's terminal. SDL brings the
-// library that would along, or not; it need not be there.
+// A machine without a sound card is no reason to write to the player's terminal. The library that
+// would do so is loaded only if SDL uses it, so it is looked up at run time.
 void HushAlsa() {
   using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
   using SetHandler = int (*)(Handler);

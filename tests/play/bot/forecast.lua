@@ -84,7 +84,7 @@ local function play(f)
   return false, 80
 end
 
--- The share of `count` fights that are won, and their rounds on the average.
+-- The share of `count` fights that are won, and their rounds on average.
 function forecast.odds(s, kind, round, count, rested)
   local won, rounds = 0, 0
   for _ = 1, count do

@@ -28,18 +28,18 @@ local armour = {
   { ["chest 1,1"] = 0.6, ["chest 1,3"] = 0.6, ["chest 2,4"] = 0.6, ["chest 5,3"] = 0.6 },
 }
 
--- Who has fought so often without anything new, by the round, looks for the next chest all the same.
+-- After so many fights without anything new, by the round, the party looks for the next chest all the same.
 local patience = { 5, 6, 6 }
 
--- Who was beaten by a dragon, and has fought so often since the last level without the next one, tries it
--- again all the same if the odds are nearly even.
+-- A party that was beaten by a dragon, and has fought so often since the last level without the next one,
+-- tries it again all the same if the odds are nearly even.
 local rematch, even = 7, 0.35
 
 -- Below this share of HP a fruit or a drop is taken before a longer way to a recovery point, by the round, and
 -- before a short one.
 local thirst, parched = { 0.75, 0.7, 0.6, 0.6 }, 0.35
 
--- The odds at which the dragon of a round is tried. Nobody knows yet that a fourth follows the third.
+-- The odds at which the dragon of a round is tried. That a fourth follows the third is not known beforehand.
 local courage = { 0.2, 0.38, 0.48, 0.5 }
 
 local function level() return math.min(get("Level[0]"), get("Level[1]")) end

@@ -1,4 +1,4 @@
--- What a player learns of the game's numbers: what an action does on the average, and what the
+-- What a player learns of the game's numbers: what an action does on average, and what the
 -- enemies can do at worst. `s` is the state of a fight as `fight.look` takes it.
 local rules = {}
 
@@ -40,7 +40,7 @@ function rules.heal(s, n, hero)
   return math.floor((s.max_hp[hero] // (hero == 0 and 8 or 9) + s.spirit[1] * n) * factor(s.magic_mastered[n]))
 end
 
--- One plain enemy attack at its strongest and on the average.
+-- One plain enemy attack at its strongest and on average.
 function rules.blow(s, hero)
   local least = 2 * s.enemy[2] - s.defence[hero] // 2
   return math.max(0, least + 9 * s.round), math.max(0, least + 4.5 * s.round)

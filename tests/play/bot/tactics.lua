@@ -153,7 +153,7 @@ local function ladder(s, hero)
   end
 end
 
--- What an action does on the average when `budget` MP are there for each.
+-- What an action does on average when `budget` MP are there for each.
 local function with_budget(steps, budget)
   for index = 2, #steps do
     local low, high = steps[index - 1], steps[index]
@@ -244,7 +244,7 @@ end
 
 local function use(item, hero) return { act = "item", item = item, hero = hero } end
 
--- The spell with which she heals when his next blow ends the fight anyway and hers does not: whoever lies down
+-- The spell with which she heals when his next blow ends the fight anyway and hers does not: a hero who lies down
 -- gains nothing from a victory, and the way to the next recovery point is long.
 local function heals_last(s)
   if s.acted ~= 1 or s.fainted[0] or not ends(s, 0, strike(s, 0)) then return nil end

@@ -52,8 +52,8 @@ function walk.settle(log)
   end
 end
 
--- Who has just come over a border to the left or right and would turn back stands too near to it
--- to be let over: one step further in, and the border lets them.
+-- A party that has just crossed a border to the left or right and would turn back stands too near to it
+-- to cross it again: it takes one step further in first.
 local function inwards(direction)
   local x = get("HeroX")
   if direction == 3 and x <= 17 then return 4 end

@@ -41,7 +41,7 @@ local function room_file(a, b, code, round)
   return "Book" .. round
 end
 
--- The dragon's strip on map 4,1: whoever steps there fights.
+-- The dragon's strip on map 4,1: stepping there starts the fight.
 local function in_strip(id, column, row) return id == "4,1" and (column == 14 or column == 15) and row <= 7 end
 
 local function add_map(w, id, file)
@@ -182,7 +182,7 @@ function world.field(w, name, cells)
       local before = packed // 8
       local at = before % 480
       local barred = name ~= "dragon" and in_strip(w.ids[before // 480], at // 16, at % 16)
-      -- Who has met enemies at the strip's foot may turn back.
+      -- A party that has met enemies at the strip's foot may turn back.
       if barred and at % 16 == 7 and packed % 8 == down then barred = false end
       if not field.distance[before] and not barred then
         field.distance[before] = field.distance[cell] + 1

@@ -94,7 +94,7 @@ TEST_F(BattleTest, TheFireDrawsNothingInTheFirstRoundAndKeepsItsDamage) {
   EXPECT_EQ(battle_.HeroNumbers[0].Caption, "77");
 }
 
-// The two tables of mastery counts hold the same numbers, but each has its readers.
+// The two tables of mastery counts hold the same numbers; different rules read them.
 TEST_F(BattleTest, AWinTellsOfTheWomansMasteryByTheMansTable) {
   game_.stage.Show(heroes_);
   state_.MagicKnown[0] = True;

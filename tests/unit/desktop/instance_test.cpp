@@ -42,7 +42,7 @@ class InstanceTest : public testing::Test {
     return files == fs::directory_iterator() ? fs::path() : files->path();
   }
 
-  // What a process of its own ends with that does this, or minus the signal that ends it.
+  // The exit status of a process of its own that does this, or minus the signal that ends it.
   static int InAnother(const std::function<int()>& act) {
     const pid_t child = fork();
     if (child == 0) _exit(act());
@@ -93,7 +93,7 @@ TEST_F(InstanceTest, the_second_calls_the_first) {
 
 TEST_F(InstanceTest, nobody_is_called_where_nobody_plays) {
   const Instance first("/a");
-  // A signal that nobody has blocked would end the process.
+  // A signal that is not blocked would end the process.
   EXPECT_EQ(InAnother([] {
               Instance("/b").CallFirst();
               return 7;

@@ -79,7 +79,7 @@ TEST(PadDevice, reads_a_pad_that_comes_and_goes) {
   SDL_JoystickClose(pad);
 }
 
-// SDL keeps all that it has to tell until someone asks, and nobody does.
+// SDL keeps its events until they are asked for, and nothing here asks.
 TEST(PadDevice, leaves_no_events_to_pile_up) {
   PadDevice device;
   const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
@@ -103,7 +103,7 @@ class ScriptedPad : public PadSource {
   const PadState& state_;
 };
 
-// What reaches the game counts as an event each.
+// Everything that reaches the game counts as one event.
 class CountedEvents : public Events {
  public:
   void Send(const std::function<void(Program&)>& /*event*/) override { ++Count; }

@@ -51,7 +51,7 @@ TEST(Figures, HaveNoPinholes) {
 
 // Big figures are stretched to 160 by 240 at (75, 30), and 10 pixels farther left when they recoil;
 // then the scene is painted anew from 72 to 216 and from 33 on. What would reach out of that while
-// it recoils stayed behind.
+// it recoils would stay behind.
 TEST(Figures, BigOnesLeaveNothingBehindWhenTheyRecoil) {
   for (const EnemySheet& enemy : EnemySheets()) {
     const Rect& cell = enemy.Pair.Image;

@@ -38,7 +38,7 @@ struct TilePair {
 Faults NeighbourFaults(const Surface& tiles, const std::vector<TilePair>& pairs);
 
 // How a figure stands out from a ground: over its outermost pixels, against the ground that the
-// neighbours outside of the figure show. Its shadow is left away, as if the ground went on there.
+// neighbours outside of the figure show. Its shadow is left out, as if the ground went on there.
 struct Standout {
   double MeanColour = 0;  // mean distance of colours
   double MeanGrey = 0;    // mean difference of greys

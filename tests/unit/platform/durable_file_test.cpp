@@ -105,8 +105,8 @@ TEST_F(DurableFileTest, WhatBelongsToAnotherStaysAsItIs) {
   EXPECT_EQ(FilesInFolder(), 1);
 }
 
-// Stops a child that saves at its k-th way into or out of the system, and kills it there. Returns
-// false when the child came to its end before.
+// Kills a child that saves as it enters or leaves a system call, counted by `step` from its start.
+// Returns false when the child ends before.
 bool KillAtStep(int step, const std::string& file, const std::string& record) {
   const pid_t child = fork();
   if (child == 0) {

@@ -65,7 +65,7 @@ void Announcer::Follow(QWidget& widget) {
   if (text == told_) return;
   told_ = text;
   for (const auto what : {QAccessible::DescriptionChanged, QAccessible::Alert}) {
-    // That a text has gone is nothing to interrupt anybody for.
+    // A text that has gone is no reason to interrupt the player.
     if (what == QAccessible::Alert && text.isEmpty()) continue;
     QAccessibleEvent event(&widget, what);
     QAccessible::updateAccessibility(&event);

@@ -11,7 +11,7 @@ namespace orvane {
 class Spoken {
  public:
   virtual ~Spoken() = default;
-  // Whether it shows something of its own; a mere ground is nothing to be spoken of.
+  // Whether it shows something of its own; a mere background is not announced.
   virtual bool IsPicture() const { return true; }
   // What is written on it now.
   virtual QString Text() const = 0;
@@ -24,7 +24,7 @@ class Spoken {
 void SetUpSpeech();
 
 // Tells readers what is written on a widget when that has changed. Asks nothing and costs nothing
-// while nobody listens.
+// while no reader listens.
 class Announcer {
  public:
   // `widget` is also Spoken.

@@ -1,5 +1,5 @@
-// What screen readers call the controls that have no caption of their own, and whose the numbers
-// are.
+// What screen readers call the controls that have no caption of their own, and what the numbers
+// belong to.
 #pragma once
 
 #include <QString>
@@ -8,7 +8,8 @@ namespace orvane {
 
 class Control;
 
-// The control's name for screen readers, of a text whose it is; nothing where its caption serves.
+// The control's name for screen readers; for a text, what it belongs to; nothing where its caption
+// serves.
 QString SpokenName(const Control& control);
 
 }  // namespace orvane

@@ -7,8 +7,9 @@
 
 namespace orvane {
 
-// All that is written on a picture at this moment, a line for each text; a number has with it whose
-// it is. Nothing while the picture cannot be seen. Pictures that stand on it speak for themselves.
+// All that is written on a picture at this moment, a line for each text; a number comes with what
+// it belongs to. Nothing while the picture cannot be seen. Pictures that stand on it speak for
+// themselves.
 QString SpokenText(const PictureBox& picture);
 
 // The same for a screen that is drawn on as a whole, with what is drawn there as a picture.

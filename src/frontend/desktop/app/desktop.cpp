@@ -87,7 +87,7 @@ void Desktop::Follow() {
     keys_.Follow();
     if (program_.TheStage().Active() != nullptr || program_.TheStage().BoxStands()) return;
   }
-  // The game has ended, or has left no window by which anyone could end it.
+  // The game has ended, or has left no window by which the player could end it.
   End();
 }
 
@@ -142,7 +142,7 @@ bool Desktop::eventFilter(QObject* watched, QEvent* event) {
       if (const auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeState(*window);
       return false;
     case QEvent::Quit:
-      // The session ends; nobody is asked.
+      // The session ends; the player is not asked.
       End();
       return true;
     case QEvent::KeyPress:

@@ -7,9 +7,10 @@
 namespace orvane {
 
 struct Home {
-  std::filesystem::path Folder;  // empty where the player has no place for one
-  std::filesystem::path
-      Installed;  // what Folder is to be made after; empty where it stands by itself
+  // Empty where the player has no place for one.
+  std::filesystem::path Folder;
+  // What Folder is to be made after; empty where it stands by itself.
+  std::filesystem::path Installed;
 };
 
 // The folder "game" beside the program, as in a build or an unpacked archive. Where the program is

@@ -61,7 +61,7 @@ Zoom ChooseZoom(const Options& options, Program& program) {
   return Zoom(screen, start, windows);
 }
 
-// The game cannot start: says so in a box as well as to whoever reads the terminal.
+// The game cannot start: says so in a box and on the terminal.
 int TellProblem(const std::string& problem, int argument_count, char** arguments) {
   Complain(problem);
   QApplication application(argument_count, arguments);

@@ -9,8 +9,8 @@ namespace orvane {
 // A second start of the game sends it to the first.
 constexpr int CallSignal = SIGUSR1;
 
-// Keeps SIGTERM, SIGINT, SIGHUP and CallSignal until someone takes them. Called before any thread
-// is started, so that none of them is killed by one.
+// Keeps SIGTERM, SIGINT, SIGHUP and CallSignal until they are taken. Called before any thread is
+// started, so that none of them is killed by one.
 void HoldSignals();
 
 // From now on they call `end`, once, from the event loop. Called once, on the thread of the event

@@ -66,7 +66,7 @@ QWidget* Focus::Choose(const QWidget* before) const {
   for (const Stop& stop : stops_) {
     if (AsksForAnswer(*stop.View) && IsUsable(stop.Widget)) return stop.Widget;
   }
-  // The last that had the keys comes first. A reversed view is beyond one of the compilers.
+  // The last that had the keys comes first. One of the compilers cannot reverse a view.
   // NOLINTNEXTLINE(modernize-loop-convert)
   for (auto each = had_keys_.rbegin(); each != had_keys_.rend(); ++each) {
     if (IsUsable(*each)) return *each;

@@ -23,8 +23,8 @@ class Focus {
   // that takes keys.
   void Begin();
 
-  // The controls have changed; before that, `before` had the keyboard. Where it cannot be used any
-  // more, the keyboard goes to its tabs, if its pane has closed; to a list or a field that has
+  // The controls have changed; before that, `before` had the keyboard. Where it can no longer be
+  // used, the keyboard goes to its tabs, if its pane has closed; to a list or a field that has
   // come; or back to the last one that lost it and is there again. While nothing can be used,
   // nothing has the keyboard.
   void Follow(QWidget* before);

@@ -17,8 +17,8 @@ bool MenuBarHasKeys();
 // One bit for each key, by the number that key events carry.
 using KeyCodes = std::bitset<256>;
 
-// The keys that are held down at this moment, whoever has the keyboard. Nothing where the window
-// system does not tell.
+// The keys that are held down at this moment, whichever window has the keyboard. Nothing where the
+// window system does not tell.
 std::optional<KeyCodes> AskKeyboard();
 
 }  // namespace orvane

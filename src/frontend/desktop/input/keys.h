@@ -17,9 +17,9 @@ class Events;
 
 // Watches the keys of the whole application. The arrow keys walk: a press goes to the game only
 // while the game's window has the keyboard; a release that went elsewhere (a box, another window,
-// another program) is handed in when the window has the keyboard again, so that nobody walks on by
-// himself. A key that goes on repeating after its press has brought another window does nothing
-// there, and no key that presses or closes something does so by repeating.
+// another program) is handed in when the window has the keyboard again, so that the party does not
+// walk on by itself. A key that goes on repeating after its press has brought another window does
+// nothing there, and no key that presses or closes something does so by repeating.
 class Keys : public QObject {
  public:
   // `reaches` tells whether keys reach the game's window now.

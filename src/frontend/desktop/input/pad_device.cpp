@@ -40,7 +40,7 @@ PadDevice::~PadDevice() {
 std::optional<PadState> PadDevice::Read() {
   if (!started_) return std::nullopt;
   SDL_GameControllerUpdate();
-  SDL_FlushEvents(SDL_FIRSTEVENT, SDL_LASTEVENT);  // they would pile up; nobody asks for them
+  SDL_FlushEvents(SDL_FIRSTEVENT, SDL_LASTEVENT);  // they would pile up unread
   Find();
   if (controller_ == nullptr) return std::nullopt;
   PadState state{};

@@ -33,10 +33,9 @@ double FittingScale(const Extent& display, const std::vector<Span>& windows);
 
 // The screen that the game opens on.
 struct ScreenFacts {
-  Extent Whole;      // in the screen's own pixels
-  Extent Available;  // the same without panels
-  double Scale =
-      1;  // pixels of the screen to one of the game, as the player's own settings have it
+  Extent Whole;       // in the screen's own pixels
+  Extent Available;   // the same without panels
+  double Scale = 1;   // pixels of the screen to one of the game, by the player's own settings
   double Factor = 1;  // by which the desktop enlarges everything before the toolkit does
 };
 

@@ -14,8 +14,8 @@ class Zoom {
   // insides of all windows are given, the one with the menu bar first.
   Zoom(const ScreenFacts& screen, std::optional<double> start, const std::vector<Extent>& windows);
 
-  // The next half step up or down; nothing where the first window would not fit any more, or would
-  // be smaller than it was drawn.
+  // The next half step up or down; nothing where the first window would then not fit, or be smaller
+  // than it was drawn.
   void Enlarge();
   void Reduce();
   // Back to the best whole scale.

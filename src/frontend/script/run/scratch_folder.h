@@ -1,4 +1,4 @@
-// A copy of a game folder that a program may change, gone when it is no longer needed.
+// A copy of a game folder that a program may change, removed with its object.
 #pragma once
 
 #include <filesystem>
@@ -30,8 +30,8 @@ class ScratchFolder {
 
   // The bytes of a file, or nothing if there is none.
   std::optional<std::string> Read(const std::string& name) const;
-  // Writes a file in its place, so that whoever holds it open sees the bytes too. The original
-  // stays as it is. Throws ScriptError when it cannot be written.
+  // Writes a file in its place, so that a program that holds it open sees the bytes too. The
+  // original stays as it is. Throws ScriptError when it cannot be written.
   void Write(const std::string& name, const std::string& bytes);
   // Removes a file, if there is one.
   void Delete(const std::string& name) const;

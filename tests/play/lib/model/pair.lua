@@ -65,7 +65,7 @@ function Pair:act(note, model_step, program_step, options)
   self:compare(note)
 end
 
--- From the field into a fight against whoever `chance` names.
+-- From the field into a fight against what `chance` names.
 function Pair:enter()
   local m = self.model
   local v = m.v

@@ -74,7 +74,7 @@ end
 
 -- Enemies ----------------------------------------------------------------------------------------
 
--- The left top corner of a slot.
+-- The top left corner of a slot.
 function Scene:spot(slot) return (slot + slot // 3) * 30, (((slot % 2) + 1) % 2 + 1) * 90 end
 
 function Scene:slot_cells(slot)

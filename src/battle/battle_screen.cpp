@@ -88,6 +88,7 @@ BattleScreen::BattleScreen(Game& the_game)
                                        &OpenGround, &WasteGround, &LairGround, &EffectSheet}) {
     hidden->Visible = false;
   }
+  for (ListBox* list : {&Skills, &Targets, &BagItems, &Receivers}) list->BackRow = 0;
   TieHandlers();
 }
 

@@ -223,6 +223,26 @@ Refusal Program::Close(Screen& screen) {
   return {};
 }
 
+Refusal Program::Confirm(Screen& screen) {
+  if (screen.EnterButton == nullptr) return screen.Name() + " has no button for Enter";
+  return Click(*screen.EnterButton);
+}
+
+Refusal Program::GoBack(Screen& screen) {
+  if (Refusal refusal = Reach(screen); !refusal.empty()) return refusal;
+  const std::vector<Control*>& controls = screen.Controls();
+  for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
+    if ((*control)->Kind() != ControlKind::List || !CanClick(**control)) continue;
+    const auto& list = static_cast<const ListBox&>(**control);
+    if (list.BackRow >= 0 && list.BackRow < list.ListCount())
+      return Choose(**control, list.BackRow);
+  }
+  for (CommandButton* button : screen.BackButtons) {
+    if (CanClick(*button)) return Click(*button);
+  }
+  return screen.Name() + " has no way back";
+}
+
 Refusal Program::Activate(Screen& screen) {
   return Reach(screen);
 }

@@ -63,6 +63,10 @@ class Program {
   Refusal Press(Screen& screen);
   // The window's own close control.
   Refusal Close(Screen& screen);
+  // Enter in a text field of a screen: presses its EnterButton.
+  Refusal Confirm(Screen& screen);
+  // Escape: chooses the way back of the list in front, or presses one of the BackButtons.
+  Refusal GoBack(Screen& screen);
   // Brings a visible screen to the front.
   Refusal Activate(Screen& screen);
   // Arrow keys go to Main while it is the active screen, and are lost otherwise.

@@ -61,6 +61,7 @@ EquipmentScreen::EquipmentScreen(Game& game)
     EquipButton(hero).OnClick = [this, hero] { Equip(hero); };
     RemoveButton(hero).OnClick = [this, hero] { RemoveAll(hero); };
   }
+  BackButtons = {&ManClose, &WomanClose};
   ManClose.OnClick = WomanClose.OnClick = [this] { TheStage().Unload(*this); };
 }
 

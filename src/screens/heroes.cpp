@@ -55,6 +55,7 @@ HeroesScreen::HeroesScreen(Game& game)
       game_(game) {
   AddPane(0);
   AddPane(1);
+  BackButtons = {&ManClose, &WomanClose};
   ManClose.OnClick = WomanClose.OnClick = [this] { TheStage().Unload(*this); };
 }
 

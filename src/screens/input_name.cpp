@@ -34,6 +34,8 @@ InputNameScreen::InputNameScreen(Game& game)
   Names.Add(0, *this, Place{88, 64, 129, 18});
   Names.Add(1, *this, Place{88, 120, 129, 18});
   OKButton.OnClick = [this] { Accept(); };
+  EnterButton = &OKButton;
+  BackButtons = {&CancelButton};
   CancelButton.OnClick = [this] { TheStage().Unload(*this); };
 }
 

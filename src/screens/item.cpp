@@ -57,7 +57,7 @@ void ItemScreen::RowChosen() {
   const State& state = game_.state;
   const int item = state.Items[Bag.ListIndex];
   ReadItem(game_, item);
-  UseButton.Enabled = state.ItemRec.Kind == kRecovery;
+  UseButton.Enabled = item != NoItem && state.ItemRec.Kind == kRecovery;
   DiscardButton.Enabled = item != NoItem && state.ItemRec.Kind != kBook && !IsWorn();
 }
 

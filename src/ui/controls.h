@@ -90,6 +90,7 @@ class Slider : public ControlOf<SliderValues, ControlKind::Slider> {
 struct ListValues {
   std::vector<std::string> Rows;
   int ListIndex = -1;  // the selected row from 0, or -1
+  int BackRow = -1;    // the row that Escape chooses, or -1
 };
 
 // A list of rows, of which one may be selected.

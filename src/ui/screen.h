@@ -11,6 +11,7 @@
 
 namespace orvane {
 
+class CommandButton;
 class Stage;
 
 class Screen {
@@ -40,6 +41,11 @@ class Screen {
 
   // A place of the game rather than a dialog: fills the whole display if the player wishes so.
   bool IsScene = false;
+
+  // What Enter in a text field presses, and what Escape presses: the first of those that can be
+  // clicked. Most screens have neither.
+  CommandButton* EnterButton = nullptr;
+  std::vector<CommandButton*> BackButtons;
 
   // Numbers of the screen's own that can be looked at by name, "CreditY(10)".
   std::vector<std::pair<std::string, Int16*>> Members;

@@ -1,0 +1,170 @@
+#include "src/game/program.h"
+
+#include <gtest/gtest.h>
+
+#include "src/core/save_file.h"
+#include "src/platform/folder_storage.h"
+#include "src/platform/quiet_services.h"
+
+namespace orvane {
+namespace {
+
+// The files that every start reads, and a slot.
+MemoryStorage GameFiles() {
+  const FolderStorage built(ORVANE_GAME_FOLDER);
+  MemoryStorage files;
+  for (const char* name : {"Item.dat", "Mapdata/map3-3.dat"}) {
+    files.Files[name] = built.Read(name).value_or("");
+  }
+  files.Files["Save01.sav"] = "";
+  return files;
+}
+
+class ProgramTest : public testing::Test {
+ protected:
+  ProgramTest() { quiet_.Files = GameFiles(); }
+
+  void Start() { program_ = std::make_unique<Program>(quiet_.All()); }
+  // From the title to the field.
+  void Begin() {
+    Start();
+    EXPECT_EQ(program_->Click(On("Main", "Command1")), "");
+    EXPECT_EQ(program_->EnterText(static_cast<TextBox&>(On("InputName", "Text1(0)")), "カイ"), "");
+    EXPECT_EQ(program_->EnterText(static_cast<TextBox&>(On("InputName", "Text1(1)")), "リナ"), "");
+    EXPECT_EQ(program_->Confirm(ScreenOf("InputName")), "");
+    for (int line = 0; line < 20; ++line) program_->Click(On("Main", "Picture1"));
+  }
+  // Up to the question whether to save.
+  void AskToSave() {
+    Begin();
+    EXPECT_EQ(program_->Click(On("Main", "m12")), "");
+    EXPECT_EQ(program_->Choose(On("Save", "File1"), 0), "");
+    EXPECT_EQ(program_->Click(On("Save", "OKButton")), "");
+  }
+
+  Stage& TheStage() { return program_->TheStage(); }
+  Screen& ScreenOf(const char* name) { return *TheStage().Find(name); }
+  Control& On(const char* screen, const char* name) { return *ScreenOf(screen).Find(name); }
+  Timer& Walk() { return static_cast<Timer&>(On("Main", "Timer1")); }
+
+  QuietServices quiet_;
+  std::unique_ptr<Program> program_;
+};
+
+TEST_F(ProgramTest, ASaveThatIsAnsweredLaterHoldsEverythingUp) {
+  quiet_.Files.AnswersLater = true;
+  AskToSave();
+  EXPECT_EQ(program_->Answer(BoxAnswer::Yes), "");
+  EXPECT_FALSE(TheStage().TimeRuns());
+  EXPECT_NE(program_->Click(On("Save", "OKButton")), "") << "no input is taken";
+  EXPECT_TRUE(ScreenOf("Save").IsVisible());
+  EXPECT_EQ(quiet_.Files.Files["Save01.sav"], "");
+  quiet_.Files.Settle();
+  EXPECT_EQ(quiet_.Files.Files["Save01.sav"], PackRecord(program_->TheState()));
+  EXPECT_TRUE(TheStage().TimeRuns());
+  EXPECT_FALSE(ScreenOf("Save").IsVisible());
+  EXPECT_TRUE(Walk().IsEnabled());
+}
+
+TEST_F(ProgramTest, ASaveKeepsWhatALongerFileHoldsBehindTheRecord) {
+  quiet_.Files.Files["Save01.sav"] = std::string(SaveFileSize, 'x') + "and more";
+  AskToSave();
+  program_->Answer(BoxAnswer::Yes);
+  EXPECT_EQ(quiet_.Files.Files["Save01.sav"], PackRecord(program_->TheState()) + "and more");
+}
+
+TEST_F(ProgramTest, ASaveThatFailsTellsWhatTheSystemSaysAndEndsTheProgram) {
+  quiet_.Files.Failure = "Permission denied";
+  AskToSave();
+  program_->Answer(BoxAnswer::Yes);
+  ASSERT_EQ(TheStage().BoxCount(), 1);
+  EXPECT_NE(TheStage().Boxes()[0].Shown.Text.find("Save01.sav: Permission denied"),
+            std::string::npos);
+  EXPECT_FALSE(program_->HasEnded());
+  EXPECT_EQ(program_->Error()->Kind, ErrorKind::File);
+  EXPECT_NE(program_->Click(On("Save", "OKButton")), "");
+  EXPECT_EQ(program_->Answer(BoxAnswer::Ok), "");
+  EXPECT_TRUE(program_->HasEnded());
+  EXPECT_EQ(program_->ExitStatus(), 1);
+}
+
+TEST_F(ProgramTest, AStartWithoutItsFilesLeavesNothingButTheErrorsBox) {
+  quiet_.Files.Files.erase("Item.dat");
+  Start();
+  EXPECT_EQ(TheStage().BoxCount(), 1);
+  EXPECT_FALSE(program_->HasEnded());
+  program_->Answer(BoxAnswer::Ok);
+  EXPECT_TRUE(program_->HasEnded());
+}
+
+TEST_F(ProgramTest, TheItemFileStaysOpenWhenItIsDeleted) {
+  Begin();
+  quiet_.Files.Files.erase("Item.dat");
+  EXPECT_EQ(program_->Click(On("Main", "m22")), "");
+  const auto& bag = static_cast<const ListBox&>(On("Item", "List1"));
+  EXPECT_NE(Trim(bag.List(0)), "");
+  EXPECT_NE(bag.List(0), "なし");
+}
+
+TEST_F(ProgramTest, AHoldTakesNoInputAndNoTickUntilItIsOver) {
+  Begin();
+  program_->Enter([&] { TheStage().Hold(100); });
+  const int frame = program_->TheState().FieldFrame;
+  program_->Tick(Walk());
+  EXPECT_EQ(program_->TheState().FieldFrame, frame);
+  EXPECT_NE(program_->Click(On("Main", "m14")), "");
+  program_->EndHold();
+  program_->Tick(Walk());
+  EXPECT_EQ(program_->TheState().FieldFrame, frame + 1);
+}
+
+TEST_F(ProgramTest, OnlyABoxInFrontIsAnsweredAndOnlyWithItsButtons) {
+  Begin();
+  EXPECT_NE(program_->Answer(BoxAnswer::Ok), "");
+  program_->Click(On("Main", "m14"));
+  EXPECT_NE(program_->Answer(BoxAnswer::Yes), "");
+  EXPECT_EQ(program_->Answer(BoxAnswer::Cancel), "");
+  EXPECT_FALSE(TheStage().BoxStands());
+  EXPECT_FALSE(program_->HasEnded());
+}
+
+TEST_F(ProgramTest, EscapeIsTheCancelOfADialogAndTheWayBackOfAList) {
+  Start();
+  EXPECT_NE(program_->GoBack(ScreenOf("Main")), "") << "the title has no way back";
+  program_->Click(On("Main", "Command1"));
+  EXPECT_EQ(program_->GoBack(ScreenOf("InputName")), "");
+  EXPECT_FALSE(ScreenOf("InputName").IsVisible());
+  Begin();
+  TheStage().Show(ScreenOf("Battle"));
+  program_->Click(On("Battle", "Command1"));
+  EXPECT_TRUE(On("Battle", "List2").Visible);
+  EXPECT_EQ(program_->GoBack(ScreenOf("Battle")), "");
+  EXPECT_FALSE(On("Battle", "List2").Visible);
+  EXPECT_NE(program_->GoBack(ScreenOf("Battle")), "");
+}
+
+TEST_F(ProgramTest, EscapeClosesTheScreensThatHaveAButtonForIt) {
+  Begin();
+  for (const auto& [item, screen] : {std::pair{"m21", "Wepon"}, std::pair{"m32", "Chardata"}}) {
+    program_->Click(On("Main", item));
+    EXPECT_TRUE(ScreenOf(screen).IsVisible());
+    EXPECT_EQ(program_->GoBack(ScreenOf(screen)), "");
+    EXPECT_FALSE(ScreenOf(screen).IsVisible());
+  }
+}
+
+TEST_F(ProgramTest, AnEmptyRowOfTheBagCannotBeUsedWhateverItsRecordSays) {
+  // A longer item file, of which record 99 is one that heals.
+  std::string& items = quiet_.Files.Files["Item.dat"];
+  const std::string healing = items.substr(46 * 32, 32);
+  items.resize(98 * 32);
+  items += healing;
+  Begin();
+  program_->Click(On("Main", "m22"));
+  program_->Choose(On("Item", "List1"), 19);
+  EXPECT_EQ(program_->TheState().ItemRec.Kind, 6) << "the record is read all the same";
+  EXPECT_FALSE(On("Item", "Command1").Enabled);
+}
+
+}  // namespace
+}  // namespace orvane

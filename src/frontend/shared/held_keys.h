@@ -1,19 +1,26 @@
 // Which keys are held down, and where each was pressed.
 #pragma once
 
-#include <QtGlobal>
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <utility>
 
-#include "src/frontend/desktop/input/keyboard.h"
-
-class QKeyEvent;
-class QObject;
-
 namespace orvane {
+
+// One bit for each key, by the number that the window system gives it.
+using KeyCodes = std::bitset<256>;
+
+// What a window system says of a press or a release.
+struct KeyEvent {
+  uint32_t Code = 0;             // the key's number, below 256; 0 where there is no key to it
+  bool IsPress = false;          // otherwise a release
+  bool SaysRepeat = false;       // that it comes of holding the key down
+  uint64_t Time = 0;             // in ms
+  const void* Window = nullptr;  // that it came to
+};
 
 class HeldKeys {
  public:
@@ -26,10 +33,10 @@ class HeldKeys {
     bool IsStray = false;  // it was pressed for another window, of this program or another one
   };
 
-  // Takes in a press or a release that has come to a window.
-  Stroke Take(const QKeyEvent& event, const QObject& window);
+  // Takes in a press or a release.
+  Stroke Take(const KeyEvent& event);
 
-  // Whether the key is down, as far as is known; `code` is the number that key events carry.
+  // Whether the key is down, as far as is known.
   bool IsDown(uint32_t code) const { return code < down_.size() && down_[code]; }
 
   // The keyboard goes to another program.
@@ -39,11 +46,11 @@ class HeldKeys {
 
  private:
   struct Press {
-    const QObject* Window = nullptr;         // null where it was not seen
-    std::optional<quint64> LastReleaseTime;  // that was seen since
+    const void* Window = nullptr;             // null where it was not seen
+    std::optional<uint64_t> LastReleaseTime;  // that was seen since
   };
 
-  bool Repeats(uint32_t code, const QKeyEvent& event) const;
+  bool Repeats(const KeyEvent& event) const;
 
   std::function<std::optional<KeyCodes>()> ask_;
   KeyCodes down_;

@@ -1,33 +1,28 @@
-#include "src/frontend/desktop/input/held_keys.h"
+#include "src/frontend/shared/held_keys.h"
 
 #include <gtest/gtest.h>
-
-#include <QKeyEvent>
-#include <QObject>
 
 namespace orvane {
 namespace {
 
-constexpr quint32 kEnterCode = 36;
+constexpr uint32_t kEnterCode = 36;
 
 class HeldKeysTest : public testing::Test {
  protected:
-  HeldKeys::Stroke Press(quint64 time, const QObject& window, bool says_repeat = false) {
-    return Take(QEvent::KeyPress, time, window, says_repeat);
+  HeldKeys::Stroke Press(uint64_t time, const int& window, bool says_repeat = false) {
+    return Take(true, time, window, says_repeat);
   }
-  HeldKeys::Stroke Release(quint64 time, const QObject& window) {
-    return Take(QEvent::KeyRelease, time, window, false);
+  HeldKeys::Stroke Release(uint64_t time, const int& window) {
+    return Take(false, time, window, false);
   }
 
   std::optional<KeyCodes> keyboard_ = KeyCodes();
   HeldKeys held_{[this] { return keyboard_; }};
-  QObject field_, battle_;
+  int field_ = 0, battle_ = 0;  // two windows
 
  private:
-  HeldKeys::Stroke Take(QEvent::Type type, quint64 time, const QObject& window, bool says_repeat) {
-    QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, kEnterCode, 0, 0, {}, says_repeat);
-    event.setTimestamp(time);
-    return held_.Take(event, window);
+  HeldKeys::Stroke Take(bool is_press, uint64_t time, const int& window, bool says_repeat) {
+    return held_.Take({kEnterCode, is_press, says_repeat, time, &window});
   }
 };
 
@@ -105,6 +100,15 @@ TEST_F(HeldKeysTest, goes_by_the_events_alone_where_the_keyboard_does_not_tell) 
   EXPECT_TRUE(held_.IsDown(kEnterCode));
   EXPECT_FALSE(Release(150, field_).Repeats);
   EXPECT_FALSE(held_.IsDown(kEnterCode));
+}
+
+TEST_F(HeldKeysTest, what_an_input_method_types_is_no_key) {
+  for (const uint32_t code : {0U, 256U}) {
+    const auto typed = held_.Take({code, true, false, 100, &field_});
+    EXPECT_FALSE(typed.Repeats);
+    EXPECT_FALSE(typed.IsStray);
+    EXPECT_FALSE(held_.IsDown(code));
+  }
 }
 
 }  // namespace

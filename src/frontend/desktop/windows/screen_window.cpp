@@ -81,7 +81,7 @@ void ScreenWindow::MakeViews() {
     if (view->Model().Kind() == ControlKind::Label) view->Widget()->lower();
   };
   std::for_each(views_.rbegin(), views_.rend(), lower_if_text);
-  keys_to_ = std::make_unique<Focus>(*this, views_);
+  keys_to_ = std::make_unique<Focus>(*this, screen_, views_);
 }
 
 void ScreenWindow::FollowTitle() {

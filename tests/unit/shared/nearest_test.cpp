@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/input/nearest.h"
+#include "src/frontend/shared/nearest.h"
 
 #include <gtest/gtest.h>
 
@@ -6,12 +6,12 @@ namespace orvane {
 namespace {
 
 // The battle's commands and tabs.
-const QRect kFight(16, 312, 65, 33);
-const QRect kMagic(80, 312, 65, 33);
-const QRect kWaza(16, 344, 65, 33);
-const QRect kItem(80, 344, 65, 33);
-const QRect kFlee(88, 296, 49, 12);
-const QRect kTabs(168, 288, 281, 22);
+const Rect kFight = {16, 312, 65, 33};
+const Rect kMagic = {80, 312, 65, 33};
+const Rect kWaza = {16, 344, 65, 33};
+const Rect kItem = {80, 344, 65, 33};
+const Rect kFlee = {88, 296, 49, 12};
+const Rect kTabs = {168, 288, 281, 22};
 
 TEST(Nearest, goes_along_rows_and_columns) {
   EXPECT_EQ(Nearest(kFight, {kMagic, kWaza, kItem, kFlee, kTabs}, Key::Right), 0);
@@ -26,8 +26,8 @@ TEST(Nearest, takes_what_lies_off_the_way_where_nothing_lies_on_it) {
 }
 
 TEST(Nearest, prefers_what_stands_beside_to_what_is_nearer_but_off) {
-  const QRect beside(300, 0, 20, 20);
-  const QRect off(60, 60, 20, 20);
+  const Rect beside = {300, 0, 20, 20};
+  const Rect off = {60, 60, 20, 20};
   EXPECT_EQ(Nearest({0, 0, 20, 20}, {off, beside}, Key::Right), 0) << "much nearer";
   EXPECT_EQ(Nearest({0, 0, 20, 20}, {{60, 120, 20, 20}, beside}, Key::Right), 1);
 }

@@ -1,4 +1,4 @@
-#include "src/frontend/shared/pad_stick.h"
+#include "src/frontend/shared/pad_state.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,21 +6,21 @@
 namespace orvane {
 namespace {
 
-constexpr double WayIn = 0.5;
-constexpr double WayOut = 0.35;
-constexpr double TurnsOver = 1.25;  // how much longer the other axis must be to take over
+constexpr double kWayIn = 0.5;
+constexpr double kWayOut = 0.35;
+constexpr double kTurnsOver = 1.25;  // how much longer the other axis must be to take over
 
 }  // namespace
 
 void PadStick::Add(double x, double y, PadState& state) {
   const double length = std::max(std::abs(x), std::abs(y));
-  if (length < (held_ ? WayOut : WayIn)) {
+  if (length < (held_ ? kWayOut : kWayIn)) {
     held_ = false;
     return;
   }
   const double along = upright_ ? std::abs(y) : std::abs(x);
   const double across = upright_ ? std::abs(x) : std::abs(y);
-  if (across > along * (held_ ? TurnsOver : 1)) upright_ = !upright_;
+  if (across > along * (held_ ? kTurnsOver : 1)) upright_ = !upright_;
   held_ = true;
   const PadButton direction = upright_ ? (y < 0 ? PadButton::Up : PadButton::Down)
                                        : (x < 0 ? PadButton::Left : PadButton::Right);

@@ -4,9 +4,18 @@
 #include <optional>
 #include <vector>
 
-#include "src/frontend/desktop/windows/scale.h"
+#include "src/frontend/shared/scale.h"
 
 namespace orvane {
+
+// The screen that the game opens on.
+struct ScreenFacts {
+  Extent Whole;      // in the screen's own pixels
+  Extent Available;  // the same without panels
+  double Scale =
+      1;  // pixels of the screen to one of the game, as the player's own settings have it
+  double Factor = 1;  // by which the desktop enlarges everything before the toolkit does
+};
 
 class Zoom {
  public:

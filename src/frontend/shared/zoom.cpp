@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/shared/zoom.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,11 +6,11 @@
 namespace orvane {
 namespace {
 
-constexpr double HalfStep = 0.5;
+constexpr double kHalfStep = 0.5;
 
 Span FirstOf(const std::vector<Extent>& windows) {
   if (windows.empty()) return {};
-  return {{windows.front().Width, windows.front().Height + MenuHeight}, TitleHeight};
+  return {{windows.front().Width, windows.front().Height + kMenuHeight}, kTitleHeight};
 }
 
 }  // namespace
@@ -24,12 +24,12 @@ Zoom::Zoom(const ScreenFacts& screen, std::optional<double> start,
       largest_(FittingScale(screen.Available, {FirstOf(windows)})) {}
 
 void Zoom::Enlarge() {
-  const double next = std::floor(windowed_ / HalfStep + 1) * HalfStep;
+  const double next = std::floor(windowed_ / kHalfStep + 1) * kHalfStep;
   if (next <= largest_) windowed_ = next;
 }
 
 void Zoom::Reduce() {
-  const double next = std::ceil(windowed_ / HalfStep - 1) * HalfStep;
+  const double next = std::ceil(windowed_ / kHalfStep - 1) * kHalfStep;
   if (next >= 1) windowed_ = next;
 }
 

@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/shared/zoom.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ ScreenFacts Screen(double width, double height) {
 }
 
 Span Dialog(double width, double height) {
-  return {{width, height}, TitleHeight};
+  return {{width, height}, kTitleHeight};
 }
 
 TEST(ChooseScale, takes_the_largest_whole_factor_that_leaves_a_tenth_free) {
@@ -29,7 +29,7 @@ TEST(ChooseScale, counts_title_bar_and_menu) {
 
 TEST(ChooseScale, stays_within_its_range) {
   EXPECT_EQ(ChooseScale({320, 200}, kWindows), 1);
-  EXPECT_EQ(ChooseScale({20000, 20000}, kWindows), LargestScale);
+  EXPECT_EQ(ChooseScale({20000, 20000}, kWindows), kLargestScale);
   EXPECT_EQ(ChooseScale({1920, 1080}, {}), 1);
 }
 
@@ -40,7 +40,7 @@ TEST(FittingScale, is_that_of_the_window_that_fits_least) {
 }
 
 TEST(FittingScale, leaves_the_title_bar_its_height) {
-  EXPECT_DOUBLE_EQ(FittingScale({1000, 1000 + TitleHeight}, {Dialog(100, 400)}), 2.5);
+  EXPECT_DOUBLE_EQ(FittingScale({1000, 1000 + kTitleHeight}, {Dialog(100, 400)}), 2.5);
 }
 
 TEST(FittingScale, never_shrinks_a_window) {

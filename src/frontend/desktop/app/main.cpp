@@ -87,7 +87,7 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   Program program({sound, chance, files});
   QApplication application(argument_count, arguments);
   SetUpLook(application);
-  if (const std::string hint = FontHint(); !hint.empty()) Complain(hint);
+  if (const std::string hint = DesktopFontHint(); !hint.empty()) Complain(hint);
   SetUpSpeech();
   const Zoom zoom = ChooseZoom(options, program);
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());

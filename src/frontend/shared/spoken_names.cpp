@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/access/spoken_names.h"
+#include "src/frontend/shared/spoken_names.h"
 
 #include "src/ui/control.h"
 #include "src/ui/screen.h"
@@ -12,7 +12,7 @@ struct Spoken {
   const char* Name = "";
 };
 
-constexpr Spoken SpokenNames[] = {
+constexpr Spoken kSpokenNames[] = {
     {"Main", "Picture1", "フィールド"},
     {"Main", "Picture5", "メッセージ"},
     {"Main", "Picture6", "二人の状態"},
@@ -72,10 +72,10 @@ constexpr Spoken SpokenNames[] = {
 
 }  // namespace
 
-QString SpokenName(const Control& control) {
-  for (const Spoken& each : SpokenNames) {
+std::string SpokenName(const Control& control) {
+  for (const Spoken& each : kSpokenNames) {
     if (control.Owner().Name() == each.Screen && control.Name() == each.Control) {
-      return QString::fromUtf8(each.Name);
+      return each.Name;
     }
   }
   return {};

@@ -1,20 +1,20 @@
 // The texts that stand on pictures, as screen readers tell them.
 #pragma once
 
-#include <QString>
+#include <string>
 
 #include "src/ui/controls.h"
 
 namespace orvane {
 
-// All that is written on a picture at this moment, a line for each text; a number has with it whose
+// All that is written on a picture at this moment, a line for each text; a number comes with whose
 // it is. Nothing while the picture cannot be seen. Pictures that stand on it speak for themselves.
-QString SpokenText(const PictureBox& picture);
+std::string SpokenText(const PictureBox& picture);
 
 // The same for a screen that is drawn on as a whole, with what is drawn there as a picture.
-QString SpokenText(const Screen& screen);
+std::string SpokenText(const Screen& screen);
 
 // What stands before a number as its caption, "HP ："; nothing where nothing does.
-QString CaptionBeside(const Control& control);
+std::string CaptionBeside(const Control& control);
 
 }  // namespace orvane

@@ -16,9 +16,9 @@
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/look.h"
 #include "src/frontend/desktop/windows/toolkit_scale.h"
-#include "src/frontend/shared/zoom.h"
 #include "src/frontend/shared/chance.h"
 #include "src/frontend/shared/options.h"
+#include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
 #include "src/platform/folder_storage.h"
 #include "src/sound/sound_engine.h"
@@ -82,7 +82,7 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   const std::string problem = MakeReady(home);
   if (!problem.empty()) return TellProblem(problem, argument_count, arguments);
   SoundEngine sound;
-  DesktopChance chance(options.Seed);
+  PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);
   Program program({sound, chance, files});
   QApplication application(argument_count, arguments);

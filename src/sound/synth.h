@@ -12,7 +12,7 @@
 
 namespace orvane {
 
-struct FluidHandles;
+struct SynthHandles;
 
 // Each piece plays on a bank of sixteen MIDI channels of its own, so that the last notes of one may
 // ring on under the first of another. Instruments are read from the font when a piece needs them,
@@ -53,12 +53,12 @@ class Synth {
     std::array<int, 16> Expression{};
   };
 
-  explicit Synth(std::unique_ptr<FluidHandles> fluid);
+  explicit Synth(std::unique_ptr<SynthHandles> fluid);
   // The instrument that the font has in a patch's place.
   Patch Resolve(const Patch& patch) const;
   void Select(int channel, const Patch& patch);
 
-  std::unique_ptr<FluidHandles> fluid_;
+  std::unique_ptr<SynthHandles> handles_;
   std::mutex turn_;
   std::array<Bank, kBanks> banks_{};
   std::vector<Patch>

@@ -8,6 +8,7 @@
 
 #include "src/frontend/desktop/input/keyboard.h"
 #include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/desktop/x11/x11.h"
 
 namespace orvane {
 namespace {

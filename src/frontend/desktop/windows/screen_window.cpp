@@ -14,7 +14,7 @@
 #include "src/frontend/desktop/input/keyboard.h"
 #include "src/frontend/desktop/views/view_factory.h"
 #include "src/frontend/desktop/windows/events.h"
-#include "src/frontend/desktop/windows/window_ground.h"
+#include "src/frontend/desktop/x11/x11.h"
 #include "src/game/program.h"
 
 namespace orvane {

@@ -39,9 +39,9 @@ void ClientArea::paintEvent(QPaintEvent* event) {
 }
 
 void ClientArea::mousePressEvent(QMouseEvent* event) {
+  // Any button will do.
   const QPointF at = event->position();
-  if (event->button() != Qt::LeftButton || ControlAt(screen_, {at.x(), at.y()}) != nullptr) return;
-  Press();
+  if (IsBare(screen_, {at.x(), at.y()})) Press();
 }
 
 }  // namespace orvane

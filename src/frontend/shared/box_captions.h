@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "src/platform/services.h"
+#include "src/ui/box.h"
 
 namespace orvane {
 
@@ -12,8 +12,7 @@ struct BoxChoice {
   BoxAnswer Answer;
 };
 
-// The buttons of a box from left to right: the first is pressed by Enter, the last by Escape and
-// when the box is closed.
+// The buttons of a box from left to right: the first is pressed by Enter, the last by Escape.
 std::span<const BoxChoice> ChoicesOf(BoxButtons buttons);
 
 }  // namespace orvane

@@ -15,7 +15,7 @@ namespace {
 class PressTest : public testing::Test {
  protected:
   PressTest()
-      : program_(ORVANE_GAME_FOLDER, quiet_.All()),
+      : program_(quiet_.All()),
         events_(program_),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})),
         ending_(static_cast<EndingScreen&>(*program_.TheStage().Find("Ending"))) {

@@ -5,7 +5,6 @@
 
 #include <string>
 
-#include "src/platform/quiet_services.h"
 #include "src/ui/stage.h"
 
 namespace orvane {
@@ -30,9 +29,7 @@ class Desk : public Screen {
 
 class FocusOrderTest : public testing::Test {
  protected:
-  QuietServices quiet_;
-  Services services_ = quiet_.All();
-  Stage stage_{services_};
+  Stage stage_;
   Desk desk_{stage_};
   FocusOrder order_{desk_};
 };

@@ -35,9 +35,7 @@ class SpokenTextTest : public testing::Test {
     stage_.Show(page_);
   }
 
-  QuietServices quiet_;
-  Services services_ = quiet_.All();
-  Stage stage_{services_};
+  Stage stage_;
   Page page_{stage_};
 };
 
@@ -72,7 +70,7 @@ TEST_F(SpokenTextTest, a_number_is_told_by_the_caption_before_it) {
 
 TEST(SpokenNames, belong_to_controls_that_there_are) {
   QuietServices quiet;
-  Program program(ORVANE_GAME_FOLDER, quiet.All());
+  Program program(quiet.All());
   int named = 0;
   for (const Screen* screen : program.TheStage().Screens()) {
     for (const Control* control : screen->Controls()) {

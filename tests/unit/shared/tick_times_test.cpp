@@ -8,7 +8,6 @@
 #include <fstream>
 #include <string>
 
-#include "src/platform/quiet_services.h"
 #include "src/ui/screen.h"
 #include "src/ui/stage.h"
 #include "src/ui/timer.h"
@@ -51,9 +50,7 @@ class TickTimesTest : public testing::Test {
     return now;
   }
 
-  QuietServices quiet_;
-  Services services_ = quiet_.All();
-  Stage stage_{services_};
+  Stage stage_;
   Clockwork screen_{stage_};
 };
 

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "src/platform/quiet_services.h"
 #include "src/ui/controls.h"
+#include "src/ui/stage.h"
 
 namespace orvane {
 namespace {
@@ -20,9 +20,7 @@ class Card : public Screen {
 };
 
 TEST(Bare, is_what_only_texts_of_the_screens_own_stand_on) {
-  QuietServices quiet;
-  Services services = quiet.All();
-  Stage stage(services);
+  Stage stage;
   Card card(stage);
   EXPECT_TRUE(IsBare(card, {180, 80}));
   EXPECT_TRUE(IsBare(card, {20, 20}));

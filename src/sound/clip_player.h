@@ -4,8 +4,8 @@
 #include <array>
 #include <memory>
 
+#include "src/sound/clip.h"
 #include "src/sound/limiter.h"
-#include "src/sound/sdl/clip.h"
 
 namespace orvane {
 

@@ -11,9 +11,9 @@
 #include <variant>
 #include <vector>
 
+#include "src/sound/clip.h"
 #include "src/sound/clip_player.h"
 #include "src/sound/limiter.h"
-#include "src/sound/sdl/clip.h"
 #include "src/sound/song_player.h"
 
 namespace orvane {

@@ -4,8 +4,8 @@
 #include <atomic>
 #include <memory>
 
-#include "src/sound/fluid/synth.h"
 #include "src/sound/song.h"
+#include "src/sound/synth.h"
 
 namespace orvane {
 

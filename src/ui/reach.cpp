@@ -81,6 +81,12 @@ Control* ControlAt(const Screen& screen, Point point) {
   return FrontChild(screen, nullptr, point);
 }
 
+bool IsBare(const Screen& screen, Point point) {
+  const Control* control = ControlAt(screen, point);
+  return control == nullptr ||
+         (control->Kind() == ControlKind::Label && control->Parent() == nullptr);
+}
+
 std::optional<Point> FreePoint(const Control& control) {
   const Place place = PlaceOnScreen(control);
   const Screen& screen = control.Owner();

@@ -27,6 +27,9 @@ bool IsEnabled(const Control& control);
 // lie behind the other controls that stand beside them.
 Control* ControlAt(const Screen& screen, Point point);
 
+// Whether a press at a point of the screen is the screen's own: nothing but texts stands there.
+bool IsBare(const Screen& screen, Point point);
+
 // A point where a click reaches this control and nothing on it or in front of it, or nothing.
 std::optional<Point> FreePoint(const Control& control);
 

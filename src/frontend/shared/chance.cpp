@@ -4,17 +4,17 @@
 
 namespace orvane {
 
-DesktopChance::DesktopChance(std::optional<uint32_t> seed)
+PlayersChance::PlayersChance(std::optional<uint32_t> seed)
     : generator_(seed.value_or(0)), fixed_(seed.has_value()) {
   Reseed();
 }
 
-float DesktopChance::Draw() {
+float PlayersChance::Draw() {
   // 24 bits fit a float exactly, so the quotient never rounds up to 1.
   return static_cast<float>(generator_() >> 8) / 16777216.0F;
 }
 
-void DesktopChance::Reseed() {
+void PlayersChance::Reseed() {
   if (fixed_) return;
   const auto now =
       static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());

@@ -9,10 +9,10 @@
 
 namespace orvane {
 
-class DesktopChance : public Chance {
+class PlayersChance : public Chance {
  public:
   // With a seed, the draws are the same in every run and Reseed does nothing.
-  explicit DesktopChance(std::optional<uint32_t> seed);
+  explicit PlayersChance(std::optional<uint32_t> seed);
 
   float Draw() override;
   void Reseed() override;

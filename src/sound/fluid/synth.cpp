@@ -1,4 +1,4 @@
-#include "src/sound/fluid/synth.h"
+#include "src/sound/synth.h"
 
 #include <fluidsynth.h>
 
@@ -7,15 +7,15 @@
 
 namespace orvane {
 
-struct FluidHandles {
+struct SynthHandles {
   fluid_settings_t* Settings = nullptr;
   fluid_synth_t* Voices = nullptr;
   int Font = FLUID_FAILED;
 
-  FluidHandles() = default;
-  FluidHandles(const FluidHandles&) = delete;
-  FluidHandles& operator=(const FluidHandles&) = delete;
-  ~FluidHandles() {
+  SynthHandles() = default;
+  SynthHandles(const SynthHandles&) = delete;
+  SynthHandles& operator=(const SynthHandles&) = delete;
+  ~SynthHandles() {
     if (Voices != nullptr) delete_fluid_synth(Voices);
     if (Settings != nullptr) delete_fluid_settings(Settings);
   }
@@ -54,7 +54,7 @@ std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
   for (int level = 0; level < LAST_LOG_LEVEL; ++level) {
     fluid_set_log_function(level, nullptr, nullptr);  // sound never complains
   }
-  auto fluid = std::make_unique<FluidHandles>();
+  auto fluid = std::make_unique<SynthHandles>();
   fluid->Settings = new_fluid_settings();
   if (fluid->Settings == nullptr) return nullptr;
   fluid_settings_setnum(fluid->Settings, "synth.sample-rate", rate);
@@ -71,10 +71,10 @@ std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
   return std::unique_ptr<Synth>(new Synth(std::move(fluid)));
 }
 
-Synth::Synth(std::unique_ptr<FluidHandles> fluid) : fluid_(std::move(fluid)) {
+Synth::Synth(std::unique_ptr<SynthHandles> fluid) : handles_(std::move(fluid)) {
   for (int channel = 0; channel < kPlayChannels; ++channel) {
     const bool drums = channel % kBankChannels == kDrumChannel;
-    fluid_synth_set_channel_type(fluid_->Voices, channel,
+    fluid_synth_set_channel_type(handles_->Voices, channel,
                                  drums ? CHANNEL_TYPE_DRUM : CHANNEL_TYPE_MELODIC);
   }
 }
@@ -82,7 +82,7 @@ Synth::Synth(std::unique_ptr<FluidHandles> fluid) : fluid_(std::move(fluid)) {
 Synth::~Synth() = default;
 
 Patch Synth::Resolve(const Patch& patch) const {
-  fluid_sfont_t* font = fluid_synth_get_sfont_by_id(fluid_->Voices, fluid_->Font);
+  fluid_sfont_t* font = fluid_synth_get_sfont_by_id(handles_->Voices, handles_->Font);
   const int bank = patch.Bank == kDrumBank ? kDrumBank : 0;
   for (const Patch& choice : {patch, Patch{bank, patch.Program}, Patch{bank, 0}}) {
     if (fluid_sfont_get_preset(font, choice.Bank, choice.Program) != nullptr) return choice;
@@ -91,7 +91,7 @@ Patch Synth::Resolve(const Patch& patch) const {
 }
 
 void Synth::Select(int channel, const Patch& patch) {
-  fluid_synth_program_select(fluid_->Voices, channel, fluid_->Font, patch.Bank, patch.Program);
+  fluid_synth_program_select(handles_->Voices, channel, handles_->Font, patch.Bank, patch.Program);
 }
 
 void Synth::Keep(const Patch& patch) {
@@ -125,13 +125,13 @@ void Synth::Send(int bank, const SongEvent& event) {
   const int bend = event.First | (event.Second << 7);
   switch (event.Kind()) {
     case 8:
-      fluid_synth_noteoff(fluid_->Voices, channel, event.First);
+      fluid_synth_noteoff(handles_->Voices, channel, event.First);
       break;
     case kNoteOn:
-      fluid_synth_noteon(fluid_->Voices, channel, event.First, event.Second);
+      fluid_synth_noteon(handles_->Voices, channel, event.First, event.Second);
       break;
     case 10:
-      fluid_synth_key_pressure(fluid_->Voices, channel, event.First, event.Second);
+      fluid_synth_key_pressure(handles_->Voices, channel, event.First, event.Second);
       break;
     case kControl:
       // Bank numbers are the patch reader's, and the modes above would join the channels up.
@@ -139,13 +139,13 @@ void Synth::Send(int bank, const SongEvent& event) {
       if (event.First == kExpression) {
         state.Expression.at(static_cast<size_t>(event.Channel())) = event.Second;
       }
-      fluid_synth_cc(fluid_->Voices, channel, event.First, event.Second);
+      fluid_synth_cc(handles_->Voices, channel, event.First, event.Second);
       break;
     case 13:
-      fluid_synth_channel_pressure(fluid_->Voices, channel, event.First);
+      fluid_synth_channel_pressure(handles_->Voices, channel, event.First);
       break;
     case 14:
-      fluid_synth_pitch_bend(fluid_->Voices, channel, bend);
+      fluid_synth_pitch_bend(handles_->Voices, channel, bend);
       break;
     default:
       break;
@@ -155,8 +155,8 @@ void Synth::Send(int bank, const SongEvent& event) {
 void Synth::ReleaseKeys(int bank) {
   for (int i = 0; i < kBankChannels; ++i) {
     const int channel = bank * kBankChannels + i;
-    fluid_synth_cc(fluid_->Voices, channel, kSustain, 0);
-    fluid_synth_all_notes_off(fluid_->Voices, channel);
+    fluid_synth_cc(handles_->Voices, channel, kSustain, 0);
+    fluid_synth_all_notes_off(handles_->Voices, channel);
   }
 }
 
@@ -165,12 +165,12 @@ void Synth::Reset(int bank) {
   banks_.at(static_cast<size_t>(bank)).Expression.fill(127);
   for (int i = 0; i < kBankChannels; ++i) {
     const int channel = bank * kBankChannels + i;
-    fluid_synth_cc(fluid_->Voices, channel, kResetControllers, 0);
+    fluid_synth_cc(handles_->Voices, channel, kResetControllers, 0);
     for (const Setting& fresh : kFresh) {
-      fluid_synth_cc(fluid_->Voices, channel, fresh.Control, fresh.Value);
+      fluid_synth_cc(handles_->Voices, channel, fresh.Control, fresh.Value);
     }
-    fluid_synth_pitch_wheel_sens(fluid_->Voices, channel, kBendSemitones);
-    fluid_synth_pitch_bend(fluid_->Voices, channel, kBendMiddle);
+    fluid_synth_pitch_wheel_sens(handles_->Voices, channel, kBendSemitones);
+    fluid_synth_pitch_bend(handles_->Voices, channel, kBendMiddle);
   }
 }
 
@@ -178,21 +178,21 @@ void Synth::Fade(int bank, float level) {
   const Bank& state = banks_.at(static_cast<size_t>(bank));
   for (int i = 0; i < kBankChannels; ++i) {
     const auto full = static_cast<float>(state.Expression.at(static_cast<size_t>(i)));
-    fluid_synth_cc(fluid_->Voices, bank * kBankChannels + i, kExpression,
+    fluid_synth_cc(handles_->Voices, bank * kBankChannels + i, kExpression,
                    static_cast<int>(std::lround(full * level)));
   }
 }
 
 void Synth::Clear(int bank) {
   for (int i = 0; i < kBankChannels; ++i) {
-    fluid_synth_all_sounds_off(fluid_->Voices, bank * kBankChannels + i);
-    fluid_synth_unset_program(fluid_->Voices, bank * kBankChannels + i);
+    fluid_synth_all_sounds_off(handles_->Voices, bank * kBankChannels + i);
+    fluid_synth_unset_program(handles_->Voices, bank * kBankChannels + i);
   }
 }
 
 void Synth::Render(Block& block) {
   Block voices;
-  fluid_synth_write_float(fluid_->Voices, kBlockFrames, voices.data(), 0, 2, voices.data(), 1, 2);
+  fluid_synth_write_float(handles_->Voices, kBlockFrames, voices.data(), 0, 2, voices.data(), 1, 2);
   for (size_t i = 0; i < block.size(); ++i) block[i] += voices[i];
 }
 

@@ -1,4 +1,4 @@
-#include "src/sound/sdl/clip.h"
+#include "src/sound/clip.h"
 
 #include <SDL.h>
 

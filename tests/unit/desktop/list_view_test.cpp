@@ -7,7 +7,7 @@
 #include <QImage>
 #include <QListWidget>
 
-#include "src/frontend/desktop/paint/text_fit.h"
+#include "src/frontend/desktop/paint/text_paint.h"
 #include "src/ui/screen.h"
 #include "src/ui/stage.h"
 #include "tests/unit/desktop/test_services.h"

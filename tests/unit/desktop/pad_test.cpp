@@ -22,41 +22,6 @@ PadState With(std::initializer_list<PadButton> buttons) {
   return state;
 }
 
-PadState Pushed(PadStick& stick, double x, double y) {
-  PadState state{};
-  stick.Add(x, y, state);
-  return state;
-}
-
-TEST(PadStick, gives_the_direction_of_the_longer_way) {
-  PadStick stick;
-  EXPECT_EQ(Pushed(stick, 0.9, 0.2), With({PadButton::Right}));
-  EXPECT_EQ(Pushed(stick, -0.9, 0.2), With({PadButton::Left}));
-  EXPECT_EQ(Pushed(stick, 0.2, -0.9), With({PadButton::Up}));
-  EXPECT_EQ(Pushed(stick, 0.2, 0.9), With({PadButton::Down}));
-}
-
-TEST(PadStick, is_at_rest_near_the_middle) {
-  PadStick stick;
-  EXPECT_EQ(Pushed(stick, 0.49, 0.49), PadState{});
-}
-
-TEST(PadStick, lets_go_later_than_it_takes) {
-  PadStick stick;
-  EXPECT_EQ(Pushed(stick, 0.45, 0), PadState{});
-  EXPECT_EQ(Pushed(stick, 0.55, 0), With({PadButton::Right}));
-  EXPECT_EQ(Pushed(stick, 0.4, 0), With({PadButton::Right}));
-  EXPECT_EQ(Pushed(stick, 0.3, 0), PadState{});
-}
-
-TEST(PadStick, does_not_waver_on_the_diagonal) {
-  PadStick stick;
-  EXPECT_EQ(Pushed(stick, 0.7, 0.6), With({PadButton::Right}));
-  EXPECT_EQ(Pushed(stick, 0.7, 0.8), With({PadButton::Right}));
-  EXPECT_EQ(Pushed(stick, 0.6, 0.8), With({PadButton::Down}));
-  EXPECT_EQ(Pushed(stick, 0.8, 0.7), With({PadButton::Down}));
-}
-
 // A pad that SDL itself makes up, plugged in and out like a real one.
 TEST(PadDevice, reads_a_pad_that_comes_and_goes) {
   PadDevice device;

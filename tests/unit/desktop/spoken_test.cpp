@@ -17,8 +17,8 @@
 #include <utility>
 #include <vector>
 
-#include "src/frontend/desktop/access/spoken_names.h"
 #include "src/frontend/desktop/windows/windows.h"
+#include "src/frontend/shared/spoken_names.h"
 #include "src/game/program.h"
 #include "tests/unit/desktop/test_services.h"
 

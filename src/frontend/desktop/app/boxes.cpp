@@ -9,36 +9,26 @@
 #include <QSpacerItem>
 #include <QVariant>
 #include <algorithm>
-#include <vector>
+
+#include "src/frontend/shared/box_captions.h"
 
 namespace orvane {
 namespace {
 
 constexpr const char* kAnswer = "answer";  // what pressing a button says
 
-struct Choice {
-  const char* Text;
-  QMessageBox::ButtonRole Role;
-  BoxAnswer Answer;
-};
-
-// The buttons of a box; the first is pressed by Enter, the last by Escape.
-const std::vector<Choice>& Choices(BoxButtons buttons) {
-  static const std::vector<Choice> ok = {{"OK", QMessageBox::AcceptRole, BoxAnswer::Ok}};
-  static const std::vector<Choice> ok_cancel = {
-      {"OK", QMessageBox::AcceptRole, BoxAnswer::Ok},
-      {"キャンセル", QMessageBox::RejectRole, BoxAnswer::Cancel}};
-  static const std::vector<Choice> yes_no = {{"はい", QMessageBox::YesRole, BoxAnswer::Yes},
-                                             {"いいえ", QMessageBox::NoRole, BoxAnswer::No}};
-  switch (buttons) {
-    case BoxButtons::OkCancel:
-      return ok_cancel;
-    case BoxButtons::YesNo:
-      return yes_no;
-    case BoxButtons::Ok:
+QMessageBox::ButtonRole RoleOf(BoxAnswer answer) {
+  switch (answer) {
+    case BoxAnswer::Cancel:
+      return QMessageBox::RejectRole;
+    case BoxAnswer::Yes:
+      return QMessageBox::YesRole;
+    case BoxAnswer::No:
+      return QMessageBox::NoRole;
+    case BoxAnswer::Ok:
       break;
   }
-  return ok;
+  return QMessageBox::AcceptRole;
 }
 
 // Makes a box wide enough for its title between the window manager's icons.
@@ -72,8 +62,8 @@ void Furnish(CalmBox& shown, const Box& box) {
   shown.setText(QString::fromStdString(box.Text));
   QPushButton* first = nullptr;
   QPushButton* last = nullptr;
-  for (const Choice& choice : Choices(box.Buttons)) {
-    last = shown.addButton(QString::fromUtf8(choice.Text), choice.Role);
+  for (const BoxChoice& choice : ChoicesOf(box.Buttons)) {
+    last = shown.addButton(QString::fromUtf8(choice.Caption), RoleOf(choice.Answer));
     last->setProperty(kAnswer, int(choice.Answer));
     shown.Watch(last);
     if (first == nullptr) first = last;

@@ -10,7 +10,7 @@
 #include "src/frontend/desktop/input/pad.h"
 #include "src/frontend/desktop/windows/events.h"
 #include "src/frontend/desktop/windows/windows.h"
-#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
 
 class QKeyEvent;

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "src/platform/player_folder.h"
+#include "src/platform/program_path.h"
 
 namespace orvane {
 namespace {
@@ -26,10 +27,10 @@ std::filesystem::path DataFolder() {
 
 Home FindHome() {
   std::error_code failed;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", failed).parent_path();
+  const auto program = ProgramPath().parent_path();
   const auto beside = program / "game";
   const auto installed = program.parent_path() / "share" / "orvane" / "game";
-  if (failed || std::filesystem::exists(beside, failed) ||
+  if (program.empty() || std::filesystem::exists(beside, failed) ||
       !std::filesystem::is_directory(installed, failed)) {
     return {beside, {}};
   }

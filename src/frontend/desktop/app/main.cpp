@@ -15,10 +15,10 @@
 #include "src/frontend/desktop/app/signals.h"
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/look.h"
-#include "src/frontend/desktop/windows/scale.h"
-#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/desktop/windows/toolkit_scale.h"
 #include "src/frontend/shared/chance.h"
 #include "src/frontend/shared/options.h"
+#include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
 #include "src/platform/folder_storage.h"
 #include "src/sound/sound_engine.h"
@@ -50,8 +50,7 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
 }
 
 // How large the windows are to be, by the command line, the player's settings or the screen.
-Zoom ChooseZoom(const Options& options, Program& program) {
-  const ScreenFacts screen = AskScreen().value_or(ScreenFacts{});
+Zoom ChooseZoom(const Options& options, Program& program, const ScreenFacts& screen) {
   std::optional<double> start = options.Scale;
   if (!start && ScaleIsFixed()) start = screen.Scale;
   std::vector<Extent> windows;
@@ -82,14 +81,19 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   const std::string problem = MakeReady(home);
   if (!problem.empty()) return TellProblem(problem, argument_count, arguments);
   SoundEngine sound;
-  DesktopChance chance(options.Seed);
+  PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);
   Program program({sound, chance, files});
+  const auto zoom_for = [&](const ScreenFacts& screen) {
+    return ChooseZoom(options, program, screen);
+  };
+  SetFirstScale([&](const ScreenFacts& screen) { return zoom_for(screen).ScaleFor({}); },
+                argument_count, arguments);
   QApplication application(argument_count, arguments);
   SetUpLook(application);
-  if (const std::string hint = FontHint(); !hint.empty()) Complain(hint);
+  if (const std::string hint = DesktopFontHint(); !hint.empty()) Complain(hint);
   SetUpSpeech();
-  const Zoom zoom = ChooseZoom(options, program);
+  const Zoom zoom = zoom_for(AskScreen().value_or(ScreenFacts{}));
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());
   Desktop desktop(program, zoom);
   desktop.TellOfPainting(

@@ -4,16 +4,11 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "src/frontend/shared/tick_log.h"
-#include "src/ui/timer_queue.h"
+#include "src/frontend/shared/tick_times.h"
 
 namespace orvane {
 
 class Events;
-
-// How many times as fast as real time the game runs: 1, or what the text says (that of the variable
-// ORVANE_SPEED, null where it is not set), from 1 to 1000.
-double GameSpeed(const char* text);
 
 class TickServer {
  public:
@@ -26,16 +21,13 @@ class TickServer {
   void Stop() { alarm_.stop(); }
 
  private:
-  // Milliseconds of the game, which tests let run faster than those of the world.
-  double Now() const;
+  double Now() const;  // ms of the real clock
   void Serve();
 
-  TimerQueue queue_;
+  TickTimes times_;
   Events& events_;
   QElapsedTimer clock_;
   QTimer alarm_;
-  double speed_;
-  TickLog log_;
 };
 
 }  // namespace orvane

@@ -1,32 +1,27 @@
 // Where the keyboard is within a window.
 #pragma once
 
-#include <QPointer>
 #include <QWidget>
 #include <memory>
 #include <vector>
 
 #include "src/frontend/desktop/views/control_view.h"
-#include "src/game/program.h"
+#include "src/frontend/shared/focus_order.h"
 
 namespace orvane {
 
-// Keeps the keyboard on a control that can be used, as long as the window has one.
+// Carries out on a window's widgets what FocusOrder says of its controls.
 class Focus {
  public:
-  // The views of a window's controls, in design order. They must outlive it. Puts Tab in the order
-  // in which the controls are read: what is filled in comes before the buttons that go with it,
-  // otherwise as designed.
-  Focus(const QWidget& window, const std::vector<std::unique_ptr<ControlView>>& views);
+  // The window of `screen` and the views of its controls. They must outlive it. Puts Tab in order.
+  Focus(const QWidget& window, const Screen& screen,
+        const std::vector<std::unique_ptr<ControlView>>& views);
 
-  // The window comes up: the keyboard goes to the first list or field, or else to the first control
-  // that takes keys.
+  // The window comes up.
   void Begin();
 
-  // The controls have changed; before that, `before` had the keyboard. Where it can no longer be
-  // used, the keyboard goes to its tabs, if its pane has closed; to a list or a field that has
-  // come; or back to the last one that lost it and is there again. While nothing can be used,
-  // nothing has the keyboard.
+  // The controls have changed; before that, `before` had the keyboard. While nothing can be used,
+  // nothing has it.
   void Follow(QWidget* before);
 
   // Goes to the control that lies next in a direction. Nothing where there is none.
@@ -37,19 +32,14 @@ class Focus {
   bool TurnTab(int step) const;
 
  private:
-  struct Stop {
-    ControlView* View = nullptr;
-    QPointer<QWidget> Widget;  // that takes the keys
-  };
-
-  const Stop* StopOf(const QWidget* widget) const;
-  bool IsUsable(const QWidget* widget) const;
-  QWidget* Choose(const QWidget* before) const;
-  QWidget* TabsAbove(const QWidget* widget) const;
+  ControlView* ViewOf(const Control* control) const;
+  QWidget* TargetOf(const Control* control) const;
+  // The control whose keys the widget takes, or null.
+  Control* ControlOf(const QWidget* widget) const;
 
   const QWidget& window_;
-  std::vector<Stop> stops_;                  // all that can take keys, in the order of Tab
-  std::vector<QPointer<QWidget>> had_keys_;  // and lost them by going, the last one last
+  const std::vector<std::unique_ptr<ControlView>>& views_;
+  FocusOrder order_;
 };
 
 }  // namespace orvane

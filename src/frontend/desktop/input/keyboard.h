@@ -1,7 +1,6 @@
-// What the toolkit and the window system know of the keyboard.
+// What the toolkit knows of the keyboard.
 #pragma once
 
-#include <bitset>
 #include <optional>
 
 #include "src/game/program.h"
@@ -13,12 +12,5 @@ std::optional<Key> ArrowKey(int key);
 
 // Whether the menu bar has the keyboard, though no menu is open.
 bool MenuBarHasKeys();
-
-// One bit for each key, by the number that key events carry.
-using KeyCodes = std::bitset<256>;
-
-// The keys that are held down at this moment, whichever window has the keyboard. Nothing where the
-// window system does not tell.
-std::optional<KeyCodes> AskKeyboard();
 
 }  // namespace orvane

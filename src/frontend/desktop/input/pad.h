@@ -1,23 +1,20 @@
-// A game pad's way into the game: it walks, and works windows as keys do.
+// A game pad's way into the game.
 #pragma once
 
 #include <QElapsedTimer>
 #include <QTimer>
-#include <array>
 #include <functional>
 #include <memory>
 
 #include "src/frontend/desktop/input/pad_device.h"
+#include "src/frontend/shared/pad_rules.h"
 
 namespace orvane {
 
 class Events;
 
-// The cross and the stick walk while keys reach the game's window, and move through buttons, lists
-// and menus elsewhere. The accepting button presses and chooses, the other one is Escape, the
-// shoulders turn the tabs or, where there are none, go to the control before or after, and the menu
-// button opens the menus.
-class Pad : public QObject {
+// Reads a pad, and does by keys and windows what its buttons come to.
+class Pad : public QObject, private PadHands {
  public:
   // `reaches` tells whether keys reach the game's window now. Nothing is looked for before Start.
   Pad(Events& events, std::function<bool()> reaches);
@@ -28,18 +25,21 @@ class Pad : public QObject {
   void Look();
 
  private:
-  void Follow(const PadState& state);
-  void Press(PadButton button);
-  void Walk(const PadState& state);
+  bool ReachesGame() const override;
+  bool ReachesWindow() const override { return reaches_(); }
+  void Walk(Key direction, bool down) override;
+  void Move(Key direction) override;
+  void Accept() override;
+  void Back() override;
+  void OpenMenus() override;
+  void Turn(int step) override;
 
   Events& events_;
   std::function<bool()> reaches_;
   std::unique_ptr<PadSource> source_;
   QTimer timer_;
-  PadState seen_{};
-  std::array<bool, 4> walking_{};  // the game has the press and waits for the release
-  QElapsedTimer held_;             // since the last press, or repeat, of a direction
-  bool repeats_ = false;
+  QElapsedTimer clock_;
+  PadRules rules_{*this};
 };
 
 }  // namespace orvane

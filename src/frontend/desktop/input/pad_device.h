@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "src/frontend/shared/pad_stick.h"
+#include "src/frontend/shared/pad_state.h"
 
 struct _SDL_GameController;  // NOLINT(bugprone-reserved-identifier): the name is SDL's
 

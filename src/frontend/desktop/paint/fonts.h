@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QFont>
-#include <QStringList>
 #include <string>
 
 #include "src/ui/control.h"
@@ -16,14 +15,7 @@ QFont DesktopFont(const Font& font);
 // The font of everything that names none.
 QFont DefaultFont();
 
-// The faces to try for the one that the game asks for, best first. `japanese` are the installed
-// families that have Japanese letters; the best of them comes after those that the game knows.
-QStringList Substitutes(const std::string& asked, const QStringList& japanese);
-
-// What to tell a player on whose desktop `japanese` are the families with Japanese letters: how to
-// come by one where there is none, otherwise nothing.
-std::string FontHint(const QStringList& japanese);
-// The same for the desktop that the program runs on.
-std::string FontHint();
+// What to tell the player of this desktop's faces, or nothing.
+std::string DesktopFontHint();
 
 }  // namespace orvane

@@ -30,12 +30,8 @@ class ControlView {
   // What screen readers call it; nothing where its caption serves.
   void SetSpokenName(const QString& name) { widget_->setAccessibleName(name); }
 
-  // The widget that takes the keys, or null for what only shows something.
-  virtual QWidget* KeyTarget() const {
-    return widget_->focusPolicy() == Qt::NoFocus ? nullptr : widget_;
-  }
-  // Whether keys can do anything with it, where it is shown and enabled.
-  virtual bool HasUseForKeys() const { return true; }
+  // The widget that takes the keys, where the control takes any.
+  virtual QWidget* KeyTarget() const { return widget_; }
 
   // Brings the widget up to date, by comparing with what it showed last.
   void Follow();

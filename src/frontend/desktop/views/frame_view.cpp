@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "src/frontend/desktop/paint/text_fit.h"
+#include "src/frontend/desktop/paint/text_paint.h"
 
 namespace orvane {
 namespace {

@@ -5,14 +5,11 @@
 #include <QPainter>
 
 #include "src/frontend/desktop/paint/fonts.h"
-#include "src/frontend/desktop/paint/text_fit.h"
+#include "src/frontend/desktop/paint/text_paint.h"
+#include "src/frontend/shared/text_fit.h"
 
 namespace orvane {
 namespace {
-
-// Room above the control's box: some faces reach higher than the game's own, and their tops must
-// not be cut.
-constexpr int Headroom = 3;
 
 int AlignmentFlag(Align alignment) {
   switch (alignment) {
@@ -60,7 +57,7 @@ class LabelWidget : public QLabel {
     if (text().isEmpty()) return;
     QPainter painter(this);
     painter.setPen(colour_);
-    PaintText(painter, QRectF(rect()).adjusted(0, Headroom, 0, 0), text(), alignment_);
+    PaintText(painter, QRectF(rect()).adjusted(0, kHeadroom, 0, 0), text(), alignment_);
   }
 
  private:
@@ -87,7 +84,7 @@ void LabelView::FollowValues(bool all) {
 }
 
 QRect LabelView::Box(const Place& place) const {
-  return ControlView::Box(place).adjusted(0, -Headroom, 0, 0);
+  return ControlView::Box(place).adjusted(0, -kHeadroom, 0, 0);
 }
 
 }  // namespace orvane

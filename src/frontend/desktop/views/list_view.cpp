@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "src/frontend/desktop/paint/text_fit.h"
+#include "src/frontend/desktop/paint/text_paint.h"
 #include "src/frontend/desktop/windows/events.h"
 #include "src/game/program.h"
 

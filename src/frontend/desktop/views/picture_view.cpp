@@ -4,9 +4,9 @@
 #include <QPaintEvent>
 
 #include "src/frontend/desktop/access/spoken.h"
-#include "src/frontend/desktop/access/spoken_text.h"
 #include "src/frontend/desktop/paint/surface_image.h"
 #include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/spoken_text.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -26,7 +26,7 @@ class PictureWidget : public QWidget, public Spoken {
 
   void Announce() { announcer_.Follow(*this); }
 
-  QString Text() const override { return SpokenText(model_); }
+  QString Text() const override { return ToQt(SpokenText(model_)); }
   bool IsButton() const override { return bool(model_.OnClick); }
   void Press() override {
     events_.Send([this](Program& program) { program.Click(model_); });

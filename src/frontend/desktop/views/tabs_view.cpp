@@ -5,13 +5,11 @@
 #include <QStyleOptionTabWidgetFrame>
 
 #include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/focus_order.h"
 #include "src/game/program.h"
 
 namespace orvane {
 namespace {
-
-// The layouts begin 24 pixels below the control's top, so the tabs end before.
-constexpr int TabHeight = 22;
 
 // The frame around the open pane, with tabs and panes as children that take its size.
 class TabsWidget : public QWidget {
@@ -21,7 +19,7 @@ class TabsWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    const QRect frame = rect().adjusted(0, TabHeight - 1, -1, -1);
+    const QRect frame = rect().adjusted(0, kTabHeight - 1, -1, -1);
     painter.fillRect(frame, palette().color(QPalette::Window).lighter(104));
     painter.setPen(palette().color(QPalette::Window).darker(145));
     painter.drawRect(frame);
@@ -32,7 +30,7 @@ class TabsWidget : public QWidget {
       auto* widget = qobject_cast<QWidget*>(child);
       if (widget == nullptr) continue;
       const bool is_bar = qobject_cast<QTabBar*>(child) != nullptr;
-      widget->setGeometry(0, 0, width(), is_bar ? TabHeight : height());
+      widget->setGeometry(0, 0, width(), is_bar ? kTabHeight : height());
     }
   }
 };
@@ -56,22 +54,6 @@ TabsView::TabsView(TabStrip& model, QWidget* parent, Events& events)
 QWidget* TabsView::Ground(int pane) const {
   const auto index = static_cast<size_t>(pane);
   return index < panes_.size() ? panes_[index] : Widget();
-}
-
-bool TabsView::HasUseForKeys() const {
-  for (int tab = 0; tab < bar_->count(); ++tab) {
-    if (bar_->isTabEnabled(tab)) return true;
-  }
-  return false;
-}
-
-void TabsView::Turn(int step) const {
-  const int count = bar_->count();
-  int tab = bar_->currentIndex();
-  for (int tries = 1; tries < count; ++tries) {
-    tab = (tab + step + count) % count;
-    if (bar_->isTabEnabled(tab)) return bar_->setCurrentIndex(tab);
-  }
 }
 
 void TabsView::FollowValues(bool /*all*/) {

@@ -16,10 +16,9 @@ class TabsView : public ControlView {
 
   QWidget* Ground(int pane) const override;
   QWidget* KeyTarget() const override { return bar_; }
-  bool HasUseForKeys() const override;
 
-  // Opens the next tab that is enabled, round and round; the one before with -1.
-  void Turn(int step) const;
+  // Opens a tab as the player does.
+  void Open(int tab) const { bar_->setCurrentIndex(tab); }
 
  protected:
   void FollowValues(bool all) override;

@@ -1,7 +1,5 @@
 #include "src/frontend/desktop/views/view_factory.h"
 
-#include "src/frontend/desktop/access/spoken_names.h"
-#include "src/frontend/desktop/access/spoken_text.h"
 #include "src/frontend/desktop/views/button_view.h"
 #include "src/frontend/desktop/views/field_view.h"
 #include "src/frontend/desktop/views/frame_view.h"
@@ -10,6 +8,8 @@
 #include "src/frontend/desktop/views/picture_view.h"
 #include "src/frontend/desktop/views/slider_view.h"
 #include "src/frontend/desktop/views/tabs_view.h"
+#include "src/frontend/shared/spoken_names.h"
+#include "src/frontend/shared/spoken_text.h"
 
 namespace orvane {
 namespace {
@@ -46,9 +46,9 @@ std::unique_ptr<ControlView> MakeKind(Control& control, QWidget* parent, Events&
 }
 
 // A text is its own name; what a number is the number of, the text does not say.
-QString Meaning(const Control& control) {
-  const QString whose = SpokenName(control);
-  return whose.isEmpty() ? CaptionBeside(control) : whose;
+std::string Meaning(const Control& control) {
+  const std::string whose = SpokenName(control);
+  return whose.empty() ? CaptionBeside(control) : whose;
 }
 
 }  // namespace
@@ -58,9 +58,9 @@ std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Events&
   if (view == nullptr) return view;
   view->Widget()->setObjectName(ToQt(control.Name()));
   if (control.Kind() == ControlKind::Label) {
-    view->Widget()->setAccessibleDescription(Meaning(control));
+    view->Widget()->setAccessibleDescription(ToQt(Meaning(control)));
   } else {
-    view->SetSpokenName(SpokenName(control));
+    view->SetSpokenName(ToQt(SpokenName(control)));
   }
   return view;
 }

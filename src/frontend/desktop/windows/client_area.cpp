@@ -3,9 +3,9 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 
-#include "src/frontend/desktop/access/spoken_text.h"
 #include "src/frontend/desktop/views/control_view.h"
 #include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/spoken_text.h"
 #include "src/game/program.h"
 #include "src/ui/reach.h"
 
@@ -25,7 +25,7 @@ void ClientArea::Follow(bool all) {
 }
 
 QString ClientArea::Text() const {
-  return SpokenText(screen_);
+  return ToQt(SpokenText(screen_));
 }
 
 void ClientArea::Press() {
@@ -39,9 +39,9 @@ void ClientArea::paintEvent(QPaintEvent* event) {
 }
 
 void ClientArea::mousePressEvent(QMouseEvent* event) {
+  // Any button will do.
   const QPointF at = event->position();
-  if (event->button() != Qt::LeftButton || ControlAt(screen_, {at.x(), at.y()}) != nullptr) return;
-  Press();
+  if (IsBare(screen_, {at.x(), at.y()})) Press();
 }
 
 }  // namespace orvane

@@ -14,7 +14,7 @@
 #include "src/frontend/desktop/input/keyboard.h"
 #include "src/frontend/desktop/views/view_factory.h"
 #include "src/frontend/desktop/windows/events.h"
-#include "src/frontend/desktop/windows/window_ground.h"
+#include "src/frontend/desktop/x11/x11.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -81,7 +81,7 @@ void ScreenWindow::MakeViews() {
     if (view->Model().Kind() == ControlKind::Label) view->Widget()->lower();
   };
   std::for_each(views_.rbegin(), views_.rend(), lower_if_text);
-  keys_to_ = std::make_unique<Focus>(*this, views_);
+  keys_to_ = std::make_unique<Focus>(*this, screen_, views_);
 }
 
 void ScreenWindow::FollowTitle() {
@@ -166,7 +166,7 @@ void ScreenWindow::PutInPlace() {
   const QSize size = sizeHint();
   // The place is that of the window's inside, so room is left above it for the title bar.
   const QRect available =
-      screen()->availableGeometry().adjusted(0, qCeil(TitleHeight / ratio), 0, 0);
+      screen()->availableGeometry().adjusted(0, qCeil(kTitleHeight / ratio), 0, 0);
   QPointF centre = owner_ != nullptr ? CentreOf(*owner_) : QRectF(available).center();
   if (centre_) centre = *centre_ / ratio;
   const QPoint corner = (centre - QRectF(QPointF(), size).center()).toPoint();
@@ -179,7 +179,7 @@ void ScreenWindow::PutInPlace() {
 Span ScreenWindow::TakenSpan(bool full_screen) const {
   const int menu = menu_ == nullptr ? 0 : menuWidget()->sizeHint().height();
   const bool covers = full_screen && screen_.IsScene;
-  return {{double(screen_.Width), double(screen_.Height + menu)}, covers ? 0 : TitleHeight};
+  return {{double(screen_.Width), double(screen_.Height + menu)}, covers ? 0 : kTitleHeight};
 }
 
 bool ScreenWindow::event(QEvent* event) {

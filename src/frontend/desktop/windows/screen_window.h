@@ -11,7 +11,7 @@
 #include "src/frontend/desktop/views/control_view.h"
 #include "src/frontend/desktop/views/menu_view.h"
 #include "src/frontend/desktop/windows/client_area.h"
-#include "src/frontend/desktop/windows/scale.h"
+#include "src/frontend/shared/scale.h"
 
 namespace orvane {
 

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QWindow>
 
+#include "src/frontend/desktop/windows/toolkit_scale.h"
+
 namespace orvane {
 
 Windows::Windows(Stage& stage, Events& events, const Zoom& zoom)

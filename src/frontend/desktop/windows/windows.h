@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "src/frontend/desktop/windows/screen_window.h"
-#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/shared/zoom.h"
 #include "src/ui/stage.h"
 
 namespace orvane {

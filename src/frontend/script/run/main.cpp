@@ -8,6 +8,7 @@
 
 #include "src/frontend/script/run/script_file.h"
 #include "src/frontend/script/run/tally.h"
+#include "src/platform/program_path.h"
 
 namespace {
 
@@ -20,14 +21,9 @@ struct Arguments {
   bool Wrong = false;
 };
 
-// The game folder that the build makes beside its programs.
-std::filesystem::path BuiltFolder() {
-  std::error_code failed;
-  return std::filesystem::read_symlink("/proc/self/exe", failed).parent_path() / "game";
-}
-
 Arguments Read(const std::vector<std::string>& words) {
-  Arguments arguments{BuiltFolder(), {}};
+  // The game folder that the build makes beside its programs.
+  Arguments arguments{orvane::ProgramPath().parent_path() / "game", {}};
   for (size_t i = 0; i < words.size(); ++i) {
     if (words[i] == "--folder" && i + 1 < words.size()) {
       arguments.Folder = std::filesystem::absolute(words[++i]);

@@ -1,0 +1,20 @@
+// The texts that stand on pictures, as screen readers tell them.
+#pragma once
+
+#include <string>
+
+#include "src/ui/controls.h"
+
+namespace orvane {
+
+// All that is written on a picture at this moment, a line for each text; a number comes with what
+// it belongs to. Nothing while the picture cannot be seen. Pictures that stand on it speak for themselves.
+std::string SpokenText(const PictureBox& picture);
+
+// The same for a screen that is drawn on as a whole, with what is drawn there as a picture.
+std::string SpokenText(const Screen& screen);
+
+// What stands before a number as its caption, "HP ："; nothing where nothing does.
+std::string CaptionBeside(const Control& control);
+
+}  // namespace orvane

@@ -1,0 +1,42 @@
+#include "src/frontend/shared/zoom.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane {
+namespace {
+
+constexpr double kHalfStep = 0.5;
+
+Span FirstOf(const std::vector<Extent>& windows) {
+  if (windows.empty()) return {};
+  return {{windows.front().Width, windows.front().Height + kMenuHeight}, kTitleHeight};
+}
+
+}  // namespace
+
+Zoom::Zoom(const ScreenFacts& screen, std::optional<double> start,
+           const std::vector<Extent>& windows)
+    : screen_(screen),
+      best_(ChooseScale(screen.Available, windows)),
+      windowed_(start.value_or(best_)),
+      least_(windowed_),
+      largest_(FittingScale(screen.Available, {FirstOf(windows)})) {}
+
+void Zoom::Enlarge() {
+  const double next = std::floor(windowed_ / kHalfStep + 1) * kHalfStep;
+  if (next <= largest_) windowed_ = next;
+}
+
+void Zoom::Reduce() {
+  const double next = std::ceil(windowed_ / kHalfStep - 1) * kHalfStep;
+  if (next >= 1) windowed_ = next;
+}
+
+double Zoom::ScaleFor(const std::vector<Span>& windows) const {
+  if (full_screen_) return FittingScale(screen_.Whole, windows);
+  const double fitting = FittingScale(screen_.Available, windows);
+  return std::min(windowed_, std::max(least_, fitting));
+}
+
+}  // namespace orvane

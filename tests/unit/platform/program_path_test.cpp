@@ -1,0 +1,16 @@
+#include "src/platform/program_path.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+TEST(ProgramPath, is_the_file_of_the_running_program) {
+  const auto path = ProgramPath();
+  EXPECT_TRUE(path.is_absolute());
+  EXPECT_TRUE(std::filesystem::is_regular_file(path));
+  EXPECT_EQ(path.filename(), "orvane-unit");
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,110 @@
+// Where the keyboard goes among the controls of a screen.
+#include "src/frontend/shared/focus_order.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "src/ui/stage.h"
+
+namespace orvane {
+namespace {
+
+// A button, a list and a slider in this order; under them tabs with a button on each pane.
+class Desk : public Screen {
+ public:
+  explicit Desk(Stage& stage) : Screen(stage, "Desk", "Desk", 400, 300) {
+    Tabs.Captions = {"one", "two"};
+    Tabs.PanesEnabled = {true, true};
+  }
+
+  Label Words{*this, "Words", {0, 0, 100, 20}, {"not for keys"}};
+  CommandButton Button{*this, "Button", {0, 40, 60, 20}, {"Button"}};
+  Slider Speed{*this, "Speed", {100, 40, 60, 20}};
+  ListBox Things{*this, "Things", {200, 40, 60, 60}};
+  TabStrip Tabs{*this, "Tabs", {0, 150, 300, 100}};
+  CommandButton First{PaneOf(Tabs, 0), "First", {20, 40, 60, 20}, {"First"}};
+  CommandButton Second{PaneOf(Tabs, 1), "Second", {20, 40, 60, 20}, {"Second"}};
+};
+
+class FocusOrderTest : public testing::Test {
+ protected:
+  Stage stage_;
+  Desk desk_{stage_};
+  FocusOrder order_{desk_};
+};
+
+TEST_F(FocusOrderTest, what_is_filled_in_comes_before_the_buttons) {
+  const std::vector<Control*> wanted = {&desk_.Things, &desk_.Speed, &desk_.Button,
+                                        &desk_.Tabs,   &desk_.First, &desk_.Second};
+  EXPECT_EQ(order_.Stops(), wanted);
+}
+
+TEST_F(FocusOrderTest, begins_with_what_asks_for_an_answer_or_else_with_the_first) {
+  EXPECT_EQ(order_.Begin(), &desk_.Things);
+  desk_.Things.Visible = false;
+  EXPECT_EQ(order_.Begin(), &desk_.Speed);
+  for (Control* stop : order_.Stops()) stop->Enabled = false;
+  EXPECT_EQ(order_.Begin(), nullptr);
+}
+
+TEST_F(FocusOrderTest, stays_where_it_can) {
+  EXPECT_EQ(order_.Follow(&desk_.Button), &desk_.Button);
+}
+
+TEST_F(FocusOrderTest, goes_to_a_list_that_has_come_and_back_when_it_has_gone) {
+  desk_.Things.Visible = false;
+  desk_.Button.Enabled = false;  // commands are off while the list asks
+  desk_.Things.Visible = true;
+  EXPECT_EQ(order_.Follow(&desk_.Button), &desk_.Things);
+  desk_.Things.Visible = false;
+  desk_.Button.Enabled = true;
+  EXPECT_EQ(order_.Follow(&desk_.Things), &desk_.Button);
+}
+
+TEST_F(FocusOrderTest, the_last_that_lost_the_keyboard_is_the_first_to_have_it_again) {
+  desk_.Things.Visible = false;
+  desk_.Speed.Enabled = false;
+  EXPECT_EQ(order_.Follow(&desk_.Speed), &desk_.Button);
+  desk_.Button.Enabled = false;
+  EXPECT_EQ(order_.Follow(&desk_.Button), &desk_.Tabs);
+  for (Control* stop : order_.Stops()) stop->Enabled = true;
+  desk_.Tabs.Enabled = false;
+  EXPECT_EQ(order_.Follow(&desk_.Tabs), &desk_.Button);
+}
+
+TEST_F(FocusOrderTest, goes_to_the_tabs_when_its_pane_has_closed) {
+  desk_.Tabs.OpenTab = 1;
+  EXPECT_EQ(order_.Follow(&desk_.First), &desk_.Tabs);
+}
+
+TEST_F(FocusOrderTest, tabs_of_which_none_can_be_opened_are_of_no_use) {
+  desk_.Tabs.PanesEnabled = {false, false};
+  desk_.Things.Visible = false;
+  EXPECT_NE(order_.Follow(&desk_.Tabs), &desk_.Tabs);
+  EXPECT_FALSE(order_.NextTab(1).has_value());
+}
+
+TEST_F(FocusOrderTest, arrows_lead_to_what_lies_next_and_can_be_used) {
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Right), &desk_.Speed);
+  desk_.Speed.Enabled = false;
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Right), &desk_.Things);
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Down), &desk_.Tabs);
+  EXPECT_EQ(order_.Neighbour(desk_.Tabs, Key::Down), &desk_.First) << "the tabs end above the pane";
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Left), nullptr);
+}
+
+TEST_F(FocusOrderTest, tabs_turn_round_and_round_past_those_that_are_off) {
+  auto turn = order_.NextTab(1);
+  ASSERT_TRUE(turn.has_value());
+  EXPECT_EQ(turn->Tabs, &desk_.Tabs);
+  EXPECT_EQ(turn->Tab, 1);
+  desk_.Tabs.OpenTab = 1;
+  EXPECT_EQ(order_.NextTab(1)->Tab, 0);
+  EXPECT_EQ(order_.NextTab(-1)->Tab, 0);
+  desk_.Tabs.PanesEnabled = {false, true};
+  EXPECT_EQ(order_.NextTab(1)->Tab, 1) << "there is no other";
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,138 @@
+// The ticks on a clock that the test sets: when they are due, hurried, and in their record.
+#include "src/frontend/shared/tick_times.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "src/ui/screen.h"
+#include "src/ui/stage.h"
+#include "src/ui/timer.h"
+
+namespace orvane {
+namespace {
+
+class Clockwork : public Screen {
+ public:
+  explicit Clockwork(Stage& stage) : Screen(stage, "Clockwork", "Clockwork", 200, 100) {}
+
+  Timer Slow{*this, "Slow", 2000};
+  Timer Paced{*this, "Paced", 5, 60};
+};
+
+class TickTimesTest : public testing::Test {
+ protected:
+  TickTimesTest() {
+    ClearEnvironment();
+    stage_.KeepDesigns();
+    stage_.Show(screen_);
+  }
+  ~TickTimesTest() override { ClearEnvironment(); }
+
+  static void ClearEnvironment() {
+    unsetenv("ORVANE_SPEED");
+    unsetenv("ORVANE_TICKS");
+  }
+
+  // Serves so many ticks, each as soon as it is due; returns the real ms that they take.
+  double Serve(int count) {
+    TickTimes times(stage_);
+    double now = 0;
+    for (int served = 0; served < count;) {
+      const auto wait = times.Wait(now);
+      if (!wait) return -1;
+      now += *wait;
+      if (times.Take(now) != nullptr) ++served;
+    }
+    return now;
+  }
+
+  Stage stage_;
+  Clockwork screen_{stage_};
+};
+
+TEST_F(TickTimesTest, while_no_timer_is_on_nothing_is_due) {
+  TickTimes times(stage_);
+  EXPECT_FALSE(times.Wait(0).has_value());
+  EXPECT_EQ(times.Take(100000), nullptr);
+}
+
+TEST_F(TickTimesTest, keeps_the_pace_where_it_is_longer_than_the_interval) {
+  screen_.Paced.SetEnabled(true);
+  EXPECT_EQ(Serve(2), 120);
+}
+
+TEST_F(TickTimesTest, a_tick_that_is_late_comes_at_once_and_once) {
+  screen_.Paced.SetEnabled(true);
+  TickTimes times(stage_);
+  ASSERT_EQ(times.Wait(0), 60);
+  EXPECT_EQ(times.Take(59), nullptr);
+  EXPECT_EQ(times.Wait(1000), 0);
+  EXPECT_EQ(times.Take(1000), &screen_.Paced);
+  EXPECT_EQ(times.Take(1000), nullptr);
+  EXPECT_EQ(times.Wait(1000), 60);
+}
+
+TEST_F(TickTimesTest, hurries_as_many_times_as_it_is_asked_to) {
+  setenv("ORVANE_SPEED", "100", 1);
+  screen_.Slow.SetEnabled(true);
+  EXPECT_EQ(Serve(2), 40);
+}
+
+TEST_F(TickTimesTest, logs_each_tick_with_its_period_and_time_of_the_game) {
+  const auto name = std::filesystem::path(testing::TempDir()) / "orvane_ticks.txt";
+  setenv("ORVANE_TICKS", name.c_str(), 1);
+  setenv("ORVANE_SPEED", "100", 1);
+  screen_.Slow.SetEnabled(true);
+  screen_.Paced.SetEnabled(true);
+  Serve(40);
+  std::ifstream log(name);
+  std::string timer;
+  int period = 0;
+  double time = 0;
+  double paced_before = 0;
+  int slow_count = 0;
+  int paced_count = 0;
+  while (log >> timer >> period >> time) {
+    if (timer == "Slow") {
+      ++slow_count;
+      EXPECT_EQ(period, 2000);
+      EXPECT_GE(time, 2000);
+    } else {
+      ASSERT_EQ(timer, "Paced");
+      ++paced_count;
+      EXPECT_EQ(period, 60) << "the pace, where it is longer than the interval";
+      EXPECT_GT(time, paced_before);
+      paced_before = time;
+    }
+  }
+  std::filesystem::remove(name);
+  EXPECT_EQ(slow_count + paced_count, 40);
+  EXPECT_GE(slow_count, 1);
+  EXPECT_GE(paced_count, 20);
+}
+
+TEST_F(TickTimesTest, goes_on_without_a_log_that_cannot_be_written) {
+  setenv("ORVANE_TICKS", "/nowhere/at/all/ticks.txt", 1);
+  screen_.Paced.SetEnabled(true);
+  EXPECT_EQ(Serve(1), 60);
+}
+
+TEST(GameSpeed, is_one_unless_a_number_from_one_to_a_thousand_says_more) {
+  EXPECT_EQ(GameSpeed(nullptr), 1);
+  EXPECT_EQ(GameSpeed(""), 1);
+  EXPECT_EQ(GameSpeed("quick"), 1);
+  EXPECT_EQ(GameSpeed("0.5"), 1) << "nothing slows the game down";
+  EXPECT_EQ(GameSpeed("-3"), 1);
+  EXPECT_EQ(GameSpeed("nan"), 1);
+  EXPECT_EQ(GameSpeed("2.5"), 2.5);
+  EXPECT_EQ(GameSpeed("1000"), 1000);
+  EXPECT_EQ(GameSpeed("1e9"), 1000);
+  EXPECT_EQ(GameSpeed("inf"), 1000);
+}
+
+}  // namespace
+}  // namespace orvane

@@ -32,7 +32,7 @@ may_include() {
 # Headers of systems and libraries that single files or folders are there for.
 may_name() {
   case "$1" in
-    platform/durable_file.cpp) echo "fcntl.h unistd.h" ;;
+    platform/durable_file.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
   esac

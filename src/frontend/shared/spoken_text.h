@@ -8,7 +8,8 @@
 namespace orvane {
 
 // All that is written on a picture at this moment, a line for each text; a number comes with what
-// it belongs to. Nothing while the picture cannot be seen. Pictures that stand on it speak for themselves.
+// it belongs to. Nothing while the picture cannot be seen. Pictures that stand on it speak for
+// themselves.
 std::string SpokenText(const PictureBox& picture);
 
 // The same for a screen that is drawn on as a whole, with what is drawn there as a picture.

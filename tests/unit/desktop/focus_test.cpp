@@ -114,6 +114,26 @@ TEST_F(FocusTest, a_list_has_the_keyboard_as_soon_as_it_is_there_and_gives_it_ba
   EXPECT_EQ(At(window), "Command1");
 }
 
+TEST_F(FocusTest, escape_is_the_way_back_of_a_list_and_the_cancel_of_a_dialog) {
+  Open("Battle");
+  Type(Qt::Key_Return);
+  EXPECT_TRUE(Battle().Targets.Visible);
+  Type(Qt::Key_Escape);
+  EXPECT_FALSE(Battle().Targets.Visible);
+  const ScreenWindow& names = Open("InputName");
+  EXPECT_EQ(At(names), "Text1(0)");
+  Type(Qt::Key_Escape);
+  EXPECT_FALSE(names.isVisible());
+}
+
+TEST_F(FocusTest, enter_in_a_name_field_is_ok) {
+  const ScreenWindow& names = Open("InputName");
+  EXPECT_EQ(At(names), "Text1(0)");
+  Type(Qt::Key_Return);
+  ASSERT_TRUE(program_.TheStage().BoxStands()) << "a name is missing";
+  EXPECT_EQ(program_.TheStage().Boxes().back().Shown.Text, "名前を入力してください。");
+}
+
 TEST_F(FocusTest, arrows_stay_in_a_list_at_its_ends) {
   program_.TheState().GameStarted = True;
   program_.TheState().OpeningDone = True;

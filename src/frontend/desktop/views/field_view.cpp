@@ -16,6 +16,9 @@ FieldView::FieldView(TextBox& model, QWidget* parent, Events& events)
         const std::string typed = text.toStdString();
         events.Send([&model, &typed](Program& program) { program.EnterText(model, typed); });
       });
+  QObject::connect(widget_, &QLineEdit::returnPressed, widget_, [&model, &events] {
+    events.Send([&model](Program& program) { program.Confirm(model.Owner()); });
+  });
 }
 
 void FieldView::FollowValues(bool /*all*/) {

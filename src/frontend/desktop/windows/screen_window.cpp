@@ -201,6 +201,8 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
     keys_to_->Move(*arrow);
   } else if (event->key() == Qt::Key_F10 && menu_ != nullptr) {
     menu_->Open();
+  } else if (event->key() == Qt::Key_Escape) {
+    events_.Send([this](Program& program) { program.GoBack(screen_); });
   } else if (event->key() == Qt::Key_Tab && control) {
     keys_to_->TurnTab(1);
   } else if (event->key() == Qt::Key_Backtab && control) {

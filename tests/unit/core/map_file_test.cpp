@@ -74,6 +74,22 @@ TEST_F(MapFileTest, AWordIsATypeError) {
   EXPECT_EQ(KindOfError(), ErrorKind::Type);
 }
 
+TEST_F(MapFileTest, NamesForWhatIsNoNumberAndTwoSignsAreTypeErrors) {
+  for (const char* word : {"inf", "-inf", "+infinity", "Infinity", "nan", "-nan", "+-5", "-+5",
+                           "--5", "++5", "+", "-", "."}) {
+    Write(word + (" " + Numbers(480, " ")));
+    EXPECT_EQ(KindOfError(), ErrorKind::Type) << word;
+  }
+}
+
+TEST_F(MapFileTest, SignsFractionsAndPowersOfTenAreNumbers) {
+  Write("-5 +5 2.5 .5 1e2 -1.5E1 " + Numbers(480, " "));
+  Read();
+  for (const auto& [row, code] : {std::pair(0, -5), {1, 5}, {2, 2}, {3, 0}, {4, 100}, {5, -15}}) {
+    EXPECT_EQ(int{state.MapTile[0][row]}, code) << row;
+  }
+}
+
 TEST_F(MapFileTest, ANumberBeyondSixteenBitsIsAnOverflow) {
   Write("40000 " + Numbers(480, " "));
   EXPECT_EQ(KindOfError(), ErrorKind::Overflow);

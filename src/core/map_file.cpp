@@ -1,7 +1,6 @@
 #include "src/core/map_file.h"
 
 #include <charconv>
-#include <string_view>
 
 #include "src/base/error.h"
 
@@ -57,17 +56,18 @@ class NumberReader {
 
 }  // namespace
 
-std::string GridMapFile(int map_a, int map_b) {
-  return "Mapdata/map" + std::to_string(map_b) + "-" + std::to_string(map_a) + ".dat";
+void ReadMapText(std::string_view text, const std::string& file, MapTiles& tiles) {
+  NumberReader reader(text, file);
+  for (int column = 0; column < MapColumns; ++column) {
+    for (int row = 0; row < MapRows; ++row) tiles[column][row] = reader.Next();
+  }
 }
 
-void ReadMapFile(const Storage& files, const std::string& name, SharedState& state) {
-  const auto text = files.Read(name);
-  if (!text) throw RunError(ErrorKind::File, name);
-  NumberReader reader(*text, name);
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) state.MapTile[column][row] = reader.Next();
-  }
+void ReadMapFile(const Storage& files, const MapId& map, MapTiles& tiles) {
+  const std::string file = MapFile(map);
+  const auto text = files.Read(file);
+  if (!text) throw RunError(ErrorKind::File, file);
+  ReadMapText(*text, file, tiles);
 }
 
 }  // namespace orvane

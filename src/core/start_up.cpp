@@ -1,7 +1,7 @@
 #include "src/core/start_up.h"
 
 #include "src/core/game.h"
-#include "src/core/map_file.h"
+#include "src/core/map.h"
 #include "src/core/new_game.h"
 
 namespace orvane {

@@ -3,17 +3,13 @@
 #include <string>
 
 #include "src/core/game.h"
+#include "src/field/map_travel.h"
 
 namespace orvane {
 namespace {
 
 constexpr int kRollSize = 150;
 constexpr int kEncounter = 100;
-
-// The strip before a dragon, by the feet's position.
-bool StandsBefore(const State& state, int lowest_y) {
-  return state.HeroX >= 224 && state.HeroX <= 240 && state.HeroY <= lowest_y;
-}
 
 void CloseFieldMusic(Game& game) {
   switch (game.state.Round) {
@@ -36,8 +32,9 @@ void EncounterCheck(Game& game) {
   state.EncounterRoll = RoundToInt16(Int(Rnd(game) * kRollSize));
   const bool random_battle =
       state.EncounterRoll == kEncounter && state.InBook == False && state.LastBossFight == False;
-  const bool dragon = state.MapA == 4 && state.MapB == 1 && StandsBefore(state, 116);
-  const bool last_dragon = state.LastBossFight == True && StandsBefore(state, 48);
+  const Party party = PartyOf(state);
+  const bool dragon = BeforeDragon(party);
+  const bool last_dragon = state.LastBossFight == True && BeforeLastDragon(party);
   if (!random_battle && dragon) state.BossFight = True;
   if (random_battle || dragon || last_dragon) EnterBattle(game);
 }

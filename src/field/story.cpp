@@ -23,10 +23,7 @@ void StartNextRound(Game& game) {
   state.FieldFrame = state.MessageFrame = state.StoryFrame = state.ActionState = 0;
   state.BossFight = False;
   state.Round += 1;
-  state.MapA = 3;
-  state.MapB = 3;
-  state.HeroX = 208;
-  state.HeroY = 112;
+  PutParty(state, kRoundStart);
   for (int chest = 0; chest < 15; ++chest) state.TreasureLeft[chest] = True;
   for (int chest = 0; chest < 4; ++chest) state.BookLeft[chest] = True;
   ReadMap(game);
@@ -38,10 +35,7 @@ void StartLastStage(Game& game) {
   state.Round = 4;
   game.Main.SaveItem.Enabled = false;
   state.StoryNo = kThirdDragonEnd + 1;
-  state.MapA = 0;
-  state.MapB = 0;
-  state.HeroX = 232;
-  state.HeroY = 224;
+  PutParty(state, kLastStageStart);
   state.BossFight = False;
   state.LastBossFight = True;
   ReadMap(game);

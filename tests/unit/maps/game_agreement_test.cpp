@@ -58,7 +58,7 @@ class GameWalker {
     state.KeyRight = direction == Direction::Right ? -1 : 0;
     battle_ = false;
     try {
-      CharStep(game_, 0, [] {});
+      WalkOneStep(game_, 0, [] {});
     } catch (const RunError&) {
       tiles_of_.reset();
       return {Event::NoSuchMap, party};

@@ -2,6 +2,10 @@
 
 namespace orvane {
 
+bool IsWasteGround(int tile) {
+  return tile == 13 || tile == 14 || tile == 19 || tile == 234;
+}
+
 std::string MapName(const MapId& map) {
   switch (map.Inside.What) {
     case Room::Kind::Spring:

@@ -13,6 +13,9 @@ constexpr int MapColumns = 30;
 constexpr int MapRows = 16;
 constexpr int TileSize = 16;  // pixels
 
+// Whether a tile is of the wastes, where battles show their second background.
+bool IsWasteGround(int tile);
+
 // Tile codes by column, then row; the last of each is spare.
 using MapTiles = Array<Array<Int16, MapRows + 1>, MapColumns + 1>;
 

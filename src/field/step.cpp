@@ -1,5 +1,8 @@
 #include "src/field/step.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "src/field/tiles.h"
 
 namespace orvane {
@@ -53,7 +56,9 @@ Way WayOf(const Surroundings& around, const Party& party, Direction direction) {
 
 Room RoomBehind(int door, const WalkRules& rules, const Party& party) {
   if (door == kLastBookDoor) return kLastBookRoom;
-  const bool spring = (party.MapA == 1 && party.MapB == 1) || (party.MapA == 3 && party.MapB == 5);
+  const MapId grid{party.MapA, party.MapB};
+  const bool spring =
+      std::find(std::begin(kSpringMaps), std::end(kSpringMaps), grid) != std::end(kSpringMaps);
   return spring ? kSpringRoom : BookRoom(rules.Round);
 }
 

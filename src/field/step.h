@@ -65,6 +65,10 @@ StepTaken TryStep(const Surroundings& around, const WalkRules& rules, const Part
 // it has come to an edge of the screen.
 std::optional<Party> CrossEdge(const WalkRules& rules, const Party& party);
 
+// The maps on which doors lead to the spring room; on all others they lead to the round's book
+// room.
+constexpr MapId kSpringMaps[] = {{1, 1}, {3, 5}};
+
 // The strips before which the dragons wait: that of the rounds, and the last one.
 bool BeforeDragon(const Party& party);
 bool BeforeLastDragon(const Party& party);

@@ -24,6 +24,27 @@ void CloseFieldMusic(Game& game) {
   }
 }
 
+// Closes the field's music, opens the music of the fight and the effects.
+void LoadBattleSounds(Game& game) {
+  CloseFieldMusic(game);
+  const State& state = game.state;
+  if (state.BossFight == False && state.LastBossFight == False) {
+    game.sound.Open("bgm4");
+  } else if (state.BossFight == True) {
+    game.sound.Open("bgm5");
+  } else if (state.LastBossFight == True) {
+    game.sound.Open("bgm6");
+  }
+  for (int channel = 2; channel <= 10; ++channel) game.sound.Open("snd" + std::to_string(channel));
+}
+
+// Leaves the field for the battle screen.
+void EnterBattle(Game& game) {
+  LoadBattleSounds(game);
+  game.Main.WalkTimer.SetEnabled(false);
+  game.links.ShowBattle();
+}
+
 }  // namespace
 
 void EncounterCheck(Game& game) {
@@ -37,25 +58,6 @@ void EncounterCheck(Game& game) {
   const bool last_dragon = state.LastBossFight == True && BeforeLastDragon(party);
   if (!random_battle && dragon) state.BossFight = True;
   if (random_battle || dragon || last_dragon) EnterBattle(game);
-}
-
-void EnterBattle(Game& game) {
-  LoadBattleSounds(game);
-  game.Main.WalkTimer.SetEnabled(false);
-  game.links.ShowBattle();
-}
-
-void LoadBattleSounds(Game& game) {
-  CloseFieldMusic(game);
-  const State& state = game.state;
-  if (state.BossFight == False && state.LastBossFight == False) {
-    game.sound.Open("bgm4");
-  } else if (state.BossFight == True) {
-    game.sound.Open("bgm5");
-  } else if (state.LastBossFight == True) {
-    game.sound.Open("bgm6");
-  }
-  for (int channel = 2; channel <= 10; ++channel) game.sound.Open("snd" + std::to_string(channel));
 }
 
 }  // namespace orvane

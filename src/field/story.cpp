@@ -1,9 +1,10 @@
 #include "src/field/story.h"
 
 #include "src/core/game.h"
+#include "src/core/new_game.h"
 #include "src/field/field_frame.h"
 #include "src/field/map_travel.h"
-#include "src/field/pickups.h"
+#include "src/field/message.h"
 
 namespace orvane {
 namespace {
@@ -17,6 +18,20 @@ constexpr int kSecondDragonEnd = 27;
 constexpr int kThirdDragonEnd = 31;
 constexpr int kStoryEnd = 45;
 
+// Leaves a scene; the field goes on.
+void EndStory(Game& game) {
+  MainScreen& main = game.Main;
+  main.StoryTimer.SetEnabled(false);
+  for (MenuItem* menu : {&main.FileMenu, &main.ItemMenu, &main.InfoMenu, &main.SaveItem})
+    menu->Enabled = true;
+  main.MessageLines[0].Visible = true;
+  main.MessageLines[1].Visible = true;
+  main.SpeakerFace.Visible = false;
+  main.StoryLine.Visible = false;
+  main.MessageWindow.Visible = false;
+  main.WalkTimer.SetEnabled(true);
+}
+
 void StartNextRound(Game& game) {
   State& state = game.state;
   state.StoryNo += 1;
@@ -24,8 +39,7 @@ void StartNextRound(Game& game) {
   state.BossFight = False;
   state.Round += 1;
   PutParty(state, kRoundStart);
-  for (int chest = 0; chest < 15; ++chest) state.TreasureLeft[chest] = True;
-  for (int chest = 0; chest < 4; ++chest) state.BookLeft[chest] = True;
+  CloseChests(state);
   ReadMap(game);
   EndStory(game);
 }
@@ -103,19 +117,6 @@ void FieldClick(Game& game) {
   } else if (state.OpeningDone == False) {
     StepOpening(game);
   }
-}
-
-void EndStory(Game& game) {
-  MainScreen& main = game.Main;
-  main.StoryTimer.SetEnabled(false);
-  for (MenuItem* menu : {&main.FileMenu, &main.ItemMenu, &main.InfoMenu, &main.SaveItem})
-    menu->Enabled = true;
-  main.MessageLines[0].Visible = true;
-  main.MessageLines[1].Visible = true;
-  main.SpeakerFace.Visible = false;
-  main.StoryLine.Visible = false;
-  main.MessageWindow.Visible = false;
-  main.WalkTimer.SetEnabled(true);
 }
 
 }  // namespace orvane

@@ -4,7 +4,7 @@
 #include "src/core/main_activation.h"
 #include "src/core/quit.h"
 #include "src/field/field_frame.h"
-#include "src/field/pickups.h"
+#include "src/field/message.h"
 #include "src/field/story.h"
 
 namespace orvane {

@@ -1,17 +1,25 @@
 // The rules that can be read off the maps without walking.
 #include <algorithm>
 #include <iterator>
+#include <span>
 
+#include "src/field/pickups.h"
 #include "src/field/tiles.h"
 #include "tools/maps/check.h"
 
 namespace orvane::maps {
 namespace {
 
-// The maps on which the game's tables have a chest or a book chest.
-constexpr MapId kChestMaps[] = {{3, 3}, {2, 1}, {2, 2}, {3, 1}, {1, 1}, {1, 3}, {1, 4}, {1, 5},
-                                {2, 4}, {4, 5}, {4, 4}, {5, 3}, {4, 2}, {4, 1}, {5, 1}};
-constexpr MapId kBookMaps[] = {{1, 3}, {3, 4}, {3, 2}, {6, 4}};
+// Whether the game has one of its chests on a map.
+bool Among(const MapId& place, std::span<const Find> finds) {
+  return std::any_of(finds.begin(), finds.end(), [&](const Find& find) {
+    return place == MapId{find.MapA, find.MapB};
+  });
+}
+
+bool IsSpringMap(const MapId& place) {
+  return std::find(std::begin(kSpringMaps), std::end(kSpringMaps), place) != std::end(kSpringMaps);
+}
 
 class DrawingCheck {
  public:
@@ -55,18 +63,13 @@ class DrawingCheck {
     return count;
   }
 
-  template <size_t kSize>
-  static bool Among(const MapId& place, const MapId (&places)[kSize]) {
-    return std::find(std::begin(places), std::end(places), place) != std::end(places);
-  }
-
   void CheckChests(const MapId& place, const TileMap& map) {
     const int chests = Count(map, [](int code) { return code == kChest; });
-    if (chests != (Among(place, kChestMaps) ? 1 : 0)) {
+    if (chests != (Among(place, Treasures()) ? 1 : 0)) {
       Add(FaultKind::Furniture, std::to_string(chests) + " chests on " + PlaceName(place));
     }
     const int cells = Count(map, IsBookChest);
-    if (cells != (Among(place, kBookMaps) ? 4 : 0)) {
+    if (cells != (Among(place, Books()) ? 4 : 0)) {
       Add(FaultKind::Furniture,
           std::to_string(cells) + " cells of book chests on " + PlaceName(place));
     } else if (cells == 4 && !HasWholeBook(map)) {
@@ -94,7 +97,7 @@ class DrawingCheck {
       const int doors = Count(map, IsDoor);
       const int room_doors = Count(map, IsRoomDoor);
       last_doors += doors - room_doors;
-      const bool spring = Among(place, kSpringMaps);
+      const bool spring = IsSpringMap(place);
       if (room_doors > 0 && !spring) ++book_maps;
       if (spring && room_doors == 0) {
         Add(FaultKind::Furniture, "no door to the spring room on " + PlaceName(place));

@@ -1,11 +1,13 @@
 #include "tools/maps/tile_map.h"
 
 #include <fstream>
-#include <iterator>
+#include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "src/base/error.h"
 #include "src/core/map_file.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane::maps {
 
@@ -34,11 +36,9 @@ TileMap ReadDat(std::string_view text) {
 }
 
 std::string ReadFile(const std::string& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::runtime_error(file + ": cannot open");
-  std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
-  if (stream.bad()) throw std::runtime_error(file + ": cannot read");
-  return text;
+  std::optional<std::string> text = ReadWholeFile(file);
+  if (!text) throw std::runtime_error(file + ": cannot read");
+  return *std::move(text);
 }
 
 void WriteFile(const std::string& file, std::string_view text) {

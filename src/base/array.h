@@ -30,6 +30,8 @@ class Array {
     CheckIndex(index, N);
     return values_[static_cast<size_t>(index)];
   }
+  bool operator==(const Array&) const = default;
+
   auto begin() { return values_.begin(); }
   auto end() { return values_.end(); }
   auto begin() const { return values_.begin(); }

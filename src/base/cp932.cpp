@@ -18,6 +18,11 @@ bool IsHalfKatakana(unsigned char byte) {
   return byte >= 0xA1 && byte <= 0xDF;
 }
 
+// Bytes that neither stand alone nor begin a pair.
+bool IsNoLead(unsigned char byte) {
+  return byte == 0x80 || byte == 0xA0 || byte >= 0xFD;
+}
+
 // Position of a trail byte in its row, or -1.
 int TrailIndex(unsigned char trail) {
   if (trail >= 0x40 && trail <= 0x7E) return trail - 0x40;
@@ -96,6 +101,8 @@ std::string FromCp932(std::string_view bytes) {
       text += static_cast<char>(first);
     } else if (IsHalfKatakana(first)) {
       text += Utf8(kHalfKatakana + (first - 0xA1u));
+    } else if (IsNoLead(first)) {
+      text += kUnknown;
     } else {
       const Cp932Row* row = FindRow(first);
       const int index =

@@ -10,6 +10,9 @@ namespace orvane {
 using HeroNameField = FixedText<8>;
 using ItemNameField = FixedText<20>;
 
+constexpr int kChestCount = 15;
+constexpr int kBookChestCount = 4;
+
 // Arrays with a per-hero meaning are indexed 0 for the man, 1 for the woman; slot 2 is never used.
 // Booleans are -1 and 0.
 struct GameRecord {
@@ -17,11 +20,11 @@ struct GameRecord {
   Int16 SaveX;  // position at save time in pixels; a tile number in a fresh game
   Int16 SaveY;
   Int16 Reserved1;
-  Array<Int16, 16> TreasureLeft;  // chest i is still closed in this round
-  Int16 TreasureNo;               // the chest being opened
-  Array<Int16, 5> BookLeft;       // book chest i is still closed in this round
-  Int16 BookNo;                   // the book chest being opened
-  Int16 SaveMapA;                 // MapA and MapB at save time
+  Array<Int16, kChestCount + 1> TreasureLeft;  // chest i is still closed in this round
+  Int16 TreasureNo;                            // the chest being opened
+  Array<Int16, kBookChestCount + 1> BookLeft;  // book chest i is still closed in this round
+  Int16 BookNo;                                // the book chest being opened
+  Int16 SaveMapA;                              // MapA and MapB at save time
   Int16 SaveMapB;
   Array<HeroNameField, 3> HeroName;
   Array<Int16, 3> Level;

@@ -7,13 +7,13 @@
 namespace orvane {
 
 struct Links {
-  // Sets the period of the battle's action timer in ms; creates the screen.
+  // What Main does when it comes into being.
+  std::function<void()> StartUp;
+  // Sets the interval of the battle's action timer, in milliseconds; creates the screen.
   std::function<void(int)> SetBattleInterval;
-  // Shows Battle, hides Main, starts the battle's music timer.
+  // Shows Battle, hides Main and starts the battle's music timer.
   std::function<void()> ShowBattle;
   std::function<void()> ShowEnding;
-  std::function<void()> SetStoryText;
-  std::function<void()> FillSkillTables;
 };
 
 }  // namespace orvane

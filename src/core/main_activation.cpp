@@ -44,7 +44,7 @@ void ActivateMain(Game& game) {
   LeaveTitle(main);
   ShowStatus(game);
   if (state.InBook == False) {
-    ReadMapFile(game.services.Files, GridMapFile(state.MapA, state.MapB), game.state);
+    ReadMapFile(game.services.Files, {state.MapA, state.MapB}, game.state.MapTile);
   }
   if (state.OpeningDone == False) {
     EnableMenus(main, false);

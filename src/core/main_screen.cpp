@@ -4,7 +4,6 @@
 #include "src/core/main_activation.h"
 #include "src/core/quit.h"
 #include "src/core/sheets.h"
-#include "src/core/start_up.h"
 
 namespace orvane {
 namespace {
@@ -88,7 +87,7 @@ MainScreen::MainScreen(Stage& stage, Game& game)
 }
 
 void MainScreen::OnLoad() {
-  StartUp(game_);
+  game_.links.StartUp();
 }
 
 void MainScreen::OnActivate(bool) {

@@ -1,7 +1,6 @@
 #include "src/core/map_file.h"
 
 #include <charconv>
-#include <string_view>
 
 #include "src/base/error.h"
 
@@ -9,6 +8,13 @@ namespace orvane {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
+
+// Whether a digit or a decimal point comes first, behind a minus sign if one may stand there. The
+// library reads a second sign and words for what is no number as well.
+bool BeginsANumber(std::string_view word, bool may_be_negative) {
+  const size_t first = may_be_negative && !word.empty() && word.front() == '-' ? 1 : 0;
+  return word.find_first_of("0123456789.", first) == first;
+}
 
 // Reads numbers off a text one by one. A comma ends a number, and so do blanks and line ends;
 // nothing between two commas counts as 0.
@@ -34,10 +40,11 @@ class NumberReader {
 
   Int16 Number(std::string_view word) const {
     const std::string_view digits = word.front() == '+' ? word.substr(1) : word;
+    if (!BeginsANumber(digits, word.front() != '+')) throw RunError(ErrorKind::Type, file_);
     double value = 0;
     const auto [end, failed] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (failed == std::errc::result_out_of_range) throw RunError(ErrorKind::Overflow, file_);
-    if (failed != std::errc() || end != digits.data() + digits.size() || value != value) {
+    if (failed != std::errc() || end != digits.data() + digits.size()) {
       throw RunError(ErrorKind::Type, file_);
     }
     return RoundToInt16(value);
@@ -49,17 +56,18 @@ class NumberReader {
 
 }  // namespace
 
-std::string GridMapFile(int map_a, int map_b) {
-  return "Mapdata/map" + std::to_string(map_b) + "-" + std::to_string(map_a) + ".dat";
+void ReadMapText(std::string_view text, const std::string& file, MapTiles& tiles) {
+  NumberReader reader(text, file);
+  for (int column = 0; column < MapColumns; ++column) {
+    for (int row = 0; row < MapRows; ++row) tiles[column][row] = reader.Next();
+  }
 }
 
-void ReadMapFile(const Storage& files, const std::string& name, SharedState& state) {
-  const auto text = files.Read(name);
-  if (!text) throw RunError(ErrorKind::File, name);
-  NumberReader reader(*text, name);
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) state.MapTile[column][row] = reader.Next();
-  }
+void ReadMapFile(const Storage& files, const MapId& map, MapTiles& tiles) {
+  const std::string file = MapFile(map);
+  const auto text = files.Read(file);
+  if (!text) throw RunError(ErrorKind::File, file);
+  ReadMapText(*text, file, tiles);
 }
 
 }  // namespace orvane

@@ -2,22 +2,19 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
-#include "src/core/shared_state.h"
+#include "src/core/map.h"
 #include "src/platform/storage.h"
 
 namespace orvane {
 
-constexpr int MapColumns = 30;
-constexpr int MapRows = 16;
-constexpr int TileSize = 16;
+// Reads 480 numbers off a text, separated by commas, blanks and line ends; what follows is ignored.
+// Throws RunError with the file's name: File when the text ends too early, Type for a word that is
+// no number, Overflow for a number beyond 16 bits. What was read until then stands in the tiles.
+void ReadMapText(std::string_view text, const std::string& file, MapTiles& tiles);
 
-// The name of a grid map's file in the game folder: the row comes first.
-std::string GridMapFile(int map_a, int map_b);
-
-// Reads 480 numbers, separated by commas, blanks and line ends, into the map; what follows is
-// ignored. Throws RunError: File when the file is missing or ends too early, Type for a word that
-// is no number, Overflow for a number beyond 16 bits.
-void ReadMapFile(const Storage& files, const std::string& name, SharedState& state);
+// The same for a map's file; RunError(File) too when it is missing.
+void ReadMapFile(const Storage& files, const MapId& map, MapTiles& tiles);
 
 }  // namespace orvane

@@ -8,8 +8,6 @@ namespace {
 constexpr int kBattleInterval = 15;  // ms
 constexpr int kStarterItem = 47;
 constexpr int kStarterItems = 3;
-constexpr int kChests = 15;
-constexpr int kBookChests = 4;
 constexpr int kSkills = 10;
 
 struct HeroStart {
@@ -51,8 +49,12 @@ void FreshRecord(GameRecord& record) {
   }
   record.ItemCount = kStarterItems;
   record.TreasureNo = 0;
-  for (int i = 0; i < kChests; ++i) record.TreasureLeft[i] = True;
-  for (int i = 0; i < kBookChests; ++i) record.BookLeft[i] = True;
+  CloseChests(record);
+}
+
+void CloseChests(GameRecord& record) {
+  for (int chest = 0; chest < kChestCount; ++chest) record.TreasureLeft[chest] = True;
+  for (int chest = 0; chest < kBookChestCount; ++chest) record.BookLeft[chest] = True;
 }
 
 void NewGameDefaults(Game& game) {

@@ -6,6 +6,7 @@
 #include "src/base/array.h"
 #include "src/base/integer.h"
 #include "src/base/text.h"
+#include "src/core/map.h"
 
 namespace orvane {
 
@@ -20,8 +21,8 @@ struct ItemRecord {
 struct SharedState {
   Int16 MapA;  // column and row of the map on screen in the world's grid
   Int16 MapB;
-  Array<Array<Int16, 17>, 31> MapTile;  // tile codes by column, then row; the last of each is spare
-  Int16 HeroX;                          // the party's feet on the map, in pixels
+  MapTiles MapTile;  // the map on screen
+  Int16 HeroX;       // the party's feet on the map, in pixels
   Int16 HeroY;
   Int16 HeroSpriteY;  // row of the hero sheet: 0 up, 32 right, 64 down, 96 left
   Int16 TileHere, TileUp, TileDown, TileLeft, TileRight;

@@ -77,4 +77,12 @@ void DirectionUp(SharedState& state, Direction direction) {
   if (NoneDrives(slots)) state.LastKey = 0;
 }
 
+std::optional<Direction> DrivingDirection(const SharedState& state) {
+  if (state.KeyUp != False) return Direction::Up;
+  if (state.KeyDown != False) return Direction::Down;
+  if (state.KeyLeft != False) return Direction::Left;
+  if (state.KeyRight != False) return Direction::Right;
+  return std::nullopt;
+}
+
 }  // namespace orvane

@@ -3,17 +3,13 @@
 #include <string>
 
 #include "src/core/game.h"
+#include "src/field/map_travel.h"
 
 namespace orvane {
 namespace {
 
 constexpr int kRollSize = 150;
 constexpr int kEncounter = 100;
-
-// The strip before a dragon, by the feet's position.
-bool StandsBefore(const State& state, int lowest_y) {
-  return state.HeroX >= 224 && state.HeroX <= 240 && state.HeroY <= lowest_y;
-}
 
 void CloseFieldMusic(Game& game) {
   switch (game.state.Round) {
@@ -28,26 +24,7 @@ void CloseFieldMusic(Game& game) {
   }
 }
 
-}  // namespace
-
-void EncounterCheck(Game& game) {
-  State& state = game.state;
-  Randomize(game);
-  state.EncounterRoll = RoundToInt16(Int(Rnd(game) * kRollSize));
-  const bool random_battle =
-      state.EncounterRoll == kEncounter && state.InBook == False && state.LastBossFight == False;
-  const bool dragon = state.MapA == 4 && state.MapB == 1 && StandsBefore(state, 116);
-  const bool last_dragon = state.LastBossFight == True && StandsBefore(state, 48);
-  if (!random_battle && dragon) state.BossFight = True;
-  if (random_battle || dragon || last_dragon) EnterBattle(game);
-}
-
-void EnterBattle(Game& game) {
-  LoadBattleSounds(game);
-  game.Main.WalkTimer.SetEnabled(false);
-  game.links.ShowBattle();
-}
-
+// Closes the field's music, opens the music of the fight and the effects.
 void LoadBattleSounds(Game& game) {
   CloseFieldMusic(game);
   const State& state = game.state;
@@ -59,6 +36,28 @@ void LoadBattleSounds(Game& game) {
     game.sound.Open("bgm6");
   }
   for (int channel = 2; channel <= 10; ++channel) game.sound.Open("snd" + std::to_string(channel));
+}
+
+// Leaves the field for the battle screen.
+void EnterBattle(Game& game) {
+  LoadBattleSounds(game);
+  game.Main.WalkTimer.SetEnabled(false);
+  game.links.ShowBattle();
+}
+
+}  // namespace
+
+void EncounterCheck(Game& game) {
+  State& state = game.state;
+  Randomize(game);
+  state.EncounterRoll = RoundToInt16(Int(Rnd(game) * kRollSize));
+  const bool random_battle =
+      state.EncounterRoll == kEncounter && state.InBook == False && state.LastBossFight == False;
+  const Party party = PartyOf(state);
+  const bool dragon = BeforeDragon(party);
+  const bool last_dragon = state.LastBossFight == True && BeforeLastDragon(party);
+  if (!random_battle && dragon) state.BossFight = True;
+  if (random_battle || dragon || last_dragon) EnterBattle(game);
 }
 
 }  // namespace orvane

@@ -6,12 +6,8 @@ namespace orvane {
 struct Game;
 
 // Before each step: one in 150 leads into a battle, and so do the places where the dragons stand.
+// The battle's screen stands in front when this returns, and Main is hidden; the step that asked
+// goes on.
 void EncounterCheck(Game& game);
-
-// Leaves the field for the battle screen.
-void EnterBattle(Game& game);
-
-// Closes the field's music, opens the music of the fight and the effects.
-void LoadBattleSounds(Game& game);
 
 }  // namespace orvane

@@ -1,15 +1,15 @@
 #include "src/field/field_frame.h"
 
 #include "src/core/game.h"
-#include "src/core/map_file.h"
 #include "src/core/music.h"
+#include "src/field/direction_keys.h"
 #include "src/field/party_walk.h"
+#include "src/field/tiles.h"
 
 namespace orvane {
 namespace {
 
 constexpr int kTilesPerSheetRow = 30;
-constexpr int kTileCodes = 240;
 
 void KeepFieldMusic(Game& game) {
   switch (game.state.Round) {
@@ -26,11 +26,7 @@ void KeepFieldMusic(Game& game) {
 
 // A party that no direction drives stands; then the frame is shown.
 void FinishFrame(Game& game) {
-  const State& state = game.state;
-  if (state.KeyUp == False && state.KeyDown == False && state.KeyLeft == False &&
-      state.KeyRight == False) {
-    DrawHero(game, 0);
-  }
+  if (!DrivingDirection(game.state)) DrawHero(game, 0);
   game.Main.FieldPicture.Picture.Refresh();
 }
 
@@ -42,7 +38,7 @@ void FieldTick(Game& game) {
   state.FieldFrame += 1;
   KeepFieldMusic(game);
   DrawMap(game);
-  CharStep(game, state.FieldFrame, [&game] { FinishFrame(game); });
+  WalkOneStep(game, state.FieldFrame, [&game] { FinishFrame(game); });
 }
 
 void DrawMap(Game& game) {
@@ -51,7 +47,7 @@ void DrawMap(Game& game) {
   for (int column = 0; column < MapColumns; ++column) {
     for (int row = 0; row < MapRows; ++row) {
       const int code = game.state.MapTile[column][row];
-      if (code < 1 || code > kTileCodes) continue;
+      if (code < 1 || code > kHighestTile) continue;
       BitBlt(field, column * TileSize, row * TileSize, TileSize, TileSize, sheet,
              (code - 1) % kTilesPerSheetRow * TileSize, (code - 1) / kTilesPerSheetRow * TileSize,
              RasterOp::SRCCOPY);

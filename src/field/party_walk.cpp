@@ -1,7 +1,7 @@
 #include "src/field/party_walk.h"
 
 #include "src/core/game.h"
-#include "src/core/map_file.h"
+#include "src/field/direction_keys.h"
 #include "src/field/encounter.h"
 #include "src/field/map_travel.h"
 #include "src/field/pickups.h"
@@ -10,15 +10,6 @@
 namespace orvane {
 namespace {
 
-constexpr int kStep = 4;
-constexpr int kChest = 36;
-constexpr int kRecovery = 135;
-
-// Positions beyond which no step leads on.
-constexpr int kLowest = 17;
-constexpr int kHighestX = 463;
-constexpr int kHighestY = 249;
-
 // The figure stands around the feet.
 constexpr int kFrameWidth = 24;
 constexpr int kFrameHeight = 32;
@@ -26,18 +17,15 @@ constexpr int kFeetX = 12;
 constexpr int kFeetY = 28;
 constexpr int kMasks = 72;
 
-bool IsBookChest(int tile) {
-  return tile == 73 || tile == 74 || tile == 103 || tile == 104;
-}
-
-void LookAround(State& state) {
-  const int column = Quotient(state.HeroX, TileSize);
-  const int row = Quotient(state.HeroY, TileSize);
-  state.TileHere = state.MapTile[column][row];
-  state.TileUp = state.MapTile[column][row - 1];
-  state.TileDown = state.MapTile[column][row + 1];
-  state.TileLeft = state.MapTile[column - 1][row];
-  state.TileRight = state.MapTile[column + 1][row];
+// Writes what lies around the party into the state.
+Surroundings LookAround(State& state) {
+  const Surroundings around = LookAround(state.MapTile, state.HeroX, state.HeroY);
+  state.TileHere = around.Here;
+  state.TileUp = around.Up;
+  state.TileDown = around.Down;
+  state.TileLeft = around.Left;
+  state.TileRight = around.Right;
+  return around;
 }
 
 // What lies in the tile opens, unless its warning has already come; `then` follows, where a warning
@@ -65,42 +53,35 @@ void AfterStep(Game& game, int counter, const Handler& then) {
   });
 }
 
-// Moves along one axis if the way is free; otherwise the hero stands and looks there.
-void Step(Game& game, int counter, bool free, Int16& axis, int distance, const Handler& then) {
-  if (!free) {
-    DrawHero(game, 0);
-    return then();
-  }
+void Step(Game& game, int counter, const StepTaken& step, const Handler& then) {
+  if (step.ThroughDoor) EnterRoom(game, step.Before);
+  // A fight that begins here has changed screens when the check returns, and the step goes on all
+  // the same: the party has moved when it comes back to the field.
   EncounterCheck(game);
-  axis += distance;
+  game.state.HeroX = step.After.X;
+  game.state.HeroY = step.After.Y;
   AfterStep(game, counter, then);
+}
+
+void StandStill(Game& game, const Handler& then) {
+  OpenChests(game, [&game, then] {
+    if (game.state.TileHere == kRecovery) RecoverAll(game);
+    then();
+  });
 }
 
 }  // namespace
 
-void CharStep(Game& game, int counter, const Handler& then) {
+void WalkOneStep(Game& game, int counter, const Handler& then) {
   State& state = game.state;
-  LookAround(state);
-  if (!IsWalkable(state.TileHere)) return then();
-  if (state.KeyUp != False) {
-    const bool free = IsWalkable(state.TileUp) && state.HeroY > kLowest;
-    if (free) BookRoomCheck(game);
-    Step(game, counter, free, state.HeroY, -kStep, then);
-  } else if (state.KeyDown != False) {
-    Step(game, counter, IsWalkable(state.TileDown) && state.HeroY < kHighestY, state.HeroY, kStep,
-         then);
-  } else if (state.KeyLeft != False) {
-    Step(game, counter, IsWalkable(state.TileLeft) && state.HeroX > kLowest, state.HeroX, -kStep,
-         then);
-  } else if (state.KeyRight != False) {
-    Step(game, counter, IsWalkable(state.TileRight) && state.HeroX < kHighestX, state.HeroX, kStep,
-         then);
-  } else {
-    OpenChests(game, [&game, then] {
-      if (game.state.TileHere == kRecovery) RecoverAll(game);
-      then();
-    });
-  }
+  const Surroundings around = LookAround(state);
+  if (!IsWalkable(around.Here)) return then();
+  const std::optional<Direction> direction = DrivingDirection(state);
+  if (!direction) return StandStill(game, then);
+  const StepTaken step = TryStep(around, RulesOf(state), PartyOf(state), *direction);
+  if (step.Free) return Step(game, counter, step, then);
+  DrawHero(game, 0);
+  then();
 }
 
 void DrawHero(Game& game, int counter) {

@@ -5,15 +5,10 @@
 
 #include "src/core/game.h"
 #include "src/core/main_activation.h"
+#include "src/field/message.h"
 
 namespace orvane {
 namespace {
-
-// What lies on a map, with its item in each round. Every chest tile of the map is the same chest.
-struct Find {
-  int MapA, MapB;
-  int Item[3];
-};
 
 constexpr Find kTreasures[] = {
     {3, 3, {1, 5, 9}},    {2, 1, {21, 24, 48}}, {2, 2, {29, 32, 27}}, {3, 1, {13, 16, 10}},
@@ -28,6 +23,8 @@ constexpr Find kBooks[] = {
     {3, 2, {39, 42, 45}},
     {6, 4, {46, 46, 46}},
 };
+
+static_assert(std::size(kTreasures) == kChestCount && std::size(kBooks) == kBookChestCount);
 
 constexpr int kFirstBook = 37;
 
@@ -55,6 +52,18 @@ int FirstEmptySlot(const State& state) {
   return slot;
 }
 
+// Recounts the bag and puts the name of a slot's item into the message.
+void ShowItemGot(Game& game, int slot) {
+  State& state = game.state;
+  ReadItem(game, state.Items[slot]);
+  int empty = 0;
+  for (int each = 0; each < BagSize; ++each) empty += state.Items[each] == NoItem ? 1 : 0;
+  // One less than the bag holds; the caller counts the new item.
+  state.ItemCount = BagSize - 1 - empty;
+  game.Main.MessageLines[0].Caption = state.ItemRec.Name.Trimmed();
+  game.Main.MessageLines[1].Caption = "を手に入れた";
+}
+
 // Puts the round's item of a chest into the slot, if the chest has one for this round.
 bool StoreItem(Game& game, const Find* find, int slot) {
   State& state = game.state;
@@ -72,12 +81,15 @@ void WarnOfFullBag(Game& game, const char* text, const Handler& then) {
   });
 }
 
-void StartMessage(Game& game) {
-  game.Main.WalkTimer.SetEnabled(false);
-  game.Main.MessageTimer.SetEnabled(true);
+}  // namespace
+
+std::span<const Find> Treasures() {
+  return kTreasures;
 }
 
-}  // namespace
+std::span<const Find> Books() {
+  return kBooks;
+}
 
 void OpenTreasure(Game& game, const Handler& then) {
   State& state = game.state;
@@ -113,17 +125,6 @@ void OpenBook(Game& game, const Handler& then) {
   then();
 }
 
-void ShowItemGot(Game& game, int slot) {
-  State& state = game.state;
-  ReadItem(game, state.Items[slot]);
-  int empty = 0;
-  for (int each = 0; each < BagSize; ++each) empty += state.Items[each] == NoItem ? 1 : 0;
-  // One less than the bag holds; the caller counts the new item.
-  state.ItemCount = BagSize - 1 - empty;
-  game.Main.MessageLines[0].Caption = state.ItemRec.Name.Trimmed();
-  game.Main.MessageLines[1].Caption = "を手に入れた";
-}
-
 void RecoverAll(Game& game) {
   State& state = game.state;
   if (state.OnRecovery == False) {
@@ -138,28 +139,6 @@ void RecoverAll(Game& game) {
     game.Main.MessageWindow.Visible = true;
   }
   state.OnRecovery = True;
-}
-
-void MessageTick(Game& game) {
-  State& state = game.state;
-  state.MessageFrame += 1;
-  game.sound.Open("snd1");
-  if (state.MessageFrame == 1) game.sound.Play("snd1");
-  game.Main.MessageWindow.Visible = true;
-  game.Main.GoOnMark.Visible = state.MessageFrame % 10 >= 5;
-}
-
-void CloseMessage(Game& game) {
-  MainScreen& main = game.Main;
-  main.MessageWindow.Visible = false;
-  game.state.MessageFrame = 0;
-  ShowStatus(game);
-  game.state.RecoveryShown = False;
-  main.FileMenu.Enabled = true;
-  main.ItemMenu.Enabled = true;
-  main.InfoMenu.Enabled = true;
-  main.MessageTimer.SetEnabled(false);
-  main.WalkTimer.SetEnabled(true);
 }
 
 }  // namespace orvane

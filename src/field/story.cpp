@@ -1,9 +1,10 @@
 #include "src/field/story.h"
 
 #include "src/core/game.h"
+#include "src/core/new_game.h"
 #include "src/field/field_frame.h"
 #include "src/field/map_travel.h"
-#include "src/field/pickups.h"
+#include "src/field/message.h"
 
 namespace orvane {
 namespace {
@@ -17,18 +18,28 @@ constexpr int kSecondDragonEnd = 27;
 constexpr int kThirdDragonEnd = 31;
 constexpr int kStoryEnd = 45;
 
+// Leaves a scene; the field goes on.
+void EndStory(Game& game) {
+  MainScreen& main = game.Main;
+  main.StoryTimer.SetEnabled(false);
+  for (MenuItem* menu : {&main.FileMenu, &main.ItemMenu, &main.InfoMenu, &main.SaveItem})
+    menu->Enabled = true;
+  main.MessageLines[0].Visible = true;
+  main.MessageLines[1].Visible = true;
+  main.SpeakerFace.Visible = false;
+  main.StoryLine.Visible = false;
+  main.MessageWindow.Visible = false;
+  main.WalkTimer.SetEnabled(true);
+}
+
 void StartNextRound(Game& game) {
   State& state = game.state;
   state.StoryNo += 1;
   state.FieldFrame = state.MessageFrame = state.StoryFrame = state.ActionState = 0;
   state.BossFight = False;
   state.Round += 1;
-  state.MapA = 3;
-  state.MapB = 3;
-  state.HeroX = 208;
-  state.HeroY = 112;
-  for (int chest = 0; chest < 15; ++chest) state.TreasureLeft[chest] = True;
-  for (int chest = 0; chest < 4; ++chest) state.BookLeft[chest] = True;
+  PutParty(state, kRoundStart);
+  CloseChests(state);
   ReadMap(game);
   EndStory(game);
 }
@@ -38,10 +49,7 @@ void StartLastStage(Game& game) {
   state.Round = 4;
   game.Main.SaveItem.Enabled = false;
   state.StoryNo = kThirdDragonEnd + 1;
-  state.MapA = 0;
-  state.MapB = 0;
-  state.HeroX = 232;
-  state.HeroY = 224;
+  PutParty(state, kLastStageStart);
   state.BossFight = False;
   state.LastBossFight = True;
   ReadMap(game);
@@ -109,19 +117,6 @@ void FieldClick(Game& game) {
   } else if (state.OpeningDone == False) {
     StepOpening(game);
   }
-}
-
-void EndStory(Game& game) {
-  MainScreen& main = game.Main;
-  main.StoryTimer.SetEnabled(false);
-  for (MenuItem* menu : {&main.FileMenu, &main.ItemMenu, &main.InfoMenu, &main.SaveItem})
-    menu->Enabled = true;
-  main.MessageLines[0].Visible = true;
-  main.MessageLines[1].Visible = true;
-  main.SpeakerFace.Visible = false;
-  main.StoryLine.Visible = false;
-  main.MessageWindow.Visible = false;
-  main.WalkTimer.SetEnabled(true);
 }
 
 }  // namespace orvane

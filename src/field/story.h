@@ -14,7 +14,4 @@ void StoryTick(Game& game);
 // A click on the field: closes a message or steps the story on.
 void FieldClick(Game& game);
 
-// Leaves a scene; the field goes on.
-void EndStory(Game& game);
-
 }  // namespace orvane

@@ -25,4 +25,17 @@ bool IsWalkable(int code) {
   });
 }
 
+bool IsBookChest(int code) {
+  return code == kBookTopLeft || code == kBookTopRight || code == kBookBottomLeft ||
+         code == kBookBottomRight;
+}
+
+bool IsRoomDoor(int code) {
+  return code == 47 || code == 116;
+}
+
+bool IsDoor(int code) {
+  return IsRoomDoor(code) || code == kLastBookDoor;
+}
+
 }  // namespace orvane

@@ -1,11 +1,11 @@
 #include "src/game/parts.h"
 
-#include "src/battle/rules/battle_tables.h"
 #include "src/core/main_activation.h"
 #include "src/core/quit.h"
 #include "src/field/field_frame.h"
-#include "src/field/pickups.h"
+#include "src/field/message.h"
 #include "src/field/story.h"
+#include "src/game/start_up.h"
 
 namespace orvane {
 
@@ -29,6 +29,7 @@ Program::Parts::Parts(const Services& services)
 }
 
 void Program::Parts::TieLinks() {
+  game.links.StartUp = [this] { StartUp(game); };
   game.links.SetBattleInterval = [this](int milliseconds) {
     game.stage.Load(battle);
     battle.ActionTimer.SetInterval(milliseconds);
@@ -39,11 +40,6 @@ void Program::Parts::TieLinks() {
     battle.MusicTimer.SetEnabled(true);
   };
   game.links.ShowEnding = [this] { game.stage.Show(ending); };
-  game.links.SetStoryText = [this] { SetStoryText(game); };
-  game.links.FillSkillTables = [this] {
-    FillWazaTable(game.state);
-    FillMagicTable(game.state);
-  };
 }
 
 Handler Program::Parts::Opens(Screen& screen) {

@@ -1,12 +1,11 @@
 #include "src/platform/folder_storage.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "src/platform/durable_file.h"
 #include "src/platform/path_text.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane {
 
@@ -18,11 +17,7 @@ std::string FolderStorage::FolderName() const {
 
 std::optional<std::string> FolderStorage::Read(const std::string& name) const {
   if (!Exists(name)) return std::nullopt;
-  std::ifstream file(path_ / PathOf(name), std::ios::binary);
-  if (!file) return std::nullopt;
-  std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-  if (file.bad()) return std::nullopt;
-  return bytes;
+  return ReadWholeFile(path_ / PathOf(name));
 }
 
 bool FolderStorage::Exists(const std::string& name) const {

@@ -1,23 +1,13 @@
 #include "src/platform/player_folder.h"
 
-#include <fstream>
-#include <iterator>
-#include <optional>
 #include <system_error>
 
 #include "src/platform/durable_file.h"
 #include "src/platform/path_text.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane {
 namespace {
-
-std::optional<std::string> ReadWhole(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  if (file.bad()) return std::nullopt;
-  return bytes;
-}
 
 bool IsSave(const std::filesystem::path& path) {
   return path.extension() == ".sav";
@@ -27,7 +17,7 @@ bool IsSave(const std::filesystem::path& path) {
 bool Stands(const std::filesystem::path& own, const std::string& installed) {
   std::error_code failed;
   if (!std::filesystem::is_regular_file(own, failed)) return false;
-  return IsSave(own) || ReadWhole(own) == installed;
+  return IsSave(own) || ReadWholeFile(own) == installed;
 }
 
 }  // namespace
@@ -46,7 +36,7 @@ std::string PreparePlayerFolder(const std::filesystem::path& installed,
       if (failed) return "cannot make the folder " + TextOf(to) + ": " + failed.message();
       continue;
     }
-    const auto bytes = ReadWhole(entries->path());
+    const auto bytes = ReadWholeFile(entries->path());
     if (!bytes) return "cannot read " + TextOf(entries->path());
     if (Stands(to, *bytes)) continue;
     if (const std::string failure = ReplaceFileDurably(to, *bytes); !failure.empty())

@@ -1,5 +1,9 @@
 #include "src/screens/input_name.h"
 
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
 #include "src/core/new_game.h"
 #include "src/core/sheets.h"
 
@@ -8,9 +12,17 @@ namespace {
 
 constexpr int kLongestName = 6;
 
+// Whether a name says nothing: no characters, or blanks of either width alone.
+bool IsBlank(const std::string& name) {
+  const std::vector<std::string_view> characters = Characters(name);
+  return std::all_of(characters.begin(), characters.end(), [](std::string_view character) {
+    return character == " " || character == "　";
+  });
+}
+
 // Why these names cannot be taken, or null.
 const char* Objection(const std::string& first, const std::string& second) {
-  if (first.empty() || second.empty()) return "名前を入力してください。";
+  if (IsBlank(first) || IsBlank(second)) return "名前を入力してください。";
   if (first == second) return "同じ名前です。";
   if (CharCount(first) > kLongestName || CharCount(second) > kLongestName) {
     return "文字制限を超えています。";

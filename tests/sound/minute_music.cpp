@@ -1,10 +1,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 
 #include "src/platform/sound_channels.h"
+#include "src/platform/whole_file.h"
 #include "src/sound/song.h"
 #include "tests/sound/finding.h"
 #include "tests/sound/listening.h"
@@ -51,10 +50,8 @@ std::vector<Session> CollectSessions(const std::vector<Note>& notes, double end)
 }
 
 double LengthOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  const std::vector<char> chars((std::istreambuf_iterator<char>(file)),
-                                std::istreambuf_iterator<char>());
-  const auto song = ReadSong(std::vector<std::uint8_t>(chars.begin(), chars.end()));
+  const std::string bytes = ReadWholeFile(path).value_or("");
+  const auto song = ReadSong(std::vector<std::uint8_t>(bytes.begin(), bytes.end()));
   return song ? song->Seconds : 0;
 }
 

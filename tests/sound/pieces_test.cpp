@@ -2,11 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "src/platform/sound_channels.h"
+#include "src/platform/whole_file.h"
 #include "src/sound/song.h"
 #include "src/sound/sound_engine.h"
 #include "src/sound/sound_font.h"
@@ -34,11 +33,8 @@ Recording Pull(SoundEngine& engine, double seconds) {
 }
 
 double SecondsOf(const std::string& file) {
-  std::ifstream stream(std::string(kFolder) + "/Sound/" + file, std::ios::binary);
-  const std::vector<char> chars((std::istreambuf_iterator<char>(stream)),
-                                std::istreambuf_iterator<char>());
-  const std::vector<std::uint8_t> bytes(chars.begin(), chars.end());
-  const auto song = ReadSong(bytes);
+  const std::string bytes = ReadWholeFile(std::string(kFolder) + "/Sound/" + file).value_or("");
+  const auto song = ReadSong(std::vector<std::uint8_t>(bytes.begin(), bytes.end()));
   return song ? song->Seconds : 0;
 }
 

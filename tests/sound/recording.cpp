@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
+
+#include "src/platform/whole_file.h"
 
 namespace orvane::test {
 namespace {
@@ -60,8 +60,8 @@ Recording Recording::Part(double from, double to) const {
 }
 
 std::optional<Recording> ReadRecording(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  const Bytes bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  const std::string text = ReadWholeFile(path).value_or("");
+  const Bytes bytes(text.begin(), text.end());
   size_t size = 0;
   const size_t format = FindChunk(bytes, "fmt ", size);
   const std::uint32_t channels = format == 0 || size < 16 ? 0 : Number(bytes, format + 2, 2);

@@ -2,8 +2,9 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
-#include <sstream>
+#include <optional>
 
+#include "src/platform/whole_file.h"
 #include "tools/effects/synth.h"
 #include "tools/effects/wav_file.h"
 
@@ -12,17 +13,14 @@ int main(int count, char** words) {
     std::cerr << "usage: orvane-effects RECIPE WAV\n";
     return 2;
   }
-  std::ifstream in(words[1], std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  if (!in) {
+  const std::optional<std::string> text = orvane::ReadWholeFile(words[1]);
+  if (!text) {
     std::cerr << words[1] << ": cannot be read\n";
     return 1;
   }
   try {
     orvane::effects::Wav wav;
-    wav.samples =
-        orvane::effects::Finish(orvane::effects::Mix(orvane::effects::ReadRecipe(text.str())));
+    wav.samples = orvane::effects::Finish(orvane::effects::Mix(orvane::effects::ReadRecipe(*text)));
     std::ofstream out(words[2], std::ios::binary);
     out << orvane::effects::WriteWav(wav);
     out.close();

@@ -4,20 +4,22 @@
 #include <cstdio>
 #include <exception>
 #include <fstream>
-#include <iterator>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "src/platform/whole_file.h"
 #include "tools/items/item_table.h"
 
 namespace orvane::items {
 namespace {
 
 std::string ReadFile(const std::string& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::runtime_error(file + ": cannot open");
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  std::optional<std::string> text = ReadWholeFile(file);
+  if (!text) throw std::runtime_error(file + ": cannot read");
+  return *std::move(text);
 }
 
 std::vector<Item> ReadTableFile(const std::string& file) {

@@ -1,20 +1,25 @@
 // The rules that can be read off the maps without walking.
 #include <algorithm>
 #include <iterator>
+#include <span>
 
+#include "src/field/pickups.h"
+#include "src/field/tiles.h"
 #include "tools/maps/check.h"
-#include "tools/maps/tile_codes.h"
 
 namespace orvane::maps {
 namespace {
 
-// The maps on which the game's tables have a chest or a book chest.
-constexpr Place kChestMaps[] = {{3, 3}, {2, 1}, {2, 2}, {3, 1}, {1, 1}, {1, 3}, {1, 4}, {1, 5},
-                                {2, 4}, {4, 5}, {4, 4}, {5, 3}, {4, 2}, {4, 1}, {5, 1}};
-constexpr Place kBookMaps[] = {{1, 3}, {3, 4}, {3, 2}, {6, 4}};
-// Behind their doors lies the spring room; behind the doors of all other maps the round's book
-// room.
-constexpr Place kSpringMaps[] = {{1, 1}, {3, 5}};
+// Whether the game has one of its chests on a map.
+bool Among(const MapId& place, std::span<const Find> finds) {
+  return std::any_of(finds.begin(), finds.end(), [&](const Find& find) {
+    return place == MapId{find.MapA, find.MapB};
+  });
+}
+
+bool IsSpringMap(const MapId& place) {
+  return std::find(std::begin(kSpringMaps), std::end(kSpringMaps), place) != std::end(kSpringMaps);
+}
 
 class DrawingCheck {
  public:
@@ -34,17 +39,17 @@ class DrawingCheck {
  private:
   void Add(FaultKind kind, const std::string& what) { faults_.push_back({kind, what}); }
 
-  void CheckCodes(const Place& place, const TileMap& map) {
-    for (int column = 0; column < kColumns; ++column) {
-      for (int row = 0; row < kRows; ++row) {
+  void CheckCodes(const MapId& place, const TileMap& map) {
+    for (int column = 0; column < MapColumns; ++column) {
+      for (int row = 0; row < MapRows; ++row) {
         const int code = map.At(column, row);
-        if (code >= 1 && code <= kHighestCode) continue;
+        if (code >= 1 && code <= kHighestTile) continue;
         Add(FaultKind::BadCode, "code " + std::to_string(code) + Cell(place, column, row));
       }
     }
   }
 
-  static std::string Cell(const Place& place, int column, int row) {
+  static std::string Cell(const MapId& place, int column, int row) {
     return " on " + PlaceName(place) + " at column " + std::to_string(column) + ", row " +
            std::to_string(row);
   }
@@ -52,24 +57,19 @@ class DrawingCheck {
   template <typename Test>
   static int Count(const TileMap& map, Test test) {
     int count = 0;
-    for (int column = 0; column < kColumns; ++column) {
-      for (int row = 0; row < kRows; ++row) count += test(map.At(column, row)) ? 1 : 0;
+    for (int column = 0; column < MapColumns; ++column) {
+      for (int row = 0; row < MapRows; ++row) count += test(map.At(column, row)) ? 1 : 0;
     }
     return count;
   }
 
-  template <size_t kSize>
-  static bool Among(const Place& place, const Place (&places)[kSize]) {
-    return std::find(std::begin(places), std::end(places), place) != std::end(places);
-  }
-
-  void CheckChests(const Place& place, const TileMap& map) {
+  void CheckChests(const MapId& place, const TileMap& map) {
     const int chests = Count(map, [](int code) { return code == kChest; });
-    if (chests != (Among(place, kChestMaps) ? 1 : 0)) {
+    if (chests != (Among(place, Treasures()) ? 1 : 0)) {
       Add(FaultKind::Furniture, std::to_string(chests) + " chests on " + PlaceName(place));
     }
-    const int cells = Count(map, IsBook);
-    if (cells != (Among(place, kBookMaps) ? 4 : 0)) {
+    const int cells = Count(map, IsBookChest);
+    if (cells != (Among(place, Books()) ? 4 : 0)) {
       Add(FaultKind::Furniture,
           std::to_string(cells) + " cells of book chests on " + PlaceName(place));
     } else if (cells == 4 && !HasWholeBook(map)) {
@@ -78,8 +78,8 @@ class DrawingCheck {
   }
 
   static bool HasWholeBook(const TileMap& map) {
-    for (int column = 0; column < kColumns; ++column) {
-      for (int row = 0; row < kRows; ++row) {
+    for (int column = 0; column < MapColumns; ++column) {
+      for (int row = 0; row < MapRows; ++row) {
         if (map.At(column, row) == kBookTopLeft && map.At(column + 1, row) == kBookTopRight &&
             map.At(column, row + 1) == kBookBottomLeft &&
             map.At(column + 1, row + 1) == kBookBottomRight) {
@@ -97,12 +97,12 @@ class DrawingCheck {
       const int doors = Count(map, IsDoor);
       const int room_doors = Count(map, IsRoomDoor);
       last_doors += doors - room_doors;
-      const bool spring = Among(place, kSpringMaps);
+      const bool spring = IsSpringMap(place);
       if (room_doors > 0 && !spring) ++book_maps;
       if (spring && room_doors == 0) {
         Add(FaultKind::Furniture, "no door to the spring room on " + PlaceName(place));
       }
-      const bool barred = place.room != Room::None || place == kDragonMap || place == kLastStage;
+      const bool barred = place.Inside != kNoRoom || place == kDragonMap || place == kLastStage;
       if (barred && doors > 0) Add(FaultKind::Furniture, "a door on " + PlaceName(place));
     }
     if (last_doors != 1) {
@@ -115,40 +115,40 @@ class DrawingCheck {
   // One of the four border lines of a map: 0 top, 1 bottom, 2 left, 3 right.
   static std::vector<int> Line(const TileMap& map, int side) {
     std::vector<int> codes;
-    const int length = side < 2 ? kColumns : kRows;
+    const int length = side < 2 ? MapColumns : MapRows;
     for (int at = 0; at < length; ++at) {
       if (side < 2) {
-        codes.push_back(map.At(at, side == 0 ? 0 : kRows - 1));
+        codes.push_back(map.At(at, side == 0 ? 0 : MapRows - 1));
       } else {
-        codes.push_back(map.At(side == 2 ? 0 : kColumns - 1, at));
+        codes.push_back(map.At(side == 2 ? 0 : MapColumns - 1, at));
       }
     }
     return codes;
   }
 
-  void DemandClosed(const Place& place, const TileMap& map, int side) {
+  void DemandClosed(const MapId& place, const TileMap& map, int side) {
     constexpr const char* kSides[] = {"top", "bottom", "left", "right"};
     const std::vector<int> codes = Line(map, side);
-    if (std::any_of(codes.begin(), codes.end(), Walkable)) {
+    if (std::any_of(codes.begin(), codes.end(), IsWalkable)) {
       Add(FaultKind::OpenBorder, PlaceName(place) + " is open at its " + kSides[side]);
     }
   }
 
-  void CheckOpenSides(const Place& place, const TileMap& map) {
-    const bool room = place.room != Room::None;
+  void CheckOpenSides(const MapId& place, const TileMap& map) {
+    const bool room = place.Inside != kNoRoom;
     const bool last = place == kLastStage;
-    if (room || last || place.map_b == 1) DemandClosed(place, map, 0);
-    if (last || (!room && place.map_b == 5)) DemandClosed(place, map, 1);
-    if (room || last || place.map_a == 1) DemandClosed(place, map, 2);
-    if (room || last || place.map_a == 5 || place == kHiddenMap) DemandClosed(place, map, 3);
+    if (room || last || place.MapB == 1) DemandClosed(place, map, 0);
+    if (last || (!room && place.MapB == 5)) DemandClosed(place, map, 1);
+    if (room || last || place.MapA == 1) DemandClosed(place, map, 2);
+    if (room || last || place.MapA == 5 || place == kHiddenMap) DemandClosed(place, map, 3);
     if (!room) return;
     const std::vector<int> bottom = Line(map, 1);
-    if (std::none_of(bottom.begin(), bottom.end(), Walkable)) {
+    if (std::none_of(bottom.begin(), bottom.end(), IsWalkable)) {
       Add(FaultKind::Unreachable, PlaceName(place) + " has no way out at its bottom");
     }
   }
 
-  void DemandMatch(const Place& one, int side, const Place& other, int other_side) {
+  void DemandMatch(const MapId& one, int side, const MapId& other, int other_side) {
     const TileMap* map = world_.Find(one);
     const TileMap* other_map = world_.Find(other);
     if (map == nullptr || other_map == nullptr) {
@@ -158,7 +158,7 @@ class DrawingCheck {
     const std::vector<int> codes = Line(*map, side);
     const std::vector<int> other_codes = Line(*other_map, other_side);
     for (size_t at = 0; at < codes.size(); ++at) {
-      if (Walkable(codes[at]) == Walkable(other_codes[at])) continue;
+      if (IsWalkable(codes[at]) == IsWalkable(other_codes[at])) continue;
       Add(FaultKind::Border, PlaceName(one) + " and " + PlaceName(other) + " do not match at " +
                                  (side < 2 ? "column " : "row ") + std::to_string(at));
     }

@@ -3,8 +3,8 @@
 #include <set>
 #include <tuple>
 
+#include "src/field/tiles.h"
 #include "tools/maps/check.h"
-#include "tools/maps/tile_codes.h"
 
 namespace orvane::maps {
 namespace {
@@ -14,18 +14,18 @@ constexpr size_t kUp = 0;
 constexpr size_t kDown = 1;
 
 std::string Where(const Party& party) {
-  const Place grid{party.map_a, party.map_b};
-  std::string where = PlaceName(party.Ground());
-  if (party.room != Room::None) where += " behind the door on " + PlaceName(grid);
-  return where + " at " + std::to_string(party.x) + ", " + std::to_string(party.y);
+  const MapId grid{party.MapA, party.MapB};
+  std::string where = PlaceName(party.Map());
+  if (party.Inside != kNoRoom) where += " behind the door on " + PlaceName(grid);
+  return where + " at " + std::to_string(party.X) + ", " + std::to_string(party.Y);
 }
 
-Place GridOf(const Party& party) {
-  return {party.map_a, party.map_b};
+MapId GridOf(const Party& party) {
+  return {party.MapA, party.MapB};
 }
 
 struct Cell {
-  Place place;
+  MapId place;
   int column;
   int row;
   bool operator==(const Cell&) const = default;
@@ -49,7 +49,7 @@ class JourneyCheck {
 
  private:
   // One fault of a kind for each ground is enough to find the place; more would bury the rest.
-  void Add(FaultKind kind, const Place& place, const std::string& what) {
+  void Add(FaultKind kind, const MapId& place, const std::string& what) {
     if (!named_.emplace(kind, place).second) return;
     faults_.push_back({kind, exploration_.journey.name + ": " + what});
   }
@@ -60,20 +60,20 @@ class JourneyCheck {
 
   void Visit(const Stand& stand) {
     const Party& party = stand.party;
-    const Place ground = party.Ground();
+    const MapId ground = party.Map();
     const int tile = TileUnder(world_, party);
-    if (!Walkable(tile)) {
+    if (!IsWalkable(tile)) {
       Add(FaultKind::DeadEnd, ground,
           "stuck on tile " + std::to_string(tile) + ": " + Where(party));
     }
-    const Cell cell{ground, party.x / 16, party.y / 16};
+    const Cell cell{ground, party.X / TileSize, party.Y / TileSize};
     if (cell != last_cell_) cells_.insert(cell);  // neighbours in the search often share a cell
     last_cell_ = cell;
     if (tile == kRecovery) recovery_.insert(GridOf(party));
-    if (party.in_book && party.room == Room::None) {
+    if (party.InBook && party.Inside == kNoRoom) {
       Add(FaultKind::WrongExit, ground, "left a room over its wall: " + Where(party));
     }
-    if (rules_.round == 4 && ground != kLastStage) {
+    if (rules_.LastStage && ground != kLastStage) {
       Add(FaultKind::WrongExit, ground, "left the last stage: " + Where(party));
     }
     VisitWays(stand);
@@ -87,46 +87,46 @@ class JourneyCheck {
       const int32_t next = stand.next[way];
       if (next == kToDragon) dragon_ = true;
       if (next == kToNowhere) {
-        Add(rules_.round == 4 ? FaultKind::WrongExit : FaultKind::NoSuchMap, party.Ground(),
+        Add(rules_.LastStage ? FaultKind::WrongExit : FaultKind::NoSuchMap, party.Map(),
             "a step leads to no map: " + Where(party));
       }
       if (next < 0) continue;
       ++ways;
       const Party& there = At(next);
-      if (party.in_book || there.in_book) {
+      if (party.InBook || there.InBook) {
         VisitDoor(party, there, way);
         continue;
       }
       if (GridOf(there) == GridOf(party)) continue;
       ++turning;
       ways_between_maps_.emplace(GridOf(party), GridOf(there));
-      if ((way == kUp || way == kDown) && there.map_b == party.map_b) {
-        Add(FaultKind::FlipFlop, party.Ground(),
+      if ((way == kUp || way == kDown) && there.MapB == party.MapB) {
+        Add(FaultKind::FlipFlop, party.Map(),
             "a step up or down goes to the map beside: " + Where(party));
       }
     }
     if (ways > 0 && ways == turning) {
-      Add(FaultKind::FlipFlop, party.Ground(), "every step leaves the map: " + Where(party));
+      Add(FaultKind::FlipFlop, party.Map(), "every step leaves the map: " + Where(party));
     }
   }
 
   void VisitDoor(const Party& party, const Party& there, size_t way) {
-    if (there.in_book && !party.in_book) {
-      entered_.insert({GridOf(party), party.x / 16, party.y / 16 - 1});
-      rooms_.emplace(there.room, GridOf(party));
-    } else if (!there.in_book && way == kDown) {
-      left_.emplace(party.room, GridOf(party));
+    if (there.InBook && !party.InBook) {
+      entered_.insert({GridOf(party), party.X / TileSize, party.Y / TileSize - 1});
+      rooms_.emplace(there.Inside, GridOf(party));
+    } else if (!there.InBook && way == kDown) {
+      left_.emplace(party.Inside, GridOf(party));
     }
   }
 
   // True for a map that this journey cannot come to by the rules of the game.
-  bool OutOfJourney(const Place& place) const {
-    if (rules_.round == 4) return place != kLastStage;
+  bool OutOfJourney(const MapId& place) const {
+    if (rules_.LastStage) return place != kLastStage;
     if (place == kLastStage) return true;
-    return place == (rules_.nine_techniques ? kSwappedMap : kHiddenMap);
+    return place == (rules_.NineTechniques ? kSwappedMap : kHiddenMap);
   }
 
-  void Demand(bool reached, const Place& place, const std::string& what) {
+  void Demand(bool reached, const MapId& place, const std::string& what) {
     if (reached) return;
     faults_.push_back({FaultKind::Unreachable, exploration_.journey.name + ": cannot reach " +
                                                    what + " of " + PlaceName(place)});
@@ -134,42 +134,43 @@ class JourneyCheck {
 
   void CheckGoals() {
     for (const auto& [place, map] : world_.maps) {
-      if (place.room == Room::None && !OutOfJourney(place)) CheckGoalsOn(place, map);
+      if (place.Inside == kNoRoom && !OutOfJourney(place)) CheckGoalsOn(place, map);
     }
     for (const auto& [room, place] : rooms_) {
-      Demand(left_.count({room, place}) > 0, Place{0, 0, room}, "the exit");
+      Demand(left_.count({room, place}) > 0, MapId{0, 0, room}, "the exit");
       const TileMap* map = world_.Find({0, 0, room});
       if (map != nullptr) CheckCells({0, 0, room}, *map);
     }
-    if (rules_.round == 4) {
+    if (rules_.LastStage) {
       Demand(dragon_, kLastStage, "the last dragon");
     } else {
       Demand(dragon_, kDragonMap, "the dragon");
     }
   }
 
-  void CheckGoalsOn(const Place& place, const TileMap& map) {
+  void CheckGoalsOn(const MapId& place, const TileMap& map) {
     const bool any = std::any_of(cells_.begin(), cells_.end(),
                                  [&](const Cell& cell) { return cell.place == place; });
     Demand(any, place, "any spot");
     CheckCells(place, map);
     bool book = false;
     bool book_reached = false;
-    for (int column = 0; column < kColumns; ++column) {
-      for (int row = 0; row < kRows; ++row) {
+    for (int column = 0; column < MapColumns; ++column) {
+      for (int row = 0; row < MapRows; ++row) {
         const int code = map.At(column, row);
         if (IsDoor(code)) Demand(entered_.count({place, column, row}) > 0, place, "the door");
-        book = book || IsBook(code);
-        book_reached = book_reached || (IsBook(code) && cells_.count({place, column, row}) > 0);
+        book = book || IsBookChest(code);
+        book_reached =
+            book_reached || (IsBookChest(code) && cells_.count({place, column, row}) > 0);
       }
     }
     Demand(!book || book_reached, place, "the book chest");
   }
 
   // Chests and recovery points, on a map or in a room.
-  void CheckCells(const Place& place, const TileMap& map) {
-    for (int column = 0; column < kColumns; ++column) {
-      for (int row = 0; row < kRows; ++row) {
+  void CheckCells(const MapId& place, const TileMap& map) {
+    for (int column = 0; column < MapColumns; ++column) {
+      for (int row = 0; row < MapRows; ++row) {
         const int code = map.At(column, row);
         const bool reached = cells_.count({place, column, row}) > 0;
         if (code == kChest) Demand(reached, place, "the chest");
@@ -183,21 +184,21 @@ class JourneyCheck {
     for (size_t number = 0; number < can.size(); ++number) {
       const Party& party = exploration_.stands[number].party;
       if (can[number] || AtDragon(rules_, party)) continue;
-      Add(FaultKind::Trap, party.Ground(), "no way back to the start: " + Where(party));
+      Add(FaultKind::Trap, party.Map(), "no way back to the start: " + Where(party));
     }
   }
 
   void CheckRecovery() {
-    std::set<Place> near = recovery_;
+    std::set<MapId> near = recovery_;
     for (int maps = 0; maps < kMapsToRecovery; ++maps) {
-      std::set<Place> nearer = near;
+      std::set<MapId> nearer = near;
       for (const auto& [from, to] : ways_between_maps_) {
         if (near.count(to) > 0) nearer.insert(from);
       }
       near = nearer;
     }
     for (const Cell& cell : cells_) {
-      if (cell.place.room != Room::None || near.count(cell.place) > 0) continue;
+      if (cell.place.Inside != kNoRoom || near.count(cell.place) > 0) continue;
       Add(FaultKind::FarFromRecovery, cell.place,
           "more than two maps to a recovery point from " + PlaceName(cell.place));
     }
@@ -205,16 +206,16 @@ class JourneyCheck {
 
   const World& world_;
   const Exploration& exploration_;
-  const StepRules rules_;
+  const WalkRules rules_;
   std::vector<Fault> faults_;
-  std::set<std::pair<FaultKind, Place>> named_;
+  std::set<std::pair<FaultKind, MapId>> named_;
   std::set<Cell> cells_;  // every cell that the party can stand on
   Cell last_cell_{{-1, -1}, 0, 0};
   std::set<Cell> entered_;  // every door that the party can go through
-  std::set<std::pair<Room, Place>> rooms_;
-  std::set<std::pair<Room, Place>> left_;
-  std::set<Place> recovery_;
-  std::set<std::pair<Place, Place>> ways_between_maps_;
+  std::set<std::pair<Room, MapId>> rooms_;
+  std::set<std::pair<Room, MapId>> left_;
+  std::set<MapId> recovery_;
+  std::set<std::pair<MapId, MapId>> ways_between_maps_;
   bool dragon_ = false;
 };
 

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <map>
 
-#include "tools/maps/tile_codes.h"
+#include "src/field/tiles.h"
 
 namespace orvane::maps {
 namespace {
@@ -14,9 +14,9 @@ constexpr int kStepsToAFight = 150;
 
 std::string NameOf(const World& world, const Party& party) {
   const int tile = TileUnder(world, party);
-  const std::string map = std::to_string(party.map_a) + "," + std::to_string(party.map_b);
+  const std::string map = std::to_string(party.MapA) + "," + std::to_string(party.MapB);
   if (tile == kChest) return "chest " + map;
-  if (IsBook(tile)) return "book " + map;
+  if (IsBookChest(tile)) return "book " + map;
   if (tile == kRecovery) return kRecoveryName + (" " + map);
   return {};
 }

@@ -5,6 +5,21 @@ namespace {
 
 constexpr size_t kManyStands = 600000;
 
+// 0 for none; those of the rounds follow the two that stand once.
+int NumberOf(const Room& room) {
+  switch (room.What) {
+    case Room::Kind::Spring:
+      return 1;
+    case Room::Kind::LastBook:
+      return 2;
+    case Room::Kind::Book:
+      return 2 + room.Round;
+    case Room::Kind::None:
+      break;
+  }
+  return 0;
+}
+
 // All of a party's place in one number: 61 bits. A map number off the grid keeps its low bits,
 // which tell it from any other that one step can lead to.
 uint64_t KeyOf(const Party& party) {
@@ -12,10 +27,9 @@ uint64_t KeyOf(const Party& party) {
     int value;
     int bits;
   };
-  const Part parts[] = {
-      {party.map_a, 5},     {party.map_b, 5},    {static_cast<int>(party.room), 3},
-      {party.in_book, 1},   {party.x, 12},       {party.y, 12},
-      {party.return_x, 12}, {party.return_y, 11}};
+  const Part parts[] = {{party.MapA, 5},     {party.MapB, 5},    {NumberOf(party.Inside), 3},
+                        {party.InBook, 1},   {party.X, 12},      {party.Y, 12},
+                        {party.ReturnX, 12}, {party.ReturnY, 11}};
   uint64_t key = 0;
   for (const Part& part : parts) {
     const uint64_t mask = (uint64_t{1} << part.bits) - 1;
@@ -47,12 +61,12 @@ int32_t Reached(Exploration& exploration, const Outcome& outcome) {
 
 // A game saved in the last book's room is loaded on the map outside, at the same coordinates.
 Party AfterLoading(const Party& party) {
-  return {party.map_a, party.map_b, party.x, party.y};
+  return {party.MapA, party.MapB, party.X, party.Y};
 }
 
 bool SameCell(const Party& one, const Party& other) {
-  return one.Ground() == other.Ground() && one.map_a == other.map_a && one.map_b == other.map_b &&
-         one.x / 16 == other.x / 16 && one.y / 16 == other.y / 16;
+  return one.Map() == other.Map() && one.MapA == other.MapA && one.MapB == other.MapB &&
+         one.X / TileSize == other.X / TileSize && one.Y / TileSize == other.Y / TileSize;
 }
 
 template <typename Visit>
@@ -96,10 +110,10 @@ class BackWays {
 std::vector<Journey> AllJourneys() {
   std::vector<Journey> journeys;
   for (int round = 1; round <= 3; ++round) {
-    journeys.push_back({"round " + std::to_string(round), {round, false}, StartOf(round)});
+    journeys.push_back({"round " + std::to_string(round), RulesOf(round, false), StartOf(round)});
   }
-  journeys.push_back({"round 3 with nine techniques", {3, true}, StartOf(3)});
-  journeys.push_back({"last stage", {4, true}, StartOf(4)});
+  journeys.push_back({"round 3 with nine techniques", RulesOf(3, true), StartOf(3)});
+  journeys.push_back({"last stage", RulesOf(4, true), StartOf(4)});
   return journeys;
 }
 
@@ -120,7 +134,7 @@ Exploration Explore(const World& world, const Journey& journey) {
       const int32_t next = Reached(exploration, outcome);
       exploration.stands[at].next[way] = next;
     }
-    if (party.room == Room::BookF) {
+    if (party.Inside == kLastBookRoom) {
       const int32_t loaded = NumberOf(exploration, AfterLoading(party));
       exploration.stands[at].loaded = loaded;
     }

@@ -14,7 +14,7 @@ namespace orvane::maps {
 // A start and what the party can do: the world as one round shows it.
 struct Journey {
   std::string name;
-  StepRules rules;
+  WalkRules rules;
   Party start;
 };
 

@@ -31,7 +31,7 @@ constexpr const char* kUsage =
 int Build(const Words& words) {
   const World world = ReadTiledWorld(words[1]);
   for (const auto& [place, map] : world.maps) {
-    WriteFile(words[2] + "/" + FileName(place) + ".dat", WriteDat(map));
+    WriteFile(words[2] + "/" + MapName(place) + ".dat", WriteDat(map));
   }
   return 0;
 }

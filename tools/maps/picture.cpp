@@ -1,6 +1,6 @@
 #include "tools/maps/picture.h"
 
-#include "tools/maps/tile_codes.h"
+#include "src/field/tiles.h"
 
 namespace orvane::maps {
 namespace {
@@ -15,16 +15,16 @@ uint32_t Darkened(uint32_t colour) {
 }  // namespace
 
 paint::Image Picture(const TileMap& map, const paint::Image& sheet, int scale, bool marked) {
-  paint::Image picture(kColumns * kTile * scale, kRows * kTile * scale, 0);
+  paint::Image picture(MapColumns * kTile * scale, MapRows * kTile * scale, 0);
   for (int y = 0; y < picture.height; ++y) {
     for (int x = 0; x < picture.width; ++x) {
       const int pixel_x = x / scale;
       const int pixel_y = y / scale;
       const int code = map.At(pixel_x / kTile, pixel_y / kTile);
-      if (code < 1 || code > kHighestCode) continue;
+      if (code < 1 || code > kHighestTile) continue;
       const uint32_t colour = sheet.At((code - 1) % kTilesInARow * kTile + pixel_x % kTile,
                                        (code - 1) / kTilesInARow * kTile + pixel_y % kTile);
-      picture.At(x, y) = marked && !Walkable(code) ? Darkened(colour) : colour;
+      picture.At(x, y) = marked && !IsWalkable(code) ? Darkened(colour) : colour;
     }
   }
   return picture;

@@ -1,16 +1,20 @@
 #include "tools/maps/tile_map.h"
 
-#include <charconv>
 #include <fstream>
-#include <iterator>
+#include <optional>
 #include <stdexcept>
+#include <utility>
+
+#include "src/base/error.h"
+#include "src/core/map_file.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane::maps {
 
 std::string WriteDat(const TileMap& map) {
   std::string text;
-  for (int column = 0; column < kColumns; ++column) {
-    for (int row = 0; row < kRows; ++row) {
+  for (int column = 0; column < MapColumns; ++column) {
+    for (int row = 0; row < MapRows; ++row) {
       if (row > 0) text += ',';
       text += std::to_string(map.At(column, row));
     }
@@ -20,31 +24,21 @@ std::string WriteDat(const TileMap& map) {
 }
 
 TileMap ReadDat(std::string_view text) {
-  TileMap map;
-  size_t at = 0;
-  for (int cell = 0; cell < kCells; ++cell) {
-    at = text.find_first_not_of(", \t\r\n", at);
-    if (at == std::string_view::npos) {
-      throw std::runtime_error("the map ends after " + std::to_string(cell) + " of 480 numbers");
-    }
-    int code = 0;
-    const auto [end, error] = std::from_chars(text.data() + at, text.data() + text.size(), code);
-    if (error != std::errc()) {
-      throw std::runtime_error("number " + std::to_string(cell + 1) +
-                               " of the map is not a number");
-    }
-    map.Set(cell / kRows, cell % kRows, code);
-    at = static_cast<size_t>(end - text.data());
+  MapTiles tiles;
+  try {
+    ReadMapText(text, "", tiles);
+  } catch (const RunError& error) {
+    throw std::runtime_error(error.Kind == ErrorKind::File
+                                 ? "the map ends before its 480 numbers do"
+                                 : "the map holds what is not a number of 16 bits");
   }
-  return map;
+  return TileMap(tiles);
 }
 
 std::string ReadFile(const std::string& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::runtime_error(file + ": cannot open");
-  std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
-  if (stream.bad()) throw std::runtime_error(file + ": cannot read");
-  return text;
+  std::optional<std::string> text = ReadWholeFile(file);
+  if (!text) throw std::runtime_error(file + ": cannot read");
+  return *std::move(text);
 }
 
 void WriteFile(const std::string& file, std::string_view text) {

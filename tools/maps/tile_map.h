@@ -1,49 +1,48 @@
-// One map as the game reads it: 30 columns of 16 tile codes, and its text file.
+// One map to work on, and its text file.
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <string>
 #include <string_view>
 
+#include "src/core/map.h"
+#include "src/field/tiles.h"
+
 namespace orvane::maps {
 
-constexpr int kColumns = 30;
-constexpr int kRows = 16;
-constexpr int kCells = kColumns * kRows;
-constexpr int kHighestCode = 240;  // codes 1 to 240 are drawn, 0 leaves its cell alone
+constexpr int kCells = MapColumns * MapRows;
 
 // A whole screen of tile codes. Column 0 is the left one, row 0 the top one.
 class TileMap {
  public:
+  TileMap() = default;
+  explicit TileMap(const MapTiles& tiles) : tiles_(tiles) {}
+
   // The code at a cell. Outside of the map it is 0, which blocks.
-  int At(int column, int row) const { return Inside(column, row) ? codes_[Index(column, row)] : 0; }
+  int At(int column, int row) const { return Inside(column, row) ? int{tiles_[column][row]} : 0; }
 
   // Sets a cell; a cell outside of the map is left alone.
   void Set(int column, int row, int code) {
-    if (Inside(column, row)) codes_[Index(column, row)] = code;
+    if (Inside(column, row)) tiles_[column][row] = code;
   }
+
+  // The map as the game holds it.
+  const MapTiles& Tiles() const { return tiles_; }
 
   bool operator==(const TileMap&) const = default;
 
   static bool Inside(int column, int row) {
-    return column >= 0 && column < kColumns && row >= 0 && row < kRows;
+    return column >= 0 && column < MapColumns && row >= 0 && row < MapRows;
   }
 
  private:
-  static size_t Index(int column, int row) {
-    return static_cast<size_t>(column) * size_t{kRows} + static_cast<size_t>(row);
-  }
-
-  std::array<int, kCells> codes_{};
+  MapTiles tiles_;
 };
 
 // The text of a game map file: one line for each column, its 16 codes separated by commas.
 std::string WriteDat(const TileMap& map);
 
-// Reads a game map file: 480 decimal numbers down the columns, separated by commas, blanks or line
-// ends; what follows the last one is ignored, as the game does. Throws std::runtime_error on a file
-// that is too short or holds anything but numbers before the 480th.
+// Reads a game map file as the game does. Throws std::runtime_error on a file that is too short or
+// holds anything but numbers of 16 bits before the 480th.
 TileMap ReadDat(std::string_view text);
 
 // A whole file as bytes; throws std::runtime_error when it cannot be read.

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "tools/maps/tile_codes.h"
+#include "src/field/tiles.h"
 #include "tools/maps/tile_map.h"
 
 namespace orvane::maps {
@@ -33,10 +33,10 @@ TileEntry ReadEntry(std::string_view line, int code) {
 std::string EventOf(int code) {
   if (code == kChest) return "chest";
   if (code == kRecovery) return "recovery point";
-  if (IsBook(code)) return "book chest";
+  if (IsBookChest(code)) return "book chest";
   if (IsRoomDoor(code)) return "door to the spring room or the round's book room";
-  if (code == kBookFDoor) return "door to the room of the last book";
-  if (IsOtherGround(code)) return "battles on the ground of the wastes";
+  if (code == kLastBookDoor) return "door to the room of the last book";
+  if (IsWasteGround(code)) return "battles on the ground of the wastes";
   return {};
 }
 
@@ -74,7 +74,7 @@ std::vector<TileEntry> ReadCatalogue(std::string_view csv) {
       throw std::runtime_error("the catalogue must begin with " + std::string(kHead));
     }
   }
-  if (tiles.size() != kHighestCode) throw std::runtime_error("the catalogue must name 240 tiles");
+  if (tiles.size() != kHighestTile) throw std::runtime_error("the catalogue must name 240 tiles");
   return tiles;
 }
 
@@ -100,7 +100,7 @@ std::string WriteTileset(const std::vector<TileEntry>& tiles, const std::string&
 std::vector<std::string> CatalogueFaults(const std::vector<TileEntry>& tiles) {
   std::vector<std::string> faults;
   for (const TileEntry& tile : tiles) {
-    if (tile.walkable == Walkable(tile.code)) continue;
+    if (tile.walkable == IsWalkable(tile.code)) continue;
     faults.push_back("tile " + std::to_string(tile.code) + " \"" + tile.name +
                      (tile.walkable ? "\" blocks in the game" : "\" can be walked on in the game"));
   }

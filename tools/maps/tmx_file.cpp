@@ -82,14 +82,14 @@ std::string WriteTmx(const TileMap& map, std::string_view title) {
   text +=
       " <tileset firstgid=\"1\" source=\"tiles.tsx\"/>\n"
       " <layer id=\"1\" name=\"tiles\" width=\"30\" height=\"16\">\n  <data encoding=\"csv\">\n";
-  for (int row = 0; row < kRows; ++row) {
-    for (int column = 0; column < kColumns; ++column) {
+  for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < MapColumns; ++column) {
       const int code = map.At(column, row);
-      if (code < 0 || code > kHighestCode) {
+      if (code < 0 || code > kHighestTile) {
         throw std::runtime_error("the tileset has no tile " + std::to_string(code));
       }
       text += std::to_string(code);
-      if (row < kRows - 1 || column < kColumns - 1) text += ',';
+      if (row < MapRows - 1 || column < MapColumns - 1) text += ',';
     }
     text += '\n';
   }
@@ -113,9 +113,10 @@ TileMap ReadTmx(std::string_view text) {
     Demand(error == std::errc(), "a tile is not a number");
     at = static_cast<size_t>(end - data.data());
     // Tiled marks turned tiles in the highest bits, so they too are beyond the tileset.
-    Demand(id == 0 || (id >= first_id && id - first_id < kHighestCode),
+    Demand(id == 0 || (id >= first_id && id - first_id < kHighestTile),
            "a tile is turned, or not of the tileset");
-    map.Set(cell % kColumns, cell / kColumns, id == 0 ? 0 : static_cast<int>(id - first_id) + 1);
+    map.Set(cell % MapColumns, cell / MapColumns,
+            id == 0 ? 0 : static_cast<int>(id - first_id) + 1);
   }
   return map;
 }

@@ -5,8 +5,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <sstream>
+#include <optional>
+#include <utility>
 
+#include "src/platform/whole_file.h"
 #include "tools/effects/loudness.h"
 #include "tools/effects/wav_file.h"
 #include "tools/music/checks.h"
@@ -31,11 +33,9 @@ struct Loudness {
 };
 
 std::string ReadAll(const std::string& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  if (!in) throw std::runtime_error("cannot be read");
-  return text.str();
+  std::optional<std::string> text = orvane::ReadWholeFile(file);
+  if (!text) throw std::runtime_error("cannot be read");
+  return *std::move(text);
 }
 
 void WriteAll(const std::filesystem::path& file, const std::string& bytes) {

@@ -2,22 +2,21 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
-#include <sstream>
+#include <optional>
 
+#include "src/platform/whole_file.h"
 #include "tools/music/performance.h"
 
 namespace {
 
 int Run(const std::string& score_file, const std::string& midi_file) {
-  std::ifstream in(score_file, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  if (!in) {
+  const std::optional<std::string> text = orvane::ReadWholeFile(score_file);
+  if (!text) {
     std::cerr << score_file << ": cannot be read\n";
     return 1;
   }
   try {
-    const orvane::music::Score score = orvane::music::ReadScore(text.str());
+    const orvane::music::Score score = orvane::music::ReadScore(*text);
     const orvane::music::Sheet sheet = orvane::music::WriteOut(score);
     std::ofstream out(midi_file, std::ios::binary);
     out << orvane::music::WriteMidi(orvane::music::Perform(sheet));

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <string>
 
-#include "src/core/map_file.h"
+#include "src/core/map.h"
 #include "src/core/new_game.h"
 #include "src/core/save_file.h"
 

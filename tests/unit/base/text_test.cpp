@@ -53,6 +53,16 @@ TEST(Cp932, WhatItLacksBecomesAQuestionMark) {
   EXPECT_EQ(FromCp932("\xFF"), "？");
 }
 
+TEST(Cp932, ABadByteNeverTakesTheNextOneWithIt) {
+  for (const char* bad : {"\x80", "\xA0", "\xFD", "\xFE", "\xFF"}) {
+    EXPECT_EQ(FromCp932(bad), "？");
+    EXPECT_EQ(FromCp932(bad + std::string("A")), "？A");
+    EXPECT_EQ(FromCp932(bad + std::string("\x82\xA0")), "？あ");
+    EXPECT_EQ(FromCp932(bad + std::string("\xB1")), "？ｱ");
+  }
+  EXPECT_EQ(FromCp932("\x85\x40"), "？") << "a pair that stands for nothing is one character";
+}
+
 TEST(Cp932, ZeroBytesReadAsBlanks) {
   EXPECT_EQ(FromCp932(std::string("a\0b", 3)), "a b");
 }

@@ -2,18 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
+#include "src/platform/whole_file.h"
 #include "tools/items/cp932.h"
 
 namespace orvane::items {
 namespace {
 
 std::string TableText() {
-  std::ifstream stream(ORVANE_ITEM_TABLE, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  return ReadWholeFile(ORVANE_ITEM_TABLE).value_or("");
 }
 
 std::vector<Item> GameItems() {

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
+#include "src/field/tiles.h"
 #include "tools/maps/distances.h"
-#include "tools/maps/tile_codes.h"
 
 namespace orvane::maps {
 namespace {
@@ -46,9 +46,9 @@ struct Spot {
 };
 
 // The first cell of a code on a map; the test fails when there is none.
-Spot Find(const World& world, const Place& place, int code) {
-  for (int column = 0; column < kColumns; ++column) {
-    for (int row = 0; row < kRows; ++row) {
+Spot Find(const World& world, const MapId& place, int code) {
+  for (int column = 0; column < MapColumns; ++column) {
+    for (int row = 0; row < MapRows; ++row) {
       if (world.Find(place)->At(column, row) == code) return {column, row};
     }
   }
@@ -57,7 +57,7 @@ Spot Find(const World& world, const Place& place, int code) {
 }
 
 // Puts trees on all cells around a cell.
-void Enclose(World& world, const Place& place, const Spot& spot, int reach = 1) {
+void Enclose(World& world, const MapId& place, const Spot& spot, int reach = 1) {
   for (int column = spot.column - 1; column <= spot.column + reach; ++column) {
     for (int row = spot.row - 1; row <= spot.row + reach; ++row) {
       const bool inside = column >= spot.column && column < spot.column + reach &&
@@ -95,7 +95,7 @@ TEST(MapCheck, FindsBordersThatDoNotMatch) {
 
 TEST(MapCheck, FindsOpenBorders) {
   struct Hole {
-    Place place;
+    MapId place;
     int column;
     int row;
   };
@@ -107,9 +107,9 @@ TEST(MapCheck, FindsOpenBorders) {
       {kHiddenMap, 29, 8},
       {kLastStage, 14, 15},
       {kLastStage, 0, 8},
-      {{0, 0, Room::Fresh}, 0, 9},
-      {{0, 0, Room::BookF}, 14, 0},
-      {{0, 0, Room::Book2}, 29, 5},
+      {{0, 0, kSpringRoom}, 0, 9},
+      {{0, 0, kLastBookRoom}, 14, 0},
+      {{0, 0, BookRoom(2)}, 29, 5},
   };
   for (const Hole& hole : holes) {
     World world = GameWorld();
@@ -121,7 +121,7 @@ TEST(MapCheck, FindsOpenBorders) {
 
 TEST(MapCheck, FindsMisplacedFurniture) {
   struct Piece {
-    Place place;
+    MapId place;
     int column;
     int row;
     int code;
@@ -131,9 +131,9 @@ TEST(MapCheck, FindsMisplacedFurniture) {
       {kStartMap, 9, 9, kChest},
       {kStartMap, 9, 9, kBookTopLeft},
       {kDragonMap, 9, 9, 47},
-      {{4, 3}, 9, 9, kBookFDoor},
-      {{0, 0, Room::Book1}, 11, 8, 116},
-      {{0, 0, Room::Fresh}, 9, 10, kChest},
+      {{4, 3}, 9, 9, kLastBookDoor},
+      {{0, 0, BookRoom(1)}, 11, 8, 116},
+      {{0, 0, kSpringRoom}, 9, 10, kChest},
   };
   for (const Piece& piece : pieces) {
     World world = GameWorld();
@@ -143,9 +143,9 @@ TEST(MapCheck, FindsMisplacedFurniture) {
 }
 
 TEST(MapCheck, FindsMissingFurniture) {
-  const std::pair<Place, int> pieces[] = {
-      {kStartMap, kChest},  {{3, 4}, kBookTopLeft}, {kHiddenMap, kBookBottomRight},
-      {{5, 5}, kBookFDoor}, {{1, 1}, 116},          {{3, 5}, 116}};
+  const std::pair<MapId, int> pieces[] = {
+      {kStartMap, kChest},     {{3, 4}, kBookTopLeft}, {kHiddenMap, kBookBottomRight},
+      {{5, 5}, kLastBookDoor}, {{1, 1}, 116},          {{3, 5}, 116}};
   for (const auto& [place, code] : pieces) {
     World world = GameWorld();
     const Spot spot = Find(world, place, code);
@@ -157,15 +157,17 @@ TEST(MapCheck, FindsMissingFurniture) {
 TEST(MapCheck, FindsABookChestInPieces) {
   World world = GameWorld();
   const Spot spot = Find(world, {3, 4}, kBookTopLeft);
-  world.maps[Place{3, 4}].Set(spot.column, spot.row, kBookTopRight);
-  world.maps[Place{3, 4}].Set(spot.column + 1, spot.row, kBookTopLeft);
+  world.maps[MapId{3, 4}].Set(spot.column, spot.row, kBookTopRight);
+  world.maps[MapId{3, 4}].Set(spot.column + 1, spot.row, kBookTopLeft);
   EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture));
 }
 
 TEST(MapCheck, FindsGoalsOutOfReach) {
-  const std::pair<Place, int> goals[] = {
-      {kStartMap, kChest}, {{1, 5}, kChest},     {{5, 1}, kChest}, {kStartMap, kRecovery},
-      {{1, 1}, 116},       {{5, 5}, kBookFDoor}, {{2, 4}, 47},     {{0, 0, Room::Fresh}, kRecovery},
+  const std::pair<MapId, int> goals[] = {
+      {kStartMap, kChest}, {{1, 5}, kChest},
+      {{5, 1}, kChest},    {kStartMap, kRecovery},
+      {{1, 1}, 116},       {{5, 5}, kLastBookDoor},
+      {{2, 4}, 47},        {{0, 0, kSpringRoom}, kRecovery},
   };
   for (const auto& [place, code] : goals) {
     World world = GameWorld();
@@ -186,7 +188,7 @@ TEST(MapCheck, FindsBookChestsOutOfReach) {
 
 TEST(MapCheck, FindsDragonsOutOfReach) {
   World world = GameWorld();
-  for (int column = 0; column < kColumns; ++column) world.maps[kDragonMap].Set(column, 8, kTree);
+  for (int column = 0; column < MapColumns; ++column) world.maps[kDragonMap].Set(column, 8, kTree);
   EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
   World last = GameWorld();
   last.maps[kLastStage].Set(14, 4, kTree);
@@ -195,8 +197,8 @@ TEST(MapCheck, FindsDragonsOutOfReach) {
 
 TEST(MapCheck, FindsARoomWithoutAWayOut) {
   World world = GameWorld();
-  for (int column = 0; column < kColumns; ++column) {
-    world.maps[Place{0, 0, Room::Fresh}].Set(column, 15, 204);
+  for (int column = 0; column < MapColumns; ++column) {
+    world.maps[MapId{0, 0, kSpringRoom}].Set(column, 15, 204);
   }
   EXPECT_TRUE(DrawingFault(world, FaultKind::Unreachable));
   EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
@@ -211,7 +213,7 @@ TEST(MapCheck, FindsALandingOnATileThatBlocks) {
 
 TEST(MapCheck, FindsASavedGameThatCannotGoOn) {
   World world = GameWorld();
-  world.maps[Place{5, 5}].Set(14, 13, kTree);
+  world.maps[MapId{5, 5}].Set(14, 13, kTree);
   EXPECT_TRUE(WalkingFault(world, FaultKind::DeadEnd));
 }
 
@@ -231,24 +233,25 @@ TEST(MapCheck, FindsFlipFlops) {
     EXPECT_TRUE(WalkingFault(left, FaultKind::FlipFlop)) << row;
   }
   World right = GameWorld();
-  right.maps[Place{2, 3}].Set(28, 9, kGrass);
+  right.maps[MapId{2, 3}].Set(28, 9, kGrass);
   EXPECT_TRUE(WalkingFault(right, FaultKind::FlipFlop));
 }
 
 TEST(MapCheck, FindsAWayToAMapThatDoesNotExist) {
   World world = GameWorld();
-  for (int column = 18; column < kColumns; ++column)
-    world.maps[Place{5, 3}].Set(column, 13, kGrass);
+  for (int column = 18; column < MapColumns; ++column)
+    world.maps[MapId{5, 3}].Set(column, 13, kGrass);
   EXPECT_TRUE(WalkingFault(world, FaultKind::NoSuchMap));
   World hidden = GameWorld();
-  for (int column = 19; column < kColumns; ++column) hidden.maps[kHiddenMap].Set(column, 8, kGrass);
+  for (int column = 19; column < MapColumns; ++column)
+    hidden.maps[kHiddenMap].Set(column, 8, kGrass);
   EXPECT_TRUE(WalkingFault(hidden, FaultKind::NoSuchMap, "round 3 with nine techniques"));
 }
 
 TEST(MapCheck, FindsWrongExits) {
   World room = GameWorld();
   for (int column = 0; column < 15; ++column) {
-    room.maps[Place{0, 0, Room::Fresh}].Set(column, 11, 206);
+    room.maps[MapId{0, 0, kSpringRoom}].Set(column, 11, 206);
   }
   EXPECT_TRUE(WalkingFault(room, FaultKind::WrongExit));
   World last = GameWorld();
@@ -259,8 +262,8 @@ TEST(MapCheck, FindsWrongExits) {
 TEST(MapCheck, FindsTooLongAWayToRecovery) {
   World world = GameWorld();
   for (auto& [place, map] : world.maps) {
-    for (int column = 0; column < kColumns; ++column) {
-      for (int row = 0; row < kRows; ++row) {
+    for (int column = 0; column < MapColumns; ++column) {
+      for (int row = 0; row < MapRows; ++row) {
         if (map.At(column, row) == kRecovery && place != kStartMap) map.Set(column, row, kGrass);
       }
     }
@@ -272,16 +275,16 @@ TEST(MapCheck, FindsTooLongAWayToRecovery) {
 TEST(MapCheck, TheWastesAreARegionOfTheirOwn) {
   for (const auto& [place, map] : GameWorld().maps) {
     int cells = 0;
-    for (int column = 0; column < kColumns; ++column) {
-      for (int row = 0; row < kRows; ++row) cells += IsOtherGround(map.At(column, row)) ? 1 : 0;
+    for (int column = 0; column < MapColumns; ++column) {
+      for (int row = 0; row < MapRows; ++row) cells += IsWasteGround(map.At(column, row)) ? 1 : 0;
     }
-    const bool wastes = place == kDragonMap || place == Place{4, 2} || place == Place{5, 2};
+    const bool wastes = place == kDragonMap || place == MapId{4, 2} || place == MapId{5, 2};
     EXPECT_EQ(cells > 0, wastes) << PlaceName(place);
   }
   const Exploration exploration = Explore(GameWorld(), JourneyNamed("round 1"));
   for (const Stand& stand : exploration.stands) {
     if (std::count(stand.next.begin(), stand.next.end(), kToDragon) == 0) continue;
-    EXPECT_TRUE(IsOtherGround(TileUnder(GameWorld(), stand.party)));
+    EXPECT_TRUE(IsWasteGround(TileUnder(GameWorld(), stand.party)));
   }
 }
 

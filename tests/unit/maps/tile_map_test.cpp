@@ -9,8 +9,8 @@ namespace {
 
 TileMap Numbered() {
   TileMap map;
-  for (int column = 0; column < kColumns; ++column) {
-    for (int row = 0; row < kRows; ++row) map.Set(column, row, (column * kRows + row) % 241);
+  for (int column = 0; column < MapColumns; ++column) {
+    for (int row = 0; row < MapRows; ++row) map.Set(column, row, (column * MapRows + row) % 241);
   }
   return map;
 }

@@ -10,8 +10,8 @@
 namespace orvane::maps {
 namespace {
 
-std::string SourceText(const Place& place) {
-  return ReadFile(ORVANE_MAP_SOURCES "/" + FileName(place) + ".tmx");
+std::string SourceText(const MapId& place) {
+  return ReadFile(ORVANE_MAP_SOURCES "/" + MapName(place) + ".tmx");
 }
 
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {
@@ -21,14 +21,14 @@ std::string Replaced(std::string text, const std::string& from, const std::strin
 }
 
 TEST(TmxFile, EverySourceComesBackByteForByte) {
-  for (const Place& place : AllPlaces()) {
+  for (const MapId& place : AllPlaces()) {
     const std::string source = SourceText(place);
     const std::string dat = WriteDat(ReadTmx(source));
     const std::string again = WriteTmx(ReadDat(dat), ReadTmxTitle(source));
-    EXPECT_EQ(WriteDat(ReadTmx(again)), dat) << FileName(place);
-    EXPECT_EQ(ReadTmx(again), ReadTmx(source)) << FileName(place);
-    EXPECT_EQ(ReadTmxTitle(again), ReadTmxTitle(source)) << FileName(place);
-    EXPECT_FALSE(ReadTmxTitle(source).empty()) << FileName(place);
+    EXPECT_EQ(WriteDat(ReadTmx(again)), dat) << MapName(place);
+    EXPECT_EQ(ReadTmx(again), ReadTmx(source)) << MapName(place);
+    EXPECT_EQ(ReadTmxTitle(again), ReadTmxTitle(source)) << MapName(place);
+    EXPECT_FALSE(ReadTmxTitle(source).empty()) << MapName(place);
   }
 }
 
@@ -42,13 +42,13 @@ TEST(TmxFile, RowsOfTiledBecomeColumnsOfTheGame) {
 
 TEST(TmxFile, FollowsTheTilesetsFirstNumber) {
   TileMap map;
-  for (int row = 0; row < kRows; ++row) {
-    for (int column = 0; column < kColumns; ++column) map.Set(column, row, 7);
+  for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < MapColumns; ++column) map.Set(column, row, 7);
   }
   std::string text = WriteTmx(map);
   TileMap shifted;
-  for (int row = 0; row < kRows; ++row) {
-    for (int column = 0; column < kColumns; ++column) shifted.Set(column, row, 3);
+  for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < MapColumns; ++column) shifted.Set(column, row, 3);
   }
   EXPECT_EQ(ReadTmx(Replaced(text, "firstgid=\"1\"", "firstgid=\"5\"")), shifted);
 }

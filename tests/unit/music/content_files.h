@@ -3,19 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <string>
+
+#include "src/platform/whole_file.h"
 
 namespace orvane::tests {
 
 // The text of a file below content/; fails the test where there is none.
 inline std::string ContentText(const std::string& path) {
-  std::ifstream in(std::string(ORVANE_SOURCE_FOLDER) + "/content/" + path, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  EXPECT_TRUE(in.good()) << path;
-  return text.str();
+  const auto text = ReadWholeFile(std::string(ORVANE_SOURCE_FOLDER) + "/content/" + path);
+  EXPECT_TRUE(text.has_value()) << path;
+  return text.value_or("");
 }
 
 }  // namespace orvane::tests

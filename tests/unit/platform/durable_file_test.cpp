@@ -13,6 +13,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "src/platform/whole_file.h"
+
 namespace orvane {
 namespace {
 
@@ -27,10 +29,7 @@ class DurableFileTest : public testing::Test {
   ~DurableFileTest() override { std::filesystem::remove_all(folder_); }
 
   std::string File() const { return (folder_ / "Save01.sav").string(); }
-  std::string Content() const {
-    std::ifstream file(File(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
+  std::string Content() const { return ReadWholeFile(File()).value_or(""); }
   int FilesInFolder() const {
     return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder_), {}));
   }

@@ -4,7 +4,8 @@
 #include <unistd.h>
 
 #include <fstream>
-#include <iterator>
+
+#include "src/platform/whole_file.h"
 
 namespace orvane {
 namespace {
@@ -27,10 +28,7 @@ class PlayerFolderTest : public testing::Test {
     fs::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << bytes;
   }
-  static std::string Read(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
+  static std::string Read(const fs::path& path) { return ReadWholeFile(path).value_or(""); }
   std::string Prepare() const { return PreparePlayerFolder(installed_, own_); }
 
   fs::path base_;

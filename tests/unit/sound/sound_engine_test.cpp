@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "src/platform/sound_channels.h"
+#include "src/platform/whole_file.h"
 #include "src/sound/sound_font.h"
 #include "tests/unit/sound/sound_files.h"
 
@@ -257,8 +258,7 @@ TEST_F(SoundEngineTest, ALogTellsBesideARecordingWhatWasAskedForAndWhere) {
   EXPECT_EQ(lines[2].second, "painted Main");
   EXPECT_EQ(lines[3].second, "close snd2");
   // The tone begins in the recording where the log says that it was started.
-  std::ifstream file(options.RecordFile, std::ios::binary);
-  const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  const std::string bytes = ReadWholeFile(options.RecordFile).value_or("");
   size_t first = 44;
   while (first + 4 <= bytes.size() && bytes[first + 1] == 0) first += 4;
   EXPECT_NEAR(static_cast<double>(first - 44) / 4 / kRate, lines[1].first, 0.005);
@@ -277,8 +277,7 @@ TEST_F(SoundEngineTest, ARecordingHoldsWhatWasPlayed) {
     engine.Send(PlayCommand("snd2"));
     played = Pull(engine, 0.3);
   }
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  const std::string bytes = ReadWholeFile(path).value_or("");
   ASSERT_EQ(bytes.size(), 44 + 2 * played.size());
   EXPECT_EQ(bytes.substr(0, 4), "RIFF");
   EXPECT_EQ(bytes.substr(36, 4), "data");

@@ -1,6 +1,6 @@
 #include <array>
 
-#include "src/core/map_file.h"
+#include "src/core/map.h"
 #include "src/frontend/script/calls/call.h"
 #include "src/frontend/script/calls/calls.h"
 #include "src/frontend/script/run/script_error.h"

@@ -1,7 +1,5 @@
 #include "src/frontend/script/run/script_file.h"
 
-#include <fstream>
-#include <iterator>
 #include <lua.hpp>
 #include <memory>
 #include <optional>
@@ -10,6 +8,7 @@
 #include "src/frontend/script/calls/calls.h"
 #include "src/frontend/script/names/place.h"
 #include "src/frontend/script/run/session.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane {
 namespace {
@@ -59,14 +58,6 @@ std::string TextOnTop(lua_State* lua) {
   return lua_type(lua, -1) == LUA_TSTRING ? lua_tostring(lua, -1) : "an error";
 }
 
-std::optional<std::string> ReadText(const std::string& file) {
-  std::error_code failed;
-  if (std::filesystem::is_directory(file, failed)) return std::nullopt;
-  std::ifstream input(file, std::ios::binary);
-  if (!input) return std::nullopt;
-  return std::string((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
-}
-
 // Compiles and runs the script's text. Returns what went wrong, empty when nothing did.
 std::string RunText(lua_State* lua, const std::string& file, std::string text) {
   // A first line for the shell stays a line, so that the others keep their numbers.
@@ -81,7 +72,7 @@ std::string RunText(lua_State* lua, const std::string& file, std::string text) {
 }  // namespace
 
 void RunScript(const std::string& file, const std::filesystem::path& game_folder, Tally& tally) {
-  const std::optional<std::string> text = ReadText(file);
+  const std::optional<std::string> text = ReadWholeFile(file);
   if (!text) return tally.Break(file + ":1: expected a script that can be read, found none");
   const StateOwner state(luaL_newstate());
   if (state == nullptr) return tally.Break(file + ":1: expected memory for the script, found none");

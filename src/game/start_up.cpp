@@ -1,8 +1,10 @@
-#include "src/core/start_up.h"
+#include "src/game/start_up.h"
 
+#include "src/battle/rules/battle_tables.h"
 #include "src/core/game.h"
-#include "src/core/map_file.h"
+#include "src/core/map.h"
 #include "src/core/new_game.h"
+#include "src/field/story.h"
 
 namespace orvane {
 
@@ -25,8 +27,9 @@ void StartUp(Game& game) {
   main.Copyright.Caption = "Copyright (C) 2001 Kelmark";
   game.items.Open(game.services.Files);
   for (int number = 1; number <= ItemFile::RecordCount; ++number) ReadItem(game, number);
-  game.links.SetStoryText();
-  game.links.FillSkillTables();
+  SetStoryText(game);
+  FillWazaTable(state);
+  FillMagicTable(state);
 }
 
 }  // namespace orvane

@@ -14,7 +14,6 @@ namespace orvane {
 namespace {
 
 constexpr Colour kWhite = Rgb(255, 255, 255);
-constexpr Place kOutOfSight{0, 600, 16, 16};
 
 // A new screen's timer is as fast as timers go; the settings and a new game say otherwise. A real
 // clock serves it every 10 ms at the most, so that an action can be seen.

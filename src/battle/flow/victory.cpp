@@ -5,13 +5,12 @@
 #include "src/battle/battle_screen.h"
 #include "src/battle/flow/leaving.h"
 #include "src/battle/rules/formation.h"
-#include "src/core/growth.h"
+#include "src/core/hero_numbers.h"
 
 namespace orvane {
 namespace {
 
 constexpr int kNameCut = 6;
-constexpr int kMostHPAndMP = 9999;
 
 bool EnemyLeft(const State& state) {
   for (int index = 0; index < BigSlot; ++index) {
@@ -41,19 +40,6 @@ Int16 ProficiencyOfFight(const State& state) {
   if (state.BossFight == True) return state.Round * 20;
   if (state.EnemyKind == BoneDragonKind) return 20;
   return state.EnemyCount * state.Round;
-}
-
-// What the level just reached adds.
-void GrowStrength(State& state, int hero) {
-  const int level = state.Level[hero];
-  const bool man = hero == 0;
-  state.MaxHP[hero] += man ? 30 + level % 4 : 25 + level % 3;
-  state.MaxMP[hero] += man ? 5 + level % 3 : 10 + level % 4;
-  state.BaseAttack[hero] += level % (man ? 4 : 3);
-  state.BaseDefence[hero] += level % (man ? 3 : 4);
-  state.Spirit[hero] += 1 + level % (man ? 2 : 3);
-  if (state.MaxHP[hero] > kMostHPAndMP) state.MaxHP[hero] = kMostHPAndMP;
-  if (state.MaxMP[hero] > kMostHPAndMP) state.MaxMP[hero] = kMostHPAndMP;
 }
 
 }  // namespace
@@ -94,12 +80,9 @@ void LevelUp(BattleScreen& battle) {
   battle.LevelMessages[0].Visible = false;
   battle.LevelMessages[1].Visible = false;
   for (int hero = 0; hero < 2; ++hero) {
-    while (ExperienceToLeave(hero, state.Level[hero]) <= state.Exp[hero]) {
-      battle.LevelMessages[hero].Visible = true;
-      battle.LevelMessages[hero].Caption = ShortName(state, hero) + "LEVEL UP !";
-      state.Level[hero] += 1;
-      GrowStrength(state, hero);
-    }
+    if (!TakeLevels(state, hero)) continue;
+    battle.LevelMessages[hero].Visible = true;
+    battle.LevelMessages[hero].Caption = ShortName(state, hero) + "LEVEL UP !";
   }
   battle.FleeButton.Enabled = false;
 }

@@ -4,6 +4,7 @@
 
 #include "src/battle/battle_screen.h"
 #include "src/battle/rules/formation.h"
+#include "src/core/hero_numbers.h"
 
 namespace orvane {
 namespace {
@@ -63,10 +64,6 @@ void FlashSlot(BattleScreen& battle, int slot) {
   const Surface& sheet = battle.EnemySheets[battle.state.EnemyKind].Picture;
   BitBlt(battle.Scene.Picture, SlotX(slot), SlotY(slot), kEnemyCell.Width, kEnemyCell.Height, sheet,
          kEnemyCell.MaskX, kEnemyCell.MaskY, RasterOp::SRCPAINT);
-}
-
-std::string Gauge(int now, int limit) {
-  return std::to_string(now) + "/" + std::to_string(limit);
 }
 
 }  // namespace
@@ -160,14 +157,8 @@ void EnemyFlash(BattleScreen& battle) {
 
 void StatusDisplay(BattleScreen& battle) {
   State& state = battle.state;
+  Settle(state);
   for (int hero = 0; hero < 2; ++hero) {
-    state.Attack[hero] = state.WeaponAttack[hero] + state.BaseAttack[hero];
-    state.Defence[hero] = state.ArmourDefence[hero] + state.BaseDefence[hero];
-  }
-  for (int hero = 0; hero < 2; ++hero) {
-    if (state.HP[hero] < 0) state.HP[hero] = 0;
-    if (state.HP[hero] > state.MaxHP[hero]) state.HP[hero] = state.MaxHP[hero];
-    if (state.MP[hero] > state.MaxMP[hero]) state.MP[hero] = state.MaxMP[hero];
     battle.LevelValues[hero].Caption = std::to_string(state.Level[hero]);
     battle.HPValues[hero].Caption = Gauge(state.HP[hero], state.MaxHP[hero]);
     battle.MPValues[hero].Caption = Gauge(state.MP[hero], state.MaxMP[hero]);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "src/battle/rules/formation.h"
-#include "src/core/growth.h"
 
 namespace orvane {
 namespace {
@@ -70,13 +69,6 @@ TEST(Formation, SlotsZigZag) {
   }
   EXPECT_EQ(SlotX(0), 0);
   EXPECT_EQ(SlotY(0), 180);
-}
-
-TEST(Growth, NeedsTheSquareOfTheLevel) {
-  EXPECT_EQ(ExperienceToLeave(0, 1), 150);
-  EXPECT_EQ(ExperienceToLeave(1, 1), 155);
-  EXPECT_EQ(ExperienceToLeave(0, 9), 12150);
-  EXPECT_EQ(ExperienceToLeave(1, 9), 12555);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "src/game/parts.h"
 
-#include "src/battle/rules/battle_tables.h"
+#include "src/battle/skill_table.h"
 #include "src/core/main_activation.h"
 #include "src/core/quit.h"
 #include "src/field/field_frame.h"
@@ -41,8 +41,8 @@ void Program::Parts::TieLinks() {
   game.links.ShowEnding = [this] { game.stage.Show(ending); };
   game.links.SetStoryText = [this] { SetStoryText(game); };
   game.links.FillSkillTables = [this] {
-    FillWazaTable(game.state);
-    FillMagicTable(game.state);
+    FillTechniqueTable(game.state);
+    FillSpellTable(game.state);
   };
 }
 

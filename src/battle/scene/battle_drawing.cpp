@@ -1,10 +1,8 @@
 #include "src/battle/scene/battle_drawing.h"
 
-#include <string>
-
 #include "src/battle/battle_screen.h"
 #include "src/battle/rules/formation.h"
-#include "src/core/hero_numbers.h"
+#include "src/battle/skill_table.h"
 
 namespace orvane {
 namespace {
@@ -25,10 +23,9 @@ constexpr int kRecoil = 10;
 
 constexpr int kEffectSize = 24;
 constexpr int kEffectMasks = 192;
-constexpr int kLastTargetSpell = 2;
 
 // The ground of the place where the party stands: four tile codes are wasteland.
-Surface& Ground(BattleScreen& battle) {
+const Surface& Ground(const BattleScreen& battle) {
   switch (battle.state.TileHere) {
     case 13:
     case 14:
@@ -58,6 +55,17 @@ void DrawBig(BattleScreen& battle, int row, const Cell& cell, int shift = 0) {
   Rect place = kBigPlace;
   place.X += shift;
   DrawSprite(battle, place, battle.EnemySheets[row].Picture, cell);
+}
+
+void DrawEnemyGroup(BattleScreen& battle) {
+  RedrawCells(battle, SlotCells(battle.ChosenTarget()));
+  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
+    if (battle.state.EnemyAlive[slot - 1] == True) DrawEnemyInSlot(battle, slot);
+  }
+}
+
+double ShakePixels(int frame, int twips) {
+  return SignOf(frame / 2) * twips / TwipsPerPixel;
 }
 
 void FlashSlot(BattleScreen& battle, int slot) {
@@ -95,23 +103,12 @@ void DrawBackground(BattleScreen& battle) {
   DrawGround(battle, kScene, kGroundSheet);
 }
 
-void DrawEnemyGroup(BattleScreen& battle) {
-  RedrawCells(battle, SlotCells(battle.Targets.ListIndex));
-  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
-    if (battle.state.EnemyAlive[slot - 1] == True) DrawEnemyInSlot(battle, slot);
-  }
-}
-
 void DrawRoundBoss(BattleScreen& battle) {
   DrawBig(battle, battle.state.Round - 1, kRoundBossCell);
 }
 
 void DrawLastBoss(BattleScreen& battle) {
-  DrawBig(battle, LastBossKind, kBigCell);
-}
-
-void DrawBoneDragon(BattleScreen& battle) {
-  DrawBig(battle, BoneDragonKind, kBigCell);
+  DrawBig(battle, kLastBossKind, kBigCell);
 }
 
 void DrawEnemySide(BattleScreen& battle) {
@@ -119,8 +116,8 @@ void DrawEnemySide(BattleScreen& battle) {
     DrawRoundBoss(battle);
   } else if (battle.state.LastBossFight == True) {
     DrawLastBoss(battle);
-  } else if (battle.state.EnemyKind == BoneDragonKind) {
-    DrawBoneDragon(battle);
+  } else if (battle.state.EnemyKind == kBoneDragonKind) {
+    DrawBig(battle, kBoneDragonKind, kBigCell);
   } else {
     DrawEnemyGroup(battle);
   }
@@ -135,7 +132,7 @@ void EnemyRecoil(BattleScreen& battle) {
   if (IsBigFight(battle.state)) {
     return DrawBig(battle, EnemyRow(battle.state), BigCellOf(battle.state), -kRecoil);
   }
-  const int slot = battle.Targets.ListIndex;
+  const int slot = battle.ChosenTarget();
   if (battle.state.EnemyAlive[slot - 1] != True) return;
   RedrawCells(battle, SlotCells(slot));
   DrawEnemyInSlot(battle, slot, -kRecoil);
@@ -146,8 +143,8 @@ void EnemyFlash(BattleScreen& battle) {
     const Cell& cell = BigCellOf(battle.state);
     StretchBlt(battle.Scene.Picture, kBigPlace, battle.EnemySheets[EnemyRow(battle.state)].Picture,
                {cell.MaskX, cell.MaskY, cell.Width, cell.Height}, RasterOp::SRCPAINT);
-  } else if (battle.Skills.ListIndex <= kLastTargetSpell) {
-    FlashSlot(battle, battle.Targets.ListIndex);
+  } else if (TargetsOfSpell(battle.ChosenSkill()) == Targets::One) {
+    FlashSlot(battle, battle.ChosenTarget());
   } else {
     for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
       if (battle.state.EnemyAlive[slot - 1] == True) FlashSlot(battle, slot);
@@ -155,17 +152,12 @@ void EnemyFlash(BattleScreen& battle) {
   }
 }
 
-void StatusDisplay(BattleScreen& battle) {
-  State& state = battle.state;
-  Settle(state);
-  for (int hero = 0; hero < 2; ++hero) {
-    battle.LevelValues[hero].Caption = std::to_string(state.Level[hero]);
-    battle.HPValues[hero].Caption = Gauge(state.HP[hero], state.MaxHP[hero]);
-    battle.MPValues[hero].Caption = Gauge(state.MP[hero], state.MaxMP[hero]);
-    battle.AttackValues[hero].Caption = std::to_string(state.Attack[hero]);
-    battle.DefenceValues[hero].Caption = std::to_string(state.Defence[hero]);
-    battle.SpiritValues[hero].Caption = std::to_string(state.Spirit[hero]);
-  }
+void ShakeUpDown(BattleScreen& battle, int frame, int twips) {
+  battle.Scene.At.Top += ShakePixels(frame, twips);
+}
+
+void ShakeLeftRight(BattleScreen& battle, int frame, int twips) {
+  battle.Scene.At.Left += ShakePixels(frame, twips);
 }
 
 }  // namespace orvane

@@ -11,8 +11,8 @@ constexpr int kTop = 130;
 constexpr int kHeroHeight = 54;
 
 ScenePoint PointInBox(BattleScreen& battle, int top, int height) {
-  const Int16 x = RoundToInt16(Int(Rnd(battle.game) * kWidth + kLeft));
-  const Int16 y = RoundToInt16(Int(Rnd(battle.game) * height + top));
+  const Int16 x = Roll(battle.game, kWidth, kLeft);
+  const Int16 y = Roll(battle.game, height, top);
   return {x, y};
 }
 

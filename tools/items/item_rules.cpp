@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "src/battle/rules/battle_items.h"
 #include "tools/items/cp932.h"
 #include "tools/items/item_table.h"
 
@@ -22,11 +23,8 @@ constexpr Line kLines[] = {
     {21, 28, ItemKind::HerWeapon, "her weapon"},
     {29, 36, ItemKind::HerArmour, "her armour"},
     {37, 46, ItemKind::Book, "book"},
-    {47, 49, ItemKind::Recovery, "recovery item"},
+    {kFirstBattleItem, kLastBattleItem, ItemKind::Recovery, "recovery item"},
 };
-
-// What the three recovery items give in a battle; their values in the bag must agree.
-constexpr int32_t kRecovered[] = {200, 500, 9999};
 
 // The bag compares this many characters when it protects what is worn.
 constexpr size_t kCompared = 5;
@@ -59,8 +57,10 @@ void CheckLine(const Line& line, const std::vector<Item>& items, std::vector<std
         faults.push_back(Named(number, item) + " must train skill " + std::to_string(place + 1));
       }
     } else if (line.kind == ItemKind::Recovery) {
-      if (item.value != kRecovered[place]) {
-        faults.push_back(Named(number, item) + " must give " + std::to_string(kRecovered[place]));
+      // What it gives out of the bag must agree with what it gives in a battle.
+      const int given = kBattleItems[place].HP;
+      if (item.value != given) {
+        faults.push_back(Named(number, item) + " must give " + std::to_string(given));
       }
     } else if (item.value < 1 || item.value > 999) {
       faults.push_back(Named(number, item) + " has a strength outside of 1 to 999");

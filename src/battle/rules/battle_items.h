@@ -10,9 +10,11 @@ struct BattleItem {
   int MP;
 };
 
-constexpr BattleItem kBattleItems[] = {{47, 200, 20}, {48, 500, 50}, {49, 9999, 999}};
-
 // Items of lower numbers are refused at once. Those above the last are taken and do nothing.
-constexpr int kFirstBattleItem = kBattleItems[0].Number;
+constexpr int kFirstBattleItem = 47;
+constexpr int kLastBattleItem = 49;
+
+constexpr BattleItem kBattleItems[] = {
+    {kFirstBattleItem, 200, 20}, {48, 500, 50}, {kLastBattleItem, 9999, 999}};
 
 }  // namespace orvane

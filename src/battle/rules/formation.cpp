@@ -77,8 +77,4 @@ int SlotY(int slot) {
   return ((slot % 2 + 1) % 2 + 1) * 90;
 }
 
-Rect SlotCells(int slot) {
-  return {Quotient(slot, 3) * 3 + 1 - slot % 2, 5 - slot % 2 * 3, 3, 3};
-}
-
 }  // namespace orvane

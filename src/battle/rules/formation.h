@@ -3,7 +3,6 @@
 
 #include "src/core/state.h"
 #include "src/platform/services.h"
-#include "src/ui/surface.h"
 
 namespace orvane {
 
@@ -34,8 +33,5 @@ void DecideEnemyPhase(State& state, Chance& luck);
 // The top left corner of a slot, 1 to 4, on the scene.
 int SlotX(int slot);
 int SlotY(int slot);
-
-// The cells of the ground beneath a slot, in the grid that RedrawCells counts in.
-Rect SlotCells(int slot);
 
 }  // namespace orvane

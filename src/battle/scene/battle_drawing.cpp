@@ -99,6 +99,10 @@ void RedrawCells(BattleScreen& battle, const Rect& cells) {
               kSheetCellHeight * cells.Height});
 }
 
+Rect SlotCells(int slot) {
+  return {Quotient(slot, 3) * 3 + 1 - slot % 2, 5 - slot % 2 * 3, 3, 3};
+}
+
 void DrawBackground(BattleScreen& battle) {
   DrawGround(battle, kScene, kGroundSheet);
 }

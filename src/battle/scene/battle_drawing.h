@@ -24,6 +24,9 @@ void DrawEffect(BattleScreen& battle, int column, int row, const Rect& target);
 // Draws cells of the ground over the scene; one is 36 by 33 pixels, of 12 across and 8 down.
 void RedrawCells(BattleScreen& battle, const Rect& cells);
 
+// The cells beneath a slot, from 1.
+Rect SlotCells(int slot);
+
 // Draws the whole ground.
 void DrawBackground(BattleScreen& battle);
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "src/battle/rules/formation.h"
-
 namespace orvane {
 namespace {
 
@@ -58,17 +56,6 @@ TEST(Formulas, HealingDividesTheHeroesDifferently) {
   EXPECT_EQ(int{HealingOf(3, 80, 9, 12, 1.0)}, 8 + 36);
   EXPECT_EQ(int{HealingOf(8, 100, 8, 10, MasteryFactor)}, static_cast<int>(92 * MasteryFactor));
   EXPECT_THROW(HealingOf(10, 100, 8, 3277, 1.0), RunError);
-}
-
-TEST(Formation, SlotsZigZag) {
-  const int x[] = {30, 60, 120, 150};
-  const int y[] = {90, 180, 90, 180};
-  for (int slot = 1; slot <= 4; ++slot) {
-    EXPECT_EQ(SlotX(slot), x[slot - 1]);
-    EXPECT_EQ(SlotY(slot), y[slot - 1]);
-  }
-  EXPECT_EQ(SlotX(0), 0);
-  EXPECT_EQ(SlotY(0), 180);
 }
 
 }  // namespace

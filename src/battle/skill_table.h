@@ -9,11 +9,12 @@ class BattleScreen;
 struct BattleTables;
 
 struct Skill {
-  const char* Name;
-  int Mastery;  // proficiency from which it counts as mastered
-  int Cost;     // in MP; a spell's power as well
-  Targets At;   // whom it is for: what the player is asked for, and which enemies light up
-  void (*Play)(BattleScreen& battle, int frame);  // draws one frame, 6 to 24
+  const char* Name = "";
+  int Mastery = 0;  // proficiency from which it counts as mastered
+  int Cost = 0;     // in MP; a spell's power as well
+  Targets At =
+      Targets::One;  // whom it is for: what the player is asked for, and which enemies light up
+  void (*Play)(BattleScreen& battle, int frame) = nullptr;  // draws one frame, 6 to 24
   // Whom it strikes. A healing spell that was refused stays chosen in the list of spells, and a
   // list of targets left open can still send it off as an attack.
   Targets Struck = At;

@@ -13,7 +13,7 @@
 namespace orvane {
 namespace {
 
-Chance& Luck(BattleScreen& battle) {
+Chance& Luck(const BattleScreen& battle) {
   return battle.game.services.Luck;
 }
 

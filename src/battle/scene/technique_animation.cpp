@@ -45,7 +45,7 @@ void AimAtBig(BattleScreen& battle) {
   state.WazaY = state.WazaBossY;
 }
 
-void Play(BattleScreen& battle, const char* channel) {
+void Play(const BattleScreen& battle, const char* channel) {
   battle.game.sound.Play(channel);
 }
 

@@ -8,13 +8,14 @@
 #include "src/battle/flow/command_input.h"
 #include "src/battle/flow/turn_engine.h"
 #include "src/battle/flow/victory.h"
+#include "src/battle/rules/formation.h"
+#include "src/battle/skill_table.h"
 #include "src/core/sheets.h"
 
 namespace orvane {
 namespace {
 
 constexpr Colour kWhite = Rgb(255, 255, 255);
-constexpr Place kOutOfSight{0, 600, 16, 16};
 
 // A new screen's timer is as fast as timers go; the settings and a new game say otherwise. A real
 // clock serves it every 10 ms at the most, so that an action can be seen.
@@ -92,6 +93,19 @@ BattleScreen::BattleScreen(Game& the_game)
   TieHandlers();
 }
 
+int BattleScreen::TargetSlot() const {
+  return IsBigFight(state) ? kBigSlot : ChosenTarget();
+}
+
+Choice BattleScreen::Chosen() const {
+  return {.Hero = ActingHero(),
+          .Skill = ChosenSkill(),
+          .Struck = StruckBySpell(ChosenSkill()),
+          .Slot = TargetSlot(),
+          .BagSlot = ChosenBagSlot(),
+          .Receiver = ChosenReceiver()};
+}
+
 void BattleScreen::AddNumbers() {
   constexpr std::array<Place, 5> on_enemies = {{{24, 144, 73, 17},
                                                 {48, 224, 73, 17},
@@ -151,8 +165,8 @@ void BattleScreen::TieHandlers() {
   };
   const auto handler = [this](void (*run)(BattleScreen&)) { return [this, run] { run(*this); }; };
   FightButton.OnClick = command(CommandFight);
-  SpellButton.OnClick = command(CommandMagic);
-  TechniqueButton.OnClick = command(CommandWaza);
+  SpellButton.OnClick = command(CommandSpell);
+  TechniqueButton.OnClick = command(CommandTechnique);
   ItemButton.OnClick = command(CommandItem);
   FleeButton.OnClick = command(CommandFlee);
   HeroTabs.OnClick = handler(PaneOpened);

@@ -1,6 +1,7 @@
 // The battle's screen. It stays in memory once made: leaving a battle only hides it.
 #pragma once
 
+#include "src/battle/rules/choice.h"
 #include "src/core/game.h"
 #include "src/ui/controls.h"
 #include "src/ui/screen.h"
@@ -13,6 +14,17 @@ class BattleScreen : public Screen {
 
   Game& game;
   State& state;
+
+  // What the player has chosen: who acts, rows of the lists, from 1, and what they stand for. -1
+  // for a list without a selection, and less for what is counted from 0.
+  int ActingHero() const { return HeroTabs.Tab(); }
+  int ChosenSkill() const { return Skills.ListIndex; }
+  int ChosenTarget() const { return Targets.ListIndex; }
+  int ChosenBagSlot() const { return BagItems.ListIndex - 1; }
+  int ChosenReceiver() const { return Receivers.ListIndex - 1; }
+  // The target's slot: its row, or that of a big enemy.
+  int TargetSlot() const;
+  Choice Chosen() const;
 
   PictureBox Scene;
   PictureBox EnemyActionPanel;

@@ -14,8 +14,8 @@ namespace orvane {
 namespace Action {
 constexpr int None = 0;
 constexpr int Fight = 2;
-constexpr int Magic = 3;
-constexpr int Waza = 4;
+constexpr int Spell = 3;
+constexpr int Technique = 4;
 constexpr int EnemyAttack = 5;
 constexpr int Heal = 6;
 constexpr int Item = 7;

@@ -1,6 +1,7 @@
 // What every procedure of the game works on.
 #pragma once
 
+#include "src/core/draw.h"
 #include "src/core/item_file.h"
 #include "src/core/links.h"
 #include "src/core/main_screen.h"
@@ -26,9 +27,14 @@ struct Game {
   MainScreen Main;
 };
 
-// A draw in [0, 1): single precision, widened before anything is done with it.
+// A draw in [0, 1).
 inline double Rnd(Game& game) {
-  return static_cast<double>(game.services.Luck.Draw());
+  return Rnd(game.services.Luck);
+}
+
+// One draw as one of `count` whole numbers from `first` on.
+inline Int16 Roll(Game& game, int count, int first = 0) {
+  return Roll(game.services.Luck, count, first);
 }
 
 // Seeds the random numbers from the clock.

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "src/core/game.h"
+#include "src/core/hero_numbers.h"
 #include "src/core/map_file.h"
 
 namespace orvane {
@@ -28,10 +29,6 @@ void LeaveTitle(MainScreen& main) {
   main.ItemMenu.Enabled = true;
   main.InfoMenu.Enabled = true;
   main.StatusPanel.Visible = true;
-}
-
-std::string Gauge(const char* caption, int now, int limit) {
-  return caption + std::to_string(now) + "/" + std::to_string(limit);
 }
 
 }  // namespace
@@ -70,9 +67,9 @@ void ActivateMain(Game& game) {
 void ShowStatus(Game& game) {
   const State& state = game.state;
   for (int hero = 0; hero < 2; ++hero) {
-    game.Main.StatusValues[hero * 2].Caption = Gauge("HP ：", state.HP[hero], state.MaxHP[hero]);
+    game.Main.StatusValues[hero * 2].Caption = "HP ：" + Gauge(state.HP[hero], state.MaxHP[hero]);
     game.Main.StatusValues[hero * 2 + 1].Caption =
-        Gauge("MP ：", state.MP[hero], state.MaxMP[hero]);
+        "MP ：" + Gauge(state.MP[hero], state.MaxMP[hero]);
   }
 }
 

@@ -27,7 +27,6 @@ Surface TitleSurface() {
 }
 
 // Sheets stand below the visible part of the window.
-constexpr Place kOutOfSight{0, 600, 16, 16};
 
 }  // namespace
 

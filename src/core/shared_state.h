@@ -6,6 +6,7 @@
 #include "src/base/array.h"
 #include "src/base/integer.h"
 #include "src/base/text.h"
+#include "src/core/item_kind.h"
 #include "src/core/map.h"
 
 namespace orvane {
@@ -15,6 +16,8 @@ struct ItemRecord {
   FixedText<20> Name;
   Int32 Kind;
   Int32 Value;
+
+  bool Is(ItemKind kind) const { return Kind == static_cast<int>(kind); }
 };
 
 // What the field, the story and the screens share. Booleans are -1 and 0.

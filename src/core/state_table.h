@@ -126,8 +126,8 @@ void VisitRunning(State& state, Visitor&& visit) {
 }
 
 // The constant tables, which only the routines that fill them may write.
-template <class Visitor>
-void VisitTables(const State& state, Visitor&& visit) {
+template <class Tables, class Visitor>
+void VisitTables(Tables& state, Visitor&& visit) {
   visit("WazaName", state.WazaName);
   visit("WazaMaster", state.WazaMaster);
   visit("WazaMP", state.WazaMP);

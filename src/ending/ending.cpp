@@ -15,7 +15,6 @@ constexpr int kInterval = 50;
 constexpr int kLastStrip = 10;
 constexpr int kLastCardAt = -50;
 constexpr int kNone = -1;
-constexpr Place kOutOfSight{0, 600, 16, 16};
 
 // A strip: its mask by OR, and where it has one its image by AND, at the same place.
 struct Strip {

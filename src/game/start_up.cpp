@@ -1,6 +1,6 @@
 #include "src/game/start_up.h"
 
-#include "src/battle/rules/battle_tables.h"
+#include "src/battle/skill_table.h"
 #include "src/core/game.h"
 #include "src/core/map.h"
 #include "src/core/new_game.h"
@@ -28,8 +28,8 @@ void StartUp(Game& game) {
   game.items.Open(game.services.Files);
   for (int number = 1; number <= ItemFile::RecordCount; ++number) ReadItem(game, number);
   SetStoryText(game);
-  FillWazaTable(state);
-  FillMagicTable(state);
+  FillTechniqueTable(state);
+  FillSpellTable(state);
 }
 
 }  // namespace orvane

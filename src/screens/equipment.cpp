@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "src/core/hero_numbers.h"
 #include "src/core/sheets.h"
 #include "src/screens/item.h"
 
@@ -10,12 +11,9 @@ namespace {
 
 constexpr const char* kNothing = "なし";
 
-constexpr int kBook = 5;
-constexpr int kRecovery = 6;
-
-// Kinds of the heroes' weapons and armour.
-constexpr int kWeapon[] = {1, 3};
-constexpr int kArmour[] = {2, 4};
+// The heroes' weapons and armour.
+constexpr ItemKind kWeapon[] = {ItemKind::HisWeapon, ItemKind::HerWeapon};
+constexpr ItemKind kArmour[] = {ItemKind::HisArmour, ItemKind::HerArmour};
 
 constexpr Place kEquipPlace{8, 40, 89, 33};
 constexpr Place kRemovePlace{8, 88, 89, 41};
@@ -76,11 +74,7 @@ void EquipmentScreen::OnLoad() {
 }
 
 void EquipmentScreen::OnActivate(bool) {
-  State& state = game_.state;
-  for (int hero = 0; hero < 2; ++hero) {
-    state.Attack[hero] = state.BaseAttack[hero] + state.WeaponAttack[hero];
-    state.Defence[hero] = state.BaseDefence[hero] + state.ArmourDefence[hero];
-  }
+  SumUp(game_.state);
   ShowEquipment();
   FillItemList(game_, Bag);
 }
@@ -112,8 +106,9 @@ bool EquipmentScreen::WearsNothing(int hero) {
 bool EquipmentScreen::MayEquip(int hero) {
   const State& state = game_.state;
   const int other = hero ^ 1;
-  const int kind = state.ItemRec.Kind;
-  if (kind == kRecovery || kind == kWeapon[other] || kind == kArmour[other]) return false;
+  const ItemRecord& item = state.ItemRec;
+  if (item.Is(ItemKind::Recovery) || item.Is(kWeapon[other]) || item.Is(kArmour[other]))
+    return false;
   const std::string row = Trim(Bag.Text());
   return row != state.BookName[other].Trimmed() && row != kNothing;
 }
@@ -137,19 +132,19 @@ void EquipmentScreen::Equip(int hero) {
   if (Bag.ListIndex < 0) return;
   RemoveButton(hero).Enabled = true;
   const std::string name = Bag.Text();
-  const int kind = state.ItemRec.Kind;
-  if (kind == kWeapon[hero]) {
+  const ItemRecord& item = state.ItemRec;
+  if (item.Is(kWeapon[hero])) {
     Names(hero)[0].Caption = name;
     state.WeaponName[hero] = name;
     WearWeapon(hero);
-  } else if (kind == kArmour[hero]) {
+  } else if (item.Is(kArmour[hero])) {
     Names(hero)[1].Caption = name;
     state.ArmourName[hero] = name;
     WearArmour(hero);
-  } else if (kind == kBook) {
+  } else if (item.Is(ItemKind::Book)) {
     Names(hero)[2].Caption = name;
     state.BookName[hero] = name;
-    state.BookSkill[hero] = Int16(state.ItemRec.Value);
+    state.BookSkill[hero] = Int16(item.Value);
   }
 }
 
@@ -165,31 +160,31 @@ void EquipmentScreen::RemoveAll(int hero) {
 void EquipmentScreen::WearWeapon(int hero) {
   State& state = game_.state;
   state.WeaponAttack[hero] = Int16(state.ItemRec.Value);
-  state.Attack[hero] = state.BaseAttack[hero] + state.WeaponAttack[hero];
+  SumUpAttack(state, hero);
   Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
 }
 
 void EquipmentScreen::WearArmour(int hero) {
   State& state = game_.state;
   state.ArmourDefence[hero] = Int16(state.ItemRec.Value);
-  state.Defence[hero] = state.BaseDefence[hero] + state.ArmourDefence[hero];
+  SumUpDefence(state, hero);
   Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
 }
 
 void EquipmentScreen::TakeOffWeapon(int hero) {
   State& state = game_.state;
-  state.Attack[hero] = state.BaseAttack[hero];
-  Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
   state.WeaponAttack[hero] = 0;
   state.WeaponName[hero] = kNothing;
+  SumUpAttack(state, hero);
+  Numbers(hero)[0].Caption = std::to_string(state.Attack[hero]);
 }
 
 void EquipmentScreen::TakeOffArmour(int hero) {
   State& state = game_.state;
-  state.Defence[hero] = state.BaseDefence[hero];
-  Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
   state.ArmourDefence[hero] = 0;
   state.ArmourName[hero] = kNothing;
+  SumUpDefence(state, hero);
+  Numbers(hero)[1].Caption = std::to_string(state.Defence[hero]);
 }
 
 }  // namespace orvane

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "src/core/growth.h"
+#include "src/core/hero_numbers.h"
 #include "src/core/sheets.h"
 
 namespace orvane {
@@ -104,31 +104,28 @@ void HeroesScreen::OnLoad() {
 }
 
 void HeroesScreen::OnActivate(bool) {
-  State& state = game_.state;
-  for (int hero = 0; hero < 2; ++hero) {
-    state.Attack[hero] = state.WeaponAttack[hero] + state.BaseAttack[hero];
-    state.Defence[hero] = state.ArmourDefence[hero] + state.BaseDefence[hero];
-  }
+  const State& state = game_.state;
+  SumUp(game_.state);
   for (int hero = 0; hero < 2; ++hero) {
     const double missing = ExperienceToLeave(hero, state.Level[hero]) - state.Exp[hero] * 1.0;
     ExperienceToNext[hero].Caption = std::to_string(static_cast<long long>(missing));
     HeroTabs.SetTabCaption(hero, state.HeroName[hero].Trimmed());
   }
-  WazaChart();
-  MagicChart();
+  ShowTechniques();
+  ShowSpells();
 }
 
 void HeroesScreen::OnUnload() {
   game_.Main.WalkTimer.SetEnabled(true);
 }
 
-void HeroesScreen::WazaChart() {
+void HeroesScreen::ShowTechniques() {
   const State& state = game_.state;
   ShowStatus(0);
   ShowSkills(0, state.WazaKnown, state.WazaUse, state.WazaMaster, state.WazaName);
 }
 
-void HeroesScreen::MagicChart() {
+void HeroesScreen::ShowSpells() {
   const State& state = game_.state;
   ShowStatus(1);
   ShowSkills(1, state.MagicKnown, state.MagicUse, state.MagicMaster, state.MagicName);

@@ -53,8 +53,8 @@ class HeroesScreen : public Screen {
   Pane PaneOfHero(int hero);
   void AddPane(int hero);
   void AddCaption(const Holder& holder, const Place& place, const char* text);
-  void WazaChart();
-  void MagicChart();
+  void ShowTechniques();
+  void ShowSpells();
   void ShowStatus(int hero);
   void ShowSkills(int hero, const Array<Int16, 11>& known, const Array<Int16, 11>& use,
                   const Array<Int16, 11>& master, const Array<std::string, 11>& names);

@@ -5,9 +5,6 @@
 namespace orvane {
 namespace {
 
-constexpr int kBook = 5;
-constexpr int kRecovery = 6;
-
 // Names count as alike from their first five characters.
 constexpr int kComparedChars = 5;
 
@@ -57,12 +54,12 @@ void ItemScreen::RowChosen() {
   const State& state = game_.state;
   const int item = state.Items[Bag.ListIndex];
   ReadItem(game_, item);
-  UseButton.Enabled = item != NoItem && state.ItemRec.Kind == kRecovery;
-  DiscardButton.Enabled = item != NoItem && state.ItemRec.Kind != kBook && !IsWorn();
+  UseButton.Enabled = item != NoItem && state.ItemRec.Is(ItemKind::Recovery);
+  DiscardButton.Enabled = item != NoItem && !state.ItemRec.Is(ItemKind::Book) && !IsWorn();
 }
 
 void ItemScreen::Use() {
-  if (game_.state.ItemRec.Kind != kRecovery) return Warn(game_, "使えません。");
+  if (!game_.state.ItemRec.Is(ItemKind::Recovery)) return Warn(game_, "使えません。");
   if (Bag.ListIndex >= 0) AskWho();
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "src/core/hero_numbers.h"
 #include "src/core/sheets.h"
 
 namespace orvane {
@@ -10,10 +11,6 @@ namespace {
 // A tenth of an item's HP is the MP that it gives.
 double MPOf(Int32 value) {
   return Int(value / 10.0);
-}
-
-std::string Gauge(const char* caption, int now, int limit) {
-  return caption + std::to_string(now) + "/" + std::to_string(limit);
 }
 
 }  // namespace
@@ -50,8 +47,8 @@ void ItemUseScreen::OnActivate(bool) {
                          "MP:" + std::to_string(static_cast<int>(MPOf(value))) + ")";
   for (int hero = 0; hero < 2; ++hero) {
     HeroButtons[hero].Caption = state.HeroName[hero].Trimmed();
-    HPValues[hero].Caption = Gauge("HP:", state.HP[hero], state.MaxHP[hero]);
-    MPValues[hero].Caption = Gauge("MP:", state.MP[hero], state.MaxMP[hero]);
+    HPValues[hero].Caption = "HP:" + Gauge(state.HP[hero], state.MaxHP[hero]);
+    MPValues[hero].Caption = "MP:" + Gauge(state.MP[hero], state.MaxMP[hero]);
   }
 }
 
@@ -61,8 +58,8 @@ void ItemUseScreen::Give(int hero) {
   const Int32 value = state.ItemRec.Value;
   state.HP[hero] = state.HP[hero] + Int16(value);
   state.MP[hero] = RoundToInt16(state.MP[hero] + MPOf(value));
-  if (state.HP[hero] > state.MaxHP[hero]) state.HP[hero] = state.MaxHP[hero];
-  if (state.MP[hero] > state.MaxMP[hero]) state.MP[hero] = state.MaxMP[hero];
+  CapHP(state, hero);
+  CapMP(state, hero);
   state.Items[item_.Bag.ListIndex] = NoItem;
   state.ItemCount -= 1;
   TheStage().Hide(*this);

@@ -47,6 +47,9 @@ struct Place {
   double Height = 0;
 };
 
+// Where pictures stand that are only drawn from: below the edge of every screen.
+constexpr Place kOutOfSight{0, 600, 16, 16};
+
 constexpr double TwipsPerPixel = 15;
 
 // What holds a control: a screen, another control, or one pane of a tab control.

@@ -183,7 +183,11 @@ class ControlArray {
     return *(elements_[index] = std::move(made));
   }
   // The element `index`; throws RunError(Subscript) where there is none.
-  Kind& operator[](int index) {
+  Kind& operator[](int index) { return Find(index); }
+  const Kind& operator[](int index) const { return Find(index); }
+
+ private:
+  Kind& Find(int index) const {
     const auto found = elements_.find(index);
     if (found == elements_.end()) {
       throw RunError(ErrorKind::Subscript, name_ + "(" + std::to_string(index) + ")");
@@ -191,7 +195,6 @@ class ControlArray {
     return *found->second;
   }
 
- private:
   std::string name_;
   std::map<int, std::unique_ptr<Kind>> elements_;
 };

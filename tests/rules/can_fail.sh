@@ -29,6 +29,11 @@ tree() {
     printf '#include <string>\n' >"$trial/src/$floor/a.h"
     printf '#include "src/%s/a.h"\n' "$floor" >"$trial/src/$floor/a.cpp"
   done
+  for part in rules scene flow; do
+    mkdir -p "$trial/src/battle/$part"
+    printf '#include <string>\n' >"$trial/src/battle/$part/a.h"
+    printf '#include "src/battle/%s/a.h"\n' "$part" >"$trial/src/battle/$part/a.cpp"
+  done
 }
 
 tree
@@ -38,6 +43,27 @@ refuses "an include that runs up" "$here/floors.sh" "$trial"
 tree
 echo '#include "src/field/a.h"' >>"$trial/src/battle/a.cpp"
 refuses "an include across" "$here/floors.sh" "$trial"
+for include in "rules scene/a.h" "rules flow/a.h" "rules a.h" "scene flow/a.h"; do
+  tree
+  echo "#include \"src/battle/${include#* }\"" >>"$trial/src/battle/${include% *}/a.cpp"
+  refuses "$include: an include up within the battle" "$here/floors.sh" "$trial"
+done
+for include in ui/a.h core/game.h core/main_screen.h; do
+  tree
+  echo "#include \"src/$include\"" >>"$trial/src/battle/rules/a.h"
+  refuses "$include: a screen that the battle's rules know" "$here/floors.sh" "$trial"
+done
+tree
+echo '#include "src/battle/scene/a.h"' >>"$trial/src/battle/a.h"
+refuses "a header beside the battle's folders that names the scene" "$here/floors.sh" "$trial"
+for include in "scene rules/a.h" "scene a.h" "flow rules/a.h" "flow scene/a.h" "flow a.h" ". flow/a.h"; do
+  tree
+  echo "#include \"src/battle/${include#* }\"" >>"$trial/src/battle/${include% *}/a.cpp"
+  passes "$include: an include down within the battle" "$here/floors.sh" "$trial"
+done
+tree
+echo '#include "src/core/a.h"' >>"$trial/src/battle/rules/a.cpp"
+passes "an include from the battle's rules to the core" "$here/floors.sh" "$trial"
 tree
 echo '#include <QWidget>' >>"$trial/src/screens/a.h"
 refuses "a toolkit's header" "$here/floors.sh" "$trial"

@@ -29,6 +29,30 @@ may_include() {
   esac
 }
 
+# Within the battle the rules know nothing of what is shown, and the scene nothing of how an action goes on.
+# The headers beside these folders serve scene and flow, and the sources beside them tie all together.
+may_not_include() {
+  case "$1" in
+    battle/rules/*) echo "battle/* ui/* core/game.h core/main_*" ;;
+    battle/scene/*) echo "battle/flow/*" ;;
+    battle/flow/*) ;;
+    battle/*.h) echo "battle/scene/* battle/flow/*" ;;
+  esac
+}
+
+# Whether a file includes what its place within its floor forbids.
+breaks_order() {
+  local pattern
+  [[ $2 == battle/rules/* ]] && return 1  # they are below all of the battle
+  set -f
+  for pattern in $(may_not_include "$1"); do
+    # shellcheck disable=SC2254  # a pattern it is
+    case "$2" in $pattern) set +f && return 0 ;; esac
+  done
+  set +f
+  return 1
+}
+
 # Headers of systems and libraries that single files or folders are there for.
 may_name() {
   case "$1" in
@@ -58,9 +82,11 @@ for floor in base platform ui core field battle screens ending game sound fronte
   while IFS=: read -r file line include; do
     case "$include" in
       *\"src/*)
-        target=${include#*\"src/}
-        target=$(floor_of "${target%\"*}")
+        header=${include#*\"src/}
+        header=${header%%\"*}
+        target=$(floor_of "$header")
         [[ $allowed == *" $target "* ]] || fault "$file:$line: $floor must not include $target"
+        breaks_order "$file" "$header" && fault "$file:$line: $header is above it"
         ;;
       *\<*)
         case "$floor" in frontend/desktop | frontend/script) continue ;; esac

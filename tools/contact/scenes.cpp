@@ -54,7 +54,7 @@ void PutEnemies(Surface& scene, const Sheets& sheets, int row) {
   const Surface& sheet = sheets.at(EnemyName(row));
   if (row <= kLastRoundBoss) {
     PutSprite(scene, kBigPlace, sheet, {0, 0, 128, 192}, 128);
-  } else if (row == BoneDragonKind || row == LastBossKind) {
+  } else if (row == kBoneDragonKind || row == kLastBossKind) {
     PutSprite(scene, kBigPlace, sheet, {0, 0, 160, 240}, 160);
   } else {
     for (int slot = 1; slot <= 4; ++slot) {

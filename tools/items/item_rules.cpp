@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "src/battle/rules/battle_items.h"
 #include "tools/items/cp932.h"
 #include "tools/items/item_table.h"
 
@@ -12,21 +13,18 @@ namespace {
 struct Line {
   int first;
   int last;
-  Kind kind;
+  ItemKind kind;
   const char* what;
 };
 
 constexpr Line kLines[] = {
-    {1, 12, Kind::HisWeapon, "his weapon"},
-    {13, 20, Kind::HisArmour, "his armour"},
-    {21, 28, Kind::HerWeapon, "her weapon"},
-    {29, 36, Kind::HerArmour, "her armour"},
-    {37, 46, Kind::Book, "book"},
-    {47, 49, Kind::Recovery, "recovery item"},
+    {1, 12, ItemKind::HisWeapon, "his weapon"},
+    {13, 20, ItemKind::HisArmour, "his armour"},
+    {21, 28, ItemKind::HerWeapon, "her weapon"},
+    {29, 36, ItemKind::HerArmour, "her armour"},
+    {37, 46, ItemKind::Book, "book"},
+    {kFirstBattleItem, kLastBattleItem, ItemKind::Recovery, "recovery item"},
 };
-
-// What the three recovery items give in a battle; their values in the bag must agree.
-constexpr int32_t kRecovered[] = {200, 500, 9999};
 
 // The bag compares this many characters when it protects what is worn.
 constexpr size_t kCompared = 5;
@@ -54,13 +52,15 @@ void CheckLine(const Line& line, const std::vector<Item>& items, std::vector<std
     const Item& item = items[static_cast<size_t>(number - 1)];
     if (item.kind != line.kind) faults.push_back(Named(number, item) + " must be a " + line.what);
     const int place = number - line.first;
-    if (line.kind == Kind::Book) {
+    if (line.kind == ItemKind::Book) {
       if (item.value != place + 1) {
         faults.push_back(Named(number, item) + " must train skill " + std::to_string(place + 1));
       }
-    } else if (line.kind == Kind::Recovery) {
-      if (item.value != kRecovered[place]) {
-        faults.push_back(Named(number, item) + " must give " + std::to_string(kRecovered[place]));
+    } else if (line.kind == ItemKind::Recovery) {
+      // What it gives out of the bag must agree with what it gives in a battle.
+      const int given = kBattleItems[place].HP;
+      if (item.value != given) {
+        faults.push_back(Named(number, item) + " must give " + std::to_string(given));
       }
     } else if (item.value < 1 || item.value > 999) {
       faults.push_back(Named(number, item) + " has a strength outside of 1 to 999");

@@ -42,7 +42,8 @@ void AddItem(std::string_view text, int line, std::vector<Item>& items) {
   if (Number(fields[0], line) != static_cast<int32_t>(items.size()) + 1) {
     Refuse(line, "the numbers must run from 1 without a gap");
   }
-  items.push_back({fields[1], static_cast<Kind>(Number(fields[2], line)), Number(fields[3], line)});
+  items.push_back(
+      {fields[1], static_cast<ItemKind>(Number(fields[2], line)), Number(fields[3], line)});
 }
 
 void AddInt32(int32_t value, std::string& bytes) {

@@ -6,24 +6,15 @@
 #include <string_view>
 #include <vector>
 
+#include "src/core/item_kind.h"
+
 namespace orvane::items {
 
 constexpr int kItems = 50;
 
-// What an item is to the game.
-enum class Kind : int32_t {
-  Other = 0,
-  HisWeapon = 1,
-  HisArmour = 2,
-  HerWeapon = 3,
-  HerArmour = 4,
-  Book = 5,
-  Recovery = 6,
-};
-
 struct Item {
   std::string name;  // UTF-8, at most 10 full-width characters
-  Kind kind = Kind::Other;
+  ItemKind kind = ItemKind::Other;
   int32_t value = 0;  // by kind: attack, defence, number of the skill from 1, or HP given
 };
 

@@ -1,39 +1,20 @@
 #include "src/battle/flow/battle_setup.h"
 
 #include "src/battle/battle_screen.h"
-#include "src/battle/rules/battle_tables.h"
+#include "src/battle/rules/enemy_table.h"
 #include "src/battle/rules/formation.h"
 #include "src/battle/scene/battle_drawing.h"
 #include "src/battle/scene/hero_poses.h"
+#include "src/battle/scene/status_panes.h"
 #include "src/core/main_activation.h"
 #include "src/core/music.h"
 
 namespace orvane {
 namespace {
 
-// The first of the five ordinary kinds of a round; none in other rounds.
-void RollKind(BattleScreen& battle) {
-  State& state = battle.state;
-  if (state.Round < 1 || state.Round > 3) return;
-  const int first = 3 + (state.Round - 1) * 5;
-  state.EnemyKind = RoundToInt16(Int(Rnd(battle.game) * 5 + first));
-}
-
-void SetUpBig(BattleScreen& battle) {
-  State& state = battle.state;
-  state.EnemyCount = 1;
-  state.EnemyAlive[BigSlot - 1] = True;
-  state.EnemyLife[BigSlot - 1] = state.EnemyHP[EnemyRow(state)];
-  DrawEnemySide(battle);
-}
-
-void SetUpGroup(BattleScreen& battle) {
-  State& state = battle.state;
-  for (int slot = 1; slot <= state.EnemyCount; ++slot) {
-    state.EnemyLife[slot - 1] = state.EnemyHP[state.EnemyKind];
-    state.EnemyAlive[slot - 1] = True;
-    DrawEnemyInSlot(battle, slot);
-  }
+void DrawEnemies(BattleScreen& battle) {
+  if (IsBigFight(battle.state)) return DrawEnemySide(battle);
+  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) DrawEnemyInSlot(battle, slot);
 }
 
 const char* FightMusic(const State& state) {
@@ -43,10 +24,6 @@ const char* FightMusic(const State& state) {
 }
 
 }  // namespace
-
-void NameTab(BattleScreen& battle, int hero) {
-  battle.HeroTabs.SetTabCaption(hero, battle.state.HeroName[hero].Trimmed());
-}
 
 void LoadBattle(BattleScreen& battle) {
   battle.SpellButton.Enabled = false;
@@ -63,9 +40,9 @@ void OpenBattle(BattleScreen& battle) {
   battle.ItemButton.Enabled = true;
   battle.TechniqueButton.Enabled = true;
   BattleSetUp(battle);
-  StatusDisplay(battle);
+  RefreshStatus(battle);
   const bool bone_dragon =
-      state.EnemyKind == BoneDragonKind && state.BossFight != True && state.LastBossFight != True;
+      state.EnemyKind == kBoneDragonKind && state.BossFight != True && state.LastBossFight != True;
   if (!bone_dragon) battle.FleeButton.Enabled = false;
   battle.MusicTimer.SetEnabled(true);
   NameTab(battle, 0);
@@ -73,24 +50,30 @@ void OpenBattle(BattleScreen& battle) {
 }
 
 void BattleSetUp(BattleScreen& battle) {
-  State& state = battle.state;
   Randomize(battle.game);
+  FormEnemies(battle.state, battle.game.services.Luck);
   DrawBackground(battle);
-  DrawHeroAt(battle, 0, 365);
-  DrawHeroAt(battle, 1, 385);
-  RollKind(battle);
-  state.EnemyCount = RoundToInt16(Int(Rnd(battle.game) * 4 + 1));
-  for (int index = 0; index < 5; ++index) state.EnemyAlive[index] = False;
-  if (IsBigFight(state)) {
-    SetUpBig(battle);
-  } else {
-    SetUpGroup(battle);
-  }
+  DrawHeroAt(battle, kMan, 365);
+  DrawHeroAt(battle, kWoman, 385);
+  DrawEnemies(battle);
   battle.Scene.Picture.Refresh();
 }
 
 void BattleMusic(BattleScreen& battle) {
   RestartStoppedMusic(battle.game, FightMusic(battle.state));
+}
+
+void LeaveBattle(BattleScreen& battle) {
+  ClearDirections(battle.game);
+  for (const char* music : {"bgm4", "bgm5", "bgm6"}) battle.game.sound.Close(music);
+  battle.MusicTimer.SetEnabled(false);
+  battle.game.stage.Hide(battle);
+  battle.FleeButton.Enabled = true;
+  for (int hero = 0; hero < 2; ++hero) {
+    battle.HeroTabs.SetTabEnabled(hero, true);
+    battle.state.HeroBusy[hero] = False;
+  }
+  battle.game.stage.Show(battle.game.Main);
 }
 
 void AbandonBattle(BattleScreen& battle) {

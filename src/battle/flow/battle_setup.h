@@ -1,4 +1,4 @@
-// How a battle opens, sounds and is abandoned.
+// How a battle opens, sounds, is left and is abandoned.
 #pragma once
 
 namespace orvane {
@@ -17,10 +17,11 @@ void BattleSetUp(BattleScreen& battle);
 // One tick of MusicTimer: keeps the music of the fight going.
 void BattleMusic(BattleScreen& battle);
 
+// The way out of a battle that was won or fled from: its music ends, flight and both heroes are
+// free for the next one, and Main is shown.
+void LeaveBattle(BattleScreen& battle);
+
 // The player has closed the window: the battle ends without a result.
 void AbandonBattle(BattleScreen& battle);
-
-// Writes a hero's name into the caption of his tab.
-void NameTab(BattleScreen& battle, int hero);
 
 }  // namespace orvane

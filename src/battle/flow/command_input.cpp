@@ -3,9 +3,12 @@
 #include <string>
 
 #include "src/battle/battle_screen.h"
-#include "src/battle/flow/leaving.h"
-#include "src/battle/rules/battle_tables.h"
+#include "src/battle/flow/battle_setup.h"
+#include "src/battle/rules/battle_items.h"
+#include "src/battle/rules/enemy_table.h"
 #include "src/battle/rules/formation.h"
+#include "src/battle/rules/rewards.h"
+#include "src/battle/skill_table.h"
 
 namespace orvane {
 namespace {
@@ -13,16 +16,6 @@ namespace {
 constexpr const char* kWayBack = "キャンセル";
 constexpr const char* kDeadRow = "×";
 constexpr int kSkills = 10;
-constexpr int kFirstBattleItem = 47;
-
-// Rows of the spell list that heal, and the last one that takes a target.
-constexpr int kHealRow = 3;
-constexpr int kGreatHealRow = 8;
-constexpr int kLastTargetRow = 2;
-
-int Acting(BattleScreen& battle) {
-  return battle.HeroTabs.Tab();
-}
 
 void CommandLock(BattleScreen& battle, int tab) {
   battle.FightButton.Enabled = false;
@@ -33,7 +26,7 @@ void CommandLock(BattleScreen& battle, int tab) {
 }
 
 void CommandUnlock(BattleScreen& battle) {
-  const int tab = Acting(battle);
+  const int tab = battle.ActingHero();
   battle.FightButton.Enabled = true;
   battle.ItemButton.Enabled = true;
   (tab == 0 ? battle.TechniqueButton : battle.SpellButton).Enabled = true;
@@ -50,12 +43,12 @@ void FaintedTabOff(BattleScreen& battle) {
   }
 }
 
-bool OtherIsFree(BattleScreen& battle) {
-  return battle.state.HeroBusy[Acting(battle) ^ 1] == False;
+bool OtherIsFree(const BattleScreen& battle) {
+  return battle.state.HeroBusy[battle.ActingHero() ^ 1] == False;
 }
 
 void OpenOtherTab(BattleScreen& battle) {
-  battle.HeroTabs.SetTabEnabled(Acting(battle) ^ 1, true);
+  battle.HeroTabs.SetTabEnabled(battle.ActingHero() ^ 1, true);
 }
 
 // A choice is complete: its action plays.
@@ -91,7 +84,7 @@ void OpenSkillList(BattleScreen& battle, CommandButton& button, const Array<Int1
                    const Array<std::string, 11>& names, const Array<Int16, 11>& costs) {
   battle.Skills.Visible = true;
   battle.Skills.SetRow(0, kWayBack);
-  CommandLock(battle, Acting(battle));
+  CommandLock(battle, battle.ActingHero());
   button.Enabled = false;
   for (int row = 1; row <= kSkills; ++row) {
     const bool learned = known[row - 1] == True;
@@ -114,17 +107,18 @@ bool Refused(BattleScreen& battle, int known, int mp, int cost) {
   return false;
 }
 
-void WazaChosen(BattleScreen& battle, int row) {
+void TechniqueChosen(BattleScreen& battle, int row) {
   const State& state = battle.state;
   if (Refused(battle, state.WazaKnown[row - 1], state.MP[0], state.WazaMP[row - 1])) return;
   TargetListOpen(battle);
 }
 
-void MagicChosen(BattleScreen& battle, int row) {
+void SpellChosen(BattleScreen& battle, int row) {
   State& state = battle.state;
   if (Refused(battle, state.MagicKnown[row - 1], state.MP[1], state.MagicMP[row - 1])) return;
-  if (row <= kLastTargetRow) return TargetListOpen(battle);
-  if (row == kHealRow || row == kGreatHealRow) state.ActionKind = Action::Heal;
+  const Targets targets = TargetsOfSpell(row);
+  if (targets == Targets::One) return TargetListOpen(battle);
+  if (targets == Targets::Heroes) state.ActionKind = Action::Heal;
   Commit(battle, battle.Skills);
 }
 
@@ -133,27 +127,27 @@ void MagicChosen(BattleScreen& battle, int row) {
 void CommandFight(BattleScreen& battle) {
   battle.Targets.Visible = true;
   battle.state.ActionKind = Action::Fight;
-  CommandLock(battle, Acting(battle));
+  CommandLock(battle, battle.ActingHero());
   battle.SpellButton.Enabled = false;
   battle.TechniqueButton.Enabled = false;
   FillTargets(battle);
 }
 
-void CommandMagic(BattleScreen& battle) {
+void CommandSpell(BattleScreen& battle) {
   const State& state = battle.state;
-  battle.state.ActionKind = Action::Magic;
+  battle.state.ActionKind = Action::Spell;
   OpenSkillList(battle, battle.SpellButton, state.MagicKnown, state.MagicName, state.MagicMP);
 }
 
-void CommandWaza(BattleScreen& battle) {
+void CommandTechnique(BattleScreen& battle) {
   const State& state = battle.state;
-  battle.state.ActionKind = Action::Waza;
+  battle.state.ActionKind = Action::Technique;
   OpenSkillList(battle, battle.TechniqueButton, state.WazaKnown, state.WazaName, state.WazaMP);
 }
 
 void CommandItem(BattleScreen& battle) {
   State& state = battle.state;
-  CommandLock(battle, Acting(battle));
+  CommandLock(battle, battle.ActingHero());
   battle.TechniqueButton.Enabled = false;
   battle.BagItems.Clear();
   battle.BagItems.Visible = true;
@@ -166,21 +160,21 @@ void CommandItem(BattleScreen& battle) {
 }
 
 void SkillChosen(BattleScreen& battle) {
-  const int row = battle.Skills.ListIndex;
+  const int row = battle.ChosenSkill();
   if (row == 0) {
     CommandUnlock(battle);
     if (OtherIsFree(battle)) OpenOtherTab(battle);
     battle.Skills.Visible = false;
     FaintedTabOff(battle);
-  } else if (battle.state.ActionKind == Action::Waza) {
-    WazaChosen(battle, row);
-  } else if (battle.state.ActionKind == Action::Magic) {
-    MagicChosen(battle, row);
+  } else if (battle.state.ActionKind == Action::Technique) {
+    TechniqueChosen(battle, row);
+  } else if (battle.state.ActionKind == Action::Spell) {
+    SpellChosen(battle, row);
   }
 }
 
 void TargetChosen(BattleScreen& battle) {
-  if (battle.Targets.ListIndex == 0) {
+  if (battle.ChosenTarget() == 0) {
     CommandUnlock(battle);
     battle.Targets.Visible = false;
     battle.Targets.Clear();
@@ -196,8 +190,8 @@ void TargetChosen(BattleScreen& battle) {
 
 void ItemChosen(BattleScreen& battle) {
   const State& state = battle.state;
-  const int row = battle.BagItems.ListIndex;
-  if (row == 0) {
+  const int slot = battle.ChosenBagSlot();
+  if (battle.BagItems.ListIndex == 0) {
     CommandUnlock(battle);
     if (OtherIsFree(battle)) {
       OpenOtherTab(battle);
@@ -208,7 +202,7 @@ void ItemChosen(BattleScreen& battle) {
     battle.BagItems.Clear();
     return;
   }
-  if (state.Items[row - 1] == NoItem || state.Items[row - 1] < kFirstBattleItem) {
+  if (state.Items[slot] == NoItem || state.Items[slot] < kFirstBattleItem) {
     return Warn(battle.game, "それは使えません");
   }
   battle.Receivers.Clear();
@@ -235,18 +229,13 @@ void CommandFlee(BattleScreen& battle) {
   battle.ActionTimer.SetEnabled(false);
   for (int hero = 0; hero < 2; ++hero) {
     if (state.HeroFainted[hero] != True) continue;
-    state.HP[hero] = 1;
-    state.HeroFainted[hero] = False;
+    StandUp(state, hero);
   }
-  LetGoAndSilence(battle);
-  battle.MusicTimer.SetEnabled(false);
-  battle.game.stage.Hide(battle);
-  battle.game.stage.Show(battle.game.Main);
-  FreeCommands(battle);
+  LeaveBattle(battle);
 }
 
 void PaneOpened(BattleScreen& battle) {
-  const bool first = Acting(battle) == 0;
+  const bool first = battle.ActingHero() == 0;
   battle.SpellButton.Enabled = !first;
   battle.TechniqueButton.Enabled = first;
 }

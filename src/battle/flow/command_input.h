@@ -7,8 +7,8 @@ class BattleScreen;
 
 // The five buttons.
 void CommandFight(BattleScreen& battle);
-void CommandMagic(BattleScreen& battle);
-void CommandWaza(BattleScreen& battle);
+void CommandSpell(BattleScreen& battle);
+void CommandTechnique(BattleScreen& battle);
 void CommandItem(BattleScreen& battle);
 void CommandFlee(BattleScreen& battle);
 

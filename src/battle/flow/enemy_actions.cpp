@@ -3,10 +3,11 @@
 #include <cmath>
 
 #include "src/battle/battle_screen.h"
-#include "src/battle/rules/hits.h"
+#include "src/battle/flow/action_table.h"
+#include "src/battle/flow/turn_engine.h"
 #include "src/battle/scene/battle_drawing.h"
 #include "src/battle/scene/hero_poses.h"
-#include "src/battle/scene/shake.h"
+#include "src/battle/scene/numbers.h"
 #include "src/core/quit.h"
 
 namespace orvane {
@@ -33,8 +34,7 @@ void ShowName(BattleScreen& battle, const char* name) {
 
 void HideNumbers(BattleScreen& battle) {
   battle.EnemyActionPanel.Visible = false;
-  battle.HeroNumbers[0].Visible = false;
-  battle.HeroNumbers[1].Visible = false;
+  HideHeroNumbers(battle);
 }
 
 void DrawFireball(BattleScreen& battle, int frame) {
@@ -45,9 +45,9 @@ void DrawFireball(BattleScreen& battle, int frame) {
 
 void DrawSparks(BattleScreen& battle) {
   for (int i = 0; i < kSparks; ++i) {
-    const Int16 x = RoundToInt16(Int(Rnd(battle.game) * 200 + 230));
-    const Int16 y = RoundToInt16(Int(Rnd(battle.game) * 230 + 50));
-    const Int16 size = RoundToInt16(Int(Rnd(battle.game) * 48 + 24));
+    const Int16 x = Roll(battle.game, 200, 230);
+    const Int16 y = Roll(battle.game, 230, 50);
+    const Int16 size = Roll(battle.game, 48, 24);
     DrawEffect(battle, 1, 3, {x, y, size, size});
   }
 }
@@ -68,9 +68,9 @@ void LeaveToOne(BattleScreen& battle, int standing) {
 void EnableCommands(BattleScreen& battle) {
   const State& state = battle.state;
   battle.FightButton.Enabled = true;
-  if (state.HeroFainted[1] == False && battle.HeroTabs.Tab() == 1) {
+  if (state.HeroFainted[1] == False && battle.ActingHero() == 1) {
     battle.SpellButton.Enabled = true;
-  } else if (state.HeroFainted[0] == False && battle.HeroTabs.Tab() == 0) {
+  } else if (state.HeroFainted[0] == False && battle.ActingHero() == 0) {
     battle.TechniqueButton.Enabled = true;
   }
   battle.ItemButton.Enabled = true;
@@ -107,8 +107,8 @@ void PartyWiped(BattleScreen& battle) {
 
 // The last frame of an attack: the next one follows, or the heroes are asked again. Where nobody is
 // left to be asked the scene stays as it was before it.
-void EndAttack(BattleScreen& battle) {
-  HitHeroes(battle);
+void EndAttack(BattleScreen& battle, const ActionRow& row) {
+  row.Apply(battle);
   HideNumbers(battle);
   battle.state.EnemyTurns -= 1;
   if (battle.state.EnemyTurns < 1) {
@@ -121,37 +121,37 @@ void EndAttack(BattleScreen& battle) {
 
 }  // namespace
 
-void EnemyAtaNormal(BattleScreen& battle) {
+void PlayEnemyAttack(BattleScreen& battle, const ActionRow& row) {
   const int frame = BeginFrame(battle);
-  if (frame == 16) {
+  if (frame == row.ComputingFrame) {
     battle.game.sound.Play("snd9");
-    battle.state.EnemyRoll = RoundToInt16(Int(Rnd(battle.game) * 10));
+    battle.state.EnemyRoll = Roll(battle.game, 10);
     HeroHurtPose(battle);
   }
-  if (frame >= 16 && frame <= 34) DamageDisplay(battle);
-  if (frame == 36) {
+  if (row.ShowsNumbers(frame)) PlayNumbersFrame(battle, row);
+  if (frame == row.LastFrame) {
     DrawHeroes(battle);
-    return EndAttack(battle);
+    return EndAttack(battle, row);
   }
   battle.Scene.Picture.Refresh();
 }
 
-void EnemyAtaFire(BattleScreen& battle) {
+void PlayHellFire(BattleScreen& battle, const ActionRow& row) {
   const int frame = BeginFrame(battle);
   if (frame < 15) ShowName(battle, "獄　炎");
   if (frame == 16) battle.game.sound.Play("snd3");
   if (frame >= 16 && frame <= 34) DrawFireball(battle, frame);
-  if (frame == 36) {
+  if (frame == row.ComputingFrame) {
     DrawBackground(battle);
     DrawHeroes(battle);
     DrawRoundBoss(battle);
   }
-  if (frame >= 36 && frame <= 54) DamageDisplay(battle);
-  if (frame == 56) return EndAttack(battle);
+  if (row.ShowsNumbers(frame)) PlayNumbersFrame(battle, row);
+  if (frame == row.LastFrame) return EndAttack(battle, row);
   battle.Scene.Picture.Refresh();
 }
 
-void EnemyAtaDeath(BattleScreen& battle) {
+void PlayDeathSplit(BattleScreen& battle, const ActionRow& row) {
   const int frame = BeginFrame(battle);
   if (frame < 15) ShowName(battle, "デス･スプリート");
   if (frame >= 16 && frame <= 34) {
@@ -160,13 +160,13 @@ void EnemyAtaDeath(BattleScreen& battle) {
     DrawDeathBand(battle, frame);
     DrawSparks(battle);
   }
-  if (frame == 36) {
+  if (frame == row.ComputingFrame) {
     DrawBackground(battle);
     DrawLastBoss(battle);
     DrawHeroes(battle);
   }
-  if (frame >= 36 && frame <= 54) DamageDisplay(battle);
-  if (frame == 56) return EndAttack(battle);
+  if (row.ShowsNumbers(frame)) PlayNumbersFrame(battle, row);
+  if (frame == row.LastFrame) return EndAttack(battle, row);
   battle.Scene.Picture.Refresh();
 }
 

@@ -4,14 +4,18 @@
 namespace orvane {
 
 class BattleScreen;
+struct ActionRow;
 
-// One tick of ActionTimer.
+// One tick of ActionTimer. Without an action it does nothing, and the counter stands.
 void ActionTick(BattleScreen& battle);
 
-// One frame of a fight.
-void FightRun(BattleScreen& battle);
+// The frame of the running action that ActionState says.
+void PlayActionFrame(BattleScreen& battle);
 
-// The close of a technique, a spell or an item: asks the other hero, or lets the enemies act.
-void HeroActionEnd(BattleScreen& battle);
+// The part of a frame that moves the action's numbers, and computes them when their frame has come.
+void PlayNumbersFrame(BattleScreen& battle, const ActionRow& row);
+
+// The close of a hero's action: asks the other hero, or lets the enemies act.
+void EndHeroAction(BattleScreen& battle);
 
 }  // namespace orvane

@@ -3,22 +3,15 @@
 #include <string>
 
 #include "src/battle/battle_screen.h"
-#include "src/battle/flow/leaving.h"
+#include "src/battle/flow/battle_setup.h"
 #include "src/battle/rules/formation.h"
-#include "src/core/growth.h"
+#include "src/battle/rules/rewards.h"
+#include "src/core/hero_numbers.h"
 
 namespace orvane {
 namespace {
 
 constexpr int kNameCut = 6;
-constexpr int kMostHPAndMP = 9999;
-
-bool EnemyLeft(const State& state) {
-  for (int index = 0; index < BigSlot; ++index) {
-    if (state.EnemyAlive[index] != False) return true;
-  }
-  return false;
-}
 
 // The name as messages show it, with the blanks that a short one has.
 std::string ShortName(const State& state, int hero) {
@@ -28,32 +21,23 @@ std::string ShortName(const State& state, int hero) {
 // A standing hero gains all; a fainted one comes back with a single HP and nothing else.
 void Reward(BattleScreen& battle, int hero, Int32 gain) {
   State& state = battle.state;
-  if (state.HeroFainted[hero] == False) {
-    state.Exp[hero] += gain;
-    ProficiencyGain(battle, hero);
-  } else {
-    state.HP[hero] = 1;
-    state.HeroFainted[hero] = False;
+  if (state.HeroFainted[hero] != False) return StandUp(state, hero);
+  state.Exp[hero] += gain;
+  Label& message = battle.MasteryMessages[hero];
+  message.Visible = TrainByBook(state, hero);
+  if (message.Visible) message.Caption = ShortName(state, hero) + " MASTER !";
+}
+
+// Takes all levels that the heroes' experience has reached, and tells of them.
+void TellLevels(BattleScreen& battle) {
+  State& state = battle.state;
+  battle.LevelMessages[0].Visible = false;
+  battle.LevelMessages[1].Visible = false;
+  for (int hero = 0; hero < 2; ++hero) {
+    if (!TakeLevels(state, hero)) continue;
+    battle.LevelMessages[hero].Visible = true;
+    battle.LevelMessages[hero].Caption = ShortName(state, hero) + "LEVEL UP !";
   }
-}
-
-Int16 ProficiencyOfFight(const State& state) {
-  if (state.BossFight == True) return state.Round * 20;
-  if (state.EnemyKind == BoneDragonKind) return 20;
-  return state.EnemyCount * state.Round;
-}
-
-// What the level just reached adds.
-void GrowStrength(State& state, int hero) {
-  const int level = state.Level[hero];
-  const bool man = hero == 0;
-  state.MaxHP[hero] += man ? 30 + level % 4 : 25 + level % 3;
-  state.MaxMP[hero] += man ? 5 + level % 3 : 10 + level % 4;
-  state.BaseAttack[hero] += level % (man ? 4 : 3);
-  state.BaseDefence[hero] += level % (man ? 3 : 4);
-  state.Spirit[hero] += 1 + level % (man ? 2 : 3);
-  if (state.MaxHP[hero] > kMostHPAndMP) state.MaxHP[hero] = kMostHPAndMP;
-  if (state.MaxMP[hero] > kMostHPAndMP) state.MaxMP[hero] = kMostHPAndMP;
 }
 
 }  // namespace
@@ -70,37 +54,11 @@ void VictoryCheck(BattleScreen& battle) {
   battle.game.sound.Play("snd7");
   if (state.EnemyTurns <= 0) state.HeroesActed = 0;
   state.EnemyKind = EnemyRow(state);
-  const Int32 gain = state.EnemyExp[state.EnemyKind] * state.EnemyCount;
+  const Int32 gain = ExperienceOf(state);
   battle.ExperienceGained.Caption = "経験値　" + std::to_string(gain) + "ポイント獲得！";
   Reward(battle, 0, gain);
   Reward(battle, 1, gain);
-  LevelUp(battle);
-}
-
-void ProficiencyGain(BattleScreen& battle, int hero) {
-  State& state = battle.state;
-  battle.MasteryMessages[hero].Visible = false;
-  if (state.BookSkill[hero] <= 0) return;
-  const int skill = state.BookSkill[hero] - 1;
-  Int16& use = hero == 0 ? state.WazaUse[skill] : state.MagicUse[skill];
-  use += ProficiencyOfFight(state);
-  if (use < state.WazaMaster[skill]) return;
-  battle.MasteryMessages[hero].Caption = ShortName(state, hero) + " MASTER !";
-  battle.MasteryMessages[hero].Visible = true;
-}
-
-void LevelUp(BattleScreen& battle) {
-  State& state = battle.state;
-  battle.LevelMessages[0].Visible = false;
-  battle.LevelMessages[1].Visible = false;
-  for (int hero = 0; hero < 2; ++hero) {
-    while (ExperienceToLeave(hero, state.Level[hero]) <= state.Exp[hero]) {
-      battle.LevelMessages[hero].Visible = true;
-      battle.LevelMessages[hero].Caption = ShortName(state, hero) + "LEVEL UP !";
-      state.Level[hero] += 1;
-      GrowStrength(state, hero);
-    }
-  }
+  TellLevels(battle);
   battle.FleeButton.Enabled = false;
 }
 
@@ -109,12 +67,8 @@ void LeaveVictory(BattleScreen& battle) {
   if (!battle.VictoryPanel.Visible) return;
   state.ActionKind = Action::None;
   battle.VictoryPanel.Visible = false;
-  LetGoAndSilence(battle);
   if (state.LastBossFight == True) state.LastBossDown = True;
-  battle.MusicTimer.SetEnabled(false);
-  battle.game.stage.Hide(battle);
-  FreeCommands(battle);
-  battle.game.stage.Show(battle.game.Main);
+  LeaveBattle(battle);
 }
 
 }  // namespace orvane

@@ -8,12 +8,6 @@ class BattleScreen;
 // Ends the battle if no enemy is left.
 void VictoryCheck(BattleScreen& battle);
 
-// The skill that the hero's book trains grows.
-void ProficiencyGain(BattleScreen& battle, int hero);
-
-// Takes all levels that the heroes' experience has reached.
-void LevelUp(BattleScreen& battle);
-
 // A click on the scene: leaves a won battle while its panel stands.
 void LeaveVictory(BattleScreen& battle);
 

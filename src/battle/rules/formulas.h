@@ -7,10 +7,10 @@ namespace orvane {
 
 // What mastery multiplies a skill by: 1.3 in single precision, widened. Results are floored, so the
 // exact value matters.
-constexpr double MasteryFactor = 1.2999999523162842;
+constexpr double kMasteryFactor = 1.2999999523162842;
 
 constexpr double FactorOf(int use, int master) {
-  return use >= master ? MasteryFactor : 1.0;
+  return use >= master ? kMasteryFactor : 1.0;
 }
 
 // A hero's plain attack; `draw` is in [0, 1). May be negative. Overflows in 16 bits.

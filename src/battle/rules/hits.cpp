@@ -1,74 +1,72 @@
 #include "src/battle/rules/hits.h"
 
-#include "src/battle/rules/action_target.h"
-#include "src/battle/scene/battle_drawing.h"
+#include "src/battle/rules/action_results.h"
+#include "src/battle/rules/formation.h"
+#include "src/core/hero_numbers.h"
 
 namespace orvane {
 namespace {
 
-void Faint(BattleScreen& battle, int hero) {
-  battle.state.HeroFainted[hero] = True;
-  battle.HeroTabs.SetTabCaption(hero, "気絶");
+void Hit(State& state, int slot, Int32 damage, std::vector<int>& down) {
+  state.EnemyLife[slot - 1] -= damage;
+  if (state.EnemyLife[slot - 1] > 0) return;
+  state.EnemyAlive[slot - 1] = False;
+  down.push_back(slot);
 }
 
-void HitWithMagic(BattleScreen& battle, int slot) {
-  State& state = battle.state;
-  if (battle.Skills.ListIndex <= LastOneTargetSpell) {
-    state.EnemyLife[slot - 1] -= state.MagicDamage[slot - 1];
-    EnemyKillCheck(battle, slot);
-  } else {
-    for (int each = 1; each <= state.EnemyCount; ++each) {
-      state.EnemyLife[each - 1] -= state.MagicDamage[each - 1];
-      EnemyKillCheck(battle, each);
-    }
-  }
-  // A big enemy takes a spell once more. The balance of the game counts on it.
-  if (IsBigFight(state)) {
-    state.EnemyLife[slot - 1] -= state.MagicDamage[slot - 1];
-    EnemyKillCheck(battle, slot);
-  }
+void HitBySpellIn(State& state, int slot, std::vector<int>& down) {
+  Hit(state, slot, state.MagicDamage[slot - 1], down);
+}
+
+void FaintWithoutHP(State& state, int hero, std::vector<int>& fainted) {
+  if (state.HP[hero] > 0) return;
+  state.HeroFainted[hero] = True;
+  fainted.push_back(hero);
 }
 
 }  // namespace
 
-void HitEnemies(BattleScreen& battle) {
-  State& state = battle.state;
-  const int slot = TargetSlot(battle);
-  switch (state.ActionKind) {
-    case Action::Fight:
-      state.EnemyLife[slot - 1] -= state.AttackDamage;
-      return EnemyKillCheck(battle, slot);
-    case Action::Waza:
-      state.EnemyLife[slot - 1] -= state.WazaDamage;
-      return EnemyKillCheck(battle, slot);
-    case Action::Magic:
-      return HitWithMagic(battle, slot);
-    default:
-      return;
-  }
+std::vector<int> HitByFight(State& state, const Choice& choice) {
+  std::vector<int> down;
+  Hit(state, choice.Slot, state.AttackDamage, down);
+  return down;
 }
 
-void HitHeroes(BattleScreen& battle) {
-  State& state = battle.state;
-  if (state.ActionKind == Action::BossSpecial || state.ActionKind == Action::LastBossSpecial) {
-    for (int hero = 0; hero < 2; ++hero) {
-      state.HP[hero] -= state.BreathDamage[hero];
-      if (state.HP[hero] < 1) Faint(battle, hero);
-    }
-    StatusDisplay(battle);
-    return;
-  }
-  const int target = state.EnemyRoll % 2;
-  state.HP[target] -= state.EnemyDamage;
-  StatusDisplay(battle);
-  if (state.HP[target] <= 0) Faint(battle, target);
+std::vector<int> HitByTechnique(State& state, const Choice& choice) {
+  std::vector<int> down;
+  Hit(state, choice.Slot, state.WazaDamage, down);
+  return down;
 }
 
-void EnemyKillCheck(BattleScreen& battle, int slot) {
-  State& state = battle.state;
-  if (state.EnemyLife[slot - 1] > 0) return;
-  state.EnemyAlive[slot - 1] = False;
-  RedrawCells(battle, SlotCells(slot));
+std::vector<int> HitBySpell(State& state, const Choice& choice) {
+  std::vector<int> down;
+  if (choice.Struck == Targets::One) {
+    HitBySpellIn(state, choice.Slot, down);
+  } else {
+    for (int slot = 1; slot <= state.EnemyCount; ++slot) HitBySpellIn(state, slot, down);
+  }
+  // A big enemy takes a spell once more. The balance of the game counts on it.
+  if (IsBigFight(state)) HitBySpellIn(state, choice.Slot, down);
+  return down;
+}
+
+std::vector<int> HitByEnemy(State& state) {
+  const int hero = StruckHero(state);
+  std::vector<int> fainted;
+  state.HP[hero] -= state.EnemyDamage;
+  Settle(state);
+  FaintWithoutHP(state, hero, fainted);
+  return fainted;
+}
+
+std::vector<int> HitByBreath(State& state) {
+  std::vector<int> fainted;
+  for (int hero = 0; hero < 2; ++hero) {
+    state.HP[hero] -= state.BreathDamage[hero];
+    FaintWithoutHP(state, hero, fainted);
+  }
+  Settle(state);
+  return fainted;
 }
 
 }  // namespace orvane

@@ -1,22 +1,22 @@
-// The arithmetic of an action at its one computing frame, the hop of the numbers, and what results
-// do.
+// What results do at the end of an action.
 #pragma once
+
+#include <vector>
+
+#include "src/battle/rules/choice.h"
+#include "src/core/state.h"
 
 namespace orvane {
 
-class BattleScreen;
+// Each takes its result off the enemies and gives the slots, from 1, that are without life now. An
+// all-striking spell counts those that had none before.
+std::vector<int> HitByFight(State& state, const Choice& choice);
+std::vector<int> HitByTechnique(State& state, const Choice& choice);
+std::vector<int> HitBySpell(State& state, const Choice& choice);
 
-// Moves the number labels of the running action and computes its result when its frame has come.
-void DamageDisplay(BattleScreen& battle);
-
-// Computes the result of the running action, if this is its frame.
-void DamageCalc(BattleScreen& battle);
-
-// Takes a result off the enemies, and off the heroes.
-void HitEnemies(BattleScreen& battle);
-void HitHeroes(BattleScreen& battle);
-
-// Takes an enemy without life from its slot, from 1, and off the scene.
-void EnemyKillCheck(BattleScreen& battle, int slot);
+// Each takes its result off the heroes, holds their numbers to their bounds, and gives those whom
+// it leaves without HP: they have fainted.
+std::vector<int> HitByEnemy(State& state);
+std::vector<int> HitByBreath(State& state);
 
 }  // namespace orvane

@@ -1,9 +1,8 @@
 #include "src/battle/scene/battle_drawing.h"
 
-#include <string>
-
 #include "src/battle/battle_screen.h"
 #include "src/battle/rules/formation.h"
+#include "src/battle/skill_table.h"
 
 namespace orvane {
 namespace {
@@ -24,10 +23,9 @@ constexpr int kRecoil = 10;
 
 constexpr int kEffectSize = 24;
 constexpr int kEffectMasks = 192;
-constexpr int kLastTargetSpell = 2;
 
 // The ground of the place where the party stands: four tile codes are wasteland.
-Surface& Ground(BattleScreen& battle) {
+const Surface& Ground(const BattleScreen& battle) {
   switch (battle.state.TileHere) {
     case 13:
     case 14:
@@ -59,14 +57,21 @@ void DrawBig(BattleScreen& battle, int row, const Cell& cell, int shift = 0) {
   DrawSprite(battle, place, battle.EnemySheets[row].Picture, cell);
 }
 
+void DrawEnemyGroup(BattleScreen& battle) {
+  RedrawCells(battle, SlotCells(battle.ChosenTarget()));
+  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
+    if (battle.state.EnemyAlive[slot - 1] == True) DrawEnemyInSlot(battle, slot);
+  }
+}
+
+double ShakePixels(int frame, int twips) {
+  return SignOf(frame / 2) * twips / TwipsPerPixel;
+}
+
 void FlashSlot(BattleScreen& battle, int slot) {
   const Surface& sheet = battle.EnemySheets[battle.state.EnemyKind].Picture;
   BitBlt(battle.Scene.Picture, SlotX(slot), SlotY(slot), kEnemyCell.Width, kEnemyCell.Height, sheet,
          kEnemyCell.MaskX, kEnemyCell.MaskY, RasterOp::SRCPAINT);
-}
-
-std::string Gauge(int now, int limit) {
-  return std::to_string(now) + "/" + std::to_string(limit);
 }
 
 }  // namespace
@@ -94,15 +99,12 @@ void RedrawCells(BattleScreen& battle, const Rect& cells) {
               kSheetCellHeight * cells.Height});
 }
 
-void DrawBackground(BattleScreen& battle) {
-  DrawGround(battle, kScene, kGroundSheet);
+Rect SlotCells(int slot) {
+  return {Quotient(slot, 3) * 3 + 1 - slot % 2, 5 - slot % 2 * 3, 3, 3};
 }
 
-void DrawEnemyGroup(BattleScreen& battle) {
-  RedrawCells(battle, SlotCells(battle.Targets.ListIndex));
-  for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
-    if (battle.state.EnemyAlive[slot - 1] == True) DrawEnemyInSlot(battle, slot);
-  }
+void DrawBackground(BattleScreen& battle) {
+  DrawGround(battle, kScene, kGroundSheet);
 }
 
 void DrawRoundBoss(BattleScreen& battle) {
@@ -110,11 +112,7 @@ void DrawRoundBoss(BattleScreen& battle) {
 }
 
 void DrawLastBoss(BattleScreen& battle) {
-  DrawBig(battle, LastBossKind, kBigCell);
-}
-
-void DrawBoneDragon(BattleScreen& battle) {
-  DrawBig(battle, BoneDragonKind, kBigCell);
+  DrawBig(battle, kLastBossKind, kBigCell);
 }
 
 void DrawEnemySide(BattleScreen& battle) {
@@ -122,8 +120,8 @@ void DrawEnemySide(BattleScreen& battle) {
     DrawRoundBoss(battle);
   } else if (battle.state.LastBossFight == True) {
     DrawLastBoss(battle);
-  } else if (battle.state.EnemyKind == BoneDragonKind) {
-    DrawBoneDragon(battle);
+  } else if (battle.state.EnemyKind == kBoneDragonKind) {
+    DrawBig(battle, kBoneDragonKind, kBigCell);
   } else {
     DrawEnemyGroup(battle);
   }
@@ -138,7 +136,7 @@ void EnemyRecoil(BattleScreen& battle) {
   if (IsBigFight(battle.state)) {
     return DrawBig(battle, EnemyRow(battle.state), BigCellOf(battle.state), -kRecoil);
   }
-  const int slot = battle.Targets.ListIndex;
+  const int slot = battle.ChosenTarget();
   if (battle.state.EnemyAlive[slot - 1] != True) return;
   RedrawCells(battle, SlotCells(slot));
   DrawEnemyInSlot(battle, slot, -kRecoil);
@@ -149,8 +147,8 @@ void EnemyFlash(BattleScreen& battle) {
     const Cell& cell = BigCellOf(battle.state);
     StretchBlt(battle.Scene.Picture, kBigPlace, battle.EnemySheets[EnemyRow(battle.state)].Picture,
                {cell.MaskX, cell.MaskY, cell.Width, cell.Height}, RasterOp::SRCPAINT);
-  } else if (battle.Skills.ListIndex <= kLastTargetSpell) {
-    FlashSlot(battle, battle.Targets.ListIndex);
+  } else if (TargetsOfSpell(battle.ChosenSkill()) == Targets::One) {
+    FlashSlot(battle, battle.ChosenTarget());
   } else {
     for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
       if (battle.state.EnemyAlive[slot - 1] == True) FlashSlot(battle, slot);
@@ -158,23 +156,12 @@ void EnemyFlash(BattleScreen& battle) {
   }
 }
 
-void StatusDisplay(BattleScreen& battle) {
-  State& state = battle.state;
-  for (int hero = 0; hero < 2; ++hero) {
-    state.Attack[hero] = state.WeaponAttack[hero] + state.BaseAttack[hero];
-    state.Defence[hero] = state.ArmourDefence[hero] + state.BaseDefence[hero];
-  }
-  for (int hero = 0; hero < 2; ++hero) {
-    if (state.HP[hero] < 0) state.HP[hero] = 0;
-    if (state.HP[hero] > state.MaxHP[hero]) state.HP[hero] = state.MaxHP[hero];
-    if (state.MP[hero] > state.MaxMP[hero]) state.MP[hero] = state.MaxMP[hero];
-    battle.LevelValues[hero].Caption = std::to_string(state.Level[hero]);
-    battle.HPValues[hero].Caption = Gauge(state.HP[hero], state.MaxHP[hero]);
-    battle.MPValues[hero].Caption = Gauge(state.MP[hero], state.MaxMP[hero]);
-    battle.AttackValues[hero].Caption = std::to_string(state.Attack[hero]);
-    battle.DefenceValues[hero].Caption = std::to_string(state.Defence[hero]);
-    battle.SpiritValues[hero].Caption = std::to_string(state.Spirit[hero]);
-  }
+void ShakeUpDown(BattleScreen& battle, int frame, int twips) {
+  battle.Scene.At.Top += ShakePixels(frame, twips);
+}
+
+void ShakeLeftRight(BattleScreen& battle, int frame, int twips) {
+  battle.Scene.At.Left += ShakePixels(frame, twips);
 }
 
 }  // namespace orvane

@@ -24,14 +24,15 @@ void DrawEffect(BattleScreen& battle, int column, int row, const Rect& target);
 // Draws cells of the ground over the scene; one is 36 by 33 pixels, of 12 across and 8 down.
 void RedrawCells(BattleScreen& battle, const Rect& cells);
 
+// The cells beneath a slot, from 1.
+Rect SlotCells(int slot);
+
 // Draws the whole ground.
 void DrawBackground(BattleScreen& battle);
 
-// Draws a group of enemies slot by slot, a dragon, or whatever enemy side this fight has.
-void DrawEnemyGroup(BattleScreen& battle);
+// Draws the dragon of the round, the last one, or whatever enemy side this fight has.
 void DrawRoundBoss(BattleScreen& battle);
 void DrawLastBoss(BattleScreen& battle);
-void DrawBoneDragon(BattleScreen& battle);
 void DrawEnemySide(BattleScreen& battle);
 
 // One enemy of the ordinary group in its slot, `shift` pixels to the right.
@@ -43,8 +44,14 @@ void EnemyRecoil(BattleScreen& battle);
 // Lets the targets of a spell light up as white shapes.
 void EnemyFlash(BattleScreen& battle);
 
-// Writes both status panes; the one place that holds HP and MP to their bounds and sums up attack
-// and defence.
-void StatusDisplay(BattleScreen& battle);
+// Move the scene by so many twips, the other way on every frame, so that an even number of frames
+// ends where it began.
+void ShakeUpDown(BattleScreen& battle, int frame, int twips);
+void ShakeLeftRight(BattleScreen& battle, int frame, int twips);
+
+// (-1) to the power n.
+constexpr int SignOf(int n) {
+  return n % 2 == 0 ? 1 : -1;
+}
 
 }  // namespace orvane

@@ -1,6 +1,7 @@
 #include "src/battle/scene/hero_poses.h"
 
 #include "src/battle/battle_screen.h"
+#include "src/battle/rules/action_results.h"
 #include "src/battle/scene/battle_drawing.h"
 
 namespace orvane {
@@ -22,10 +23,6 @@ constexpr int kFacingRow = 96;
 constexpr Rect kBothCells{10, 4, 2, 4};
 constexpr Rect kHeroCells[] = {{10, 4, 2, 2}, {10, 6, 2, 2}};
 
-int Acting(BattleScreen& battle) {
-  return battle.HeroTabs.Tab();
-}
-
 }  // namespace
 
 void DrawHeroAt(BattleScreen& battle, int hero, int x, int frame) {
@@ -42,32 +39,27 @@ void DrawHeroes(BattleScreen& battle) {
 }
 
 void HeroStepOut(BattleScreen& battle, int frame) {
-  const int hero = Acting(battle);
+  const int hero = battle.ActingHero();
   RedrawCells(battle, kHeroCells[hero]);
   DrawHeroAt(battle, hero, kHomeX[hero] - 2 * frame, frame);
 }
 
 void HeroHolding(BattleScreen& battle) {
-  const int acting = Acting(battle);
+  const int acting = battle.ActingHero();
   RedrawCells(battle, kHeroCells[acting]);
   for (int hero = 0; hero < 2; ++hero) {
     DrawHeroAt(battle, hero, kHomeX[hero] - (hero == acting ? kShift : 0));
   }
 }
 
-void HeroStepBack(BattleScreen& battle, int frame) {
-  const int hero = Acting(battle);
-  const int kind = battle.state.ActionKind;
-  const bool skill =
-      hero == 0 ? kind == Action::Waza : kind == Action::Magic || kind == Action::Heal;
-  if (kind != Action::Fight && !skill) return;
-  const int start = kind == Action::Fight ? 25 : 45;
+void HeroStepBack(BattleScreen& battle, int frame, int start) {
+  const int hero = battle.ActingHero();
   RedrawCells(battle, kHeroCells[hero]);
   DrawHeroAt(battle, hero, (frame - start) * 2 + kHomeX[hero] - kShift, frame);
 }
 
 void HeroHurtPose(BattleScreen& battle) {
-  const int hero = battle.state.EnemyRoll % 2;
+  const int hero = StruckHero(battle.state);
   RedrawCells(battle, kHeroCells[hero]);
   DrawHeroAt(battle, hero, kHomeX[hero] + kShift);
 }

@@ -8,10 +8,10 @@ class BattleScreen;
 // Both at rest.
 void DrawHeroes(BattleScreen& battle);
 
-// The acting hero walks out, and back again; `frame` is the action's frame counter. Only fights,
-// spells and techniques walk back.
+// The acting hero walks out and, from the frame `start` on, back again; `frame` is the action's
+// frame counter.
 void HeroStepOut(BattleScreen& battle, int frame);
-void HeroStepBack(BattleScreen& battle, int frame);
+void HeroStepBack(BattleScreen& battle, int frame, int start);
 
 // The acting hero stands a step forward, the other at rest.
 void HeroHolding(BattleScreen& battle);

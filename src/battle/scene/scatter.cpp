@@ -10,19 +10,19 @@ constexpr int kWidth = 58;
 constexpr int kTop = 130;
 constexpr int kHeroHeight = 54;
 
-ScenePoint PointInBox(BattleScreen& battle, int top, int height) {
-  const Int16 x = RoundToInt16(Int(Rnd(battle.game) * kWidth + kLeft));
-  const Int16 y = RoundToInt16(Int(Rnd(battle.game) * height + top));
+ScenePoint PointInBox(const BattleScreen& battle, int top, int height) {
+  const Int16 x = Roll(battle.game, kWidth, kLeft);
+  const Int16 y = Roll(battle.game, height, top);
   return {x, y};
 }
 
 }  // namespace
 
-ScenePoint PointOverHeroes(BattleScreen& battle) {
+ScenePoint PointOverHeroes(const BattleScreen& battle) {
   return PointInBox(battle, kTop, 2 * kHeroHeight);
 }
 
-ScenePoint PointOverHero(BattleScreen& battle, int hero) {
+ScenePoint PointOverHero(const BattleScreen& battle, int hero) {
   return PointInBox(battle, hero * kHeroHeight + kTop, kHeroHeight);
 }
 

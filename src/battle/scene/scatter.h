@@ -13,9 +13,9 @@ struct ScenePoint {
 };
 
 // A point of the box in which the two heroes stand.
-ScenePoint PointOverHeroes(BattleScreen& battle);
+ScenePoint PointOverHeroes(const BattleScreen& battle);
 
 // A point over one of them, 0 or 1.
-ScenePoint PointOverHero(BattleScreen& battle, int hero);
+ScenePoint PointOverHero(const BattleScreen& battle, int hero);
 
 }  // namespace orvane

@@ -6,8 +6,7 @@
 #include "src/battle/rules/formation.h"
 #include "src/battle/scene/battle_drawing.h"
 #include "src/battle/scene/scatter.h"
-#include "src/battle/scene/shake.h"
-#include "src/battle/scene/target_point.h"
+#include "src/battle/skill_table.h"
 
 namespace orvane {
 namespace {
@@ -16,23 +15,29 @@ constexpr Colour kWhite = Rgb(255, 255, 255);
 constexpr int kQuake = 50;  // twips
 constexpr int kShake = 20;
 
+// At the row of the target list, or at a big enemy, whatever row is selected.
 void AimAtTarget(BattleScreen& battle) {
   State& state = battle.state;
-  MagicTarget(battle);
+  state.MagicBossX = kBigTargetX;
+  state.MagicBossY = kBigTargetY;
+  state.MagicX = SlotX(battle.ChosenTarget());
+  state.MagicY = SlotY(battle.ChosenTarget());
   if (!IsBigFight(state)) return;
   state.MagicX = state.MagicBossX;
   state.MagicY = state.MagicBossY;
 }
 
+}  // namespace
+
 // ファイヤーブレズ: one great flame.
-void Magic1(BattleScreen& battle, int c) {
+void Spells::FireBreath(BattleScreen& battle, int c) {
   AimAtTarget(battle);
   if (c == 6) battle.game.sound.Play("snd3");
   DrawEffect(battle, 4, 4, {battle.state.MagicX, battle.state.MagicY, 96, 96});
 }
 
 // 絶対零度: four crystals close in from the corners of a square, and hold.
-void Magic2(BattleScreen& battle, int c) {
+void Spells::AbsoluteZero(BattleScreen& battle, int c) {
   AimAtTarget(battle);
   if (c == 14) battle.game.sound.Play("snd10");
   const int d = c <= 12 ? c : 16;
@@ -44,7 +49,7 @@ void Magic2(BattleScreen& battle, int c) {
 }
 
 // リフレッシュ: sparkles over the heroes.
-void Magic3(BattleScreen& battle, int c) {
+void Spells::Refresh(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play("snd5");
   Randomize(battle.game);
   for (int i = 0; i < 6; ++i) {
@@ -54,20 +59,20 @@ void Magic3(BattleScreen& battle, int c) {
 }
 
 // アースクエイク: the scene shakes from side to side.
-void Magic4(BattleScreen& battle, int c) {
+void Spells::Earthquake(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play("snd6");
   ShakeLeftRight(battle, c, kQuake);
 }
 
 // 爆雷降臨: a single flash that stays.
-void Magic5(BattleScreen& battle, int c) {
+void Spells::Thunderbolt(BattleScreen& battle, int c) {
   if (c != 10) return;
   battle.game.sound.Play("snd8");
   FillBox(battle.Scene.Picture, 0, 0, 480, 288, kWhite);
 }
 
 // サンプレゼンター: a sun that grows.
-void Magic6(BattleScreen& battle, int c) {
+void Spells::SunPresenter(BattleScreen& battle, int c) {
   battle.game.sound.Play("snd3");
   const int size = 16 * c + 48;
   DrawEffect(battle, 0, 3, {150 - 8 * c, 140 - 8 * c, size, size});
@@ -75,14 +80,14 @@ void Magic6(BattleScreen& battle, int c) {
 }
 
 // ダークプレッシャー: a ring that sinks.
-void Magic7(BattleScreen& battle, int c) {
+void Spells::DarkPressure(BattleScreen& battle, int c) {
   battle.game.sound.Play("snd9");
   DrawCircle(battle.Scene.Picture, 300 - 2 * c, 10 * c - 150, 250, kWhite);
   ShakeUpDown(battle, c, kShake);
 }
 
 // 風の癒し: pairs of sparkles over the heroes.
-void Magic8(BattleScreen& battle, int c) {
+void Spells::HealingWind(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play("snd5");
   Randomize(battle.game);
   for (int i = 0; i < 6; ++i) {
@@ -95,7 +100,7 @@ void Magic8(BattleScreen& battle, int c) {
 
 // アトミックボム: a widening ring; its angles are radians taken as they come, so that it looks
 // scattered.
-void Magic9(BattleScreen& battle, int c) {
+void Spells::AtomicBomb(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play("snd4");
   for (int k = 0; k <= 10; ++k) {
     const int angle = 20 * k + c;
@@ -106,37 +111,24 @@ void Magic9(BattleScreen& battle, int c) {
 }
 
 // ジオ･スプリート: a widening band of light full of suns.
-void Magic10(BattleScreen& battle, int c) {
+void Spells::GeoSplit(BattleScreen& battle, int c) {
   battle.game.sound.Play("snd4");
   ShakeUpDown(battle, c, kShake);
   FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(255, 255, 10 * c));
   Randomize(battle.game);
   for (int k = 0; k <= 10; ++k) {
-    const Int16 x = RoundToInt16(Int(Rnd(battle.game) * 350));
-    const Int16 y = RoundToInt16(Int(Rnd(battle.game) * 230 + 50));
-    const Int16 size = RoundToInt16(Int(Rnd(battle.game) * 48 + 24));
+    const Int16 x = Roll(battle.game, 350);
+    const Int16 y = Roll(battle.game, 230, 50);
+    const Int16 size = Roll(battle.game, 48, 24);
     DrawEffect(battle, 0, 3, {x, y, size, size});
   }
 }
 
-using Frame = void (*)(BattleScreen&, int);
-constexpr Frame kMagic[] = {Magic1, Magic2, Magic3, Magic4, Magic5,
-                            Magic6, Magic7, Magic8, Magic9, Magic10};
-
-}  // namespace
-
-void MagicTarget(BattleScreen& battle) {
-  State& state = battle.state;
-  state.MagicBossX = BigTargetX;
-  state.MagicBossY = BigTargetY;
-  state.MagicX = SlotX(battle.Targets.ListIndex);
-  state.MagicY = SlotY(battle.Targets.ListIndex);
-}
-
-void MagicPlay(BattleScreen& battle, int frame, int spell) {
+void PlaySpellFrame(BattleScreen& battle, int frame) {
+  const int row = battle.ChosenSkill();
   battle.HeroActionPanel.Visible = true;
-  battle.HeroActionName.Caption = battle.state.MagicName[battle.Skills.ListIndex - 1];
-  if (spell >= 1 && spell <= 10) kMagic[spell - 1](battle, frame);
+  battle.HeroActionName.Caption = battle.state.MagicName[row - 1];
+  if (const Skill* spell = FindSpell(row)) spell->Play(battle, frame);
   battle.Scene.Picture.Refresh();
 }
 

@@ -5,10 +5,20 @@ namespace orvane {
 
 class BattleScreen;
 
-// Finds the target point of the spell by the row of the target list.
-void MagicTarget(BattleScreen& battle);
+namespace Spells {
+void FireBreath(BattleScreen& battle, int frame);
+void AbsoluteZero(BattleScreen& battle, int frame);
+void Refresh(BattleScreen& battle, int frame);
+void Earthquake(BattleScreen& battle, int frame);
+void Thunderbolt(BattleScreen& battle, int frame);
+void SunPresenter(BattleScreen& battle, int frame);
+void DarkPressure(BattleScreen& battle, int frame);
+void HealingWind(BattleScreen& battle, int frame);
+void AtomicBomb(BattleScreen& battle, int frame);
+void GeoSplit(BattleScreen& battle, int frame);
+}  // namespace Spells
 
-// One frame of spell `spell`, 1 to 10, at the even frame number `frame`, 6 to 24.
-void MagicPlay(BattleScreen& battle, int frame, int spell);
+// One frame of the chosen spell at the even frame number `frame`, 6 to 24, under its name.
+void PlaySpellFrame(BattleScreen& battle, int frame);
 
 }  // namespace orvane

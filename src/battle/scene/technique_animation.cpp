@@ -5,8 +5,7 @@
 #include "src/battle/battle_screen.h"
 #include "src/battle/rules/formation.h"
 #include "src/battle/scene/battle_drawing.h"
-#include "src/battle/scene/shake.h"
-#include "src/battle/scene/target_point.h"
+#include "src/battle/skill_table.h"
 
 namespace orvane {
 namespace {
@@ -29,6 +28,15 @@ void PoseAtHome(BattleScreen& battle) {
   Pose(battle, kHomeX, kHomeY);
 }
 
+// At the row of the target list.
+void Aim(BattleScreen& battle) {
+  State& state = battle.state;
+  state.WazaBossX = kBigTargetX;
+  state.WazaBossY = kBigTargetY;
+  state.WazaX = SlotX(battle.ChosenTarget());
+  state.WazaY = SlotY(battle.ChosenTarget());
+}
+
 // A big enemy is struck at its own point, whatever row is selected.
 void AimAtBig(BattleScreen& battle) {
   State& state = battle.state;
@@ -37,7 +45,7 @@ void AimAtBig(BattleScreen& battle) {
   state.WazaY = state.WazaBossY;
 }
 
-void Play(BattleScreen& battle, const char* channel) {
+void Play(const BattleScreen& battle, const char* channel) {
   battle.game.sound.Play(channel);
 }
 
@@ -54,20 +62,22 @@ void CrossingPair(BattleScreen& battle, int c, int row) {
   DrawEffect(battle, 4, row, {state.WazaX - 25 + 3 * c, state.WazaY - 30 + 3 * c, 24, 24});
 }
 
+}  // namespace
+
 // 炎舞剣
-void Waza1(BattleScreen& battle, int c) {
+void Techniques::FlameDance(BattleScreen& battle, int c) {
   if (c == 6) Play(battle, "snd3");
   CrossingPair(battle, c, 4);
 }
 
 // 氷岩断絶剣
-void Waza2(BattleScreen& battle, int c) {
+void Techniques::IceCleaver(BattleScreen& battle, int c) {
   if (c == 6) Play(battle, "snd10");
   CrossingPair(battle, c, 5);
 }
 
 // パワーブレイク: power gathers, then four shards fly off.
-void Waza3(BattleScreen& battle, int c) {
+void Techniques::PowerBreak(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
   if (c <= 13) Play(battle, "snd9");
@@ -81,7 +91,7 @@ void Waza3(BattleScreen& battle, int c) {
 }
 
 // 大地の剣: rock rises, then ice. The first sound is cut short by closing its channel.
-void Waza4(BattleScreen& battle, int c) {
+void Techniques::EarthSword(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
   if (c < 16) Play(battle, "snd9");
@@ -98,6 +108,8 @@ void Waza4(BattleScreen& battle, int c) {
   }
 }
 
+namespace {
+
 // One of the four poses that every frame of the fall shows, after the hold at its beginning.
 void Fall(BattleScreen& battle, int c, int j) {
   if (c == 14) battle.game.stage.Hold(kHoldTime);
@@ -109,8 +121,10 @@ void Fall(BattleScreen& battle, int c, int j) {
   Pose(battle, kHomeX - (j + c - 12) * 30, (j + c - 12) * 10 + 35);
 }
 
+}  // namespace
+
 // 召雷斬: a leap straight up, a hold, a fall across the field.
-void Waza5(BattleScreen& battle, int c) {
+void Techniques::ThunderCall(BattleScreen& battle, int c) {
   for (int j = 0; j <= 3; ++j) {
     if (c <= 12) {
       Pose(battle, kHomeX, kHomeY - (j + c - 5) * 15);
@@ -123,7 +137,7 @@ void Waza5(BattleScreen& battle, int c) {
 }
 
 // 一刀両断: a run with three afterimages.
-void Waza6(BattleScreen& battle, int c) {
+void Techniques::SingleStroke(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c == 20) Play(battle, "snd2");
   if (c < 15) return PoseAtHome(battle);
@@ -132,7 +146,7 @@ void Waza6(BattleScreen& battle, int c) {
 }
 
 // ダークスラッシュ: a black band that widens.
-void Waza7(BattleScreen& battle, int c) {
+void Techniques::DarkSlash(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c == 20 || c == 22) Play(battle, "snd2");
   FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(0, 0, 0));
@@ -140,7 +154,7 @@ void Waza7(BattleScreen& battle, int c) {
 }
 
 // 円陣斬: a ring of afterimages; its angles are radians taken as they come, so that it jumps about.
-void Waza8(BattleScreen& battle, int c) {
+void Techniques::CircleCut(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
   Play(battle, "snd2");
@@ -155,7 +169,7 @@ void Waza8(BattleScreen& battle, int c) {
 }
 
 // 必殺撃: thrusts from right beside the enemy.
-void Waza9(BattleScreen& battle, int c) {
+void Techniques::DeadlyBlow(BattleScreen& battle, int c) {
   if (c < 16) return PoseAtHome(battle);
   const State& state = battle.state;
   Play(battle, "snd9");
@@ -169,6 +183,8 @@ void Waza9(BattleScreen& battle, int c) {
   Pose(battle, state.WazaX + 64, state.WazaY);
 }
 
+namespace {
+
 // Four heroes close on the middle of the scene from its corners.
 void CloseIn(BattleScreen& battle, int c) {
   if (c == 6) Play(battle, "snd10");
@@ -180,9 +196,11 @@ void CloseIn(BattleScreen& battle, int c) {
   }
 }
 
+}  // namespace
+
 // 奥義･真魔神斬: then an explosion grows around the target. The first sound is cut short by closing
 // its channel.
-void Waza10(BattleScreen& battle, int c) {
+void Techniques::DemonGod(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c <= 15) return CloseIn(battle, c);
   if (c == 16) {
@@ -196,25 +214,13 @@ void Waza10(BattleScreen& battle, int c) {
   if (c == 24) battle.game.sound.Open("snd10");
 }
 
-using Frame = void (*)(BattleScreen&, int);
-constexpr Frame kWaza[] = {Waza1, Waza2, Waza3, Waza4, Waza5, Waza6, Waza7, Waza8, Waza9, Waza10};
-
-}  // namespace
-
-void WazaTarget(BattleScreen& battle) {
-  State& state = battle.state;
-  state.WazaBossX = BigTargetX;
-  state.WazaBossY = BigTargetY;
-  state.WazaX = SlotX(battle.Targets.ListIndex);
-  state.WazaY = SlotY(battle.Targets.ListIndex);
-}
-
-void WazaPlay(BattleScreen& battle, int frame, int waza) {
+void PlayTechniqueFrame(BattleScreen& battle, int frame) {
+  const int row = battle.ChosenSkill();
   battle.HeroActionPanel.Visible = true;
-  battle.HeroActionName.Caption = battle.state.WazaName[battle.Skills.ListIndex - 1];
-  if (waza >= 1 && waza <= 10) {
-    WazaTarget(battle);
-    kWaza[waza - 1](battle, frame);
+  battle.HeroActionName.Caption = battle.state.WazaName[row - 1];
+  if (const Skill* technique = FindTechnique(row)) {
+    Aim(battle);
+    technique->Play(battle, frame);
   }
   battle.Scene.Picture.Refresh();
 }

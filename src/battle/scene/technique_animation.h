@@ -6,10 +6,20 @@ namespace orvane {
 
 class BattleScreen;
 
-// Finds the target point of the technique by the row of the target list.
-void WazaTarget(BattleScreen& battle);
+namespace Techniques {
+void FlameDance(BattleScreen& battle, int frame);
+void IceCleaver(BattleScreen& battle, int frame);
+void PowerBreak(BattleScreen& battle, int frame);
+void EarthSword(BattleScreen& battle, int frame);
+void ThunderCall(BattleScreen& battle, int frame);
+void SingleStroke(BattleScreen& battle, int frame);
+void DarkSlash(BattleScreen& battle, int frame);
+void CircleCut(BattleScreen& battle, int frame);
+void DeadlyBlow(BattleScreen& battle, int frame);
+void DemonGod(BattleScreen& battle, int frame);
+}  // namespace Techniques
 
-// One frame of technique `waza`, 1 to 10, at the even frame number `frame`, 6 to 24.
-void WazaPlay(BattleScreen& battle, int frame, int waza);
+// One frame of the chosen technique at the even frame number `frame`, 6 to 24, under its name.
+void PlayTechniqueFrame(BattleScreen& battle, int frame);
 
 }  // namespace orvane

@@ -4,11 +4,10 @@
 
 #include "src/battle/battle_screen.h"
 #include "src/battle/flow/battle_setup.h"
-#include "src/battle/flow/enemy_actions.h"
-#include "src/battle/flow/skill_runs.h"
-#include "src/battle/flow/victory.h"
-#include "src/battle/rules/battle_tables.h"
-#include "src/battle/rules/hits.h"
+#include "src/battle/flow/turn_engine.h"
+#include "src/battle/rules/enemy_table.h"
+#include "src/battle/rules/rewards.h"
+#include "src/battle/skill_table.h"
 #include "src/core/game.h"
 #include "src/platform/quiet_services.h"
 #include "src/screens/heroes.h"
@@ -20,8 +19,8 @@ namespace {
 class BattleTest : public testing::Test {
  protected:
   BattleTest() {
-    FillWazaTable(state_);
-    FillMagicTable(state_);
+    FillTechniqueTable(state_);
+    FillSpellTable(state_);
     FillEnemyTable(state_);
     game_.stage.KeepDesigns();
     state_.EnemyKind = 3;
@@ -29,12 +28,12 @@ class BattleTest : public testing::Test {
     state_.Round = 1;
   }
 
-  // What a frame's routine seeds and draws.
-  std::string CallsOf(int kind, int frame, void (*routine)(BattleScreen&)) {
+  // What a frame of an action seeds and draws.
+  std::string CallsOf(int kind, int frame) {
     state_.ActionKind = kind;
     state_.ActionState = frame;
     chance_.Calls.clear();
-    routine(battle_);
+    PlayActionFrame(battle_);
     return chance_.Calls;
   }
 
@@ -57,39 +56,39 @@ TEST_F(BattleTest, SetUpSeedsOnceAndDrawsAKindInThreeRoundsOnly) {
 
 TEST_F(BattleTest, EveryCallOfTheArithmeticSeedsAndTheComputingFrameDraws) {
   battle_.Targets.ListIndex = 1;
-  EXPECT_EQ(CallsOf(Action::Fight, 6, DamageCalc), "sd");
-  EXPECT_EQ(CallsOf(Action::Fight, 8, DamageCalc), "s");
+  EXPECT_EQ(CallsOf(Action::Fight, 6), "sd");
+  EXPECT_EQ(CallsOf(Action::Fight, 8), "s");
   battle_.Skills.ListIndex = 1;
-  EXPECT_EQ(CallsOf(Action::Waza, 26, DamageCalc), "sd");
-  EXPECT_EQ(CallsOf(Action::Waza, 44, DamageCalc), "s");
-  EXPECT_EQ(CallsOf(Action::Magic, 26, DamageCalc), "sdd");
-  EXPECT_EQ(CallsOf(Action::Magic, 28, DamageCalc), "s");
+  EXPECT_EQ(CallsOf(Action::Technique, 26), "sd");
+  EXPECT_EQ(CallsOf(Action::Technique, 44), "s");
+  EXPECT_EQ(CallsOf(Action::Spell, 26), "sdd");
+  EXPECT_EQ(CallsOf(Action::Spell, 28), "s");
 }
 
 TEST_F(BattleTest, EveryFrameOfAnEnemyAttackSeedsBeforeItDraws) {
   state_.EnemyTurns = 2;
-  EXPECT_EQ(CallsOf(Action::EnemyAttack, 2, EnemyAtaNormal), "s");
-  EXPECT_EQ(CallsOf(Action::EnemyAttack, 16, EnemyAtaNormal), "sds");
-  EXPECT_EQ(CallsOf(Action::EnemyAttack, 18, EnemyAtaNormal), "ss");
-  EXPECT_EQ(CallsOf(Action::EnemyAttack, 36, EnemyAtaNormal), "s");
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 2), "s");
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 16), "sds");
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 18), "ss");
+  EXPECT_EQ(CallsOf(Action::EnemyAttack, 36), "s");
   state_.Round = 2;
-  EXPECT_EQ(CallsOf(Action::BossSpecial, 16, EnemyAtaFire), "s");
-  EXPECT_EQ(CallsOf(Action::BossSpecial, 36, EnemyAtaFire), "ssdd");
-  EXPECT_EQ(CallsOf(Action::LastBossSpecial, 16, EnemyAtaDeath), "s" + std::string(33, 'd'));
-  EXPECT_EQ(CallsOf(Action::LastBossSpecial, 36, EnemyAtaDeath), "ssdd");
+  EXPECT_EQ(CallsOf(Action::BossSpecial, 16), "s");
+  EXPECT_EQ(CallsOf(Action::BossSpecial, 36), "ssdd");
+  EXPECT_EQ(CallsOf(Action::LastBossSpecial, 16), "s" + std::string(33, 'd'));
+  EXPECT_EQ(CallsOf(Action::LastBossSpecial, 36), "ssdd");
 }
 
 TEST_F(BattleTest, EveryFrameOfAnItemSeeds) {
   battle_.BagItems.ListIndex = battle_.Receivers.ListIndex = 1;
-  EXPECT_EQ(CallsOf(Action::Item, 2, ItemRun), "s");
-  EXPECT_EQ(CallsOf(Action::Item, 6, ItemRun), "s" + std::string(12, 'd'));
-  EXPECT_EQ(CallsOf(Action::Item, 26, ItemRun), "ss");
-  EXPECT_EQ(CallsOf(Action::Item, 50, ItemRun), "s");
+  EXPECT_EQ(CallsOf(Action::Item, 2), "s");
+  EXPECT_EQ(CallsOf(Action::Item, 6), "s" + std::string(12, 'd'));
+  EXPECT_EQ(CallsOf(Action::Item, 26), "ss");
+  EXPECT_EQ(CallsOf(Action::Item, 50), "s");
 }
 
 TEST_F(BattleTest, TheFireDrawsNothingInTheFirstRoundAndKeepsItsDamage) {
   state_.BreathDamage[0] = 77;
-  EXPECT_EQ(CallsOf(Action::BossSpecial, 36, EnemyAtaFire), "ss");
+  EXPECT_EQ(CallsOf(Action::BossSpecial, 36), "ss");
   EXPECT_EQ(state_.BreathDamage[0], 77);
   EXPECT_EQ(battle_.HeroNumbers[0].Caption, "77");
 }
@@ -103,15 +102,13 @@ TEST_F(BattleTest, AWinTellsOfTheWomansMasteryByTheMansTable) {
   state_.WazaMaster[0] = 30;
   game_.stage.Unload(heroes_);
   game_.stage.Show(heroes_);
-  ProficiencyGain(battle_, 1);
-  EXPECT_FALSE(battle_.MasteryMessages[1].Visible) << "21 of 30";
+  EXPECT_FALSE(TrainByBook(state_, 1)) << "21 of 30";
   EXPECT_EQ(heroes_.WomanSkillMasters[0].Caption, "MASTER") << "20 of 20";
   state_.WazaMaster[0] = 20;
   state_.MagicMaster[0] = 30;
   game_.stage.Unload(heroes_);
   game_.stage.Show(heroes_);
-  ProficiencyGain(battle_, 1);
-  EXPECT_TRUE(battle_.MasteryMessages[1].Visible) << "22 of 20";
+  EXPECT_TRUE(TrainByBook(state_, 1)) << "22 of 20";
   EXPECT_EQ(heroes_.WomanSkillMasters[0].Caption, "/30");
 }
 
@@ -120,10 +117,10 @@ TEST_F(BattleTest, ASpellIsMasteredByTheWomansTable) {
   state_.Spirit[1] = 5;
   state_.MagicUse[0] = 20;
   state_.WazaMaster[0] = 1000;
-  CallsOf(Action::Magic, 26, DamageCalc);
+  CallsOf(Action::Spell, 26);
   EXPECT_EQ(state_.MagicDamage[0], 129);
   state_.MagicMaster[0] = 30;
-  CallsOf(Action::Magic, 26, DamageCalc);
+  CallsOf(Action::Spell, 26);
   EXPECT_EQ(state_.MagicDamage[0], 100);
 }
 

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "src/battle/rules/formation.h"
-#include "src/core/growth.h"
-
 namespace orvane {
 namespace {
 
@@ -19,13 +16,13 @@ TEST(Formulas, AFightSpreadsByTheLevel) {
 
 TEST(Formulas, MasteryIsNotQuiteThreeTenths) {
   EXPECT_EQ(FactorOf(19, 20), 1.0);
-  EXPECT_EQ(FactorOf(20, 20), MasteryFactor);
-  EXPECT_EQ(static_cast<double>(1.3f), MasteryFactor);
+  EXPECT_EQ(FactorOf(20, 20), kMasteryFactor);
+  EXPECT_EQ(static_cast<double>(1.3f), kMasteryFactor);
 }
 
 TEST(Formulas, ASpellIsItsCostAndHalfTheSpirit) {
   EXPECT_EQ(int{SpellDamage(1, 10, 5, 1, 1.0, 0.5)}, 100);
-  EXPECT_EQ(int{SpellDamage(1, 10, 5, 1, MasteryFactor, 0.5)}, 129) << "and not 130";
+  EXPECT_EQ(int{SpellDamage(1, 10, 5, 1, kMasteryFactor, 0.5)}, 129) << "and not 130";
   EXPECT_EQ(int{SpellDamage(10, 250, 1, 10, 1.0, kNearOne)}, static_cast<int>((250 + .5 + 1) * 35));
 }
 
@@ -42,7 +39,7 @@ TEST(Formulas, TheLastTechniqueLacksTheLastTerm) {
 
 TEST(Formulas, ATechniqueFloorsTheWholeBelowZeroToo) {
   // 2.5 x 4 x 1.3 - 2 x 20 = -27.0000005 goes down to -28
-  EXPECT_EQ(int{TechniqueDamage(1, 5, 0, 0, 20, MasteryFactor, 0)}, -28);
+  EXPECT_EQ(int{TechniqueDamage(1, 5, 0, 0, 20, kMasteryFactor, 0)}, -28);
 }
 
 TEST(Formulas, EightTimesTheAttackOverflows) {
@@ -57,26 +54,8 @@ TEST(Formulas, OnlyAnEnemyAttackIsBoundedBelow) {
 TEST(Formulas, HealingDividesTheHeroesDifferently) {
   EXPECT_EQ(int{HealingOf(3, 120, 8, 12, 1.0)}, 15 + 36);
   EXPECT_EQ(int{HealingOf(3, 80, 9, 12, 1.0)}, 8 + 36);
-  EXPECT_EQ(int{HealingOf(8, 100, 8, 10, MasteryFactor)}, static_cast<int>(92 * MasteryFactor));
+  EXPECT_EQ(int{HealingOf(8, 100, 8, 10, kMasteryFactor)}, static_cast<int>(92 * kMasteryFactor));
   EXPECT_THROW(HealingOf(10, 100, 8, 3277, 1.0), RunError);
-}
-
-TEST(Formation, SlotsZigZag) {
-  const int x[] = {30, 60, 120, 150};
-  const int y[] = {90, 180, 90, 180};
-  for (int slot = 1; slot <= 4; ++slot) {
-    EXPECT_EQ(SlotX(slot), x[slot - 1]);
-    EXPECT_EQ(SlotY(slot), y[slot - 1]);
-  }
-  EXPECT_EQ(SlotX(0), 0);
-  EXPECT_EQ(SlotY(0), 180);
-}
-
-TEST(Growth, NeedsTheSquareOfTheLevel) {
-  EXPECT_EQ(ExperienceToLeave(0, 1), 150);
-  EXPECT_EQ(ExperienceToLeave(1, 1), 155);
-  EXPECT_EQ(ExperienceToLeave(0, 9), 12150);
-  EXPECT_EQ(ExperienceToLeave(1, 9), 12555);
 }
 
 }  // namespace

@@ -90,16 +90,16 @@ struct Plant {
 TEST(ItemTable, FindsEachPlantedFault) {
   const std::vector<Item> good = GameItems();
   const Plant plants[] = {
-      {"a kind out of its range", 0, {"別の剣", Kind::HerWeapon, good[0].value}},
-      {"a weapon weaker than the one before", 5, {"弱い剣", Kind::HisWeapon, 1}},
-      {"a strength out of range", 11, {"強すぎる剣", Kind::HisWeapon, 1000}},
-      {"a book of another skill", 38, {"別の書", Kind::Book, 9}},
-      {"a draught of another strength", 47, {"別の雫", Kind::Recovery, 501}},
-      {"a name too long", 2, {"一二三四五六七八九十百", Kind::HisWeapon, good[2].value}},
-      {"a name with narrow characters", 2, {"剣 x", Kind::HisWeapon, good[2].value}},
-      {"the name of an empty slot", 2, {"なし", Kind::HisWeapon, good[2].value}},
-      {"no name", 2, {"", Kind::HisWeapon, good[2].value}},
-      {"a beginning like another's", 49, {good[0].name, Kind::Other, 0}},
+      {"a kind out of its range", 0, {"別の剣", ItemKind::HerWeapon, good[0].value}},
+      {"a weapon weaker than the one before", 5, {"弱い剣", ItemKind::HisWeapon, 1}},
+      {"a strength out of range", 11, {"強すぎる剣", ItemKind::HisWeapon, 1000}},
+      {"a book of another skill", 38, {"別の書", ItemKind::Book, 9}},
+      {"a draught of another strength", 47, {"別の雫", ItemKind::Recovery, 501}},
+      {"a name too long", 2, {"一二三四五六七八九十百", ItemKind::HisWeapon, good[2].value}},
+      {"a name with narrow characters", 2, {"剣 x", ItemKind::HisWeapon, good[2].value}},
+      {"the name of an empty slot", 2, {"なし", ItemKind::HisWeapon, good[2].value}},
+      {"no name", 2, {"", ItemKind::HisWeapon, good[2].value}},
+      {"a beginning like another's", 49, {good[0].name, ItemKind::Other, 0}},
   };
   for (const Plant& plant : plants) {
     std::vector<Item> items = good;

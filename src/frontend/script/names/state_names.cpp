@@ -75,13 +75,9 @@ std::optional<Accessor> FindVariable(State& state, const std::string& name,
   VisitRunning(state, variables);
   if (std::optional<Accessor> found = variables.Found()) return found;
   Finder tables(name, indexes);
-  // The tables are shown as constant; the finder takes them as they are, and what writes is
-  // dropped.
-  VisitTables(state, [&tables](const char* field_name, const auto& field) {
-    tables(field_name, const_cast<std::remove_cvref_t<decltype(field)>&>(field));  // NOLINT
-  });
+  VisitTables(state, tables);
   std::optional<Accessor> found = tables.Found();
-  if (found) found->Write = nullptr;
+  if (found) found->Write = nullptr;  // nobody writes to the tables but what fills them
   return found;
 }
 

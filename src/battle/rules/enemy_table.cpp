@@ -1,36 +1,9 @@
-#include "src/battle/rules/battle_tables.h"
+#include "src/battle/rules/enemy_table.h"
 
 #include "src/core/battle_state.h"
 
 namespace orvane {
 namespace {
-
-struct Skill {
-  const char* Name;
-  int Master;
-  int MP;
-};
-
-constexpr Skill kWaza[] = {
-    {"炎舞剣", 20, 4},
-    {"氷岩断絶剣", 30, 8},
-    {"パワーブレイク", 50, 16},
-    {"大地の剣", 100, 24},
-    {"召雷斬", 150, 32},
-    {"一刀両断", 180, 42},
-    {"ダークスラッシュ", 200, 50},
-    {"円陣斬", 250, 60},
-    {"必殺撃", 300, 80},
-    {"奥義･真魔神斬", 500, 160},
-};
-
-// The eighth spell is cheaper than the two before it, on purpose.
-constexpr Skill kMagic[] = {
-    {"ファイヤーブレズ", 20, 10},    {"絶対零度", 30, 16},  {"リフレッシュ", 50, 30},
-    {"アースクエイク", 100, 48},     {"爆雷降臨", 150, 56}, {"サンプレゼンター", 180, 70},
-    {"ダークプレッシャー", 200, 80}, {"風の癒し", 250, 60}, {"アトミックボム", 300, 120},
-    {"ジオ･スプリート", 500, 250},
-};
 
 struct Enemy {
   const char* Name;
@@ -56,26 +29,6 @@ constexpr Enemy kEnemies[] = {
 };
 
 }  // namespace
-
-void FillWazaTable(BattleTables& tables) {
-  int row = 0;
-  for (const Skill& skill : kWaza) {
-    tables.WazaName[row] = skill.Name;
-    tables.WazaMaster[row] = skill.Master;
-    tables.WazaMP[row] = skill.MP;
-    ++row;
-  }
-}
-
-void FillMagicTable(BattleTables& tables) {
-  int row = 0;
-  for (const Skill& skill : kMagic) {
-    tables.MagicName[row] = skill.Name;
-    tables.MagicMaster[row] = skill.Master;
-    tables.MagicMP[row] = skill.MP;
-    ++row;
-  }
-}
 
 void FillEnemyTable(BattleTables& tables) {
   int row = 0;

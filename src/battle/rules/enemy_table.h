@@ -1,12 +1,10 @@
-// The constant tables of a battle.
+// The enemies: what they are called, their strength, and what they are worth.
 #pragma once
 
 namespace orvane {
 
 struct BattleTables;
 
-void FillWazaTable(BattleTables& tables);
-void FillMagicTable(BattleTables& tables);
 void FillEnemyTable(BattleTables& tables);
 
 }  // namespace orvane

@@ -12,8 +12,8 @@ struct Skill {
   const char* Name = "";
   int Mastery = 0;  // proficiency from which it counts as mastered
   int Cost = 0;     // in MP; a spell's power as well
-  Targets At =
-      Targets::One;  // whom it is for: what the player is asked for, and which enemies light up
+  // Whom it is for: what the player is asked for, and which enemies light up.
+  Targets At = Targets::One;
   void (*Play)(BattleScreen& battle, int frame) = nullptr;  // draws one frame, 6 to 24
   // Whom it strikes. A healing spell that was refused stays chosen in the list of spells, and a
   // list of targets left open can still send it off as an attack.

@@ -1,8 +1,17 @@
 #include "src/core/music.h"
 
 #include "src/core/game.h"
+#include "src/platform/music_places.h"
 
 namespace orvane {
+
+const char* FieldMusicOf(const State& state) {
+  return FieldMusic(state.Round, state.LastBossFight == True);
+}
+
+const char* FightMusicOf(const State& state) {
+  return FightMusic(state.BossFight == True, state.LastBossFight == True);
+}
 
 void KeepMusic(Game& game, const std::string& alias) {
   game.sound.Open(alias);

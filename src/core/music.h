@@ -1,4 +1,4 @@
-// Keeping a piece of music going.
+// The music of where the party is, and keeping a piece going.
 #pragma once
 
 #include <string>
@@ -6,6 +6,13 @@
 namespace orvane {
 
 struct Game;
+struct State;
+
+// The channel of the field's piece, or null where none plays.
+const char* FieldMusicOf(const State& state);
+
+// The channel of the piece for the fight that the state is in or about to enter.
+const char* FightMusicOf(const State& state);
 
 // Opens the channel - which fails harmlessly when it is open - and starts its piece if it stands
 // still.

@@ -1,14 +1,11 @@
 #include "src/core/quit.h"
 
-#include <string>
+#include <span>
 
 #include "src/core/game.h"
 
 namespace orvane {
 namespace {
-
-constexpr int kMusicChannels = 8;
-constexpr int kEffectChannels = 10;
 
 // Asks, and ends the program on OK; on Cancel the walk's timer becomes what the caller says.
 void Ask(Game& game, bool walks_on) {
@@ -16,7 +13,7 @@ void Ask(Game& game, bool walks_on) {
   game.stage.Ask({"終了しますか？", "ゲームの終了", BoxButtons::OkCancel},
                  [&game, walks_on](BoxAnswer answer) {
                    if (answer != BoxAnswer::Ok) return game.Main.WalkTimer.SetEnabled(walks_on);
-                   CloseAllSound(game, kMusicChannels);
+                   CloseAllSound(game, static_cast<int>(kMusicChannels.size()));
                    game.stage.EndProgram(0);
                  });
 }
@@ -32,8 +29,10 @@ void AskToCloseMain(Game& game) {
 }
 
 void CloseAllSound(Game& game, int last_music) {
-  for (int i = 1; i <= last_music; ++i) game.sound.Close("bgm" + std::to_string(i));
-  for (int i = 1; i <= kEffectChannels; ++i) game.sound.Close("snd" + std::to_string(i));
+  for (const char* music : std::span(kMusicChannels).first(static_cast<size_t>(last_music))) {
+    game.sound.Close(music);
+  }
+  for (const char* effect : kEffectChannels) game.sound.Close(effect);
 }
 
 }  // namespace orvane

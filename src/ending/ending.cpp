@@ -86,7 +86,7 @@ void EndingScreen::OnActivate(bool) {
 
 void EndingScreen::Tick() {
   CreditStep = 1;
-  KeepMusic(game_, "bgm7");
+  KeepMusic(game_, kEndingMusic);
   for (Int16& y : CreditY) y -= CreditStep;
   BitBlt(scene_, 0, 0, kWidth, kHeight, StillPicture.Picture, 0, 0, RasterOp::SRCCOPY);
   DrawStrips();

@@ -1,8 +1,9 @@
 #include "src/field/encounter.h"
 
-#include <string>
+#include <string_view>
 
 #include "src/core/game.h"
+#include "src/core/music.h"
 #include "src/field/map_travel.h"
 
 namespace orvane {
@@ -11,31 +12,14 @@ namespace {
 constexpr int kRollSize = 150;
 constexpr int kEncounter = 100;
 
-void CloseFieldMusic(Game& game) {
-  switch (game.state.Round) {
-    case 1:
-      return game.sound.Close("bgm1");
-    case 2:
-      return game.sound.Close("bgm2");
-    case 3:
-      return game.sound.Close("bgm3");
-    default:
-      if (game.state.LastBossFight == True) game.sound.Close("bgm8");
-  }
-}
-
-// Closes the field's music, opens the music of the fight and the effects.
+// Closes the field's music, opens the music of the fight and the effects; that of a thing got is of
+// the field.
 void LoadBattleSounds(Game& game) {
-  CloseFieldMusic(game);
-  const State& state = game.state;
-  if (state.BossFight == False && state.LastBossFight == False) {
-    game.sound.Open("bgm4");
-  } else if (state.BossFight == True) {
-    game.sound.Open("bgm5");
-  } else if (state.LastBossFight == True) {
-    game.sound.Open("bgm6");
+  if (const char* music = FieldMusicOf(game.state)) game.sound.Close(music);
+  game.sound.Open(FightMusicOf(game.state));
+  for (const char* effect : kEffectChannels) {
+    if (std::string_view(effect) != kItemGotSound) game.sound.Open(effect);
   }
-  for (int channel = 2; channel <= 10; ++channel) game.sound.Open("snd" + std::to_string(channel));
 }
 
 // Leaves the field for the battle screen.

@@ -11,19 +11,6 @@ namespace {
 
 constexpr int kTilesPerSheetRow = 30;
 
-void KeepFieldMusic(Game& game) {
-  switch (game.state.Round) {
-    case 1:
-      return KeepMusic(game, "bgm1");
-    case 2:
-      return KeepMusic(game, "bgm2");
-    case 3:
-      return KeepMusic(game, "bgm3");
-    default:
-      if (game.state.LastBossFight == True) KeepMusic(game, "bgm8");
-  }
-}
-
 // A party that no direction drives stands; then the frame is shown.
 void FinishFrame(Game& game) {
   if (!DrivingDirection(game.state)) DrawHero(game, 0);
@@ -36,7 +23,7 @@ void FieldTick(Game& game) {
   State& state = game.state;
   if (state.GameStarted != True) return;
   state.FieldFrame += 1;
-  KeepFieldMusic(game);
+  if (const char* music = FieldMusicOf(state)) KeepMusic(game, music);
   DrawMap(game);
   WalkOneStep(game, state.FieldFrame, [&game] { FinishFrame(game); });
 }

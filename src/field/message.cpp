@@ -13,8 +13,8 @@ void StartMessage(Game& game) {
 void MessageTick(Game& game) {
   State& state = game.state;
   state.MessageFrame += 1;
-  game.sound.Open("snd1");
-  if (state.MessageFrame == 1) game.sound.Play("snd1");
+  game.sound.Open(kItemGotSound);
+  if (state.MessageFrame == 1) game.sound.Play(kItemGotSound);
   game.Main.MessageWindow.Visible = true;
   game.Main.GoOnMark.Visible = state.MessageFrame % 10 >= 5;
 }

@@ -1,13 +1,42 @@
-// Sound goes through text commands on named channels: "bgm1" to "bgm8" for music, "snd1" to "snd10"
-// for effects. Failures are never reported: without sound the game goes on silently.
+// Sound goes through text commands on named channels. Failures are never reported: without sound
+// the game goes on silently.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "src/platform/services.h"
 
 namespace orvane {
+
+// The channels of the music, by the places where it is heard.
+constexpr const char* kFirstRoundMusic = "bgm1";
+constexpr const char* kSecondRoundMusic = "bgm2";
+constexpr const char* kThirdRoundMusic = "bgm3";
+constexpr const char* kFightMusic = "bgm4";
+constexpr const char* kDragonMusic = "bgm5";
+constexpr const char* kLastDragonMusic = "bgm6";
+constexpr const char* kEndingMusic = "bgm7";
+constexpr const char* kLastStageMusic = "bgm8";
+constexpr std::array<const char*, 8> kMusicChannels = {
+    kFirstRoundMusic, kSecondRoundMusic, kThirdRoundMusic, kFightMusic,
+    kDragonMusic,     kLastDragonMusic,  kEndingMusic,     kLastStageMusic};
+
+// The channels of the effects.
+constexpr const char* kItemGotSound = "snd1";
+constexpr const char* kCutSound = "snd2";
+constexpr const char* kFireSound = "snd3";
+constexpr const char* kAtomicSound = "snd4";
+constexpr const char* kHealingSound = "snd5";
+constexpr const char* kQuakeSound = "snd6";
+constexpr const char* kVictorySound = "snd7";
+constexpr const char* kThunderSound = "snd8";
+constexpr const char* kBlastSound = "snd9";
+constexpr const char* kIceSound = "snd10";
+constexpr std::array<const char*, 10> kEffectChannels = {
+    kItemGotSound, kCutSound,     kFireSound,    kAtomicSound, kHealingSound,
+    kQuakeSound,   kVictorySound, kThunderSound, kBlastSound,  kIceSound};
 
 // The commands, for a game folder whose path has no separator at its end.
 std::string OpenCommand(const std::string& folder, const std::string& file,

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string_view>
 
+#include "src/platform/music_places.h"
 #include "src/platform/sound_channels.h"
 #include "src/sound/job_thread.h"
 #include "src/sound/mixer.h"
@@ -17,27 +18,23 @@
 namespace orvane {
 namespace {
 
-constexpr std::array<std::string_view, Mixer::kChannels> kAliases = {
-    "bgm1", "bgm2", "bgm3", "bgm4", "bgm5", "bgm6", "bgm7", "bgm8", "snd1",
-    "snd2", "snd3", "snd4", "snd5", "snd6", "snd7", "snd8", "snd9", "snd10"};
+static_assert(kMusicChannels.size() + kEffectChannels.size() == Mixer::kChannels);
 
 // The sound font is read when the program has settled, unless music is wanted before.
 constexpr std::chrono::milliseconds kSettled(2000);
 // A larger file is no sound of a game.
 constexpr std::streamoff kMostBytes = 16 << 20;
 
-// What is heard in the field, and what a battle that comes upon it begins with.
-struct Follower {
-  std::string_view Field;
-  std::string_view Battle;
-};
-constexpr std::array<Follower, 4> kFollowers = {
-    {{"bgm1", "bgm4"}, {"bgm2", "bgm4"}, {"bgm3", "bgm4"}, {"bgm8", "bgm6"}}};
+// The mixer's channels carry the music first, then the effects.
+std::string_view AliasOf(size_t channel) {
+  const size_t effect = channel - kMusicChannels.size();
+  return channel < kMusicChannels.size() ? kMusicChannels.at(channel) : kEffectChannels.at(effect);
+}
 
 // The number of a channel; -1 for an unknown name.
 int ChannelOf(std::string_view alias) {
-  for (size_t i = 0; i < kAliases.size(); ++i) {
-    if (kAliases[i] == alias) return static_cast<int>(i);
+  for (size_t channel = 0; channel < Mixer::kChannels; ++channel) {
+    if (AliasOf(channel) == alias) return static_cast<int>(channel);
   }
   return -1;
 }
@@ -55,15 +52,12 @@ std::vector<std::uint8_t> ReadFile(const std::string& path) {
   return {bytes.begin(), bytes.end()};
 }
 
-// The file of the piece that follows on the one in `path`; empty if none does.
+// The file of the piece that most likely follows on that of the channel, which is in `path`; empty
+// if none does.
 std::string FollowerOf(size_t channel, const std::string& path) {
-  for (const Follower& each : kFollowers) {
-    if (each.Field != kAliases.at(channel)) continue;
-    return std::filesystem::path(path)
-        .replace_filename(SoundFile(std::string(each.Battle)))
-        .string();
-  }
-  return "";
+  const char* next = FightMusicAfter(AliasOf(channel));
+  if (next == nullptr) return "";
+  return std::filesystem::path(path).replace_filename(SoundFile(next)).string();
 }
 
 }  // namespace

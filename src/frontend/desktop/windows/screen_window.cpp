@@ -21,10 +21,14 @@
 namespace orvane {
 namespace {
 
+// By how much a size may differ from what was asked for without being another one: window managers
+// round it, and the toolkit counts in units of its own.
+constexpr int kRounding = 4;
+
 // What a window shows its screen on: black where the screen leaves it bare.
 class Backing : public QWidget {
  public:
-  explicit Backing(QWidget* client) {
+  explicit Backing(QWidget* client) : client_(client) {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(client, 0, 0, Qt::AlignCenter);
@@ -32,8 +36,14 @@ class Backing : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    QPainter(this).fillRect(event->rect(), Qt::black);
+    const QSize bare = size() - client_->size();
+    const bool is_rounded = bare.width() <= kRounding && bare.height() <= kRounding;
+    QPainter(this).fillRect(event->rect(),
+                            is_rounded ? palette().color(QPalette::Window) : Qt::black);
   }
+
+ private:
+  QWidget* client_;
 };
 
 QPointF CentreOf(const QWidget& window) {
@@ -162,8 +172,6 @@ void ScreenWindow::resizeEvent(QResizeEvent* event) {
 
 void ScreenWindow::MeasureGiven() {
   if (!isVisible() || covers_ || isMinimized() || isMaximized() || isFullScreen()) return;
-  // A window manager may round a size, and the toolkit counts in units of its own.
-  constexpr int rounding = 4;
   const double ratio = devicePixelRatio();
   const auto near = [](double one, double other, double slack) {
     return std::abs(one - other) <= slack;
@@ -171,8 +179,8 @@ void ScreenWindow::MeasureGiven() {
   const QSize own = sizeHint();
   const Extent size = {width() * ratio, height() * ratio};
   const bool is_own =
-      near(width(), own.width(), rounding) && near(height(), own.height(), rounding);
-  const double slack = rounding * ratio;
+      near(width(), own.width(), kRounding) && near(height(), own.height(), kRounding);
+  const double slack = kRounding * ratio;
   const bool is_known =
       given_ && near(size.Width, given_->Width, slack) && near(size.Height, given_->Height, slack);
   // What it has been given may also be what it would ask for.

@@ -1,6 +1,6 @@
 #include "src/frontend/desktop/windows/windows.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QWindow>
 #include <algorithm>
 
@@ -73,9 +73,10 @@ Setting Windows::TheSetting() const {
 }
 
 // Whatever the windows do on the full screen, the desktop does not flash up behind them. A window
-// manager that places all windows itself may have no more than one on the full screen.
+// manager that places all windows itself may have no more than one on the full screen, and
+// Wayland's compositors may keep the one that came first in front.
 void Windows::FollowBackdrop() {
-  const bool is_wanted = full_screen_ && !IsGiven();
+  const bool is_wanted = full_screen_ && !IsGiven() && QGuiApplication::platformName() == "xcb";
   if (is_wanted == (backdrop_ != nullptr)) return;
   if (!is_wanted) return backdrop_.reset();
   backdrop_ = std::make_unique<QWidget>();

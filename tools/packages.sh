@@ -2,7 +2,7 @@
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-qpa-plugins libxcb1-dev libsdl2-dev
   libfluidsynth-dev libpng-dev libgl-dev)
-play_packages=(fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
+play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
   binutils xvfb openbox xdotool x11-utils fontconfig imagemagick clang-format-14
   dpkg-dev file desktop-file-utils appstream)

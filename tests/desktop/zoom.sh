@@ -49,7 +49,7 @@ has_title() {
   is_crisp title Orvane 10 2 470 80
 }
 
-# Every scale that the keys can come to, and back to the best whole one.
+# Every scale that the keys can come to, and back to the best one.
 grow_and_shrink() {
   keys ctrl+minus
   grows_to 150
@@ -65,8 +65,8 @@ grow_and_shrink() {
   keys ctrl+minus
   grows_to 300
   keys ctrl+0
-  grows_to 200
-  keys ctrl+minus ctrl+minus
+  grows_to 250
+  keys ctrl+minus ctrl+minus ctrl+minus
   grows_to 100
 }
 
@@ -166,7 +166,7 @@ see_edges() {
   xdotool key alt+F4
   closes 環境設定
   wait_for 5 "the focus of the field" has_focus Orvane
-  keys ctrl+0
+  keys ctrl+minus
   grows_to 200
 }
 
@@ -219,18 +219,21 @@ fight_in_all_sizes() {
   grows_to 200 "BATTLE !"
 }
 
+# start_at BEST PERCENT: with the best scale, and from there to another one by the keys.
 start_at() {
   start_game --seed 5 --folder "$folder"
   wait_for 20 "the title" has_window Orvane
   wait_for 10 "the focus" has_focus Orvane
   grows_to "$1"
+  [ "$2" = "$1" ] || keys ctrl+minus
+  grows_to "$2"
 }
 
 screen_width=1920 screen_height=1200
 open_display "${screen_width}x$screen_height"
 make_folder
 before=$(contents "$folder")
-start_at 200
+start_at 250 200
 fill_screen
 grow_and_shrink
 load_save 0
@@ -244,14 +247,14 @@ look_around
 see_edges
 play_on_full_screen
 stop_game
-start_at 200
+start_at 250 200
 fight_in_all_sizes
 stop_game
 close_display
 
 # One and a half times as large, by which the windows' scale stays what it is.
 open_display "${screen_width}x$screen_height" 144
-start_at 200
+start_at 250 200
 load_save 0
 see_field 200
 keys ctrl+minus
@@ -262,7 +265,7 @@ close_display
 # Twice as large, on a larger screen.
 screen_width=2560 screen_height=1440
 open_display "${screen_width}x$screen_height" 192
-start_at 300
+start_at 300 300
 load_save 0
 look_around
 stop_game

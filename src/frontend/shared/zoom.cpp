@@ -8,20 +8,15 @@ namespace {
 
 constexpr double kHalfStep = 0.5;
 
-Span FirstOf(const std::vector<Extent>& windows) {
-  if (windows.empty()) return {};
-  return {{windows.front().Width, windows.front().Height + kMenuHeight}, kTitleHeight};
-}
-
 }  // namespace
 
 Zoom::Zoom(const ScreenFacts& screen, std::optional<double> start,
            const std::vector<Extent>& windows)
     : screen_(screen),
-      best_(ChooseScale(screen.Available, windows)),
+      best_(ChooseStartScale(screen.Available, windows)),
       windowed_(start.value_or(best_)),
       least_(windowed_),
-      largest_(FittingScale(screen.Available, {FirstOf(windows)})) {}
+      largest_(FittingScale(screen.Available, {FirstSpan(windows)})) {}
 
 void Zoom::Enlarge() {
   const double next = std::floor(windowed_ / kHalfStep + 1) * kHalfStep;
@@ -36,6 +31,9 @@ void Zoom::Reduce() {
 double Zoom::ScaleFor(const std::vector<Span>& windows) const {
   if (full_screen_) return FittingScale(screen_.Whole, windows);
   const double fitting = FittingScale(screen_.Available, windows);
+  const bool is_given = std::any_of(windows.begin(), windows.end(),
+                                    [](const Span& window) { return window.Given.has_value(); });
+  if (is_given) return fitting;
   return std::min(windowed_, std::max(least_, fitting));
 }
 

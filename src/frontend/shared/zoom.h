@@ -19,7 +19,7 @@ struct ScreenFacts {
 
 class Zoom {
  public:
-  // Windows start with the scale `start`, or where there is none with the best whole one. The
+  // Windows start with the scale `start`, or where there is none with the best one. The
   // insides of all windows are given, the one with the menu bar first.
   Zoom(const ScreenFacts& screen, std::optional<double> start, const std::vector<Extent>& windows);
 
@@ -27,14 +27,15 @@ class Zoom {
   // than it was drawn.
   void Enlarge();
   void Reduce();
-  // Back to the best whole scale.
+  // Back to the best scale for the screen.
   void Reset() { windowed_ = best_; }
 
   bool IsFullScreen() const { return full_screen_; }
   void SetFullScreen(bool full_screen) { full_screen_ = full_screen; }
 
   // The scale with which these windows are shown: on the full screen the largest with which all
-  // fit, otherwise what the player has chosen, or less where a window would not fit by that choice.
+  // fit, and so where one of them has been given its size; otherwise what the player has chosen, or
+  // less where a window would not fit by that choice.
   double ScaleFor(const std::vector<Span>& windows) const;
 
   const ScreenFacts& TheScreen() const { return screen_; }

@@ -33,6 +33,25 @@ TEST(ChooseScale, stays_within_its_range) {
   EXPECT_EQ(ChooseScale({1920, 1080}, {}), 1);
 }
 
+TEST(ChooseStartScale, is_the_best_whole_one_where_that_is_large_enough) {
+  for (const Extent& screen : {Extent{1280, 1024}, {1680, 1050}, {1920, 1080}, {2560, 1440}}) {
+    EXPECT_EQ(ChooseStartScale(screen, kWindows), ChooseScale(screen, kWindows)) << screen.Width;
+  }
+}
+
+TEST(ChooseStartScale, is_a_half_step_above_on_screens_that_leave_much_bare) {
+  EXPECT_EQ(ChooseStartScale({1366, 768}, kWindows), 1.5);
+  EXPECT_EQ(ChooseStartScale({1366, 728}, kWindows), 1.5) << "less a panel";
+  EXPECT_EQ(ChooseStartScale({1600, 900}, kWindows), 1.5);
+  EXPECT_EQ(ChooseStartScale({1920, 1200}, kWindows), 2.5);
+}
+
+TEST(ChooseStartScale, is_never_more_than_fits) {
+  EXPECT_EQ(ChooseStartScale({1366, 690}, kWindows), 1) << "a dialog of 444 lines";
+  EXPECT_EQ(ChooseStartScale({320, 200}, kWindows), 1);
+  EXPECT_EQ(ChooseStartScale({1366, 768}, {}), 1);
+}
+
 TEST(FittingScale, is_that_of_the_window_that_fits_least) {
   EXPECT_DOUBLE_EQ(FittingScale({1000, 1000}, {{{500, 100}, 0}, {{100, 400}, 0}}), 2);
   EXPECT_DOUBLE_EQ(FittingScale({1000, 1000}, {{{500, 500}, 0}, {{100, 400}, 0}}), 2);
@@ -47,8 +66,9 @@ TEST(FittingScale, never_shrinks_a_window) {
   EXPECT_DOUBLE_EQ(FittingScale({100, 100}, {Dialog(200, 200)}), 1);
 }
 
-TEST(Zoom, starts_with_the_best_whole_scale_or_the_one_given) {
+TEST(Zoom, starts_with_the_best_scale_or_the_one_given) {
   EXPECT_DOUBLE_EQ(Zoom(Screen(1920, 1080), {}, kWindows).ScaleFor({}), 2);
+  EXPECT_DOUBLE_EQ(Zoom(Screen(1366, 768), {}, kWindows).ScaleFor({}), 1.5);
   EXPECT_DOUBLE_EQ(Zoom(Screen(1920, 1080), 1.25, kWindows).ScaleFor({}), 1.25);
 }
 
@@ -82,6 +102,15 @@ TEST(Zoom, gives_way_to_a_window_that_is_too_high_for_it) {
 
 TEST(Zoom, does_not_fall_below_what_the_player_asked_for_at_the_start) {
   EXPECT_DOUBLE_EQ(Zoom(Screen(640, 480), 2, kWindows).ScaleFor({Dialog(403, 444)}), 2);
+}
+
+TEST(Zoom, fills_what_a_window_has_been_given_and_no_more_than_lets_the_others_fit) {
+  const Zoom zoom(Screen(1366, 768), {}, kWindows);
+  const Span tile = {{496, 321}, kTitleHeight, Extent{1362, 744}};
+  EXPECT_DOUBLE_EQ(zoom.ScaleFor({tile}), 744.0 / 321);
+  EXPECT_DOUBLE_EQ(zoom.ScaleFor({{tile.Inside, kTitleHeight, Extent{680, 744}}}), 680.0 / 496);
+  EXPECT_DOUBLE_EQ(zoom.ScaleFor({{tile.Inside, kTitleHeight, Extent{300, 744}}}), 1);
+  EXPECT_DOUBLE_EQ(zoom.ScaleFor({tile, Dialog(403, 444)}), (768.0 - kTitleHeight) / 444);
 }
 
 TEST(Zoom, fills_the_full_screen_whatever_the_scale_of_windows) {

@@ -68,6 +68,11 @@ void Desktop::Painted(const Screen& screen) {
   if (painted_) painted_(screen);
 }
 
+void Desktop::Resized(const Screen& screen) {
+  windows_.ShareGiven(screen);
+  if (!windows_.Suit(zoom_)) RescaleLater();
+}
+
 void Desktop::Try(const std::function<void(Program&)>& event) {
   // The game handles the errors that bad data can lead to. What else may come, such as want of
   // memory, must not fly through the toolkit's loop, which cannot stand it.
@@ -193,6 +198,7 @@ bool Desktop::TakeZoomKey(const QKeyEvent& event) {
     default:
       return false;
   }
+  windows_.ForgetGiven();
   RescaleLater();
   return true;
 }

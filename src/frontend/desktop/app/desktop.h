@@ -33,6 +33,7 @@ class Desktop : public QObject, public Events {
 
   void Send(const std::function<void(Program&)>& event) override;
   void Painted(const Screen& screen) override;
+  void Resized(const Screen& screen) override;
 
  protected:
   // Watches the windows for what the window manager does to them, and the keys that change their

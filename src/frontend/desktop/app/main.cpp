@@ -34,9 +34,21 @@ void Complain(const std::string& sentence) {
   std::fprintf(stderr, "orvane: %s\n", sentence.c_str());
 }
 
+bool IsSet(const char* name) {
+  return !qEnvironmentVariableIsEmpty(name);
+}
+
 bool HasDisplay() {
-  const auto is_set = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
-  return is_set("DISPLAY") || is_set("WAYLAND_DISPLAY") || is_set("QT_QPA_PLATFORM");
+  return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM");
+}
+
+// Why no window can be shown though a display is named.
+std::string DisplayProblem() {
+  if (!IsSet("DISPLAY") && IsSet("WAYLAND_DISPLAY")) {
+    return "the Wayland desktop cannot be reached; on Debian the package qt6-wayland is needed for "
+           "it.";
+  }
+  return "the display cannot be reached; start the game in a desktop session.";
 }
 
 // The toolkit aborts when it cannot reach the display; that must not look like a crash.
@@ -45,7 +57,10 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
   if (type == QtDebugMsg || type == QtInfoMsg) return;
   // The black backdrop of the full screen stays while the scale changes, and has nothing to scale.
   if (message.startsWith("QHighDpiScaling::setFactor")) return;
-  Complain(message.section('\n', 0, 0).toStdString());
+  // What it says of its own plugins is told in plainer words when nothing has helped.
+  if (message.contains("platform plugin") && type != QtFatalMsg) return;
+  const bool has_no_display = message.contains("platform plugin");
+  Complain(has_no_display ? DisplayProblem() : message.section('\n', 0, 0).toStdString());
   if (type == QtFatalMsg) std::_Exit(NoDisplay);
 }
 
@@ -115,7 +130,9 @@ int main(int argument_count, char** arguments) {
       return EXIT_SUCCESS;
     }
     if (!HasDisplay()) {
-      Complain("there is no display; start the game in a desktop session (DISPLAY is not set).");
+      Complain(
+          "there is no display; start the game in a desktop session (neither DISPLAY nor "
+          "WAYLAND_DISPLAY is set).");
       return NoDisplay;
     }
     qInstallMessageHandler(OnToolkitMessage);

@@ -16,6 +16,8 @@ class Events {
   virtual void Send(const std::function<void(Program&)>& event) = 0;
   // What has changed of a screen has just been painted and given to the display.
   virtual void Painted(const Screen& /*screen*/) {}
+  // The window manager has given a screen's window another size than it asked for.
+  virtual void Resized(const Screen& /*screen*/) {}
 };
 
 }  // namespace orvane

@@ -9,6 +9,7 @@
 #include <QWindow>
 #include <QtMath>
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 #include "src/frontend/desktop/input/keyboard.h"
@@ -20,10 +21,14 @@
 namespace orvane {
 namespace {
 
+// By how much a size may differ from what was asked for without being another one: window managers
+// round it, and the toolkit counts in units of its own.
+constexpr int kRounding = 4;
+
 // What a window shows its screen on: black where the screen leaves it bare.
 class Backing : public QWidget {
  public:
-  explicit Backing(QWidget* client) {
+  explicit Backing(QWidget* client) : client_(client) {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(client, 0, 0, Qt::AlignCenter);
@@ -31,8 +36,14 @@ class Backing : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    QPainter(this).fillRect(event->rect(), Qt::black);
+    const QSize bare = size() - client_->size();
+    const bool is_rounded = bare.width() <= kRounding && bare.height() <= kRounding;
+    QPainter(this).fillRect(event->rect(),
+                            is_rounded ? palette().color(QPalette::Window) : Qt::black);
   }
+
+ private:
+  QWidget* client_;
 };
 
 QPointF CentreOf(const QWidget& window) {
@@ -63,6 +74,10 @@ ScreenWindow::ScreenWindow(Screen& screen, Events& events)
   setCentralWidget(new Backing(client_));
   // A scene's window can be made larger than the scene, which then stands in the middle.
   layout()->setSizeConstraint(screen.IsScene ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
+  constexpr int settled_ms = 250;
+  resized_.setSingleShot(true);
+  resized_.setInterval(settled_ms);
+  QObject::connect(&resized_, &QTimer::timeout, this, [this] { MeasureGiven(); });
   MakeViews();
 }
 
@@ -105,11 +120,11 @@ void ScreenWindow::FollowAll() {
   for (const auto& view : views_) view->FollowAll();
 }
 
-void ScreenWindow::Present(ScreenWindow* over, QWindow* backdrop) {
+void ScreenWindow::Present(ScreenWindow* over, const Setting& setting) {
   // The screen may have been loaded afresh since it was seen last.
   FollowAll();
   owner_ = over;
-  Open(backdrop);
+  Open(setting);
   keys_to_->Begin();
 }
 
@@ -129,25 +144,49 @@ void ScreenWindow::TakeDown() {
   destroy();
 }
 
-void ScreenWindow::PutBack(QWindow* backdrop) {
-  Open(backdrop);
+void ScreenWindow::PutBack(const Setting& setting) {
+  Open(setting);
   if (focus_ != nullptr) focus_->setFocus();
 }
 
-void ScreenWindow::Open(QWindow* backdrop) {
+void ScreenWindow::Open(const Setting& setting) {
   setWindowModality(screen_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
-  covers_ = backdrop != nullptr && screen_.IsScene;
+  covers_ = setting.FullScreen && screen_.IsScene;
   const Qt::WindowState state = covers_ ? Qt::WindowFullScreen : Qt::WindowNoState;
   setWindowState(state);
   winId();  // makes the window, so that it can be tied to the one that it belongs to
   // A window that has been made anew does not know the state of its widget.
   windowHandle()->setWindowState(state);
-  Tie(backdrop);
+  Tie(setting.Backdrop);
   if (!covers_) {
     LayGround(*this);
     PutInPlace();
   }
   show();
+}
+
+void ScreenWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  if (screen_.IsScene) resized_.start();
+}
+
+void ScreenWindow::MeasureGiven() {
+  if (!isVisible() || covers_ || isMinimized() || isMaximized() || isFullScreen()) return;
+  const double ratio = devicePixelRatio();
+  const auto near = [](double one, double other, double slack) {
+    return std::abs(one - other) <= slack;
+  };
+  const QSize own = sizeHint();
+  const Extent size = {width() * ratio, height() * ratio};
+  const bool is_own =
+      near(width(), own.width(), kRounding) && near(height(), own.height(), kRounding);
+  const double slack = kRounding * ratio;
+  const bool is_known =
+      given_ && near(size.Width, given_->Width, slack) && near(size.Height, given_->Height, slack);
+  // What it has been given may also be what it would ask for.
+  if (is_own || is_known) return;
+  given_ = size;
+  events_.Resized(screen_);
 }
 
 void ScreenWindow::Tie(QWindow* backdrop) {
@@ -163,7 +202,8 @@ void ScreenWindow::Tie(QWindow* backdrop) {
 
 void ScreenWindow::PutInPlace() {
   const double ratio = devicePixelRatio();
-  const QSize size = sizeHint();
+  QSize size = sizeHint();
+  if (given_) size = size.expandedTo((QSizeF(given_->Width, given_->Height) / ratio).toSize());
   // The place is that of the window's inside, so room is left above it for the title bar.
   const QRect available =
       screen()->availableGeometry().adjusted(0, qCeil(kTitleHeight / ratio), 0, 0);
@@ -179,7 +219,9 @@ void ScreenWindow::PutInPlace() {
 Span ScreenWindow::TakenSpan(bool full_screen) const {
   const int menu = menu_ == nullptr ? 0 : menuWidget()->sizeHint().height();
   const bool covers = full_screen && screen_.IsScene;
-  return {{double(screen_.Width), double(screen_.Height + menu)}, covers ? 0 : kTitleHeight};
+  return {{double(screen_.Width), double(screen_.Height + menu)},
+          covers ? 0 : kTitleHeight,
+          full_screen ? std::nullopt : given_};
 }
 
 bool ScreenWindow::event(QEvent* event) {

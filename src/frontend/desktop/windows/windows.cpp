@@ -1,7 +1,8 @@
 #include "src/frontend/desktop/windows/windows.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QWindow>
+#include <algorithm>
 
 #include "src/frontend/desktop/windows/toolkit_scale.h"
 
@@ -37,27 +38,47 @@ void Windows::Follow() {
 }
 
 void Windows::Rescale(const Zoom& zoom) {
-  FollowBackdrop(zoom.IsFullScreen());
+  full_screen_ = zoom.IsFullScreen();
+  FollowBackdrop();
   std::vector<ScreenWindow*> down;
   for (const auto& window : windows_) {
     if (window->isVisible()) down.push_back(window.get());
     window->TakeDown();
   }
-  scale_ = zoom.ScaleFor(TakenSpans(zoom.IsFullScreen()));
+  scale_ = zoom.ScaleFor(TakenSpans(full_screen_));
   SetScale(scale_, zoom.TheScreen());
-  for (ScreenWindow* window : down) window->PutBack(Backdrop());
+  for (ScreenWindow* window : down) window->PutBack(TheSetting());
   active_ = nullptr;
   Follow();
 }
 
-QWindow* Windows::Backdrop() const {
-  return backdrop_ == nullptr ? nullptr : backdrop_->windowHandle();
+bool Windows::IsGiven() const {
+  return std::any_of(windows_.begin(), windows_.end(),
+                     [](const auto& window) { return window->Given().has_value(); });
 }
 
-// Whatever the windows do on the full screen, the desktop does not flash up behind them.
-void Windows::FollowBackdrop(bool full_screen) {
-  if (full_screen == (backdrop_ != nullptr)) return;
-  if (!full_screen) return backdrop_.reset();
+void Windows::ShareGiven(const Screen& screen) {
+  const auto given = Of(&screen)->Given();
+  for (const auto& window : windows_) {
+    if (window->Model().IsScene) window->SetGiven(given);
+  }
+}
+
+void Windows::ForgetGiven() {
+  for (const auto& window : windows_) window->SetGiven({});
+}
+
+Setting Windows::TheSetting() const {
+  return {full_screen_, backdrop_ == nullptr ? nullptr : backdrop_->windowHandle()};
+}
+
+// Whatever the windows do on the full screen, the desktop does not flash up behind them. A window
+// manager that places all windows itself may have no more than one on the full screen, and
+// Wayland's compositors may keep the one that came first in front.
+void Windows::FollowBackdrop() {
+  const bool is_wanted = full_screen_ && !IsGiven() && QGuiApplication::platformName() == "xcb";
+  if (is_wanted == (backdrop_ != nullptr)) return;
+  if (!is_wanted) return backdrop_.reset();
   backdrop_ = std::make_unique<QWidget>();
   backdrop_->setWindowTitle(QCoreApplication::applicationName());
   backdrop_->setPalette(QPalette(Qt::black));
@@ -66,7 +87,7 @@ void Windows::FollowBackdrop(bool full_screen) {
 }
 
 bool Windows::Suit(const Zoom& zoom) const {
-  return (backdrop_ != nullptr) == zoom.IsFullScreen() &&
+  return full_screen_ == zoom.IsFullScreen() &&
          scale_ == zoom.ScaleFor(TakenSpans(zoom.IsFullScreen()));
 }
 
@@ -81,7 +102,7 @@ std::vector<Span> Windows::TakenSpans(bool full_screen) const {
 void Windows::ShowNew() {
   for (const auto& window : windows_) {
     if (!window->Model().IsVisible() || window->isVisible()) continue;
-    window->Present(Of(active_), Backdrop());
+    window->Present(Of(active_), TheSetting());
   }
 }
 

@@ -22,6 +22,10 @@ class Windows {
   bool Suit(const Zoom& zoom) const;
   // Makes them so. None of them may be within a handler: all are taken down and put back.
   void Rescale(const Zoom& zoom);
+  // What the window manager has given one scene it is taken to give the next one too.
+  void ShareGiven(const Screen& screen);
+  // The windows have the sizes of their scenes again, unless the window manager gives them others.
+  void ForgetGiven();
   // Brings the active screen's window to the front again, after a box.
   void RaiseActive();
 
@@ -36,8 +40,9 @@ class Windows {
  private:
   void ShowNew();
   void HideOld();
-  QWindow* Backdrop() const;
-  void FollowBackdrop(bool full_screen);
+  bool IsGiven() const;
+  Setting TheSetting() const;
+  void FollowBackdrop();
   // What the windows of all visible screens take of the display.
   std::vector<Span> TakenSpans(bool full_screen) const;
 
@@ -47,6 +52,7 @@ class Windows {
   ScreenWindow* expected_ = nullptr;  // asked to the front and not there yet
   QElapsedTimer since_asked_;
   double scale_;
+  bool full_screen_ = false;
   std::unique_ptr<QWidget> backdrop_;  // there while the game has the full screen
 };
 

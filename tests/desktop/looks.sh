@@ -1,5 +1,6 @@
 # What windows look like in one size, held against what they look like in the size that they are drawn
 # for, which the same test has taken before. Sourced.
+# shellcheck shell=bash disable=SC2154  # variables of the tests that source it
 
 # picture_of TITLE: the inside of a window in a file, when it has come to rest.
 picture_of() {

@@ -1,6 +1,7 @@
 # Pictures of windows, held against the kept ones. Sourced; wants the variables of x_session.sh and
 #   kept    the folder of the kept pictures of this scale
 #   update  "yes" to keep new ones instead of comparing
+# shellcheck shell=bash disable=SC2154  # variables of the tests that source it
 
 # How far a channel may be off, and how many pixels may differ more than that: a text cursor, no more.
 fuzz=2%
@@ -39,7 +40,7 @@ keep() {
     convert "$shots/$1.png" -strip -define png:compression-level=9 "PNG24:$kept/$1.png"
     return
   fi
-  [ $compared = yes ] || return 0
+  [ "$compared" = yes ] || return 0
   [ -f "$kept/$1.png" ] || fail "no picture is kept of $1; renew them with --update"
   until looks_as_kept "$1" "$2"; do
     if [ $SECONDS -ge $end ]; then

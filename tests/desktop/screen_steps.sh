@@ -1,4 +1,5 @@
 # Each screen opened, used and closed, in the order of screens.sh.
+# shellcheck shell=bash disable=SC2154  # variables of the tests that source it
 
 # A game folder of our own, into folder.
 copy_folder() {
@@ -29,11 +30,10 @@ bytes() { od -An -v -t x1 -j "$2" -N "$3" "$folder/$1" | tr -d ' \n'; }
 
 # menu TITLE_X ITEM: chooses the ITEM-th usable item of the menu at that place of the menu bar.
 menu() {
-  local step
   wait_for 5 "the focus before a menu" has_focus Orvane
   click Orvane "$1" -11
   sleep 0.2
-  for step in $(seq "$2"); do xdotool key --delay 20 Down; done
+  for _ in $(seq "$2"); do xdotool key --delay 20 Down; done
   [ -n "${3:-}" ] && shot "$3"
   xdotool key Return
 }
@@ -341,7 +341,7 @@ fight_last_dragon() {
 # unlike the strips before them.
 card="112 112 225 65"
 last_card_stands() {
-  if [ "$update" = no ] && [ $compared = yes ]; then
+  if [ "$update" = no ] && [ "$compared" = yes ]; then
     looks_as_kept last-card ENDING
     return
   fi

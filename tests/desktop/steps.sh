@@ -1,4 +1,5 @@
 # The steps of a play, in the order of run.sh. Each fails when what it waits for does not happen.
+# shellcheck shell=bash disable=SC2154  # variables of the tests that source it
 
 # Parts of the first window's client area.
 field="8 0 480 250"
@@ -34,8 +35,8 @@ menu_is_off() { is_off Orvane "$1" -11; }
 # listen SECONDS SCENE: clicks on the lines of a scene until the party can walk.
 listen() {
   local end=$((SECONDS + $1))
-  wait_for 10 "$2" menu_is_off $info_menu
-  until menu_is_on $info_menu; do
+  wait_for 10 "$2" menu_is_off "$info_menu"
+  until menu_is_on "$info_menu"; do
     [ $SECONDS -ge $end ] && fail "$2 does not end"
     click Orvane 40 150
     sleep 0.1

@@ -5,6 +5,7 @@
 #   scale    pixels of the screen to one of the game; percent says so where that is no whole number
 # and, where held keys are to repeat, keys_repeat=yes.
 # Ends with 77, which counts as skipped, where a tool is missing.
+# shellcheck shell=bash
 
 here=$(dirname "$(realpath "${BASH_SOURCE[0]}")")
 # need_tools TOOLS...

@@ -31,7 +31,7 @@ end)
 test("the number appears at frame 6, hops back to its start in ten steps and is hidden at 26", function()
   fight()
   commit()
-  for frame = 2, 4, 2 do
+  for _ = 2, 4, 2 do
     tick("Battle.Timer1")
     expect(get("Battle.Label15(0).Visible"), false)
     expect(get("Battle.Label15(0).Top"), 144)

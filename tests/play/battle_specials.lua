@@ -70,12 +70,12 @@ test("the fire plays 28 ticks: its name, its sound at 16, the numbers from 36 an
     dragon_phase(case[1], 1)
     set("BreathDamage[0]", 1)
     clear_sounds()
-    for frame = 2, 14, 2 do
+    for _ = 2, 14, 2 do
       tick("Battle.Timer1")
       steps.state { ["Battle.Picture13.Visible"] = true, ["Battle.Label24.Caption"] = "獄　炎" }
     end
     expect(#sounds(), 0)
-    for frame = 16, 34, 2 do
+    for _ = 16, 34, 2 do
       tick("Battle.Timer1")
       steps.state { ["Battle.Label16(0).Visible"] = false, ["Battle.Label16(1).Visible"] = false }
     end

@@ -3,14 +3,6 @@ local ground = require "lib.ground"
 
 local on = ground.on
 
--- Empties what a pickup has filled, and shuts its chest again.
-local function again(left, number)
-  click("Main.Picture1")
-  set("Items[3]", 99)
-  set("ItemCount", 3)
-  set(left .. "[" .. number .. "]", -1)
-end
-
 test("the message sounds at its first tick and opens its channel at each", function()
   on(36)
   tick("Main.Timer1")

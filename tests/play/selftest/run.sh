@@ -29,7 +29,7 @@ play() {
   lines=$(($(wc -l <"$output") - 1))
   [ "$lines" -eq "$before" ] || complain "$*: expected $before lines before the last, found $lines"
   [ -s "$output.errors" ] && complain "$*: expected nothing on standard error"
-  left=$(ls "$TMPDIR" | grep -c orvane-script)
+  left=$(find "$TMPDIR" -maxdepth 1 -name "orvane-script-*" | wc -l)
   [ "$left" -eq 0 ] || complain "$*: expected no scratch folder to be left, found $left"
 }
 

@@ -8,7 +8,7 @@ cd "$(dirname "$(realpath "$0")")/.." || exit 1
 
 need_packages "${build_packages[@]}" "${package_packages[@]}" || exit 1
 if [ ! -f build/build.ninja ]; then
-  cmake --preset release -DORVANE_TESTS=OFF -DORVANE_BENCH=OFF -DORVANE_PAINT=OFF >/dev/null || exit 1
+  cmake --preset release >/dev/null || exit 1
 fi
 cmake --build build --target orvane orvane-game-folder || exit 1
 cd build && cpack -G DEB

@@ -5,7 +5,7 @@
 
 #include "src/frontend/shared/pad_state.h"
 
-struct _SDL_GameController;  // NOLINT(bugprone-reserved-identifier): the name is SDL's
+struct _SDL_GameController;  // SDL's own name
 
 namespace orvane {
 

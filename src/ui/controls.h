@@ -22,8 +22,8 @@ struct LabelValues {
   Align Alignment = Align::Left;
 };
 
-// Text without a ground of its own, wrapped to its width. A click on it goes nowhere, a press to the
-// screen that it stands on.
+// Text without a ground of its own, wrapped to its width. A click on it goes nowhere, a press to
+// the screen that it stands on.
 class Label : public ControlOf<LabelValues, ControlKind::Label> {
  public:
   using ControlOf::ControlOf;

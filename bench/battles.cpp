@@ -19,9 +19,9 @@ void WalkIntoBattle(HeadlessGame& game) {
   bool left = false;
   for (int step = 0; !battle->IsVisible(); ++step) {
     if (step % 8 == 0) {
-      program.KeyUp(left ? Key::Left : Key::Right);
+      program.KeyUp(left ? Direction::Left : Direction::Right);
       left = !left;
-      program.KeyDown(left ? Key::Left : Key::Right);
+      program.KeyDown(left ? Direction::Left : Direction::Right);
     }
     program.Tick(walk);
   }

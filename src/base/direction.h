@@ -3,11 +3,10 @@
 
 namespace orvane {
 
-// The numbers are those by which the state names a held key (LastKey), where 0 is none.
-enum class Direction { Up = 1, Down = 2, Left = 3, Right = 4 };
+enum class Direction { Left, Up, Right, Down };
 
-// All of them in the order in which they are tried.
-constexpr Direction kDirections[] = {Direction::Up, Direction::Down, Direction::Left,
-                                     Direction::Right};
+// All of them in the order of their numbers.
+constexpr Direction kDirections[] = {Direction::Left, Direction::Up, Direction::Right,
+                                     Direction::Down};
 
 }  // namespace orvane

@@ -22,6 +22,21 @@ std::array<Slot, 4> Slots(SharedState& state) {
            {4, state.KeyRight, state.KeyRightWaiting, 32}}};
 }
 
+// The number by which LastKey and the slots know a direction.
+int NumberOf(Direction direction) {
+  switch (direction) {
+    case Direction::Up:
+      return 1;
+    case Direction::Down:
+      return 2;
+    case Direction::Left:
+      return 3;
+    case Direction::Right:
+      break;
+  }
+  return 4;
+}
+
 // The first waiting direction in the order up, down, left, right but for those two, or 0.
 int FirstWaiting(std::array<Slot, 4>& slots, int but, int nor_this) {
   for (const Slot& slot : slots) {
@@ -40,7 +55,7 @@ bool NoneDrives(const std::array<Slot, 4>& slots) {
 }  // namespace
 
 void DirectionDown(SharedState& state, Direction direction) {
-  const int number = static_cast<int>(direction);
+  const int number = NumberOf(direction);
   std::array<Slot, 4> slots = Slots(state);
   for (Slot& other : slots) {
     if (other.Number == number || other.Driving == False) continue;
@@ -56,7 +71,7 @@ void DirectionDown(SharedState& state, Direction direction) {
 }
 
 void DirectionUp(SharedState& state, Direction direction) {
-  const int number = static_cast<int>(direction);
+  const int number = NumberOf(direction);
   std::array<Slot, 4> slots = Slots(state);
   Slot& released = slots[static_cast<size_t>(number - 1)];
   if (released.Driving == False) {

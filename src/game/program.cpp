@@ -31,20 +31,6 @@ const Handler* ClickHandler(const Control& control) {
   }
 }
 
-Direction DirectionOf(Key key) {
-  switch (key) {
-    case Key::Left:
-      return Direction::Left;
-    case Key::Up:
-      return Direction::Up;
-    case Key::Right:
-      return Direction::Right;
-    case Key::Down:
-      return Direction::Down;
-  }
-  return Direction::Up;
-}
-
 // While it lives a handler runs; no other may be entered then.
 class Entry {
  public:
@@ -247,12 +233,12 @@ Refusal Program::Activate(Screen& screen) {
   return Reach(screen);
 }
 
-void Program::KeyDown(Key key) {
-  if (KeysReachMain()) Enter([&] { DirectionDown(TheState(), DirectionOf(key)); });
+void Program::KeyDown(Direction key) {
+  if (KeysReachMain()) Enter([&] { DirectionDown(TheState(), key); });
 }
 
-void Program::KeyUp(Key key) {
-  if (KeysReachMain()) Enter([&] { DirectionUp(TheState(), DirectionOf(key)); });
+void Program::KeyUp(Direction key) {
+  if (KeysReachMain()) Enter([&] { DirectionUp(TheState(), key); });
 }
 
 bool Program::KeysReachMain() {

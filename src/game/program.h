@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "src/base/direction.h"
 #include "src/base/error.h"
 #include "src/core/state.h"
 #include "src/platform/services.h"
@@ -13,8 +14,6 @@
 #include "src/ui/stage.h"
 
 namespace orvane {
-
-enum class Key { Left, Up, Right, Down };
 
 // What an event came to: empty when it was carried out, otherwise why a player cannot do it now.
 using Refusal = std::string;
@@ -70,8 +69,8 @@ class Program {
   // Brings a visible screen to the front.
   Refusal Activate(Screen& screen);
   // Arrow keys go to Main while it is the active screen, and are lost otherwise.
-  void KeyDown(Key key);
-  void KeyUp(Key key);
+  void KeyDown(Direction key);
+  void KeyUp(Direction key);
 
   // Answers the box in front, and so runs what follows.
   Refusal Answer(BoxAnswer answer);

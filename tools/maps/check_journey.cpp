@@ -10,8 +10,8 @@ namespace orvane::maps {
 namespace {
 
 constexpr int kMapsToRecovery = 2;
-constexpr size_t kUp = 0;
-constexpr size_t kDown = 1;
+constexpr auto kUp = static_cast<size_t>(Direction::Up);
+constexpr auto kDown = static_cast<size_t>(Direction::Down);
 
 std::string Where(const Party& party) {
   const MapId grid{party.MapA, party.MapB};

@@ -17,12 +17,6 @@ void DrawEnemies(BattleScreen& battle) {
   for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) DrawEnemyInSlot(battle, slot);
 }
 
-const char* FightMusic(const State& state) {
-  if (state.BossFight == True) return "bgm5";
-  if (state.LastBossFight == True) return "bgm6";
-  return "bgm4";
-}
-
 }  // namespace
 
 void LoadBattle(BattleScreen& battle) {
@@ -60,12 +54,13 @@ void BattleSetUp(BattleScreen& battle) {
 }
 
 void BattleMusic(BattleScreen& battle) {
-  RestartStoppedMusic(battle.game, FightMusic(battle.state));
+  RestartStoppedMusic(battle.game, FightMusicOf(battle.state));
 }
 
 void LeaveBattle(BattleScreen& battle) {
   ClearDirections(battle.game);
-  for (const char* music : {"bgm4", "bgm5", "bgm6"}) battle.game.sound.Close(music);
+  for (const char* music : {kFightMusic, kDragonMusic, kLastDragonMusic})
+    battle.game.sound.Close(music);
   battle.MusicTimer.SetEnabled(false);
   battle.game.stage.Hide(battle);
   battle.FleeButton.Enabled = true;

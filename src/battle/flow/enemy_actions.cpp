@@ -124,7 +124,7 @@ void EndAttack(BattleScreen& battle, const ActionRow& row) {
 void PlayEnemyAttack(BattleScreen& battle, const ActionRow& row) {
   const int frame = BeginFrame(battle);
   if (frame == row.ComputingFrame) {
-    battle.game.sound.Play("snd9");
+    battle.game.sound.Play(kBlastSound);
     battle.state.EnemyRoll = Roll(battle.game, 10);
     HeroHurtPose(battle);
   }
@@ -139,7 +139,7 @@ void PlayEnemyAttack(BattleScreen& battle, const ActionRow& row) {
 void PlayHellFire(BattleScreen& battle, const ActionRow& row) {
   const int frame = BeginFrame(battle);
   if (frame < 15) ShowName(battle, "獄　炎");
-  if (frame == 16) battle.game.sound.Play("snd3");
+  if (frame == 16) battle.game.sound.Play(kFireSound);
   if (frame >= 16 && frame <= 34) DrawFireball(battle, frame);
   if (frame == row.ComputingFrame) {
     DrawBackground(battle);
@@ -155,7 +155,7 @@ void PlayDeathSplit(BattleScreen& battle, const ActionRow& row) {
   const int frame = BeginFrame(battle);
   if (frame < 15) ShowName(battle, "デス･スプリート");
   if (frame >= 16 && frame <= 34) {
-    battle.game.sound.Play("snd4");
+    battle.game.sound.Play(kAtomicSound);
     ShakeUpDown(battle, frame, kDeathShake);
     DrawDeathBand(battle, frame);
     DrawSparks(battle);

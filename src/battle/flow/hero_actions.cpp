@@ -88,7 +88,7 @@ void PlayFight(BattleScreen& battle, const ActionRow& row) {
   const int frame = battle.state.ActionState;
   if (StepsOut(frame)) HeroStepOut(battle, frame);
   if (frame == 6) {
-    battle.game.sound.Play("snd2");
+    battle.game.sound.Play(kCutSound);
     EnemyRecoil(battle);
   }
   if (row.ShowsNumbers(frame)) PlayNumbersFrame(battle, row);
@@ -171,7 +171,7 @@ void PlayItem(BattleScreen& battle, const ActionRow& row) {
   const int receiver = battle.ChosenReceiver();
   Randomize(battle.game);
   if (StepsOut(frame)) HeroStepOut(battle, frame);
-  if (frame == 6) battle.game.sound.Play("snd5");
+  if (frame == 6) battle.game.sound.Play(kHealingSound);
   if (ShowsSkill(frame)) {
     for (int i = 0; i < kSparkles; ++i) {
       const ScenePoint at = PointOverHero(battle, receiver);

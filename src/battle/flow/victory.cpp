@@ -51,7 +51,7 @@ void VictoryCheck(BattleScreen& battle) {
     button->Enabled = false;
   }
   battle.ActionTimer.SetEnabled(false);
-  battle.game.sound.Play("snd7");
+  battle.game.sound.Play(kVictorySound);
   if (state.EnemyTurns <= 0) state.HeroesActed = 0;
   state.EnemyKind = EnemyRow(state);
   const Int32 gain = ExperienceOf(state);

@@ -3,6 +3,7 @@
 #include "src/battle/battle_screen.h"
 #include "src/battle/rules/formation.h"
 #include "src/battle/skill_table.h"
+#include "src/core/map.h"
 
 namespace orvane {
 namespace {
@@ -24,17 +25,10 @@ constexpr int kRecoil = 10;
 constexpr int kEffectSize = 24;
 constexpr int kEffectMasks = 192;
 
-// The ground of the place where the party stands: four tile codes are wasteland.
+// The ground of the place where the party stands.
 const Surface& Ground(const BattleScreen& battle) {
-  switch (battle.state.TileHere) {
-    case 13:
-    case 14:
-    case 19:
-    case 234:
-      return battle.WasteGround.Picture;
-    default:
-      return battle.OpenGround.Picture;
-  }
+  const bool waste = IsWasteGround(battle.state.TileHere);
+  return waste ? battle.WasteGround.Picture : battle.OpenGround.Picture;
 }
 
 // Draws a part of the ground; in the last dragon's lair that lies over everything else.

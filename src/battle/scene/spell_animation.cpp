@@ -32,14 +32,14 @@ void AimAtTarget(BattleScreen& battle) {
 // ファイヤーブレズ: one great flame.
 void Spells::FireBreath(BattleScreen& battle, int c) {
   AimAtTarget(battle);
-  if (c == 6) battle.game.sound.Play("snd3");
+  if (c == 6) battle.game.sound.Play(kFireSound);
   DrawEffect(battle, 4, 4, {battle.state.MagicX, battle.state.MagicY, 96, 96});
 }
 
 // 絶対零度: four crystals close in from the corners of a square, and hold.
 void Spells::AbsoluteZero(BattleScreen& battle, int c) {
   AimAtTarget(battle);
-  if (c == 14) battle.game.sound.Play("snd10");
+  if (c == 14) battle.game.sound.Play(kIceSound);
   const int d = c <= 12 ? c : 16;
   for (int k = 0; k < 4; ++k) {
     const int left = SignOf(k) * 4 * d + battle.state.MagicX + k % 2 * 120 - 60;
@@ -50,7 +50,7 @@ void Spells::AbsoluteZero(BattleScreen& battle, int c) {
 
 // リフレッシュ: sparkles over the heroes.
 void Spells::Refresh(BattleScreen& battle, int c) {
-  if (c == 6) battle.game.sound.Play("snd5");
+  if (c == 6) battle.game.sound.Play(kHealingSound);
   Randomize(battle.game);
   for (int i = 0; i < 6; ++i) {
     const ScenePoint at = PointOverHeroes(battle);
@@ -60,20 +60,20 @@ void Spells::Refresh(BattleScreen& battle, int c) {
 
 // アースクエイク: the scene shakes from side to side.
 void Spells::Earthquake(BattleScreen& battle, int c) {
-  if (c == 6) battle.game.sound.Play("snd6");
+  if (c == 6) battle.game.sound.Play(kQuakeSound);
   ShakeLeftRight(battle, c, kQuake);
 }
 
 // 爆雷降臨: a single flash that stays.
 void Spells::Thunderbolt(BattleScreen& battle, int c) {
   if (c != 10) return;
-  battle.game.sound.Play("snd8");
+  battle.game.sound.Play(kThunderSound);
   FillBox(battle.Scene.Picture, 0, 0, 480, 288, kWhite);
 }
 
 // サンプレゼンター: a sun that grows.
 void Spells::SunPresenter(BattleScreen& battle, int c) {
-  battle.game.sound.Play("snd3");
+  battle.game.sound.Play(kFireSound);
   const int size = 16 * c + 48;
   DrawEffect(battle, 0, 3, {150 - 8 * c, 140 - 8 * c, size, size});
   ShakeUpDown(battle, c, kShake);
@@ -81,14 +81,14 @@ void Spells::SunPresenter(BattleScreen& battle, int c) {
 
 // ダークプレッシャー: a ring that sinks.
 void Spells::DarkPressure(BattleScreen& battle, int c) {
-  battle.game.sound.Play("snd9");
+  battle.game.sound.Play(kBlastSound);
   DrawCircle(battle.Scene.Picture, 300 - 2 * c, 10 * c - 150, 250, kWhite);
   ShakeUpDown(battle, c, kShake);
 }
 
 // 風の癒し: pairs of sparkles over the heroes.
 void Spells::HealingWind(BattleScreen& battle, int c) {
-  if (c == 6) battle.game.sound.Play("snd5");
+  if (c == 6) battle.game.sound.Play(kHealingSound);
   Randomize(battle.game);
   for (int i = 0; i < 6; ++i) {
     const ScenePoint first = PointOverHeroes(battle);
@@ -101,7 +101,7 @@ void Spells::HealingWind(BattleScreen& battle, int c) {
 // アトミックボム: a widening ring; its angles are radians taken as they come, so that it looks
 // scattered.
 void Spells::AtomicBomb(BattleScreen& battle, int c) {
-  if (c == 6) battle.game.sound.Play("snd4");
+  if (c == 6) battle.game.sound.Play(kAtomicSound);
   for (int k = 0; k <= 10; ++k) {
     const int angle = 20 * k + c;
     const Int16 left = RoundToInt16(std::cos(angle) * 6 * c + 150);
@@ -112,7 +112,7 @@ void Spells::AtomicBomb(BattleScreen& battle, int c) {
 
 // ジオ･スプリート: a widening band of light full of suns.
 void Spells::GeoSplit(BattleScreen& battle, int c) {
-  battle.game.sound.Play("snd4");
+  battle.game.sound.Play(kAtomicSound);
   ShakeUpDown(battle, c, kShake);
   FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(255, 255, 10 * c));
   Randomize(battle.game);

@@ -66,13 +66,13 @@ void CrossingPair(BattleScreen& battle, int c, int row) {
 
 // 炎舞剣
 void Techniques::FlameDance(BattleScreen& battle, int c) {
-  if (c == 6) Play(battle, "snd3");
+  if (c == 6) Play(battle, kFireSound);
   CrossingPair(battle, c, 4);
 }
 
 // 氷岩断絶剣
 void Techniques::IceCleaver(BattleScreen& battle, int c) {
-  if (c == 6) Play(battle, "snd10");
+  if (c == 6) Play(battle, kIceSound);
   CrossingPair(battle, c, 5);
 }
 
@@ -80,7 +80,7 @@ void Techniques::IceCleaver(BattleScreen& battle, int c) {
 void Techniques::PowerBreak(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
-  if (c <= 13) Play(battle, "snd9");
+  if (c <= 13) Play(battle, kBlastSound);
   PoseAtHome(battle);
   if (c <= 13) return DrawEffect(battle, (c - 5) % 8, 4, {state.WazaX, state.WazaY, 64, 64});
   for (int b = 1; b <= 4; ++b) {
@@ -94,12 +94,12 @@ void Techniques::PowerBreak(BattleScreen& battle, int c) {
 void Techniques::EarthSword(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
-  if (c < 16) Play(battle, "snd9");
+  if (c < 16) Play(battle, kBlastSound);
   if (c == 16) {
-    battle.game.sound.Close("snd9");
-    Play(battle, "snd10");
+    battle.game.sound.Close(kBlastSound);
+    Play(battle, kIceSound);
   }
-  if (c == 24) battle.game.sound.Open("snd9");
+  if (c == 24) battle.game.sound.Open(kBlastSound);
   PoseAtHome(battle);
   if (c < 16) {
     DrawEffect(battle, 2, 0, {state.WazaX - 20, state.WazaY + 20 - (c - 6) * 10, 64, 64});
@@ -115,7 +115,7 @@ void Fall(BattleScreen& battle, int c, int j) {
   if (c == 14) battle.game.stage.Hold(kHoldTime);
   if (c == 22) {
     AimAtBig(battle);
-    Play(battle, "snd2");
+    Play(battle, kCutSound);
     DrawSlash(battle);
   }
   Pose(battle, kHomeX - (j + c - 12) * 30, (j + c - 12) * 10 + 35);
@@ -139,7 +139,7 @@ void Techniques::ThunderCall(BattleScreen& battle, int c) {
 // 一刀両断: a run with three afterimages.
 void Techniques::SingleStroke(BattleScreen& battle, int c) {
   AimAtBig(battle);
-  if (c == 20) Play(battle, "snd2");
+  if (c == 20) Play(battle, kCutSound);
   if (c < 15) return PoseAtHome(battle);
   for (int s = 0; s <= 3; ++s) Pose(battle, kHomeX - (c - s) * 20, kHomeY);
   if (c > 20) DrawSlash(battle);
@@ -148,7 +148,7 @@ void Techniques::SingleStroke(BattleScreen& battle, int c) {
 // ダークスラッシュ: a black band that widens.
 void Techniques::DarkSlash(BattleScreen& battle, int c) {
   AimAtBig(battle);
-  if (c == 20 || c == 22) Play(battle, "snd2");
+  if (c == 20 || c == 22) Play(battle, kCutSound);
   FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(0, 0, 0));
   if (c >= 20) DrawSlash(battle);
 }
@@ -157,7 +157,7 @@ void Techniques::DarkSlash(BattleScreen& battle, int c) {
 void Techniques::CircleCut(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
-  Play(battle, "snd2");
+  Play(battle, kCutSound);
   const Int16 flame_x = RoundToInt16(std::cos(c) * 10 + static_cast<double>(state.WazaX + 20));
   const Int16 flame_y = RoundToInt16(std::sin(c) * 5 + static_cast<double>(state.WazaY + 20));
   DrawEffect(battle, 4, 4, {flame_x, flame_y, 48, 48});
@@ -172,7 +172,7 @@ void Techniques::CircleCut(BattleScreen& battle, int c) {
 void Techniques::DeadlyBlow(BattleScreen& battle, int c) {
   if (c < 16) return PoseAtHome(battle);
   const State& state = battle.state;
-  Play(battle, "snd9");
+  Play(battle, kBlastSound);
   EnemyRecoil(battle);
   AimAtBig(battle);
   for (int s = 0; s <= 5; ++s) {
@@ -187,7 +187,7 @@ namespace {
 
 // Four heroes close on the middle of the scene from its corners.
 void CloseIn(BattleScreen& battle, int c) {
-  if (c == 6) Play(battle, "snd10");
+  if (c == 6) Play(battle, kIceSound);
   if (c == 8) FillBox(battle.Scene.Picture, 0, 0, 480, 288, Rgb(255, 255, 255));
   for (int d = 0; d <= 1; ++d) {
     const int y = SignOf(d) * (c - 5) * 11 + 210 * d;
@@ -204,14 +204,14 @@ void Techniques::DemonGod(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c <= 15) return CloseIn(battle, c);
   if (c == 16) {
-    battle.game.sound.Close("snd10");
-    Play(battle, "snd4");
+    battle.game.sound.Close(kIceSound);
+    Play(battle, kAtomicSound);
   }
   const int size = (c - 16) * 30 + 48;
   DrawEffect(battle, 1, 3,
              {battle.state.WazaX + 32 - (c - 16) * 15, battle.state.WazaY + 16 - (c - 16) * 15,
               size, size});
-  if (c == 24) battle.game.sound.Open("snd10");
+  if (c == 24) battle.game.sound.Open(kIceSound);
 }
 
 void PlayTechniqueFrame(BattleScreen& battle, int frame) {

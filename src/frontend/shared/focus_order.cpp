@@ -107,7 +107,7 @@ Control* FocusOrder::Follow(Control* before) {
   return Choose(before);
 }
 
-Control* FocusOrder::Neighbour(const Control& from, Key direction) const {
+Control* FocusOrder::Neighbour(const Control& from, Direction direction) const {
   std::vector<Control*> others;
   std::vector<Rect> boxes;
   for (Control* stop : stops_) {

@@ -34,7 +34,7 @@ class FocusOrder {
   Control* Follow(Control* before);
 
   // The control that lies next to another in a direction, or null where there is none.
-  Control* Neighbour(const Control& from, Key direction) const;
+  Control* Neighbour(const Control& from, Direction direction) const;
 
   // The tab to open of a tab control.
   struct Turn {

@@ -31,19 +31,19 @@ struct Sight {
   int Aside = 0;  // from middle to middle, across the direction
 };
 
-Sight Look(const Edges& from, const Edges& box, Key direction) {
+Sight Look(const Edges& from, const Edges& box, Direction direction) {
   const int way_x = box.MiddleX() - from.MiddleX();
   const int way_y = box.MiddleY() - from.MiddleY();
   const int off_column = Gap(from.Left, from.Right, box.Left, box.Right);
   const int off_row = Gap(from.Top, from.Bottom, box.Top, box.Bottom);
   switch (direction) {
-    case Key::Left:
+    case Direction::Left:
       return {box.Right < from.MiddleX() ? -way_x : 0, off_row, std::abs(way_y)};
-    case Key::Right:
+    case Direction::Right:
       return {box.Left > from.MiddleX() ? way_x : 0, off_row, std::abs(way_y)};
-    case Key::Up:
+    case Direction::Up:
       return {box.Bottom < from.MiddleY() ? -way_y : 0, off_column, std::abs(way_x)};
-    case Key::Down:
+    case Direction::Down:
       return {box.Top > from.MiddleY() ? way_y : 0, off_column, std::abs(way_x)};
   }
   return {};
@@ -51,7 +51,8 @@ Sight Look(const Edges& from, const Edges& box, Key direction) {
 
 }  // namespace
 
-std::optional<size_t> Nearest(const Rect& from, const std::vector<Rect>& boxes, Key direction) {
+std::optional<size_t> Nearest(const Rect& from, const std::vector<Rect>& boxes,
+                              Direction direction) {
   // What is off the way must be much nearer to be meant. Boxes of a grid may touch, so that two of
   // them lie on the way, of which one lies straight on it.
   constexpr int weight_of_off = 4;

@@ -12,6 +12,7 @@ namespace orvane {
 
 // The index of the box that lies next to `from` in that direction: near rather than far, and beside
 // it rather than off its way. Nothing where no box lies that way.
-std::optional<size_t> Nearest(const Rect& from, const std::vector<Rect>& boxes, Key direction);
+std::optional<size_t> Nearest(const Rect& from, const std::vector<Rect>& boxes,
+                              Direction direction);
 
 }  // namespace orvane

@@ -34,14 +34,14 @@ void PadRules::LetGo(const PadState& state) {
   for (size_t i = 0; i < walking_.size(); ++i) {
     if (state[i] || !walking_[i]) continue;
     walking_[i] = false;
-    hands_.Walk(static_cast<Key>(i), false);
+    hands_.Walk(static_cast<Direction>(i), false);
   }
 }
 
 void PadRules::Press(PadButton button) {
   const auto index = static_cast<size_t>(button);
   if (index < walking_.size()) {
-    const Key direction = static_cast<Key>(index);
+    const Direction direction = static_cast<Direction>(index);
     if (!hands_.ReachesGame()) return hands_.Move(direction);
     // What was pressed in another window does not start a walk; what walks goes on walking.
     if (std::exchange(walking_[index], true)) return;

@@ -24,9 +24,9 @@ class PadHands {
   virtual bool ReachesGame() const = 0;
 
   // An arrow key is pressed or let go in the game's window.
-  virtual void Walk(Key direction, bool down) = 0;
+  virtual void Walk(Direction direction, bool down) = 0;
   // An arrow key in whatever has the keyboard; from a slider, up and down lead away.
-  virtual void Move(Key direction) = 0;
+  virtual void Move(Direction direction) = 0;
   // Presses or chooses what has the keyboard.
   virtual void Accept() = 0;
   // The Escape key.

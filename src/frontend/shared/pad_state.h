@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-// Directions in the order of Key: left, up, right, down; then what the other buttons stand for.
+// Directions as Direction counts them, then what the other buttons stand for.
 enum class PadButton { Left, Up, Right, Down, Accept, Back, Menu, Previous, Next };
 constexpr size_t kPadButtons = 9;
 

@@ -29,13 +29,13 @@ bool WalkingKeys::Take(const KeyEvent& event, const KeyMeaning& meaning) {
   return false;
 }
 
-void WalkingKeys::Walk(KeyState& state, Key key) {
+void WalkingKeys::Walk(KeyState& state, Direction key) {
   if (!around_.Reaches() || around_.MenuBarHasKeys()) return;
   state.Held = true;
   around_.Send(key, true);
 }
 
-void WalkingKeys::Halt(KeyState& state, Key key) {
+void WalkingKeys::Halt(KeyState& state, Direction key) {
   if (!around_.Reaches()) return;
   state.Held = false;
   around_.Send(key, false);
@@ -48,7 +48,7 @@ bool WalkingKeys::IsOutstanding() const {
 void WalkingKeys::Settle() {
   held_.Look();
   for (size_t i = 0; i < keys_.size(); ++i) {
-    if (keys_[i].Held && !held_.IsDown(keys_[i].Code)) Halt(keys_[i], static_cast<Key>(i));
+    if (keys_[i].Held && !held_.IsDown(keys_[i].Code)) Halt(keys_[i], static_cast<Direction>(i));
   }
 }
 

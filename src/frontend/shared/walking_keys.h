@@ -13,9 +13,9 @@ namespace orvane {
 
 // What a key does where it is pressed, as the toolkit knows it.
 struct KeyMeaning {
-  std::optional<Key> Arrow;  // it is one of the four arrows
-  bool ActsAtOnce = false;   // it presses, chooses, opens or closes something
-  bool Types = false;        // what has the keyboard takes text
+  std::optional<Direction> Arrow;  // it is one of the four arrows
+  bool ActsAtOnce = false;         // it presses, chooses, opens or closes something
+  bool Types = false;              // what has the keyboard takes text
 };
 
 // The arrow keys walk: a press goes to the game only while its window has the keyboard; a release
@@ -30,7 +30,7 @@ class WalkingKeys {
     std::function<bool()> Reaches;         // keys reach the game's window now
     std::function<bool()> MenuBarHasKeys;  // the menu bar has them, though no menu is open
     std::function<std::optional<KeyCodes>()> AskKeyboard;  // as HeldKeys has it
-    std::function<void(Key, bool down)> Send;              // a press or a release, to the game
+    std::function<void(Direction, bool down)> Send;        // a press or a release, to the game
   };
 
   explicit WalkingKeys(Surroundings around);
@@ -56,8 +56,8 @@ class WalkingKeys {
     uint32_t Code = 0;  // the key as the window system numbers it
   };
 
-  void Walk(KeyState& state, Key key);
-  void Halt(KeyState& state, Key key);
+  void Walk(KeyState& state, Direction key);
+  void Halt(KeyState& state, Direction key);
 
   Surroundings around_;
   HeldKeys held_;

@@ -86,12 +86,13 @@ TEST_F(FocusOrderTest, tabs_of_which_none_can_be_opened_are_of_no_use) {
 }
 
 TEST_F(FocusOrderTest, arrows_lead_to_what_lies_next_and_can_be_used) {
-  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Right), &desk_.Speed);
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Direction::Right), &desk_.Speed);
   desk_.Speed.Enabled = false;
-  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Right), &desk_.Things);
-  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Down), &desk_.Tabs);
-  EXPECT_EQ(order_.Neighbour(desk_.Tabs, Key::Down), &desk_.First) << "the tabs end above the pane";
-  EXPECT_EQ(order_.Neighbour(desk_.Button, Key::Left), nullptr);
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Direction::Right), &desk_.Things);
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Direction::Down), &desk_.Tabs);
+  EXPECT_EQ(order_.Neighbour(desk_.Tabs, Direction::Down), &desk_.First)
+      << "the tabs end above the pane";
+  EXPECT_EQ(order_.Neighbour(desk_.Button, Direction::Left), nullptr);
 }
 
 TEST_F(FocusOrderTest, tabs_turn_round_and_round_past_those_that_are_off) {

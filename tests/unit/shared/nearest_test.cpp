@@ -14,28 +14,28 @@ const Rect kFlee = {88, 296, 49, 12};
 const Rect kTabs = {168, 288, 281, 22};
 
 TEST(Nearest, goes_along_rows_and_columns) {
-  EXPECT_EQ(Nearest(kFight, {kMagic, kWaza, kItem, kFlee, kTabs}, Key::Right), 0);
-  EXPECT_EQ(Nearest(kFight, {kMagic, kWaza, kItem, kFlee, kTabs}, Key::Down), 1);
-  EXPECT_EQ(Nearest(kItem, {kFight, kMagic, kWaza, kFlee, kTabs}, Key::Up), 1);
-  EXPECT_EQ(Nearest(kItem, {kFight, kMagic, kWaza, kFlee, kTabs}, Key::Left), 2);
+  EXPECT_EQ(Nearest(kFight, {kMagic, kWaza, kItem, kFlee, kTabs}, Direction::Right), 0);
+  EXPECT_EQ(Nearest(kFight, {kMagic, kWaza, kItem, kFlee, kTabs}, Direction::Down), 1);
+  EXPECT_EQ(Nearest(kItem, {kFight, kMagic, kWaza, kFlee, kTabs}, Direction::Up), 1);
+  EXPECT_EQ(Nearest(kItem, {kFight, kMagic, kWaza, kFlee, kTabs}, Direction::Left), 2);
 }
 
 TEST(Nearest, takes_what_lies_off_the_way_where_nothing_lies_on_it) {
-  EXPECT_EQ(Nearest(kItem, {kFight, kWaza, kTabs}, Key::Right), 2);
-  EXPECT_EQ(Nearest(kFight, {kFlee, kTabs}, Key::Up), 0);
+  EXPECT_EQ(Nearest(kItem, {kFight, kWaza, kTabs}, Direction::Right), 2);
+  EXPECT_EQ(Nearest(kFight, {kFlee, kTabs}, Direction::Up), 0);
 }
 
 TEST(Nearest, prefers_what_stands_beside_to_what_is_nearer_but_off) {
   const Rect beside = {300, 0, 20, 20};
   const Rect off = {60, 60, 20, 20};
-  EXPECT_EQ(Nearest({0, 0, 20, 20}, {off, beside}, Key::Right), 0) << "much nearer";
-  EXPECT_EQ(Nearest({0, 0, 20, 20}, {{60, 120, 20, 20}, beside}, Key::Right), 1);
+  EXPECT_EQ(Nearest({0, 0, 20, 20}, {off, beside}, Direction::Right), 0) << "much nearer";
+  EXPECT_EQ(Nearest({0, 0, 20, 20}, {{60, 120, 20, 20}, beside}, Direction::Right), 1);
 }
 
 TEST(Nearest, finds_nothing_where_nothing_lies_that_way) {
-  EXPECT_EQ(Nearest(kTabs, {kFight, kMagic}, Key::Right), std::nullopt);
-  EXPECT_EQ(Nearest(kFight, {}, Key::Down), std::nullopt);
-  EXPECT_EQ(Nearest(kFight, {kMagic}, Key::Down), std::nullopt) << "beside is not below";
+  EXPECT_EQ(Nearest(kTabs, {kFight, kMagic}, Direction::Right), std::nullopt);
+  EXPECT_EQ(Nearest(kFight, {}, Direction::Down), std::nullopt);
+  EXPECT_EQ(Nearest(kFight, {kMagic}, Direction::Down), std::nullopt) << "beside is not below";
 }
 
 }  // namespace

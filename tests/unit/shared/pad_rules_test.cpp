@@ -56,10 +56,10 @@ class Hands : public PadHands {
  public:
   bool ReachesWindow() const override { return Reaches; }
   bool ReachesGame() const override { return Reaches && !MenuBar; }
-  void Walk(Key direction, bool down) override {
+  void Walk(Direction direction, bool down) override {
     Done.push_back((down ? "walk " : "halt ") + Name(direction));
   }
-  void Move(Key direction) override { Done.push_back("move " + Name(direction)); }
+  void Move(Direction direction) override { Done.push_back("move " + Name(direction)); }
   void Accept() override { Done.emplace_back("accept"); }
   void Back() override { Done.emplace_back("back"); }
   void OpenMenus() override { Done.emplace_back("menus"); }
@@ -70,7 +70,7 @@ class Hands : public PadHands {
   std::vector<std::string> Done;
 
  private:
-  static std::string Name(Key direction) {
+  static std::string Name(Direction direction) {
     constexpr const char* names[] = {"left", "up", "right", "down"};
     return names[static_cast<size_t>(direction)];
   }

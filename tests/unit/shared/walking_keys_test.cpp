@@ -9,7 +9,7 @@ namespace {
 
 constexpr uint32_t kLeftCode = 113;
 constexpr uint32_t kEnterCode = 36;
-constexpr KeyMeaning kLeft = {Key::Left, false, false};
+constexpr KeyMeaning kLeft = {Direction::Left, false, false};
 constexpr KeyMeaning kEnter = {std::nullopt, true, false};
 
 class WalkingKeysTest : public testing::Test {
@@ -31,7 +31,7 @@ class WalkingKeysTest : public testing::Test {
   uint64_t time_ = 100;
   WalkingKeys keys_{{[this] { return reaches_; }, [this] { return menu_bar_; },
                      [this] { return keyboard_; },
-                     [this](Key, bool down) { sent_ += down ? "v" : "^"; }}};
+                     [this](Direction, bool down) { sent_ += down ? "v" : "^"; }}};
 };
 
 TEST_F(WalkingKeysTest, an_arrow_walks_until_it_is_let_go) {

@@ -52,7 +52,7 @@ void Focus::Follow(QWidget* before) {
   now->clearFocus();
 }
 
-void Focus::Move(Key direction) const {
+void Focus::Move(Direction direction) const {
   const Control* from = ControlOf(window_.focusWidget());
   if (from == nullptr) return;
   if (QWidget* next = TargetOf(order_.Neighbour(*from, direction))) {

@@ -25,7 +25,7 @@ class Focus {
   void Follow(QWidget* before);
 
   // Goes to the control that lies next in a direction. Nothing where there is none.
-  void Move(Key direction) const;
+  void Move(Direction direction) const;
 
   // Opens the next tab that can be opened, or with -1 the one before. False where there are no
   // tabs.

@@ -5,16 +5,16 @@
 
 namespace orvane {
 
-std::optional<Key> ArrowKey(int key) {
+std::optional<Direction> ArrowKey(int key) {
   switch (key) {
     case Qt::Key_Left:
-      return Key::Left;
+      return Direction::Left;
     case Qt::Key_Up:
-      return Key::Up;
+      return Direction::Up;
     case Qt::Key_Right:
-      return Key::Right;
+      return Direction::Right;
     case Qt::Key_Down:
-      return Key::Down;
+      return Direction::Down;
     default:
       return std::nullopt;
   }

@@ -8,7 +8,7 @@
 namespace orvane {
 
 // The arrow key of a toolkit's key code.
-std::optional<Key> ArrowKey(int key);
+std::optional<Direction> ArrowKey(int key);
 
 // Whether the menu bar has the keyboard, though no menu is open.
 bool MenuBarHasKeys();

@@ -35,12 +35,13 @@ bool IsTyping() {
 }  // namespace
 
 Keys::Keys(Events& events, std::function<bool()> reaches)
-    : walking_({std::move(reaches), &MenuBarHasKeys, &AskKeyboard, [&events](Key key, bool down) {
-                  events.Send([key, down](Program& program) {
-                    if (down) return program.KeyDown(key);
-                    return program.KeyUp(key);
-                  });
-                }}) {
+    : walking_(
+          {std::move(reaches), &MenuBarHasKeys, &AskKeyboard, [&events](Direction key, bool down) {
+             events.Send([key, down](Program& program) {
+               if (down) return program.KeyDown(key);
+               return program.KeyUp(key);
+             });
+           }}) {
   QCoreApplication::instance()->installEventFilter(this);
 }
 

@@ -14,7 +14,7 @@
 namespace orvane {
 namespace {
 
-Qt::Key ArrowOf(Key direction) {
+Qt::Key ArrowOf(Direction direction) {
   constexpr Qt::Key arrows[] = {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
   return arrows[static_cast<size_t>(direction)];
 }
@@ -67,16 +67,16 @@ bool Pad::ReachesGame() const {
   return reaches_() && !MenuBarHasKeys();
 }
 
-void Pad::Walk(Key direction, bool down) {
+void Pad::Walk(Direction direction, bool down) {
   events_.Send([direction, down](Program& program) {
     if (down) return program.KeyDown(direction);
     return program.KeyUp(direction);
   });
 }
 
-void Pad::Move(Key direction) {
+void Pad::Move(Direction direction) {
   // A slider takes all four arrows for itself; by the cross there must be a way off it.
-  const bool sideways = direction == Key::Left || direction == Key::Right;
+  const bool sideways = direction == Direction::Left || direction == Direction::Right;
   const bool on_slider = qobject_cast<QSlider*>(QApplication::focusWidget()) != nullptr;
   const ScreenWindow* window = Front();
   if (sideways || !on_slider || window == nullptr) return Type(ArrowOf(direction));

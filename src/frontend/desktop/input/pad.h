@@ -27,8 +27,8 @@ class Pad : public QObject, private PadHands {
  private:
   bool ReachesGame() const override;
   bool ReachesWindow() const override { return reaches_(); }
-  void Walk(Key direction, bool down) override;
-  void Move(Key direction) override;
+  void Walk(Direction direction, bool down) override;
+  void Move(Direction direction) override;
   void Accept() override;
   void Back() override;
   void OpenMenus() override;

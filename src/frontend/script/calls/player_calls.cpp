@@ -127,15 +127,17 @@ int Activate(Call& call) {
               [&](Program& program) { return program.Activate(screen); });
 }
 
-Key KeyOf(const Call& call) {
+Direction KeyOf(const Call& call) {
   struct KeyName {
     std::string_view Name;
-    Key TheKey;
+    Direction Arrow;
   };
-  constexpr std::array<KeyName, 4> kKeys = {
-      {{"Up", Key::Up}, {"Down", Key::Down}, {"Left", Key::Left}, {"Right", Key::Right}}};
+  constexpr std::array<KeyName, 4> kKeys = {{{"Up", Direction::Up},
+                                             {"Down", Direction::Down},
+                                             {"Left", Direction::Left},
+                                             {"Right", Direction::Right}}};
   for (const KeyName& known : kKeys) {
-    if (known.Name == call.Text(1, kKey)) return known.TheKey;
+    if (known.Name == call.Text(1, kKey)) return known.Arrow;
   }
   throw ScriptError(kKey, call.Shown(1));
 }
@@ -143,7 +145,7 @@ Key KeyOf(const Call& call) {
 // key_down(key)
 int KeyDown(Call& call) {
   Program& program = call.TheSession().TheProgram();
-  const Key key = KeyOf(call);
+  const Direction key = KeyOf(call);
   call.TheSession().Run([&] { program.KeyDown(key); });
   return 0;
 }
@@ -151,7 +153,7 @@ int KeyDown(Call& call) {
 // key_up(key)
 int KeyUp(Call& call) {
   Program& program = call.TheSession().TheProgram();
-  const Key key = KeyOf(call);
+  const Direction key = KeyOf(call);
   call.TheSession().Run([&] { program.KeyUp(key); });
   return 0;
 }

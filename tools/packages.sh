@@ -4,7 +4,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-d
   libfluidsynth-dev libpng-dev libgl-dev)
 play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
-  binutils xvfb openbox xdotool x11-utils fontconfig imagemagick clang-format-14
+  binutils xvfb openbox xdotool weston x11-utils fontconfig imagemagick clang-format-14
   dpkg-dev file desktop-file-utils appstream)
 package_packages=(dpkg-dev file)
 thorough_packages=(clang-14 clang-tidy-14 libclang-rt-14-dev)

@@ -8,7 +8,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-d
   libfluidsynth-dev libpng-dev libgl-dev)
 play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
-  xvfb openbox xdotool x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
+  xvfb openbox xdotool weston x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
   dpkg-dev file desktop-file-utils appstream)
 package_packages=(dpkg-dev file)
 thorough_packages=("clang-$clang_version" "clang-tidy-$clang_version" "libclang-rt-$clang_version-dev")
@@ -40,6 +40,7 @@ libpango1.0-dev           pango-devel               pango-devel               pa
 xvfb                      xorg-x11-server-Xvfb      xorg-x11-server-Xvfb      xorg-server-xvfb
 openbox                   openbox                   openbox                   openbox
 xdotool                   xdotool                   xdotool                   xdotool
+weston                    weston                    weston                    weston
 x11-utils                 xprop                     xprop                     xorg-xprop
 fontconfig                fontconfig                fontconfig                fontconfig
 imagemagick               ImageMagick               ImageMagick               imagemagick

@@ -24,7 +24,7 @@ field_of_package() { dpkg-deb -f "$package" "$1"; }
 
 see_package() {
   local needed size file
-  for needed in libqt6widgets6 libsdl2 libfluidsynth qt6-qpa-plugins fonts-ipafont-gothic fonts-ipafont-mincho; do
+  for needed in libqt6widgets6 libsdl2 libfluidsynth qt6-qpa-plugins qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho; do
     [[ $(field_of_package Depends) == *$needed* ]] || fail "the package does not ask for $needed"
   done
   [[ $(field_of_package Recommends) == *soundfont* ]] || fail "the package recommends no soundfont"

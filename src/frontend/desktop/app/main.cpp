@@ -57,9 +57,12 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
   if (type == QtDebugMsg || type == QtInfoMsg) return;
   // The black backdrop of the full screen stays while the scale changes, and has nothing to scale.
   if (message.startsWith("QHighDpiScaling::setFactor")) return;
-  // What it says of its own plugins is told in plainer words when nothing has helped.
-  if (message.contains("platform plugin") && type != QtFatalMsg) return;
-  const bool has_no_display = message.contains("platform plugin");
+  // What it says of its own plugins and of displays is told in plainer words when nothing has
+  // helped.
+  const bool has_no_display = message.contains("platform plugin") ||
+                              message.startsWith("could not connect to display") ||
+                              message.startsWith("Failed to create wl_display");
+  if (has_no_display && type != QtFatalMsg) return;
   Complain(has_no_display ? DisplayProblem() : message.section('\n', 0, 0).toStdString());
   if (type == QtFatalMsg) std::_Exit(NoDisplay);
 }

@@ -31,7 +31,7 @@ void FieldTilesBitBlt(benchmark::State& loop) {
       for (int row = 0; row < kRows; ++row) {
         const int code = (column * kRows + row) % 240;
         BitBlt(field, column * kTile, row * kTile, kTile, kTile, sheet, code % 30 * kTile,
-               code / 30 * kTile, RasterOp::SRCCOPY);
+               code / 30 * kTile, Blit::Copy);
       }
     }
     benchmark::DoNotOptimize(field.Row(0));

@@ -107,8 +107,8 @@ constexpr Int32 operator*(Int16 a, Int32 b) {
 }
 
 // The truth values of 16-bit booleans. Only exactly -1 counts as true where the game tests for it.
-constexpr int True = -1;
-constexpr int False = 0;
+constexpr int kTrue = -1;
+constexpr int kFalse = 0;
 
 // The floor, also below zero.
 inline double Int(double value) {

@@ -12,7 +12,7 @@ namespace orvane {
 
 // What ActionKind says: the action that is being prepared or plays. There is no 1.
 namespace Action {
-constexpr int None = 0;
+constexpr int Nothing = 0;
 constexpr int Fight = 2;
 constexpr int Spell = 3;
 constexpr int Technique = 4;

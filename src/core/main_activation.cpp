@@ -36,29 +36,29 @@ void LeaveTitle(MainScreen& main) {
 void ActivateMain(Game& game) {
   const State& state = game.state;
   MainScreen& main = game.Main;
-  if (state.GameStarted == False) return;
+  if (state.GameStarted == kFalse) return;
   const bool could_save = main.SaveItem.Enabled;
   LeaveTitle(main);
   ShowStatus(game);
-  if (state.InBook == False) {
+  if (state.InBook == kFalse) {
     ReadMapFile(game.services.Files, {state.MapA, state.MapB}, game.state.MapTile);
   }
-  if (state.OpeningDone == False) {
+  if (state.OpeningDone == kFalse) {
     EnableMenus(main, false);
     main.StoryTimer.SetEnabled(true);
-  } else if (state.OpeningDone == True) {
+  } else if (state.OpeningDone == kTrue) {
     main.WalkTimer.SetEnabled(true);
   }
-  if (state.BossFight == True) {
+  if (state.BossFight == kTrue) {
     StartClosingStory(main);
-  } else if (state.LastBossFight == True) {
-    if (state.LastBossDown == False) main.SaveItem.Enabled = false;
-    if (state.LastBossDown == True) StartClosingStory(main);
+  } else if (state.LastBossFight == kTrue) {
+    if (state.LastBossDown == kFalse) main.SaveItem.Enabled = false;
+    if (state.LastBossDown == kTrue) StartClosingStory(main);
   }
-  if (state.LastBossFight == False && !main.StoryTimer.IsEnabled()) {
+  if (state.LastBossFight == kFalse && !main.StoryTimer.IsEnabled()) {
     // The door that led into a room has decided about saving there, and nothing changes it on the
     // inside.
-    main.SaveItem.Enabled = state.InBook == False || could_save;
+    main.SaveItem.Enabled = state.InBook == kFalse || could_save;
   } else if (main.StoryTimer.IsEnabled()) {
     main.SaveItem.Enabled = false;
   }
@@ -80,7 +80,7 @@ void StopWalking(Game& game) {
 
 void ClearDirections(Game& game) {
   State& state = game.state;
-  state.KeyUp = state.KeyDown = state.KeyLeft = state.KeyRight = False;
+  state.KeyUp = state.KeyDown = state.KeyLeft = state.KeyRight = kFalse;
 }
 
 }  // namespace orvane

@@ -22,7 +22,7 @@ const Font kItemFont{Gothic, 14.25, true};
 Surface TitleSurface() {
   Surface surface(481, 304);
   const Surface title = Sheet("title");
-  BitBlt(surface, 0, 0, title.Width(), title.Height(), title, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(surface, 0, 0, title.Width(), title.Height(), title, 0, 0, Blit::Copy);
   return surface;
 }
 

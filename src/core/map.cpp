@@ -14,7 +14,7 @@ std::string MapName(const MapId& map) {
       return "Book" + std::to_string(map.Inside.Round);
     case Room::Kind::LastBook:
       return "BookF";
-    case Room::Kind::None:
+    case Room::Kind::Nowhere:
       break;
   }
   return "map" + std::to_string(map.MapB) + "-" + std::to_string(map.MapA);

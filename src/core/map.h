@@ -21,8 +21,8 @@ using MapTiles = Array<Array<Int16, MapRows + 1>, MapColumns + 1>;
 
 // A room behind a door, or none.
 struct Room {
-  enum class Kind { None, Spring, Book, LastBook };
-  Kind What = Kind::None;
+  enum class Kind { Nowhere, Spring, Book, LastBook };
+  Kind What = Kind::Nowhere;
   int Round = 0;  // of a book room, of which every round has its own
   auto operator<=>(const Room&) const = default;
 };

@@ -6,11 +6,11 @@
 namespace orvane {
 
 const char* FieldMusicOf(const State& state) {
-  return FieldMusic(state.Round, state.LastBossFight == True);
+  return FieldMusic(state.Round, state.LastBossFight == kTrue);
 }
 
 const char* FightMusicOf(const State& state) {
-  return FightMusic(state.BossFight == True, state.LastBossFight == True);
+  return FightMusic(state.BossFight == kTrue, state.LastBossFight == kTrue);
 }
 
 void KeepMusic(Game& game, const std::string& alias) {

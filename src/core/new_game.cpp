@@ -43,7 +43,7 @@ void FreshRecord(GameRecord& record) {
   record.StoryNo = 0;
   record.SaveX = 13;
   record.SaveY = 7;
-  for (int i = 0; i < kSkills; ++i) record.WazaKnown[i] = record.MagicKnown[i] = False;
+  for (int i = 0; i < kSkills; ++i) record.WazaKnown[i] = record.MagicKnown[i] = kFalse;
   for (int slot = 0; slot < BagSize; ++slot) {
     record.Items[slot] = slot < kStarterItems ? kStarterItem : NoItem;
   }
@@ -53,14 +53,14 @@ void FreshRecord(GameRecord& record) {
 }
 
 void CloseChests(GameRecord& record) {
-  for (int chest = 0; chest < kChestCount; ++chest) record.TreasureLeft[chest] = True;
-  for (int chest = 0; chest < kBookChestCount; ++chest) record.BookLeft[chest] = True;
+  for (int chest = 0; chest < kChestCount; ++chest) record.TreasureLeft[chest] = kTrue;
+  for (int chest = 0; chest < kBookChestCount; ++chest) record.BookLeft[chest] = kTrue;
 }
 
 void NewGameDefaults(Game& game) {
   State& state = game.state;
-  state.KeyUpWaiting = state.KeyDownWaiting = state.KeyLeftWaiting = state.KeyRightWaiting = False;
-  state.OnRecovery = state.OnChest = False;
+  state.KeyUpWaiting = state.KeyDownWaiting = state.KeyLeftWaiting = state.KeyRightWaiting = kFalse;
+  state.OnRecovery = state.OnChest = kFalse;
   game.links.SetBattleInterval(kBattleInterval);
   FreshRecord(state);
   state.MapA = 3;

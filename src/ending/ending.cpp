@@ -44,11 +44,10 @@ constexpr Strip kStrips[] = {
 constexpr int kTitleRestY = 30;
 
 void DrawStrip(Surface& scene, const Surface& sheet, const Strip& strip, int y) {
-  BitBlt(scene, strip.X, y, strip.Width, strip.Height, sheet, strip.MaskX, strip.MaskY,
-         RasterOp::SRCPAINT);
+  BitBlt(scene, strip.X, y, strip.Width, strip.Height, sheet, strip.MaskX, strip.MaskY, Blit::Or);
   if (strip.ImageX == kNone) return;
   BitBlt(scene, strip.X, y, strip.Width, strip.Height, sheet, strip.ImageX, strip.ImageY,
-         RasterOp::SRCAND);
+         Blit::And);
 }
 
 }  // namespace
@@ -88,7 +87,7 @@ void EndingScreen::Tick() {
   CreditStep = 1;
   KeepMusic(game_, kEndingMusic);
   for (Int16& y : CreditY) y -= CreditStep;
-  BitBlt(scene_, 0, 0, kWidth, kHeight, StillPicture.Picture, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(scene_, 0, 0, kWidth, kHeight, StillPicture.Picture, 0, 0, Blit::Copy);
   DrawStrips();
   if (CreditY[kLastStrip] <= kLastCardAt) ShowLastCard();
   scene_.Refresh();
@@ -104,12 +103,12 @@ void EndingScreen::ShowLastCard() {
   Presenter.Visible = true;
   CardLines[0].Visible = true;
   CardLines[1].Visible = true;
-  CreditsDone = True;
+  CreditsDone = kTrue;
   ScrollTimer.SetEnabled(false);
 }
 
 void EndingScreen::OnPress() {
-  if (CreditsDone == True) EndProgram();
+  if (CreditsDone == kTrue) EndProgram();
 }
 
 void EndingScreen::OnClose() {

@@ -40,14 +40,14 @@ int NumberOf(Direction direction) {
 // The first waiting direction in the order up, down, left, right but for those two, or 0.
 int FirstWaiting(std::array<Slot, 4>& slots, int but, int nor_this) {
   for (const Slot& slot : slots) {
-    if (slot.Number != but && slot.Number != nor_this && slot.Waiting != False) return slot.Number;
+    if (slot.Number != but && slot.Number != nor_this && slot.Waiting != kFalse) return slot.Number;
   }
   return 0;
 }
 
 bool NoneDrives(const std::array<Slot, 4>& slots) {
   for (const Slot& slot : slots) {
-    if (slot.Driving != False) return false;
+    if (slot.Driving != kFalse) return false;
   }
   return true;
 }
@@ -58,15 +58,15 @@ void DirectionDown(SharedState& state, Direction direction) {
   const int number = NumberOf(direction);
   std::array<Slot, 4> slots = Slots(state);
   for (Slot& other : slots) {
-    if (other.Number == number || other.Driving == False) continue;
-    other.Driving = False;
+    if (other.Number == number || other.Driving == kFalse) continue;
+    other.Driving = kFalse;
     state.LastKey = other.Number;
-    other.Waiting = True;
+    other.Waiting = kTrue;
     break;
   }
   Slot& pressed = slots[static_cast<size_t>(number - 1)];
-  pressed.Driving = True;
-  pressed.Waiting = False;
+  pressed.Driving = kTrue;
+  pressed.Waiting = kFalse;
   state.HeroSpriteY = pressed.SpriteY;
 }
 
@@ -74,17 +74,17 @@ void DirectionUp(SharedState& state, Direction direction) {
   const int number = NumberOf(direction);
   std::array<Slot, 4> slots = Slots(state);
   Slot& released = slots[static_cast<size_t>(number - 1)];
-  if (released.Driving == False) {
-    released.Waiting = False;
+  if (released.Driving == kFalse) {
+    released.Waiting = kFalse;
     if (state.LastKey == number) state.LastKey = FirstWaiting(slots, number, number);
     return;
   }
-  released.Driving = False;
+  released.Driving = kFalse;
   const int last = state.LastKey;
   if (last >= 1 && last <= 4 && last != number) {
     Slot& next = slots[static_cast<size_t>(last - 1)];
-    next.Driving = True;
-    next.Waiting = False;
+    next.Driving = kTrue;
+    next.Waiting = kFalse;
     state.HeroSpriteY = next.SpriteY;
     const int waiting = FirstWaiting(slots, number, last);
     if (waiting != 0) state.LastKey = waiting;
@@ -93,10 +93,10 @@ void DirectionUp(SharedState& state, Direction direction) {
 }
 
 std::optional<Direction> DrivingDirection(const SharedState& state) {
-  if (state.KeyUp != False) return Direction::Up;
-  if (state.KeyDown != False) return Direction::Down;
-  if (state.KeyLeft != False) return Direction::Left;
-  if (state.KeyRight != False) return Direction::Right;
+  if (state.KeyUp != kFalse) return Direction::Up;
+  if (state.KeyDown != kFalse) return Direction::Down;
+  if (state.KeyLeft != kFalse) return Direction::Left;
+  if (state.KeyRight != kFalse) return Direction::Right;
   return std::nullopt;
 }
 

@@ -36,11 +36,11 @@ void EncounterCheck(Game& game) {
   Randomize(game);
   state.EncounterRoll = RoundToInt16(Int(Rnd(game) * kRollSize));
   const bool random_battle =
-      state.EncounterRoll == kEncounter && state.InBook == False && state.LastBossFight == False;
+      state.EncounterRoll == kEncounter && state.InBook == kFalse && state.LastBossFight == kFalse;
   const Party party = PartyOf(state);
   const bool dragon = BeforeDragon(party);
-  const bool last_dragon = state.LastBossFight == True && BeforeLastDragon(party);
-  if (!random_battle && dragon) state.BossFight = True;
+  const bool last_dragon = state.LastBossFight == kTrue && BeforeLastDragon(party);
+  if (!random_battle && dragon) state.BossFight = kTrue;
   if (random_battle || dragon || last_dragon) EnterBattle(game);
 }
 

@@ -21,7 +21,7 @@ void FinishFrame(Game& game) {
 
 void FieldTick(Game& game) {
   State& state = game.state;
-  if (state.GameStarted != True) return;
+  if (state.GameStarted != kTrue) return;
   state.FieldFrame += 1;
   if (const char* music = FieldMusicOf(state)) KeepMusic(game, music);
   DrawMap(game);
@@ -37,7 +37,7 @@ void DrawMap(Game& game) {
       if (code < 1 || code > kHighestTile) continue;
       BitBlt(field, column * TileSize, row * TileSize, TileSize, TileSize, sheet,
              (code - 1) % kTilesPerSheetRow * TileSize, (code - 1) / kTilesPerSheetRow * TileSize,
-             RasterOp::SRCCOPY);
+             Blit::Copy);
     }
   }
 }

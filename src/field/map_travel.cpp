@@ -10,7 +10,7 @@ constexpr int kTechniquesForHiddenMap = 9;
 
 bool KnowsNineTechniques(const State& state) {
   for (int i = 0; i < kTechniquesForHiddenMap; ++i) {
-    if (state.WazaKnown[i] != True) return false;
+    if (state.WazaKnown[i] != kTrue) return false;
   }
   return true;
 }
@@ -19,7 +19,7 @@ bool KnowsNineTechniques(const State& state) {
 
 Party PartyOf(const State& state) {
   Party party{state.MapA, state.MapB, state.HeroX, state.HeroY};
-  party.InBook = state.InBook != False;
+  party.InBook = state.InBook != kFalse;
   if (party.InBook) {
     party.ReturnX = state.BookReturnX;
     party.ReturnY = state.BookReturnY;
@@ -28,7 +28,7 @@ Party PartyOf(const State& state) {
 }
 
 WalkRules RulesOf(const State& state) {
-  return {state.Round, KnowsNineTechniques(state), state.LastBossFight == True};
+  return {state.Round, KnowsNineTechniques(state), state.LastBossFight == kTrue};
 }
 
 void PutParty(State& state, const Party& party) {
@@ -44,7 +44,7 @@ void ReadMap(Game& game) {
 
 void EnterRoom(Game& game, const Party& party) {
   State& state = game.state;
-  state.InBook = True;
+  state.InBook = kTrue;
   // There is saving in the last book's room: a game saved there goes on outside, at the room's
   // coordinates.
   if (party.Inside != kLastBookRoom) {
@@ -65,7 +65,7 @@ void EdgeCheck(Game& game) {
   PutParty(state, *next);
   ReadMap(game);
   if (!party.InBook || next->InBook) return;
-  state.InBook = False;
+  state.InBook = kFalse;
   game.Main.SaveItem.Enabled = true;
 }
 

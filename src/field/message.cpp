@@ -24,7 +24,7 @@ void CloseMessage(Game& game) {
   main.MessageWindow.Visible = false;
   game.state.MessageFrame = 0;
   ShowStatus(game);
-  game.state.RecoveryShown = False;
+  game.state.RecoveryShown = kFalse;
   main.FileMenu.Enabled = true;
   main.ItemMenu.Enabled = true;
   main.InfoMenu.Enabled = true;

@@ -32,8 +32,8 @@ Surroundings LookAround(State& state) {
 // comes after its answer.
 void OpenChests(Game& game, const Handler& then) {
   const int tile = game.state.TileHere;
-  if (game.state.OnChest == False && tile == kChest) return OpenTreasure(game, then);
-  if (game.state.OnChest == False && IsBookChest(tile)) return OpenBook(game, then);
+  if (game.state.OnChest == kFalse && tile == kChest) return OpenTreasure(game, then);
+  if (game.state.OnChest == kFalse && IsBookChest(tile)) return OpenBook(game, then);
   then();
 }
 
@@ -44,9 +44,9 @@ void AfterStep(Game& game, int counter, const Handler& then) {
     if (state.TileHere == kRecovery) {
       RecoverAll(game);
     } else {
-      state.OnRecovery = False;
+      state.OnRecovery = kFalse;
     }
-    if (state.TileHere != kChest && !IsBookChest(state.TileHere)) state.OnChest = False;
+    if (state.TileHere != kChest && !IsBookChest(state.TileHere)) state.OnChest = kFalse;
     EdgeCheck(game);
     DrawHero(game, counter);
     then();
@@ -92,8 +92,8 @@ void DrawHero(Game& game, int counter) {
   Surface& field = game.Main.FieldPicture.Picture;
   const Surface& sheet = game.Main.ManSheet.Picture;
   BitBlt(field, x, y, kFrameWidth, kFrameHeight, sheet, kMasks + frame, state.HeroSpriteY,
-         RasterOp::SRCPAINT);
-  BitBlt(field, x, y, kFrameWidth, kFrameHeight, sheet, frame, state.HeroSpriteY, RasterOp::SRCAND);
+         Blit::Or);
+  BitBlt(field, x, y, kFrameWidth, kFrameHeight, sheet, frame, state.HeroSpriteY, Blit::And);
 }
 
 }  // namespace orvane

@@ -76,7 +76,7 @@ bool StoreItem(Game& game, const Find* find, int slot) {
 void WarnOfFullBag(Game& game, const char* text, const Handler& then) {
   Warn(game, text, [&game, then] {
     ClearDirections(game);
-    game.state.OnChest = True;
+    game.state.OnChest = kTrue;
     then();
   });
 }
@@ -96,10 +96,10 @@ void OpenTreasure(Game& game, const Handler& then) {
   const ChestKind kind{std::begin(kTreasures), std::end(kTreasures), state.TreasureNo,
                        "アイテムがいっぱいです。"};
   const Find* find = FindHere(state, kind);
-  if (state.TreasureLeft[state.TreasureNo] != True) return then();
+  if (state.TreasureLeft[state.TreasureNo] != kTrue) return then();
   if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText, then);
   StoreItem(game, find, FirstEmptySlot(state));
-  state.TreasureLeft[state.TreasureNo] = False;
+  state.TreasureLeft[state.TreasureNo] = kFalse;
   state.ItemCount += 1;
   StartMessage(game);
   then();
@@ -110,16 +110,16 @@ void OpenBook(Game& game, const Handler& then) {
   const ChestKind kind{std::begin(kBooks), std::end(kBooks), state.BookNo,
                        "アイテムがいっぱいです"};
   const Find* find = FindHere(state, kind);
-  if (state.BookLeft[state.BookNo] != True) return then();
+  if (state.BookLeft[state.BookNo] != kTrue) return then();
   if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText, then);
   const int slot = FirstEmptySlot(state);
   // Where no slot took a book, the spare slot beyond the bag is read, and its number teaches
   // nothing.
   const int taught = StoreItem(game, find, slot) ? slot : BagSize;
   const int skill = state.Items[taught] - kFirstBook;
-  state.WazaKnown[skill] = True;
-  state.MagicKnown[skill] = True;
-  state.BookLeft[state.BookNo] = False;
+  state.WazaKnown[skill] = kTrue;
+  state.MagicKnown[skill] = kTrue;
+  state.BookLeft[state.BookNo] = kFalse;
   state.ItemCount += 1;
   StartMessage(game);
   then();
@@ -127,8 +127,8 @@ void OpenBook(Game& game, const Handler& then) {
 
 void RecoverAll(Game& game) {
   State& state = game.state;
-  if (state.OnRecovery == False) {
-    state.RecoveryShown = True;
+  if (state.OnRecovery == kFalse) {
+    state.RecoveryShown = kTrue;
     for (int hero = 0; hero < 2; ++hero) {
       state.HP[hero] = state.MaxHP[hero];
       state.MP[hero] = state.MaxMP[hero];
@@ -138,7 +138,7 @@ void RecoverAll(Game& game) {
     game.Main.MessageLines[1].Caption = "";
     game.Main.MessageWindow.Visible = true;
   }
-  state.OnRecovery = True;
+  state.OnRecovery = kTrue;
 }
 
 }  // namespace orvane

@@ -36,7 +36,7 @@ void StartNextRound(Game& game) {
   State& state = game.state;
   state.StoryNo += 1;
   state.FieldFrame = state.MessageFrame = state.StoryFrame = state.ActionState = 0;
-  state.BossFight = False;
+  state.BossFight = kFalse;
   state.Round += 1;
   PutParty(state, kRoundStart);
   CloseChests(state);
@@ -50,8 +50,8 @@ void StartLastStage(Game& game) {
   game.Main.SaveItem.Enabled = false;
   state.StoryNo = kThirdDragonEnd + 1;
   PutParty(state, kLastStageStart);
-  state.BossFight = False;
-  state.LastBossFight = True;
+  state.BossFight = kFalse;
+  state.LastBossFight = kTrue;
   ReadMap(game);
   EndStory(game);
 }
@@ -82,7 +82,7 @@ void StepOpening(Game& game) {
   state.StoryNo += 1;
   if (state.StoryNo != kOpeningEnd) return;
   state.StoryNo = kOpeningEnd + 1;
-  state.OpeningDone = True;
+  state.OpeningDone = kTrue;
   EndStory(game);
 }
 
@@ -100,7 +100,7 @@ void StoryTick(Game& game) {
   main.StoryLine.Visible = true;
   main.StoryLine.Caption = state.StoryText[state.StoryNo];
   const Surface& speaker = state.StoryNo % 2 == 0 ? main.ManFace.Picture : main.WomanFace.Picture;
-  BitBlt(main.SpeakerFace.Picture, 0, 0, kFaceSize, kFaceSize, speaker, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(main.SpeakerFace.Picture, 0, 0, kFaceSize, kFaceSize, speaker, 0, 0, Blit::Copy);
   main.SpeakerFace.Picture.Refresh();
   DrawMap(game);
   main.FieldPicture.Picture.Refresh();
@@ -108,13 +108,14 @@ void StoryTick(Game& game) {
 
 void FieldClick(Game& game) {
   const State& state = game.state;
-  const bool message_waits =
-      state.RecoveryShown == True || (state.RecoveryShown == False && state.LastBossDown == False);
-  if (state.OpeningDone == True && state.BossFight == False && message_waits) {
+  const bool message_waits = state.RecoveryShown == kTrue ||
+                             (state.RecoveryShown == kFalse && state.LastBossDown == kFalse);
+  if (state.OpeningDone == kTrue && state.BossFight == kFalse && message_waits) {
     CloseMessage(game);
-  } else if (state.OpeningDone == True && (state.BossFight == True || state.LastBossDown == True)) {
+  } else if (state.OpeningDone == kTrue &&
+             (state.BossFight == kTrue || state.LastBossDown == kTrue)) {
     StepClosingScene(game);
-  } else if (state.OpeningDone == False) {
+  } else if (state.OpeningDone == kFalse) {
     StepOpening(game);
   }
 }

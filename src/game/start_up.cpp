@@ -16,8 +16,8 @@ void StartUp(Game& game) {
     state.HeroNameText[hero] = state.HeroName[hero].Trimmed();
   }
   StretchBlt(main.FieldPicture.Picture, {0, 0, 480, 320}, main.FieldPicture.Picture,
-             {0, 0, 320, 160}, RasterOp::SRCCOPY);
-  state.GameStarted = False;
+             {0, 0, 320, 160}, Blit::Copy);
+  state.GameStarted = kFalse;
   NewGameDefaults(game);
   main.SaveItem.Enabled = false;
   main.ItemMenu.Enabled = false;

@@ -26,12 +26,12 @@ constexpr Place kClosePlace{152, 400, 81, 25};
 // A face of 48 by 48 in the corner of a picture with room for the enlarged one.
 Surface FaceSurface(const char* name) {
   Surface surface(80, 80, Rgb(192, 192, 192));
-  BitBlt(surface, 0, 0, 48, 48, Sheet(name), 0, 0, RasterOp::SRCCOPY);
+  BitBlt(surface, 0, 0, 48, 48, Sheet(name), 0, 0, Blit::Copy);
   return surface;
 }
 
 void EnlargeFace(PictureBox& box) {
-  StretchBlt(box.Picture, {0, 0, 80, 80}, box.Picture, {0, 0, 48, 48}, RasterOp::SRCCOPY);
+  StretchBlt(box.Picture, {0, 0, 80, 80}, box.Picture, {0, 0, 48, 48}, Blit::Copy);
   box.Picture.Refresh();
 }
 
@@ -148,7 +148,7 @@ void HeroesScreen::ShowSkills(int hero, const Array<Int16, 11>& known, const Arr
                               const Array<Int16, 11>& master, const Array<std::string, 11>& names) {
   const Pane pane = PaneOfHero(hero);
   for (int skill = 0; skill < kSkills; ++skill) {
-    if (known[skill] != True) continue;
+    if (known[skill] != kTrue) continue;
     const bool mastered = use[skill] >= master[skill];
     pane.SkillMasters[skill].Caption = mastered ? "MASTER" : "/" + std::to_string(master[skill]);
     pane.SkillCounts[skill].Caption = mastered ? "★" : std::to_string(use[skill]);

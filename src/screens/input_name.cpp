@@ -69,7 +69,7 @@ void InputNameScreen::Accept() {
   }
   for (int hero = 0; hero < 2; ++hero) state.HeroName[hero] = state.HeroNameText[hero];
   game_.Main.BeginButton.Visible = false;
-  state.GameStarted = True;
+  state.GameStarted = kTrue;
   game_.Main.LoadItem.Enabled = false;
   TheStage().Unload(*this);
 }

@@ -25,8 +25,8 @@ void LoadScreen::Load() {
   State& state = game_.state;
   if (NothingChosen()) return;
   ReadChosen();
-  state.GameStarted = True;
-  state.OpeningDone = True;
+  state.GameStarted = kTrue;
+  state.OpeningDone = kTrue;
   state.MapA = state.SaveMapA;
   state.MapB = state.SaveMapB;
   state.HeroX = state.SaveX;
@@ -38,7 +38,7 @@ void LoadScreen::Load() {
 
 void LoadScreen::OnUnload() {
   // Left without loading: the preview is undone.
-  if (game_.state.GameStarted == False) NewGameDefaults(game_);
+  if (game_.state.GameStarted == kFalse) NewGameDefaults(game_);
   Leave();
 }
 

@@ -70,31 +70,30 @@ void Surface::Refresh() {
 namespace {
 
 // One row of a blit at scale 1.
-void BlitRow(Colour* to, const Colour* from, int count, RasterOp operation) {
+void BlitRow(Colour* to, const Colour* from, int count, Blit operation) {
   switch (operation) {
-    case RasterOp::SRCCOPY:
+    case Blit::Copy:
       std::memmove(to, from, static_cast<size_t>(count) * sizeof(Colour));
       return;
-    case RasterOp::SRCPAINT:
+    case Blit::Or:
       for (int i = 0; i < count; ++i) to[i] |= from[i];
       return;
-    case RasterOp::SRCAND:
+    case Blit::And:
       for (int i = 0; i < count; ++i) to[i] &= from[i];
       return;
   }
 }
 
 // One row of a stretch; `columns` names the source column of each pixel.
-void StretchRow(Colour* to, const Colour* from, const std::vector<int>& columns,
-                RasterOp operation) {
+void StretchRow(Colour* to, const Colour* from, const std::vector<int>& columns, Blit operation) {
   switch (operation) {
-    case RasterOp::SRCCOPY:
+    case Blit::Copy:
       for (const int column : columns) *to++ = from[column];
       return;
-    case RasterOp::SRCPAINT:
+    case Blit::Or:
       for (const int column : columns) *to++ |= from[column];
       return;
-    case RasterOp::SRCAND:
+    case Blit::And:
       for (const int column : columns) *to++ &= from[column];
       return;
   }
@@ -132,7 +131,7 @@ std::optional<Surface> CopyIfSame(const Surface& destination, const Surface& sou
 }  // namespace
 
 void BitBlt(Surface& destination, int x, int y, int width, int height, const Surface& source,
-            int source_x, int source_y, RasterOp operation) {
+            int source_x, int source_y, Blit operation) {
   const int cut_left = std::max({0, -x, -source_x});
   const int cut_top = std::max({0, -y, -source_y});
   x += cut_left;
@@ -151,7 +150,7 @@ void BitBlt(Surface& destination, int x, int y, int width, int height, const Sur
 }
 
 void StretchBlt(Surface& destination, const Rect& target, const Surface& source, const Rect& area,
-                RasterOp operation) {
+                Blit operation) {
   if (target.Width <= 0 || target.Height <= 0 || area.Width <= 0 || area.Height <= 0) return;
   const Axis across =
       MapAxis(target.X, target.Width, destination.Width(), area.X, area.Width, source.Width());

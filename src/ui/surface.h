@@ -17,10 +17,10 @@ constexpr Colour Rgb(int red, int green, int blue) {
 }
 
 // How a blit joins source and destination, bit by bit.
-enum class RasterOp {
-  SRCCOPY,   // destination = source
-  SRCPAINT,  // destination = destination OR source
-  SRCAND,    // destination = destination AND source
+enum class Blit {
+  Copy,  // destination = source
+  Or,    // destination = destination OR source
+  And,   // destination = destination AND source
 };
 
 // A rectangle: left and top edge, width and height, in pixels.
@@ -80,12 +80,12 @@ class Surface {
 // Copies `area` of the source, its top left corner at (x, y) of the destination, at scale 1. What
 // lies outside either surface is left out. Source and destination may be the same surface.
 void BitBlt(Surface& destination, int x, int y, int width, int height, const Surface& source,
-            int source_x, int source_y, RasterOp operation);
+            int source_x, int source_y, Blit operation);
 
 // The same with scaling: destination pixel i reads source pixel floor(i * source size / destination
 // size). A size of 0 or less draws nothing. Within one surface, a copy of the source is read.
 void StretchBlt(Surface& destination, const Rect& target, const Surface& source, const Rect& area,
-                RasterOp operation);
+                Blit operation);
 
 // Fills the rectangle that has these two pixels as opposite corners, both included; clipped.
 void FillBox(Surface& surface, int x1, int y1, int x2, int y2, Colour colour);

@@ -25,7 +25,7 @@ Surface ReadSheet(const std::string& file) {
 Surface Enlarged(const Surface& picture, int times) {
   Surface result(picture.Width() * times, picture.Height() * times);
   StretchBlt(result, {0, 0, result.Width(), result.Height()}, picture,
-             {0, 0, picture.Width(), picture.Height()}, RasterOp::SRCCOPY);
+             {0, 0, picture.Width(), picture.Height()}, Blit::Copy);
   return result;
 }
 
@@ -59,7 +59,7 @@ void Page::Write(const std::string& file) const {
   for (const Item& item : items_) {
     DrawLabel(sheet, item.X, item.Y, item.Name);
     BitBlt(sheet, item.X, item.Y + kLabelHeight, item.Picture.Width(), item.Picture.Height(),
-           item.Picture, 0, 0, RasterOp::SRCCOPY);
+           item.Picture, 0, 0, Blit::Copy);
   }
   paint::Image image(sheet.Width(), sheet.Height());
   for (int y = 0; y < sheet.Height(); ++y) {

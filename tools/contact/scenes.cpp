@@ -16,9 +16,8 @@ constexpr int kTilesPerRow = 30;
 // A sprite by the rule of the game: mask, then picture, `mask_from` pixels apart.
 void PutSprite(Surface& scene, const Rect& place, const Surface& sheet, const Rect& cell,
                int mask_from) {
-  StretchBlt(scene, place, sheet, {cell.X + mask_from, cell.Y, cell.Width, cell.Height},
-             RasterOp::SRCPAINT);
-  StretchBlt(scene, place, sheet, cell, RasterOp::SRCAND);
+  StretchBlt(scene, place, sheet, {cell.X + mask_from, cell.Y, cell.Width, cell.Height}, Blit::Or);
+  StretchBlt(scene, place, sheet, cell, Blit::And);
 }
 
 void PutHero(Surface& scene, const Rect& place, const Surface& sheet, int frame) {
@@ -33,7 +32,7 @@ std::string EnemyName(int row) {
 
 Surface Ground(const Sheets& sheets, const std::string& ground) {
   Surface scene(432, 264);
-  StretchBlt(scene, {0, 0, 432, 264}, sheets.at(ground), {0, 0, 480, 288}, RasterOp::SRCCOPY);
+  StretchBlt(scene, {0, 0, 432, 264}, sheets.at(ground), {0, 0, 480, 288}, Blit::Copy);
   return scene;
 }
 
@@ -80,7 +79,7 @@ Surface HeroOnTiles(const Sheets& sheets, const std::string& hero, const std::ve
     // A stride that is prime to the row's length mixes the variants.
     const int code = codes[static_cast<size_t>(i * 7 / 3) % codes.size()];
     BitBlt(field, i % columns * kTile, i / columns * kTile, kTile, kTile, sheets.at("tiles"),
-           (code - 1) % kTilesPerRow * kTile, (code - 1) / kTilesPerRow * kTile, RasterOp::SRCCOPY);
+           (code - 1) % kTilesPerRow * kTile, (code - 1) / kTilesPerRow * kTile, Blit::Copy);
   }
   for (int cell = 0; cell < 12; ++cell) {
     PutSprite(field, {12 + 48 * cell, 8, 24, 32}, sheets.at(hero),

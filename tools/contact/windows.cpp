@@ -28,7 +28,7 @@ void PutContents(Surface& surface, const Screen& screen, const Control* holder, 
       FillBox(surface, x, y, x + static_cast<int>(box.At.Width) - 1,
               y + static_cast<int>(box.At.Height) - 1, kEdge);
       BitBlt(surface, x + box.Edge, y + box.Edge, static_cast<int>(box.At.Width) - 2 * box.Edge,
-             static_cast<int>(box.At.Height) - 2 * box.Edge, box.Picture, 0, 0, RasterOp::SRCCOPY);
+             static_cast<int>(box.At.Height) - 2 * box.Edge, box.Picture, 0, 0, Blit::Copy);
       PutContents(surface, screen, &box, x + box.Edge, y + box.Edge);
     }
   }
@@ -73,8 +73,7 @@ Shown Windows::TheTitle() {
   MainScreen& main = screens_->game.Main;
   const Surface& title = sheets_.at("title");
   Surface field(main.FieldPicture.Picture.Width(), main.FieldPicture.Picture.Height());
-  StretchBlt(field, {0, 0, 480, 320}, title, {0, 0, title.Width(), title.Height()},
-             RasterOp::SRCCOPY);
+  StretchBlt(field, {0, 0, 480, 320}, title, {0, 0, title.Width(), title.Height()}, Blit::Copy);
   main.FieldPicture.Picture = field;
   return {"title as seen", Whole(main.FieldPicture)};
 }
@@ -153,8 +152,7 @@ std::vector<Shown> Faces(const Sheets& sheets) {
     const Surface& face = sheets.at(name);
     result.push_back({std::string(name) + " at 48", face});
     Surface large(kLargeFace, kLargeFace);
-    StretchBlt(large, {0, 0, kLargeFace, kLargeFace}, face, {0, 0, kFace, kFace},
-               RasterOp::SRCCOPY);
+    StretchBlt(large, {0, 0, kLargeFace, kLargeFace}, face, {0, 0, kFace, kFace}, Blit::Copy);
     result.push_back({std::string(name) + " at 80", large});
   }
   return result;

@@ -14,7 +14,7 @@ int NumberOf(const Room& room) {
       return 2;
     case Room::Kind::Book:
       return 2 + room.Round;
-    case Room::Kind::None:
+    case Room::Kind::Nowhere:
       break;
   }
   return 0;

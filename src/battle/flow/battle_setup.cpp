@@ -35,8 +35,8 @@ void OpenBattle(BattleScreen& battle) {
   battle.TechniqueButton.Enabled = true;
   BattleSetUp(battle);
   RefreshStatus(battle);
-  const bool bone_dragon =
-      state.EnemyKind == kBoneDragonKind && state.BossFight != True && state.LastBossFight != True;
+  const bool bone_dragon = state.EnemyKind == kBoneDragonKind && state.BossFight != kTrue &&
+                           state.LastBossFight != kTrue;
   if (!bone_dragon) battle.FleeButton.Enabled = false;
   battle.MusicTimer.SetEnabled(true);
   NameTab(battle, 0);
@@ -66,14 +66,14 @@ void LeaveBattle(BattleScreen& battle) {
   battle.FleeButton.Enabled = true;
   for (int hero = 0; hero < 2; ++hero) {
     battle.HeroTabs.SetTabEnabled(hero, true);
-    battle.state.HeroBusy[hero] = False;
+    battle.state.HeroBusy[hero] = kFalse;
   }
   battle.game.stage.Show(battle.game.Main);
 }
 
 void AbandonBattle(BattleScreen& battle) {
   State& state = battle.state;
-  state.ActionKind = Action::None;
+  state.ActionKind = Action::Nothing;
   state.FieldFrame = state.MessageFrame = state.StoryFrame = 0;
   state.ActionState = 0;
   ClearDirections(battle.game);

@@ -22,7 +22,7 @@ void CommandLock(BattleScreen& battle, int tab) {
   battle.ItemButton.Enabled = false;
   battle.HeroTabs.SetTabEnabled(tab, false);
   battle.HeroTabs.SetTabEnabled(tab ^ 1, false);
-  battle.state.HeroBusy[tab] = True;
+  battle.state.HeroBusy[tab] = kTrue;
 }
 
 void CommandUnlock(BattleScreen& battle) {
@@ -30,21 +30,21 @@ void CommandUnlock(BattleScreen& battle) {
   battle.FightButton.Enabled = true;
   battle.ItemButton.Enabled = true;
   (tab == 0 ? battle.TechniqueButton : battle.SpellButton).Enabled = true;
-  battle.state.HeroBusy[tab] = False;
+  battle.state.HeroBusy[tab] = kFalse;
   battle.Skills.Clear();
   battle.HeroTabs.SetTabEnabled(tab, true);
 }
 
 void FaintedTabOff(BattleScreen& battle) {
   for (int hero = 0; hero < 2; ++hero) {
-    if (battle.state.HeroFainted[hero] != True) continue;
+    if (battle.state.HeroFainted[hero] != kTrue) continue;
     battle.HeroTabs.SetTabEnabled(hero, false);
     return;
   }
 }
 
 bool OtherIsFree(const BattleScreen& battle) {
-  return battle.state.HeroBusy[battle.ActingHero() ^ 1] == False;
+  return battle.state.HeroBusy[battle.ActingHero() ^ 1] == kFalse;
 }
 
 void OpenOtherTab(BattleScreen& battle) {
@@ -66,7 +66,7 @@ void FillTargets(BattleScreen& battle) {
   list.SetRow(0, kWayBack);
   if (IsBigFight(state)) return list.SetRow(1, state.EnemyName[EnemyRow(state)].Full());
   for (int slot = 1; slot <= state.EnemyCount; ++slot) {
-    const bool alive = state.EnemyAlive[slot - 1] == True;
+    const bool alive = state.EnemyAlive[slot - 1] == kTrue;
     list.SetRow(slot,
                 alive ? state.EnemyName[state.EnemyKind].Full() + "(" + std::to_string(slot) + ")"
                       : std::string(kDeadRow));
@@ -87,7 +87,7 @@ void OpenSkillList(BattleScreen& battle, CommandButton& button, const Array<Int1
   CommandLock(battle, battle.ActingHero());
   button.Enabled = false;
   for (int row = 1; row <= kSkills; ++row) {
-    const bool learned = known[row - 1] == True;
+    const bool learned = known[row - 1] == kTrue;
     battle.Skills.SetRow(
         row, learned ? names[row - 1] + "   (MP消費:" + std::to_string(costs[row - 1]) + ")"
                      : std::string("未修得"));
@@ -96,7 +96,7 @@ void OpenSkillList(BattleScreen& battle, CommandButton& button, const Array<Int1
 
 // Says why a skill cannot be used, if so.
 bool Refused(BattleScreen& battle, int known, int mp, int cost) {
-  if (known != True) {
+  if (known != kTrue) {
     Warn(battle.game, "未修得です");
     return true;
   }
@@ -228,7 +228,7 @@ void CommandFlee(BattleScreen& battle) {
   State& state = battle.state;
   battle.ActionTimer.SetEnabled(false);
   for (int hero = 0; hero < 2; ++hero) {
-    if (state.HeroFainted[hero] != True) continue;
+    if (state.HeroFainted[hero] != kTrue) continue;
     StandUp(state, hero);
   }
   LeaveBattle(battle);

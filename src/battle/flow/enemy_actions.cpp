@@ -68,9 +68,9 @@ void LeaveToOne(BattleScreen& battle, int standing) {
 void EnableCommands(BattleScreen& battle) {
   const State& state = battle.state;
   battle.FightButton.Enabled = true;
-  if (state.HeroFainted[1] == False && battle.ActingHero() == 1) {
+  if (state.HeroFainted[1] == kFalse && battle.ActingHero() == 1) {
     battle.SpellButton.Enabled = true;
-  } else if (state.HeroFainted[0] == False && battle.ActingHero() == 0) {
+  } else if (state.HeroFainted[0] == kFalse && battle.ActingHero() == 0) {
     battle.TechniqueButton.Enabled = true;
   }
   battle.ItemButton.Enabled = true;
@@ -78,11 +78,11 @@ void EnableCommands(BattleScreen& battle) {
 
 void EndPhase(BattleScreen& battle) {
   State& state = battle.state;
-  state.ActionKind = Action::None;
+  state.ActionKind = Action::Nothing;
   state.EnemyTurns = 0;
   EnableCommands(battle);
-  const bool first_stands = state.HeroFainted[0] == False;
-  const bool second_stands = state.HeroFainted[1] == False;
+  const bool first_stands = state.HeroFainted[0] == kFalse;
+  const bool second_stands = state.HeroFainted[1] == kFalse;
   if (first_stands && second_stands) {
     battle.HeroTabs.SetTabEnabled(0, true);
     battle.HeroTabs.SetTabEnabled(1, true);
@@ -94,7 +94,7 @@ void EndPhase(BattleScreen& battle) {
 }
 
 bool BothHaveFainted(const State& state) {
-  return state.HeroFainted[0] != False && state.HeroFainted[1] != False;
+  return state.HeroFainted[0] != kFalse && state.HeroFainted[1] != kFalse;
 }
 
 // The end of the party: closes all sound, tells so, and ends the program with the answer.

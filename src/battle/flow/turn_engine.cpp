@@ -10,7 +10,7 @@ namespace {
 void PassToEnemies(BattleScreen& battle) {
   State& state = battle.state;
   for (int hero = 0; hero < 2; ++hero) {
-    state.HeroBusy[hero] = False;
+    state.HeroBusy[hero] = kFalse;
     battle.HeroTabs.SetTabEnabled(hero, false);
   }
   DecideEnemyPhase(state, battle.game.services.Luck);
@@ -28,7 +28,7 @@ void AskNextHero(BattleScreen& battle) {
 void PassOn(BattleScreen& battle) {
   State& state = battle.state;
   const int other = battle.ActingHero() ^ 1;
-  if (state.HeroFainted[other] == False) {
+  if (state.HeroFainted[other] == kFalse) {
     battle.HeroTabs.SetTab(other);
     battle.HeroTabs.SetTabEnabled(other, true);
   } else {

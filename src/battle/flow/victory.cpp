@@ -21,7 +21,7 @@ std::string ShortName(const State& state, int hero) {
 // A standing hero gains all; a fainted one comes back with a single HP and nothing else.
 void Reward(BattleScreen& battle, int hero, Int32 gain) {
   State& state = battle.state;
-  if (state.HeroFainted[hero] != False) return StandUp(state, hero);
+  if (state.HeroFainted[hero] != kFalse) return StandUp(state, hero);
   state.Exp[hero] += gain;
   Label& message = battle.MasteryMessages[hero];
   message.Visible = TrainByBook(state, hero);
@@ -65,9 +65,9 @@ void VictoryCheck(BattleScreen& battle) {
 void LeaveVictory(BattleScreen& battle) {
   State& state = battle.state;
   if (!battle.VictoryPanel.Visible) return;
-  state.ActionKind = Action::None;
+  state.ActionKind = Action::Nothing;
   battle.VictoryPanel.Visible = false;
-  if (state.LastBossFight == True) state.LastBossDown = True;
+  if (state.LastBossFight == kTrue) state.LastBossDown = kTrue;
   LeaveBattle(battle);
 }
 

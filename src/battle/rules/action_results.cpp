@@ -58,7 +58,7 @@ void Heal(State& state, const Choice& choice) {
   state.HealAmount[kWoman] = HealingOf(n, state.MaxHP[kWoman], 9, spirit, factor);
   for (int hero = 0; hero < 2; ++hero) {
     state.HP[hero] += state.HealAmount[hero];
-    state.HeroFainted[hero] = False;
+    state.HeroFainted[hero] = kFalse;
     CapHP(state, hero);
   }
 }
@@ -68,14 +68,14 @@ const BattleItem* UseItem(State& state, const Choice& choice) {
     if (state.Items[choice.BagSlot] != item.Number) continue;
     state.HP[choice.Receiver] += item.HP;
     state.MP[choice.Receiver] += item.MP;
-    state.HeroFainted[choice.Receiver] = False;
+    state.HeroFainted[choice.Receiver] = kFalse;
     return &item;
   }
   return nullptr;
 }
 
 void ComputeEnemyAttack(State& state) {
-  if (state.BossFight == True) state.EnemyKind = state.Round - 1;
+  if (state.BossFight == kTrue) state.EnemyKind = state.Round - 1;
   state.EnemyDamage = EnemyAttackDamage(state.EnemyAttack[state.EnemyKind], state.EnemyRoll,
                                         state.Round, state.Defence[StruckHero(state)]);
 }

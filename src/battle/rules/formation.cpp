@@ -17,7 +17,7 @@ void RollKind(State& state, Chance& luck) {
 
 void FillSlot(State& state, int slot, Int32 life) {
   state.EnemyLife[slot - 1] = life;
-  state.EnemyAlive[slot - 1] = True;
+  state.EnemyAlive[slot - 1] = kTrue;
 }
 
 // A dragon's special comes once in five times.
@@ -29,20 +29,20 @@ bool RollsSpecial(State& state, Chance& luck) {
 }  // namespace
 
 bool IsBigFight(const State& state) {
-  return state.BossFight == True || state.LastBossFight == True ||
+  return state.BossFight == kTrue || state.LastBossFight == kTrue ||
          state.EnemyKind == kBoneDragonKind;
 }
 
 int EnemyRow(const State& state) {
-  if (state.BossFight == True) return state.Round - 1;
-  if (state.LastBossFight == True) return kLastBossKind;
+  if (state.BossFight == kTrue) return state.Round - 1;
+  if (state.LastBossFight == kTrue) return kLastBossKind;
   return state.EnemyKind;
 }
 
 void FormEnemies(State& state, Chance& luck) {
   RollKind(state, luck);
   state.EnemyCount = Roll(luck, kMostEnemies, 1);
-  for (int slot = 1; slot <= kSlots; ++slot) state.EnemyAlive[slot - 1] = False;
+  for (int slot = 1; slot <= kSlots; ++slot) state.EnemyAlive[slot - 1] = kFalse;
   if (IsBigFight(state)) {
     state.EnemyCount = 1;
     return FillSlot(state, kBigSlot, state.EnemyHP[EnemyRow(state)]);
@@ -53,18 +53,18 @@ void FormEnemies(State& state, Chance& luck) {
 
 void DecideEnemyPhase(State& state, Chance& luck) {
   state.ActionKind = Action::EnemyAttack;
-  if (state.BossFight == True) {
+  if (state.BossFight == kTrue) {
     const bool special = RollsSpecial(state, luck) && state.Round != 1;
     state.EnemyTurns = state.Round == 3 && !special ? 2 : 1;
     if (special) state.ActionKind = Action::BossSpecial;
-  } else if (state.LastBossFight == True) {
+  } else if (state.LastBossFight == kTrue) {
     const bool special = RollsSpecial(state, luck);
     state.EnemyTurns = special ? 1 : 2;
     if (special) state.ActionKind = Action::LastBossSpecial;
   } else {
     if (state.EnemyKind == kBoneDragonKind) state.EnemyTurns = 2;
     for (int slot = 1; slot <= state.EnemyCount; ++slot) {
-      if (state.EnemyAlive[slot - 1] == True) state.EnemyTurns += 1;
+      if (state.EnemyAlive[slot - 1] == kTrue) state.EnemyTurns += 1;
     }
   }
 }

@@ -10,7 +10,7 @@ namespace {
 void Hit(State& state, int slot, Int32 damage, std::vector<int>& down) {
   state.EnemyLife[slot - 1] -= damage;
   if (state.EnemyLife[slot - 1] > 0) return;
-  state.EnemyAlive[slot - 1] = False;
+  state.EnemyAlive[slot - 1] = kFalse;
   down.push_back(slot);
 }
 
@@ -20,7 +20,7 @@ void HitBySpellIn(State& state, int slot, std::vector<int>& down) {
 
 void FaintWithoutHP(State& state, int hero, std::vector<int>& fainted) {
   if (state.HP[hero] > 0) return;
-  state.HeroFainted[hero] = True;
+  state.HeroFainted[hero] = kTrue;
   fainted.push_back(hero);
 }
 

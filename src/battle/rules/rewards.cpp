@@ -7,7 +7,7 @@ namespace orvane {
 namespace {
 
 Int16 ProficiencyOf(const State& state) {
-  if (state.BossFight == True) return state.Round * 20;
+  if (state.BossFight == kTrue) return state.Round * 20;
   if (state.EnemyKind == kBoneDragonKind) return 20;
   return state.EnemyCount * state.Round;
 }
@@ -16,7 +16,7 @@ Int16 ProficiencyOf(const State& state) {
 
 bool EnemyLeft(const State& state) {
   for (int slot = 1; slot <= kBigSlot; ++slot) {
-    if (state.EnemyAlive[slot - 1] != False) return true;
+    if (state.EnemyAlive[slot - 1] != kFalse) return true;
   }
   return false;
 }
@@ -35,7 +35,7 @@ bool TrainByBook(State& state, int hero) {
 
 void StandUp(State& state, int hero) {
   state.HP[hero] = 1;
-  state.HeroFainted[hero] = False;
+  state.HeroFainted[hero] = kFalse;
 }
 
 }  // namespace orvane

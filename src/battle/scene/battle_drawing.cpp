@@ -34,14 +34,14 @@ const Surface& Ground(const BattleScreen& battle) {
 // Draws a part of the ground; in the last dragon's lair that lies over everything else.
 void DrawGround(BattleScreen& battle, const Rect& target, const Rect& area) {
   Surface& scene = battle.Scene.Picture;
-  StretchBlt(scene, target, Ground(battle), area, RasterOp::SRCCOPY);
-  if (battle.state.LastBossFight == True) {
-    StretchBlt(scene, target, battle.LairGround.Picture, area, RasterOp::SRCCOPY);
+  StretchBlt(scene, target, Ground(battle), area, Blit::Copy);
+  if (battle.state.LastBossFight == kTrue) {
+    StretchBlt(scene, target, battle.LairGround.Picture, area, Blit::Copy);
   }
 }
 
 const Cell& BigCellOf(const State& state) {
-  return state.BossFight == True ? kRoundBossCell : kBigCell;
+  return state.BossFight == kTrue ? kRoundBossCell : kBigCell;
 }
 
 void DrawBig(BattleScreen& battle, int row, const Cell& cell, int shift = 0) {
@@ -54,7 +54,7 @@ void DrawBig(BattleScreen& battle, int row, const Cell& cell, int shift = 0) {
 void DrawEnemyGroup(BattleScreen& battle) {
   RedrawCells(battle, SlotCells(battle.ChosenTarget()));
   for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
-    if (battle.state.EnemyAlive[slot - 1] == True) DrawEnemyInSlot(battle, slot);
+    if (battle.state.EnemyAlive[slot - 1] == kTrue) DrawEnemyInSlot(battle, slot);
   }
 }
 
@@ -65,17 +65,15 @@ double ShakePixels(int frame, int twips) {
 void FlashSlot(BattleScreen& battle, int slot) {
   const Surface& sheet = battle.EnemySheets[battle.state.EnemyKind].Picture;
   BitBlt(battle.Scene.Picture, SlotX(slot), SlotY(slot), kEnemyCell.Width, kEnemyCell.Height, sheet,
-         kEnemyCell.MaskX, kEnemyCell.MaskY, RasterOp::SRCPAINT);
+         kEnemyCell.MaskX, kEnemyCell.MaskY, Blit::Or);
 }
 
 }  // namespace
 
 void DrawSprite(BattleScreen& battle, const Rect& target, const Surface& sheet, const Cell& cell) {
   Surface& scene = battle.Scene.Picture;
-  StretchBlt(scene, target, sheet, {cell.MaskX, cell.MaskY, cell.Width, cell.Height},
-             RasterOp::SRCPAINT);
-  StretchBlt(scene, target, sheet, {cell.ImageX, cell.ImageY, cell.Width, cell.Height},
-             RasterOp::SRCAND);
+  StretchBlt(scene, target, sheet, {cell.MaskX, cell.MaskY, cell.Width, cell.Height}, Blit::Or);
+  StretchBlt(scene, target, sheet, {cell.ImageX, cell.ImageY, cell.Width, cell.Height}, Blit::And);
 }
 
 void DrawEffect(BattleScreen& battle, int column, int row, const Rect& target) {
@@ -110,9 +108,9 @@ void DrawLastBoss(BattleScreen& battle) {
 }
 
 void DrawEnemySide(BattleScreen& battle) {
-  if (battle.state.BossFight == True) {
+  if (battle.state.BossFight == kTrue) {
     DrawRoundBoss(battle);
-  } else if (battle.state.LastBossFight == True) {
+  } else if (battle.state.LastBossFight == kTrue) {
     DrawLastBoss(battle);
   } else if (battle.state.EnemyKind == kBoneDragonKind) {
     DrawBig(battle, kBoneDragonKind, kBigCell);
@@ -131,7 +129,7 @@ void EnemyRecoil(BattleScreen& battle) {
     return DrawBig(battle, EnemyRow(battle.state), BigCellOf(battle.state), -kRecoil);
   }
   const int slot = battle.ChosenTarget();
-  if (battle.state.EnemyAlive[slot - 1] != True) return;
+  if (battle.state.EnemyAlive[slot - 1] != kTrue) return;
   RedrawCells(battle, SlotCells(slot));
   DrawEnemyInSlot(battle, slot, -kRecoil);
 }
@@ -140,12 +138,12 @@ void EnemyFlash(BattleScreen& battle) {
   if (IsBigFight(battle.state)) {
     const Cell& cell = BigCellOf(battle.state);
     StretchBlt(battle.Scene.Picture, kBigPlace, battle.EnemySheets[EnemyRow(battle.state)].Picture,
-               {cell.MaskX, cell.MaskY, cell.Width, cell.Height}, RasterOp::SRCPAINT);
+               {cell.MaskX, cell.MaskY, cell.Width, cell.Height}, Blit::Or);
   } else if (TargetsOfSpell(battle.ChosenSkill()) == Targets::One) {
     FlashSlot(battle, battle.ChosenTarget());
   } else {
     for (int slot = 1; slot <= battle.state.EnemyCount; ++slot) {
-      if (battle.state.EnemyAlive[slot - 1] == True) FlashSlot(battle, slot);
+      if (battle.state.EnemyAlive[slot - 1] == kTrue) FlashSlot(battle, slot);
     }
   }
 }

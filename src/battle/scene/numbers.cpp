@@ -57,7 +57,7 @@ void HopSpell(BattleScreen& battle, int step) {
     return Hop(OverTarget(battle), step);
   }
   for (int slot = 1; slot <= state.EnemyCount; ++slot) {
-    if (state.EnemyAlive[slot - 1] == True) Hop(battle.EnemyNumbers[slot - 1], step);
+    if (state.EnemyAlive[slot - 1] == kTrue) Hop(battle.EnemyNumbers[slot - 1], step);
   }
 }
 

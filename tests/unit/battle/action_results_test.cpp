@@ -69,7 +69,7 @@ TEST_F(ActionResults, ASpellOnAllRollsForEach) {
 }
 
 TEST_F(ActionResults, ABigEnemyTakesTheFirstDraw) {
-  state_.BossFight = True;
+  state_.BossFight = kTrue;
   FixedChance luck({0.5F, 0});
   ComputeSpell(state_, {.Hero = kWoman, .Skill = 4, .Struck = Targets::All, .Slot = kBigSlot},
                luck);
@@ -89,38 +89,38 @@ TEST_F(ActionResults, HealingRaisesBothAndStopsAtTheMaximum) {
   state_.HP[kMan] = 75;
   state_.HP[kWoman] = 0;
   state_.Spirit[kWoman] = 2;
-  state_.HeroFainted[kWoman] = True;
+  state_.HeroFainted[kWoman] = kTrue;
   state_.MP[kMan] = 9;  // beyond its maximum, and left there
   Heal(state_, {.Skill = 3});
   EXPECT_EQ(state_.HealAmount[kMan], 16);
   EXPECT_EQ(state_.HealAmount[kWoman], 16);
   EXPECT_EQ(state_.HP[kMan], 80);
   EXPECT_EQ(state_.HP[kWoman], 16);
-  EXPECT_EQ(state_.HeroFainted[kWoman], False);
+  EXPECT_EQ(state_.HeroFainted[kWoman], kFalse);
   EXPECT_EQ(state_.MP[kMan], 9);
 }
 
 TEST_F(ActionResults, ABattleItemGivesWhatItsNumberSays) {
   state_.Items[4] = 48;
-  state_.HeroFainted[kWoman] = True;
+  state_.HeroFainted[kWoman] = kTrue;
   const BattleItem* item = UseItem(state_, {.BagSlot = 4, .Receiver = kWoman});
   ASSERT_NE(item, nullptr);
   EXPECT_EQ(item->HP, 500);
   EXPECT_EQ(state_.HP[kWoman], 500);
   EXPECT_EQ(state_.MP[kWoman], 50);
   EXPECT_EQ(state_.HP[kMan], 0);
-  EXPECT_EQ(state_.HeroFainted[kWoman], False);
+  EXPECT_EQ(state_.HeroFainted[kWoman], kFalse);
   EXPECT_EQ(state_.Items[4], 48) << "it leaves the bag later";
 }
 
 TEST_F(ActionResults, OtherItemsDoNothing) {
-  state_.HeroFainted[kMan] = True;
+  state_.HeroFainted[kMan] = kTrue;
   for (const int number : {46, 50, NoItem}) {
     state_.Items[0] = number;
     EXPECT_EQ(UseItem(state_, {.BagSlot = 0, .Receiver = kMan}), nullptr);
   }
   EXPECT_EQ(state_.HP[kMan], 0);
-  EXPECT_EQ(state_.HeroFainted[kMan], True);
+  EXPECT_EQ(state_.HeroFainted[kMan], kTrue);
 }
 
 TEST_F(ActionResults, AnEnemyStrikesTheHeroOfItsRoll) {
@@ -136,7 +136,7 @@ TEST_F(ActionResults, AnEnemyStrikesTheHeroOfItsRoll) {
 }
 
 TEST_F(ActionResults, ARoundsDragonAttacksWithItsOwnRow) {
-  state_.BossFight = True;
+  state_.BossFight = kTrue;
   state_.Round = 2;
   ComputeEnemyAttack(state_);
   EXPECT_EQ(state_.EnemyKind, 1);

@@ -96,7 +96,7 @@ TEST_F(BattleTest, TheFireDrawsNothingInTheFirstRoundAndKeepsItsDamage) {
 // The two tables of mastery counts hold the same numbers; different rules read them.
 TEST_F(BattleTest, AWinTellsOfTheWomansMasteryByTheMansTable) {
   game_.stage.Show(heroes_);
-  state_.MagicKnown[0] = True;
+  state_.MagicKnown[0] = kTrue;
   state_.BookSkill[1] = 1;
   state_.MagicUse[0] = 20;
   state_.WazaMaster[0] = 30;

@@ -38,9 +38,9 @@ TEST_F(Formation, ADragonIsTheFightsOwn) {
   state_.EnemyKind = kBoneDragonKind;
   EXPECT_TRUE(IsBigFight(state_));
   EXPECT_EQ(EnemyRow(state_), kBoneDragonKind);
-  state_.LastBossFight = True;
+  state_.LastBossFight = kTrue;
   EXPECT_EQ(EnemyRow(state_), kLastBossKind);
-  state_.BossFight = True;
+  state_.BossFight = kTrue;
   state_.Round = 2;
   EXPECT_EQ(EnemyRow(state_), 1);
 }
@@ -69,11 +69,11 @@ TEST_F(Formation, TheLastRoundKeepsItsKind) {
 }
 
 TEST_F(Formation, AGroupFillsItsSlotsAlone) {
-  for (int slot = 1; slot <= 5; ++slot) state_.EnemyAlive[slot - 1] = True;
+  for (int slot = 1; slot <= 5; ++slot) state_.EnemyAlive[slot - 1] = kTrue;
   FixedChance luck({0, 0.3F});
   FormEnemies(state_, luck);
   EXPECT_EQ(state_.EnemyCount, 2);
-  const int alive[] = {True, True, False, False, False};
+  const int alive[] = {kTrue, kTrue, kFalse, kFalse, kFalse};
   for (int slot = 1; slot <= 5; ++slot) EXPECT_EQ(state_.EnemyAlive[slot - 1], alive[slot - 1]);
   EXPECT_EQ(state_.EnemyLife[0], 280);
   EXPECT_EQ(state_.EnemyLife[1], 280);
@@ -81,18 +81,18 @@ TEST_F(Formation, AGroupFillsItsSlotsAlone) {
 }
 
 TEST_F(Formation, ABigEnemyStandsAloneInItsSlot) {
-  state_.BossFight = True;
+  state_.BossFight = kTrue;
   FixedChance luck({0, kNearOne});
   FormEnemies(state_, luck);
   EXPECT_EQ(state_.EnemyCount, 1);
-  EXPECT_EQ(state_.EnemyAlive[0], False);
-  EXPECT_EQ(state_.EnemyAlive[kBigSlot - 1], True);
+  EXPECT_EQ(state_.EnemyAlive[0], kFalse);
+  EXPECT_EQ(state_.EnemyAlive[kBigSlot - 1], kTrue);
   EXPECT_EQ(state_.EnemyLife[kBigSlot - 1], 7000);
 }
 
 TEST_F(Formation, EachLivingEnemyActsOnce) {
   state_.EnemyCount = 3;
-  state_.EnemyAlive[0] = state_.EnemyAlive[2] = True;
+  state_.EnemyAlive[0] = state_.EnemyAlive[2] = kTrue;
   FixedChance luck;
   DecideEnemyPhase(state_, luck);
   EXPECT_EQ(state_.ActionKind, Action::EnemyAttack);
@@ -102,7 +102,7 @@ TEST_F(Formation, EachLivingEnemyActsOnce) {
 
 TEST_F(Formation, TurnsLeftByTheLastBattleAddUp) {
   state_.EnemyCount = 1;
-  state_.EnemyAlive[0] = True;
+  state_.EnemyAlive[0] = kTrue;
   state_.EnemyTurns = 2;
   FixedChance luck;
   DecideEnemyPhase(state_, luck);
@@ -112,7 +112,7 @@ TEST_F(Formation, TurnsLeftByTheLastBattleAddUp) {
 TEST_F(Formation, ABoneDragonActsTwiceAndItsSlotIsNotCounted) {
   state_.EnemyKind = kBoneDragonKind;
   state_.EnemyCount = 1;
-  state_.EnemyAlive[kBigSlot - 1] = True;
+  state_.EnemyAlive[kBigSlot - 1] = kTrue;
   state_.EnemyTurns = 7;
   FixedChance luck;
   DecideEnemyPhase(state_, luck);
@@ -129,7 +129,7 @@ TEST_F(Formation, ARoundsDragonRollsItsSpecialFromTheSecondOn) {
       {2, 0.2F, Action::BossSpecial, 1}, {2, 0.5F, Action::EnemyAttack, 1},
       {3, 0.2F, Action::BossSpecial, 1}, {3, 0.5F, Action::EnemyAttack, 2},
   };
-  state_.BossFight = True;
+  state_.BossFight = kTrue;
   for (const auto& each : cases) {
     state_.Round = each.Round;
     FixedChance luck({each.Draw});
@@ -141,7 +141,7 @@ TEST_F(Formation, ARoundsDragonRollsItsSpecialFromTheSecondOn) {
 }
 
 TEST_F(Formation, TheLastDragonActsTwiceOrBreathes) {
-  state_.LastBossFight = True;
+  state_.LastBossFight = kTrue;
   FixedChance luck({0.39F, 0.4F, 0});
   DecideEnemyPhase(state_, luck);
   EXPECT_EQ(state_.ActionKind, Action::LastBossSpecial);

@@ -17,7 +17,7 @@ class Hits : public testing::Test {
     state_.EnemyCount = 3;
     for (int slot = 1; slot <= 3; ++slot) {
       state_.EnemyLife[slot - 1] = 100;
-      state_.EnemyAlive[slot - 1] = True;
+      state_.EnemyAlive[slot - 1] = kTrue;
       state_.MagicDamage[slot - 1] = 40;
     }
     for (int hero = 0; hero < 2; ++hero) state_.HP[hero] = state_.MaxHP[hero] = 50;
@@ -27,7 +27,7 @@ class Hits : public testing::Test {
     state_.EnemyKind = kBoneDragonKind;
     state_.EnemyCount = 1;
     state_.EnemyLife[kBigSlot - 1] = 100;
-    state_.EnemyAlive[kBigSlot - 1] = True;
+    state_.EnemyAlive[kBigSlot - 1] = kTrue;
     state_.MagicDamage[kBigSlot - 1] = 40;
   }
 
@@ -38,11 +38,11 @@ TEST_F(Hits, AnEnemyFallsWhenNoLifeIsLeft) {
   state_.AttackDamage = 99;
   EXPECT_EQ(HitByFight(state_, {.Slot = 2}), Slots{});
   EXPECT_EQ(state_.EnemyLife[1], 1);
-  EXPECT_EQ(state_.EnemyAlive[1], True);
+  EXPECT_EQ(state_.EnemyAlive[1], kTrue);
   state_.AttackDamage = 1;
   EXPECT_EQ(HitByFight(state_, {.Slot = 2}), Slots{2});
-  EXPECT_EQ(state_.EnemyAlive[1], False);
-  EXPECT_EQ(state_.EnemyAlive[0], True);
+  EXPECT_EQ(state_.EnemyAlive[1], kFalse);
+  EXPECT_EQ(state_.EnemyAlive[0], kTrue);
 }
 
 TEST_F(Hits, ATechniqueBelowZeroHeals) {
@@ -60,12 +60,12 @@ TEST_F(Hits, ASpellOnOneLeavesTheOthersAlone) {
 
 TEST_F(Hits, ASpellOnAllTellsOfTheDeadAgain) {
   state_.EnemyLife[0] = -5;
-  state_.EnemyAlive[0] = False;
+  state_.EnemyAlive[0] = kFalse;
   state_.EnemyLife[2] = 40;
   EXPECT_EQ(HitBySpell(state_, {.Struck = Targets::All, .Slot = -1}), (Slots{1, 3}));
   EXPECT_EQ(state_.EnemyLife[0], -45);
   EXPECT_EQ(state_.EnemyLife[1], 60);
-  EXPECT_EQ(state_.EnemyAlive[2], False);
+  EXPECT_EQ(state_.EnemyAlive[2], kFalse);
 }
 
 TEST_F(Hits, ABigEnemyTakesATargetedSpellTwice) {
@@ -94,8 +94,8 @@ TEST_F(Hits, AnEnemyHitsOneHero) {
   state_.EnemyDamage = 31;
   EXPECT_EQ(HitByEnemy(state_), Slots{kWoman});
   EXPECT_EQ(state_.HP[kWoman], 0) << "and not below";
-  EXPECT_EQ(state_.HeroFainted[kWoman], True);
-  EXPECT_EQ(state_.HeroFainted[kMan], False);
+  EXPECT_EQ(state_.HeroFainted[kWoman], kTrue);
+  EXPECT_EQ(state_.HeroFainted[kMan], kFalse);
 }
 
 TEST_F(Hits, ABreathHitsBoth) {

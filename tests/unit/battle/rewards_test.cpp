@@ -27,15 +27,15 @@ class Rewards : public testing::Test {
 TEST_F(Rewards, AnySlotKeepsABattleGoing) {
   EXPECT_FALSE(EnemyLeft(state_));
   for (int slot = 1; slot <= kBigSlot; ++slot) {
-    state_.EnemyAlive[slot - 1] = True;
+    state_.EnemyAlive[slot - 1] = kTrue;
     EXPECT_TRUE(EnemyLeft(state_)) << slot;
-    state_.EnemyAlive[slot - 1] = False;
+    state_.EnemyAlive[slot - 1] = kFalse;
   }
 }
 
 TEST_F(Rewards, ExperienceCountsTheGroup) {
   EXPECT_EQ(ExperienceOf(state_), 3 * 236);
-  state_.BossFight = True;
+  state_.BossFight = kTrue;
   state_.EnemyCount = 1;
   EXPECT_EQ(ExperienceOf(state_), 20000);
 }
@@ -57,7 +57,7 @@ TEST_F(Rewards, ADragonTrainsMore) {
   state_.EnemyKind = kBoneDragonKind;
   EXPECT_TRUE(TrainByBook(state_, kWoman));
   EXPECT_EQ(state_.MagicUse[0], 20);
-  state_.BossFight = True;
+  state_.BossFight = kTrue;
   EXPECT_TRUE(TrainByBook(state_, kWoman));
   EXPECT_EQ(state_.MagicUse[0], 60);
 }
@@ -71,10 +71,10 @@ TEST_F(Rewards, MasteryIsReachedAtItsCount) {
 }
 
 TEST_F(Rewards, AFaintedHeroComesBackWithOneHP) {
-  state_.HeroFainted[kWoman] = True;
+  state_.HeroFainted[kWoman] = kTrue;
   StandUp(state_, kWoman);
   EXPECT_EQ(state_.HP[kWoman], 1);
-  EXPECT_EQ(state_.HeroFainted[kWoman], False);
+  EXPECT_EQ(state_.HeroFainted[kWoman], kFalse);
 }
 
 }  // namespace

@@ -73,8 +73,8 @@ class FocusTest : public testing::Test {
 using Names = std::vector<std::string>;
 
 TEST_F(FocusTest, tab_goes_through_each_screen_as_it_is_read) {
-  program_.TheState().GameStarted = True;
-  program_.TheState().OpeningDone = True;
+  program_.TheState().GameStarted = kTrue;
+  program_.TheState().OpeningDone = kTrue;
   EXPECT_EQ(Round(Open("InputName")), (Names{"Text1(0)", "Text1(1)", "OKButton", "CancelButton"}));
   EXPECT_EQ(Round(Open("Custom")), (Names{"Text1(0)", "Text1(1)", "Slider1", "Command1"}));
   EXPECT_EQ(Round(Open("Wepon")), (Names{"List1", "SSTab1", "Command5"}));
@@ -135,8 +135,8 @@ TEST_F(FocusTest, enter_in_a_name_field_is_ok) {
 }
 
 TEST_F(FocusTest, arrows_stay_in_a_list_at_its_ends) {
-  program_.TheState().GameStarted = True;
-  program_.TheState().OpeningDone = True;
+  program_.TheState().GameStarted = kTrue;
+  program_.TheState().OpeningDone = kTrue;
   const ScreenWindow& window = Open("Wepon");
   for (int i = 0; i < 3; ++i) Type(Qt::Key_Up);
   EXPECT_EQ(At(window), "List1") << "the tabs lie higher, but not on the list's way";
@@ -171,8 +171,8 @@ TEST_F(FocusTest, nothing_has_the_keyboard_during_an_action_and_the_command_has_
 }
 
 TEST_F(FocusTest, control_and_tab_turn_the_tabs_and_the_keyboard_goes_with_them) {
-  program_.TheState().GameStarted = True;
-  program_.TheState().OpeningDone = True;
+  program_.TheState().GameStarted = kTrue;
+  program_.TheState().OpeningDone = kTrue;
   const ScreenWindow& window = Open("Wepon");
   auto& tabs = static_cast<TabStrip&>(*program_.TheStage().Find("Wepon")->Find("SSTab1"));
   Type(Qt::Key_Tab);
@@ -209,8 +209,8 @@ TEST_F(FocusTest, the_menu_key_opens_the_first_menu_that_is_on) {
 }
 
 TEST_F(FocusTest, a_menu_that_closes_leaves_the_keys_to_the_walk) {
-  program_.TheState().GameStarted = True;
-  program_.TheState().OpeningDone = True;
+  program_.TheState().GameStarted = kTrue;
+  program_.TheState().OpeningDone = kTrue;
   Screen& version = *program_.TheStage().Find("Version");
   Open("Version");
   program_.Enter([&] { program_.TheStage().Unload(version); });

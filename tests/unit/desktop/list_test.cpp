@@ -20,8 +20,8 @@ class ListTest : public testing::Test {
       : program_(quiet_.All()),
         events_(program_),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})) {
-    program_.TheState().GameStarted = True;
-    program_.TheState().OpeningDone = True;
+    program_.TheState().GameStarted = kTrue;
+    program_.TheState().OpeningDone = kTrue;
     Screen& bag = *program_.TheStage().Find("Item");
     program_.Enter([&] { program_.TheStage().Show(bag); });
     windows_.Follow();

@@ -171,8 +171,8 @@ class PadInGame : public testing::Test {
         events_(program_),
         windows_(program_.TheStage(), events_, Zoom({{1280, 1024}, {1280, 1024}}, 1, {})),
         pad_(events_, [this] { return program_.TheStage().Active() == Find("Main"); }) {
-    program_.TheState().GameStarted = True;
-    program_.TheState().OpeningDone = True;
+    program_.TheState().GameStarted = kTrue;
+    program_.TheState().OpeningDone = kTrue;
   }
 
   Screen* Find(const char* name) { return program_.TheStage().Find(name); }
@@ -264,15 +264,15 @@ TEST_F(PadInGame, a_pad_that_is_plugged_in_walks) {
   SDL_Joystick* pad = SDL_JoystickOpen(number);
   SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_DPAD_LEFT, 1);
   pad_.Look();
-  EXPECT_EQ(program_.TheState().KeyLeft, True);
+  EXPECT_EQ(program_.TheState().KeyLeft, kTrue);
   SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_DPAD_LEFT, 0);
   SDL_JoystickSetVirtualAxis(pad, SDL_CONTROLLER_AXIS_LEFTY, 30000);
   pad_.Look();
-  EXPECT_EQ(program_.TheState().KeyLeft, False);
-  EXPECT_EQ(program_.TheState().KeyDown, True);
+  EXPECT_EQ(program_.TheState().KeyLeft, kFalse);
+  EXPECT_EQ(program_.TheState().KeyDown, kTrue);
   SDL_JoystickDetachVirtual(number);
   pad_.Look();
-  EXPECT_EQ(program_.TheState().KeyDown, False) << "pulled out, it lets go";
+  EXPECT_EQ(program_.TheState().KeyDown, kFalse) << "pulled out, it lets go";
   SDL_JoystickClose(pad);
 }
 

@@ -40,7 +40,7 @@ class SpokenTest : public testing::Test {
         ->findChild<QWidget*>(QString::fromStdString(control.Name()));
   }
   void StartOpening() {
-    program_.TheState().GameStarted = True;
+    program_.TheState().GameStarted = kTrue;
     program_.Enter([this] {
       program_.TheStage().Show(*program_.TheStage().Find("Version"));
       program_.TheStage().Unload(*program_.TheStage().Find("Version"));

@@ -11,14 +11,14 @@ namespace {
 // The driving directions as letters, then the waiting ones in small letters, then LastKey.
 std::string Keys(const SharedState& state) {
   std::string keys;
-  if (state.KeyUp == True) keys += 'U';
-  if (state.KeyDown == True) keys += 'D';
-  if (state.KeyLeft == True) keys += 'L';
-  if (state.KeyRight == True) keys += 'R';
-  if (state.KeyUpWaiting == True) keys += 'u';
-  if (state.KeyDownWaiting == True) keys += 'd';
-  if (state.KeyLeftWaiting == True) keys += 'l';
-  if (state.KeyRightWaiting == True) keys += 'r';
+  if (state.KeyUp == kTrue) keys += 'U';
+  if (state.KeyDown == kTrue) keys += 'D';
+  if (state.KeyLeft == kTrue) keys += 'L';
+  if (state.KeyRight == kTrue) keys += 'R';
+  if (state.KeyUpWaiting == kTrue) keys += 'u';
+  if (state.KeyDownWaiting == kTrue) keys += 'd';
+  if (state.KeyLeftWaiting == kTrue) keys += 'l';
+  if (state.KeyRightWaiting == kTrue) keys += 'r';
   return keys + std::to_string(state.LastKey);
 }
 
@@ -86,14 +86,14 @@ TEST(DirectionKeys, ARepeatedPressChangesNothing) {
 
 TEST(DirectionKeys, APressClearsItsOwnWaitingFlag) {
   SharedState state;
-  state.KeyUpWaiting = True;
+  state.KeyUpWaiting = kTrue;
   EXPECT_EQ(After("U", state), "U0");
 }
 
 TEST(DirectionKeys, AStoppedHeroWaitsForTheNextPress) {
   SharedState state;
   After("UR", state);
-  state.KeyRight = False;  // as opening a menu does, and LastKey with it
+  state.KeyRight = kFalse;  // as opening a menu does, and LastKey with it
   state.LastKey = 0;
   EXPECT_EQ(After("r", state), "u0");
   EXPECT_EQ(After("u", state), "0");

@@ -24,10 +24,10 @@ TEST_F(EncounterTest, SeedsTheGeneratorBeforeEachStepsOneDraw) {
 }
 
 TEST_F(EncounterTest, DrawsInRoomsAndInTheLastStageToo) {
-  game_.state.InBook = True;
+  game_.state.InBook = kTrue;
   EncounterCheck(game_);
-  game_.state.InBook = False;
-  game_.state.LastBossFight = True;
+  game_.state.InBook = kFalse;
+  game_.state.LastBossFight = kTrue;
   game_.state.HeroY = 100;
   EncounterCheck(game_);
   EXPECT_EQ(chance_.Calls, "sdsd");

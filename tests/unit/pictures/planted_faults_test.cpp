@@ -132,7 +132,7 @@ TEST_F(PlantedFaults, CellsThatOverlap) {
 TEST_F(PlantedFaults, FramesThatAreAlike) {
   Surface man = Sheet("hero_man");
   const Surface original = man;
-  BitBlt(man, 24, 32, 24, 32, original, 0, 32, RasterOp::SRCCOPY);
+  BitBlt(man, 24, 32, 24, 32, original, 0, 32, Blit::Copy);
   EXPECT_THAT(SamenessFaults(man, {{0, 32, 24, 32}, {24, 32, 24, 32}, {48, 32, 24, 32}}),
               ElementsAre("cells 0 and 1 are alike"));
 }

@@ -66,7 +66,7 @@ TEST(Tiles, NoneIsEmpty) {
   for (int code = 1; code <= kTileCodes; ++code) {
     const Rect cell = TileCell(code);
     Surface tile(kTileSize, kTileSize);
-    BitBlt(tile, 0, 0, kTileSize, kTileSize, tiles, cell.X, cell.Y, RasterOp::SRCCOPY);
+    BitBlt(tile, 0, 0, kTileSize, kTileSize, tiles, cell.X, cell.Y, Blit::Copy);
     EXPECT_GE(ColourCount(tile), 2) << "code " << code;
   }
 }
@@ -161,7 +161,7 @@ TEST(TileFaults, WaterAsLightAsGrass) {
   const Surface original = tiles;
   const Rect grass = TileCell(7);
   const Rect water = TileCell(182);
-  BitBlt(tiles, water.X, water.Y, 16, 16, original, grass.X, grass.Y, RasterOp::SRCCOPY);
+  BitBlt(tiles, water.X, water.Y, 16, 16, original, grass.X, grass.Y, Blit::Copy);
   EXPECT_THAT(NeighbourFaults(tiles, kNeighbours),
               ElementsAre(HasSubstr("grass and water"), HasSubstr("sandbank and water"),
                           HasSubstr("bridge and water")));

@@ -26,7 +26,7 @@ int Painted(const Surface& surface, Colour colour) {
 
 TEST(BitBlt, CopiesARectangle) {
   Surface target(10, 10, 0xFFFFFF);
-  BitBlt(target, 2, 3, 4, 2, Numbered(8, 8), 1, 5, RasterOp::SRCCOPY);
+  BitBlt(target, 2, 3, 4, 2, Numbered(8, 8), 1, 5, Blit::Copy);
   EXPECT_EQ(target.At(2, 3), 5u * 256 + 1);
   EXPECT_EQ(target.At(5, 4), 6u * 256 + 4);
   EXPECT_EQ(Painted(target, 0xFFFFFF), 100 - 8);
@@ -34,9 +34,9 @@ TEST(BitBlt, CopiesARectangle) {
 
 TEST(BitBlt, JoinsBitsByTheOperation) {
   Surface target(1, 1, 0x0F0F0F);
-  BitBlt(target, 0, 0, 1, 1, Surface(1, 1, 0xF00000), 0, 0, RasterOp::SRCPAINT);
+  BitBlt(target, 0, 0, 1, 1, Surface(1, 1, 0xF00000), 0, 0, Blit::Or);
   EXPECT_EQ(target.At(0, 0), 0xFF0F0Fu);
-  BitBlt(target, 0, 0, 1, 1, Surface(1, 1, 0x0F00FF), 0, 0, RasterOp::SRCAND);
+  BitBlt(target, 0, 0, 1, 1, Surface(1, 1, 0x0F00FF), 0, 0, Blit::And);
   EXPECT_EQ(target.At(0, 0), 0x0F000Fu);
 }
 
@@ -44,8 +44,8 @@ TEST(BitBlt, AMaskAndItsImageLeaveTheGroundAround) {
   Surface scene(2, 1, 0x336699);
   const Surface mask(2, 1, Surface::Pixels{0x000000, 0xFFFFFF});
   const Surface image(2, 1, Surface::Pixels{0xFFFFFF, 0x123456});
-  BitBlt(scene, 0, 0, 2, 1, mask, 0, 0, RasterOp::SRCPAINT);
-  BitBlt(scene, 0, 0, 2, 1, image, 0, 0, RasterOp::SRCAND);
+  BitBlt(scene, 0, 0, 2, 1, mask, 0, 0, Blit::Or);
+  BitBlt(scene, 0, 0, 2, 1, image, 0, 0, Blit::And);
   EXPECT_EQ(scene.At(0, 0), 0x336699u);
   EXPECT_EQ(scene.At(1, 0), 0x123456u);
 }
@@ -53,38 +53,38 @@ TEST(BitBlt, AMaskAndItsImageLeaveTheGroundAround) {
 TEST(BitBlt, IsClippedAtEveryEdge) {
   const Surface source = Numbered(4, 4);
   Surface target(4, 4, 0xFFFFFF);
-  BitBlt(target, -2, -1, 4, 4, source, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(target, -2, -1, 4, 4, source, 0, 0, Blit::Copy);
   EXPECT_EQ(target.At(0, 0), 1u * 256 + 2);
   EXPECT_EQ(Painted(target, 0xFFFFFF), 16 - 2 * 3);
   Surface other(4, 4, 0xFFFFFF);
-  BitBlt(other, 3, 3, 4, 4, source, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(other, 3, 3, 4, 4, source, 0, 0, Blit::Copy);
   EXPECT_EQ(other.At(3, 3), 0u);
   EXPECT_EQ(Painted(other, 0xFFFFFF), 15);
-  BitBlt(other, 100, 100, 4, 4, source, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(other, 100, 100, 4, 4, source, 0, 0, Blit::Copy);
   EXPECT_EQ(Painted(other, 0xFFFFFF), 15);
 }
 
 TEST(BitBlt, WhatTheSourceLacksStaysAsItWas) {
   Surface target(4, 4, 0xFFFFFF);
-  BitBlt(target, 0, 0, 4, 4, Surface(4, 3, 0), 0, 0, RasterOp::SRCCOPY);
+  BitBlt(target, 0, 0, 4, 4, Surface(4, 3, 0), 0, 0, Blit::Copy);
   EXPECT_EQ(target.At(0, 2), 0u);
   EXPECT_EQ(target.At(0, 3), 0xFFFFFFu);
   Surface other(4, 4, 0xFFFFFF);
-  BitBlt(other, 0, 0, 4, 4, Surface(4, 4, 0), -1, -2, RasterOp::SRCCOPY);
+  BitBlt(other, 0, 0, 4, 4, Surface(4, 4, 0), -1, -2, Blit::Copy);
   EXPECT_EQ(other.At(0, 3), 0xFFFFFFu);
   EXPECT_EQ(other.At(1, 2), 0u);
 }
 
 TEST(BitBlt, WithinOneSurfaceTheOldPixelsAreRead) {
   Surface surface = Numbered(4, 4);
-  BitBlt(surface, 0, 1, 4, 3, surface, 0, 0, RasterOp::SRCCOPY);
+  BitBlt(surface, 0, 1, 4, 3, surface, 0, 0, Blit::Copy);
   EXPECT_EQ(surface.At(2, 3), 2u * 256 + 2);
   EXPECT_EQ(surface.At(2, 0), 2u);
 }
 
 TEST(StretchBlt, EnlargingRepeatsPixels) {
   Surface target(6, 4, 0);
-  StretchBlt(target, {0, 0, 6, 4}, Numbered(2, 2), {0, 0, 2, 2}, RasterOp::SRCCOPY);
+  StretchBlt(target, {0, 0, 6, 4}, Numbered(2, 2), {0, 0, 2, 2}, Blit::Copy);
   EXPECT_EQ(target.At(2, 1), 0u);
   EXPECT_EQ(target.At(3, 1), 1u);
   EXPECT_EQ(target.At(5, 2), 257u);
@@ -93,7 +93,7 @@ TEST(StretchBlt, EnlargingRepeatsPixels) {
 TEST(StretchBlt, EveryPixelReadsTheFlooredPlace) {
   const Surface source = Numbered(40, 36);
   Surface target(36, 33);
-  StretchBlt(target, {0, 0, 36, 33}, source, {0, 0, 40, 36}, RasterOp::SRCCOPY);
+  StretchBlt(target, {0, 0, 36, 33}, source, {0, 0, 40, 36}, Blit::Copy);
   for (int y = 0; y < 33; ++y) {
     for (int x = 0; x < 36; ++x) EXPECT_EQ(target.At(x, y), source.At(x * 40 / 36, y * 36 / 33));
   }
@@ -102,7 +102,7 @@ TEST(StretchBlt, EveryPixelReadsTheFlooredPlace) {
 TEST(StretchBlt, ClippingDoesNotShiftTheScale) {
   const Surface source = Numbered(10, 10);
   Surface target(10, 10, 0xFFFFFF);
-  StretchBlt(target, {-7, -3, 25, 20}, source, {0, 0, 10, 10}, RasterOp::SRCCOPY);
+  StretchBlt(target, {-7, -3, 25, 20}, source, {0, 0, 10, 10}, Blit::Copy);
   for (int y = 0; y < 10; ++y) {
     for (int x = 0; x < 10; ++x) {
       EXPECT_EQ(target.At(x, y), source.At((x + 7) * 10 / 25, (y + 3) * 10 / 20));
@@ -112,22 +112,22 @@ TEST(StretchBlt, ClippingDoesNotShiftTheScale) {
 
 TEST(StretchBlt, ARectangleThatHangsOverItsSheetIsClippedThere) {
   Surface target(64, 64, 0xFFFFFF);
-  StretchBlt(target, {0, 0, 64, 64}, Surface(64, 50, 0), {0, 0, 64, 64}, RasterOp::SRCCOPY);
+  StretchBlt(target, {0, 0, 64, 64}, Surface(64, 50, 0), {0, 0, 64, 64}, Blit::Copy);
   EXPECT_EQ(target.At(63, 49), 0u);
   EXPECT_EQ(target.At(0, 50), 0xFFFFFFu);
 }
 
 TEST(StretchBlt, NoSizeDrawsNothing) {
   Surface target(4, 4, 0xFFFFFF);
-  StretchBlt(target, {0, 0, 0, 4}, Surface(4, 4), {0, 0, 4, 4}, RasterOp::SRCCOPY);
-  StretchBlt(target, {0, 0, 4, 4}, Surface(4, 4), {0, 0, 4, 0}, RasterOp::SRCCOPY);
+  StretchBlt(target, {0, 0, 0, 4}, Surface(4, 4), {0, 0, 4, 4}, Blit::Copy);
+  StretchBlt(target, {0, 0, 4, 4}, Surface(4, 4), {0, 0, 4, 0}, Blit::Copy);
   EXPECT_EQ(Painted(target, 0xFFFFFF), 16);
 }
 
 TEST(StretchBlt, WithinOneSurfaceACopyIsRead) {
   Surface surface = Numbered(8, 8);
   const Surface before = surface;
-  StretchBlt(surface, {0, 0, 8, 8}, surface, {0, 0, 4, 4}, RasterOp::SRCCOPY);
+  StretchBlt(surface, {0, 0, 8, 8}, surface, {0, 0, 4, 4}, Blit::Copy);
   for (int y = 0; y < 8; ++y) {
     for (int x = 0; x < 8; ++x) EXPECT_EQ(surface.At(x, y), before.At(x / 2, y / 2));
   }

@@ -1,0 +1,62 @@
+// The desktop's classes that the tests in windows work with, put together as the game's own main
+// puts them together, but without sound.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "src/frontend/desktop/access/spoken.h"
+#include "src/frontend/desktop/app/boxes.h"
+#include "src/frontend/desktop/app/desktop.h"
+#include "src/frontend/desktop/app/sleeper.h"
+#include "src/frontend/desktop/paint/look.h"
+#include "src/frontend/desktop/windows/scale.h"
+#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/shared/chance.h"
+#include "src/game/program.h"
+#include "src/platform/quiet_services.h"
+#include "src/ui/reach.h"
+
+namespace orvane::test {
+
+// The scale that games are opened with unless a test is about scales, 1 unless set. The toolkit
+// draws letters a shade differently once a process has had another scale, so that one process keeps
+// to one.
+double UsualScale();
+void SetUsualScale(double scale);
+
+// How a game is opened.
+struct Opening {
+  std::filesystem::path Folder = ORVANE_GAME_FOLDER;
+  // Pixels of the screen to one of the game; what suits the screen where there is none.
+  std::optional<double> Scale = UsualScale();
+  uint32_t Seed = 5;
+};
+
+// What the screen is. The first call comes before the first game is opened.
+const ScreenFacts& TheScreen();
+
+class FrontEnd {
+ public:
+  // Opens the game's first window.
+  explicit FrontEnd(const Opening& opening);
+  ~FrontEnd();
+  FrontEnd(const FrontEnd&) = delete;
+  FrontEnd& operator=(const FrontEnd&) = delete;
+
+  Program& Running() { return program_; }
+  // An event that brings the windows up to date afterwards.
+  void Send(const std::function<void(Program&)>& event) { desktop_.Send(event); }
+
+ private:
+  NoSound sound_;
+  DesktopChance chance_;
+  MessageBoxes boxes_;
+  DesktopSleeper sleeper_;
+  Program program_;
+  Desktop desktop_;
+};
+
+}  // namespace orvane::test

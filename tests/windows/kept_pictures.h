@@ -1,0 +1,19 @@
+// What windows look like, held against pictures that are kept of them.
+#pragma once
+
+#include <QWidget>
+#include <string>
+
+namespace orvane::test {
+
+// Whether pictures can be compared on this machine: those that are kept show the game's faces as
+// one version of them is drawn. Says once why not.
+bool CanCompare();
+
+// Fails the test unless the window comes to look, pixel by pixel, like the picture NAME.png of its
+// scale in tests/windows/shots. What it looks like instead goes to the folder
+// screenshots/windows of the build. With ORVANE_KEEP_LOOKS set, keeps what it looks like as the new
+// picture.
+void LooksAsKept(QWidget& window, const std::string& name);
+
+}  // namespace orvane::test

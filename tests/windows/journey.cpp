@@ -68,13 +68,17 @@ bool Rests(Session& session) {
   return state.FieldFrame != frame && SpotOf(session) == before;
 }
 
-void Walk(Session& session, Qt::Key key, int pixels) {
+void Walk(Session& session, Qt::Key key) {
   const Spot before = SpotOf(session);
-  Session::KeyDown(key);
-  Session::Until("a walk", [&] {
+  Walk(session, key, [&] {
     const Spot now = SpotOf(session);
-    return std::abs(now.X - before.X) + std::abs(now.Y - before.Y) >= pixels;
+    return std::abs(now.X - before.X) + std::abs(now.Y - before.Y) >= 16;
   });
+}
+
+void Walk(Session& session, Qt::Key key, const std::function<bool()>& until) {
+  Session::KeyDown(key);
+  Session::Until("a walk", until);
   Session::KeyUp(key);
   Session::Until("the party's halt", [&] { return Rests(session); });
 }

@@ -1,7 +1,7 @@
 // Steps of a play that several tests take.
 #pragma once
 
-#include <string>
+#include <functional>
 
 #include "tests/windows/session.h"
 
@@ -17,9 +17,10 @@ void LoadSave(Session& session, int row);
 
 // The party stands still.
 bool Rests(Session& session);
-// Holds an arrow key until the party has gone so many pixels, then releases it and lets the party
-// come to rest.
-void Walk(Session& session, Qt::Key key, int pixels = 16);
+// Holds an arrow key until the party has gone 16 pixels, or until the condition holds, then
+// releases it and lets the party come to rest.
+void Walk(Session& session, Qt::Key key);
+void Walk(Session& session, Qt::Key key, const std::function<bool()>& until);
 // Walks to and fro until a battle comes, and waits for its first command.
 void FindBattle(Session& session);
 

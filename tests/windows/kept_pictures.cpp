@@ -86,6 +86,10 @@ bool CanCompare() {
   return can;
 }
 
+QImage KeptPicture(const std::string& name) {
+  return QImage(kShots + QString::fromStdString(name) + ".png");
+}
+
 void LooksAsKept(QWidget& window, const std::string& name) {
   if (!CanCompare()) return;
   // What lies under the pointer may be marked.

@@ -1,6 +1,7 @@
 // What windows look like, held against pictures that are kept of them.
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 #include <string>
 
@@ -15,5 +16,8 @@ bool CanCompare();
 // screenshots/windows of the build. With ORVANE_KEEP_LOOKS set, keeps what it looks like as the new
 // picture.
 void LooksAsKept(QWidget& window, const std::string& name);
+
+// A picture that is kept, "1x/title".
+QImage KeptPicture(const std::string& name);
 
 }  // namespace orvane::test

@@ -312,7 +312,7 @@ QImage Session::Shown(QWidget& window) {
   // The platform's own picture of a window ends where its size in pixels of the game does.
   const auto* painted = dynamic_cast<const QImage*>(window.backingStore()->paintDevice());
   if (painted == nullptr) GiveUp("a window that is not painted");
-  QImage shown = painted->convertToFormat(QImage::Format_RGB32);
+  QImage shown = painted->copy().convertToFormat(QImage::Format_RGB32);
   shown.setDevicePixelRatio(1);
   return shown;
 }

@@ -4,7 +4,7 @@
 #   faces.sh PROGRAM SCREENSHOTS
 set -u
 
-# shellcheck source=tests/desktop/x_session.sh
+# shellcheck source=tests/process/x_session.sh
 . "$(dirname "$(realpath "$0")")/x_session.sh"
 need_tools fc-list
 program=$(realpath "$1")

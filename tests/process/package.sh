@@ -1,10 +1,10 @@
 #!/bin/bash
-# Makes the Debian package of a build, looks at what is in it, and plays it unpacked: a new game, a few
-# steps, a save, and a second start that finds the save.
+# Makes the Debian package of a build, looks at what is in it, and plays it unpacked: a new game, a
+# save, and a second start that finds the save.
 #   package.sh BUILD_FOLDER SCREENSHOTS
 set -u
 
-# shellcheck source=tests/desktop/x_session.sh
+# shellcheck source=tests/process/x_session.sh
 . "$(dirname "$(realpath "$0")")/x_session.sh"
 need_tools cpack dpkg-deb dpkg-shlibdeps file desktop-file-validate appstreamcli
 build=$(realpath "$1")
@@ -50,8 +50,7 @@ play_and_save() {
   [ "$(contents "$folder")" = "$(contents "$root/usr/share/orvane/game")" ] ||
     fail "the player's folder is not like the packed one"
   enter_names
-  click_through_opening
-  walk
+  listen 30 "the opening"
   menu $file_menu 1
   opens ファイルのセーブ
   click ファイルのセーブ 40 $((40 + 2 * 12))
@@ -66,7 +65,6 @@ load_again() {
   start_game --scale 1 --seed 26
   see_title
   load_save 2
-  shot 12-loaded
   quit_game
 }
 

@@ -4,7 +4,7 @@
 #   lifecycle.sh BUILD_FOLDER SCREENSHOTS SCRIPT_PLAYER
 set -u
 
-# shellcheck source=tests/desktop/x_session.sh
+# shellcheck source=tests/process/x_session.sh
 . "$(dirname "$(realpath "$0")")/x_session.sh"
 build=$(realpath "$1")
 player=$(realpath "$3")
@@ -79,7 +79,7 @@ ends "on the title" TERM
 end_over_an_error
 
 # The first of these saves was made by the player, so to speak; the installed slots stay behind.
-make_saves states.lua
+make_saves parties.lua
 for where in field question battle; do
   start_game --scale 1 --seed 5
   see_title

@@ -4,11 +4,11 @@
 #   minute.sh PROGRAM RECORDING SCRIPT_PLAYER COMPILER SCORES [JUDGE...]
 # Writes the file RECORDING and RECORDING.log beside it; keeps screenshots in the folder "minute" there.
 # COMPILER makes the scores of the folder SCORES into pieces that are cut down to their first and last
-# sections, so that the minute holds their ends. JUDGE is called with the recording and the game folder.
+# sections and played faster, so that the minute holds their ends. JUDGE is called with the recording and the game folder.
 # Ends with 77, which counts as skipped, where a tool is missing.
 set -u
 
-# shellcheck source=tests/desktop/x_session.sh
+# shellcheck source=tests/process/x_session.sh
 . "$(dirname "$(realpath "$0")")/x_session.sh"
 program=$(realpath "$1")
 recording=$(realpath -m "$2")
@@ -25,29 +25,23 @@ make_minute() {
   copy_folder
   awk 'BEGIN { for (i = 0; i < 480; i++) print i == 199 ? 36 : 7 }' >"$folder/Mapdata/map3-3.dat"
   make_saves minute.lua
-  shorten Round3 intro turn
-  shorten Battle1 hook turn
+  shorten Round3 1.5 intro turn
+  shorten Battle1 1 hook turn
 }
 
-# shorten PIECE SECTIONS...: the piece made anew of these sections.
+# shorten PIECE TIMES SECTIONS...: the piece made anew of these sections, so many times as fast.
 shorten() {
-  local piece=$1 score=$run_folder/$1.score
-  shift
-  sed "s/^form .*/form $*/" "$scores/$piece.score" >"$score"
+  local piece=$1 times=$2 score=$run_folder/$1.score
+  shift 2
+  awk -v times="$times" -v form="$*" \
+    '$1 == "form" { print "form", form; next } $1 == "tempo" { $2 *= times } { print }' \
+    "$scores/$piece.score" >"$score"
   "$compiler" "$score" "$folder/Sound/$piece.mid" || fail "$piece could not be cut down"
 }
 
 # How often the program has noted this.
 noted() { grep -c " $1" "$recording.log"; }
 noted_more() { [ "$(noted "$1")" -gt "$2" ]; }
-# Nothing has been painted or asked for in a while.
-keeps_still() {
-  local before
-  before=$(stat -c %s "$recording.log")
-  sleep 0.5
-  [ "$(stat -c %s "$recording.log")" = "$before" ]
-}
-
 # hear_again CHANNEL: the piece has begun for the second time, and nothing sounds over it for a while.
 hear_again() {
   wait_for 60 "the end of $1" noted_more "play $1" 1
@@ -61,7 +55,6 @@ open_chest() {
   wait_for 10 "the chest's sound" noted_more "play snd1" 0
   xdotool keyup Left
   sleep 1.5
-  shot 2-chest
   click Orvane 40 150
   sleep 0.2
 }
@@ -76,29 +69,36 @@ within() {
   done
 }
 
-# skill X Y NUMBER [ROW]: a technique or spell by its button, its number and the target's row. On a slow
-# machine the click may come before its button can be pressed; then it is tried again.
-skill() {
-  local try painted played
-  for try in 1 2 3 4 5; do
-    wait_for 60 "the turn of skill $3" keeps_still
-    painted=$(noted "painted Battle")
+# has_turn BUTTON: the hero whose button it is can be given a command. Between her action and the enemy's the
+# buttons are on for a moment; nothing is painted for a while only when it is the heroes' turn.
+has_turn() {
+  local before
+  command_is_on "$1" || return
+  before=$(noted painted)
+  sleep 0.15
+  [ "$(noted painted)" = "$before" ] && command_is_on "$1"
+}
+
+# use BUTTON NUMBER [TARGET]: a technique or spell by the button of the battle and its number, on a row of
+# the targets where it asks for one. The keys wait for the lists by themselves. On a slow machine the
+# click may be lost; then it is tried again.
+use() {
+  local played way=(Home)
+  # shellcheck disable=SC2207
+  way+=($(printf 'Down %.0s' $(seq "$2")) Return)
+  # shellcheck disable=SC2207
+  [ -z "${3:-}" ] || way+=(Home $(printf 'Down %.0s' $(seq "$3")) Return)
+  for _ in 1 2 3 4 5; do
+    wait_for 60 "the turn of skill $2" has_turn "$1"
     played=$(noted "play snd")
-    click "BATTLE !" "$1" "$2"
-    within 2 noted_more "painted Battle" "$painted" || continue
-    sleep 0.1
-    # shellcheck disable=SC2046
-    xdotool key --delay 15 Home $(printf 'Down %.0s' $(seq "$3")) Return
-    if [ -n "${4:-}" ]; then
-      sleep 0.2
-      row "$4"
-    fi
+    click "BATTLE !" "${button_x[$1]}" "${button_y[$1]}"
+    xdotool key --delay 15 "${way[@]}"
     within 3 noted_more "play snd" "$played" && return
   done
-  fail "skill $3 is not heard after $try tries"
+  fail "skill $2 of button $1 is not heard after five tries"
 }
-technique() { skill 48 360 "$1" 1; }
-spell() { skill 112 328 "$@"; }
+technique() { use 3 "$1" 1; }
+spell() { use 2 "$@"; }
 
 fight() {
   local number target
@@ -107,30 +107,29 @@ fight() {
     [ "$number" -le 2 ] && target=1
     technique "$number"
     spell "$number" $target
-    shot "4-round-$number"
   done
 }
 
+# turn_comes BUTTON: or the fanfare instead.
+turn_comes() { has_turn "$1" || noted_more "play snd7" 0; }
 is_won() {
-  wait_for 30 "the end of a skill" keeps_still
+  wait_for 30 "the end of a skill" turn_comes "$1"
   noted_more "play snd7" 0
 }
 
 # The strongest skills in turn, until there is the fanfare.
 win_minute() {
-  local number
-  for number in 1 2 3 4 5; do
-    is_won || technique 10
-    is_won || spell 10
+  for _ in 1 2 3 4 5; do
+    is_won 3 || technique 10
+    is_won 2 || spell 10
   done
-  is_won || fail "the battle is not won"
-  sleep 3
-  shot 5-victory
+  is_won 3 || fail "the battle is not won"
+  sleep 1.5
+  shot 2-victory
   click "BATTLE !" 20 250
   wait_for 5 "the field after the battle" has_window Orvane
   wait_for 5 "the focus after the battle" has_focus Orvane
-  sleep 4
-  shot 6-field
+  sleep 2.5
 }
 
 open_display 640x560

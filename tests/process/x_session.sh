@@ -1,5 +1,5 @@
 # A display of our own with a window manager, and a player's hands on it. Sourced by every test of the
-# desktop, which sets:
+# process, which sets:
 #   program  the game
 #   player   the script player, where the test makes saves of its own
 #   scale    pixels of the screen to one of the game; percent says so where that is no whole number
@@ -16,10 +16,8 @@ need_tools() {
   done
 }
 need_tools Xvfb openbox xdotool xprop xwininfo import convert compare cksum fc-match
-# shellcheck source=tests/desktop/steps.sh
+# shellcheck source=tests/process/steps.sh
 . "$here/steps.sh"
-# shellcheck source=tests/desktop/screen_steps.sh
-. "$here/screen_steps.sh"
 
 display_pid=
 manager_pid=
@@ -198,6 +196,17 @@ changes() {
   local before=$1
   shift
   [ "$(sum "$@")" != "$before" ]
+}
+
+# is_painted TITLE X Y WIDTH HEIGHT: there is something to be seen in that part of a client area: neither one
+# colour nor one more, such as a bare ground with a line on it.
+is_painted() {
+  local at_x at_y pixels size
+  point "$1" "$2" "$3"
+  zoomed "$4"
+  size=$pixels
+  zoomed "$5"
+  [ "$(import -silent -window root -crop "${size}x$pixels+$at_x+$at_y" -format '%k' info:- 2>/dev/null || echo 0)" -gt 3 ]
 }
 
 # is_on TITLE X Y: whether what has its caption at that place can be used: a button or a menu, with

@@ -53,11 +53,11 @@ TEST_F(FirstBattle, AKeyReleasedUnderABoxLeavesNobodyWalking) {
   HearScene(session_);
   Session::KeyDown(Qt::Key_Right);
   Session::Until("a step", [&] { return session_.Facts().KeyRight != 0; });
-  session_.Answer("ゲームの終了", [](QMessageBox&) {
+  session_.CloseWindow("Main");
+  Session::Answer("ゲームの終了", [](QMessageBox&) {
     Session::KeyUp(Qt::Key_Right);
     Session::Press(Qt::Key_Escape);
   });
-  session_.CloseWindow("Main");
   session_.Opens("Main");
   Session::Until("the party's halt", [&] { return Rests(session_); });
   EXPECT_EQ(session_.Facts().KeyRight, 0);

@@ -1,7 +1,5 @@
 #include "tests/windows/front_end.h"
 
-#include <QCoreApplication>
-#include <QTimer>
 #include <vector>
 
 namespace orvane::test {
@@ -36,16 +34,10 @@ const ScreenFacts& TheScreen() {
 
 FrontEnd::FrontEnd(const Opening& opening)
     : chance_(opening.Seed),
-      program_(opening.Folder, {sound_, chance_, boxes_, sleeper_}),
-      desktop_(program_, boxes_, sleeper_, ChooseZoom(opening, program_)) {
+      files_(opening.Folder),
+      program_({sound_, chance_, files_}),
+      desktop_(program_, ChooseZoom(opening, program_)) {
   Send([](Program&) {});
-}
-
-FrontEnd::~FrontEnd() {
-  // A game that has ended has told the application's loop to end. It does, so that the next one's
-  // does not.
-  QTimer::singleShot(0, [] { QCoreApplication::exit(); });
-  QCoreApplication::exec();
 }
 
 }  // namespace orvane::test

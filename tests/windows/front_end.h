@@ -4,18 +4,17 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
-#include <string>
 
 #include "src/frontend/desktop/access/spoken.h"
-#include "src/frontend/desktop/app/boxes.h"
 #include "src/frontend/desktop/app/desktop.h"
-#include "src/frontend/desktop/app/sleeper.h"
 #include "src/frontend/desktop/paint/look.h"
-#include "src/frontend/desktop/windows/scale.h"
-#include "src/frontend/desktop/windows/zoom.h"
+#include "src/frontend/desktop/windows/toolkit_scale.h"
 #include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
+#include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
 #include "src/ui/reach.h"
 
@@ -42,7 +41,6 @@ class FrontEnd {
  public:
   // Opens the game's first window.
   explicit FrontEnd(const Opening& opening);
-  ~FrontEnd();
   FrontEnd(const FrontEnd&) = delete;
   FrontEnd& operator=(const FrontEnd&) = delete;
 
@@ -52,9 +50,8 @@ class FrontEnd {
 
  private:
   NoSound sound_;
-  DesktopChance chance_;
-  MessageBoxes boxes_;
-  DesktopSleeper sleeper_;
+  PlayersChance chance_;
+  FolderStorage files_;
   Program program_;
   Desktop desktop_;
 };

@@ -24,7 +24,7 @@ class Screens : public testing::Test {
   }
   // A box that is looked at and answered.
   void Answer(const QString& title, Qt::Key key, const std::string& name = {}) {
-    session_.Answer(title, [key, name](QMessageBox& box) {
+    Session::Answer(title, [key, name](QMessageBox& box) {
       if (!name.empty()) LooksAsKept(box, name);
       Session::Press(key);
     });
@@ -65,10 +65,10 @@ void Screens::UseThings() {
   session_.ChooseItem("Main.m22");
   session_.Opens("Item");
   session_.ChooseRow("Item.List1", 0);
+  session_.Click("Item.Command2");
   Answer("アイテム削除", Qt::Key_Escape, "discard");
   session_.Click("Item.Command2");
   Answer("アイテム削除", Qt::Key_Return);
-  session_.Click("Item.Command2");
   session_.Click("Item.Command8");
   Keep("tidy", "Item");
   session_.ChooseRow("Item.List1", 6);
@@ -97,15 +97,15 @@ void Screens::ChangeSettings() {
 void Screens::Save() {
   session_.ChooseItem("Main.m12");
   session_.Opens("Save");
-  Answer("警告", Qt::Key_Return);
   session_.Click("Save.OKButton");
+  Answer("警告", Qt::Key_Return);
   session_.ChooseRow("Save.File1", kFirstFreeRow);
   Keep("save", "Save");
+  session_.Click("Save.OKButton");
   Answer("ゲームのセーブ", Qt::Key_Escape, "sure");
-  session_.Click("Save.OKButton");
   EXPECT_TRUE(session_.Shows("Save")) << "not without an answer";
-  Answer("ゲームのセーブ", Qt::Key_Return);
   session_.Click("Save.OKButton");
+  Answer("ゲームのセーブ", Qt::Key_Return);
   session_.Closes("Save");
 }
 
@@ -125,8 +125,8 @@ TEST_F(Screens, LoadingAsksForAFileAndShowsABrokenOne) {
   folder_.Write("Save09.sav", folder_.Bytes("Save01.sav").substr(0, 100));
   session_.ChooseItem("Main.m11");
   session_.Opens("Load");
-  Answer("警告", Qt::Key_Return, "nothing-chosen");
   session_.Click("Load.OKButton");
+  Answer("警告", Qt::Key_Return, "nothing-chosen");
   EXPECT_TRUE(session_.Shows("Load"));
   // The list shows four rows; the keys go to the last but one, which Enter then chooses.
   session_.ChooseRow("Load.File1", kTravellersRow);

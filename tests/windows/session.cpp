@@ -1,6 +1,5 @@
 #include "tests/windows/session.h"
 
-#include <gtest/gtest.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <QApplication>
@@ -12,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTabBar>
 #include <QTest>
 #include <QWindow>
@@ -21,9 +21,6 @@
 
 namespace orvane::test {
 namespace {
-
-// How often a box is looked at that nobody answers, once in a millisecond.
-constexpr int kBoxPatience = 3000;
 
 [[noreturn]] void GiveUp(const std::string& why) {
   throw std::runtime_error(why);
@@ -56,21 +53,6 @@ void SendKey(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const 
   Session::Settle();
 }
 
-// Keys that are to be released as soon as any window has the keyboard: the press of some takes the
-// last one away, or brings a box that is answered within it.
-struct Stroke {
-  Qt::Key Key;
-  Qt::KeyboardModifiers Modifiers;
-};
-std::vector<Stroke> pressed;
-
-void ReleaseKeys() {
-  if (QGuiApplication::focusWindow() == nullptr) return;
-  for (const Stroke& stroke : std::exchange(pressed, {})) {
-    Session::KeyUp(stroke.Key, stroke.Modifiers);
-  }
-}
-
 // What a key types by itself, as far as the tests need it.
 QString TextOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   if ((modifiers & Qt::ControlModifier) != 0) return {};
@@ -89,14 +71,7 @@ const QAction* FindAction(const QList<QAction*>& actions, const std::string& cap
 }  // namespace
 
 Session::Session(const Opening& opening) : front_end_(opening) {
-  QObject::connect(&box_watch_, &QTimer::timeout, &box_watch_, [this] { LookForBox(); });
-  box_watch_.start(1);
-  pressed.clear();
   Opens("Main");
-}
-
-Session::~Session() {
-  if (!HasAnswered()) ADD_FAILURE() << "a box that was to be answered did not come";
 }
 
 void Session::Send(const std::function<void(Program&)>& event) {
@@ -187,7 +162,9 @@ QWidget& Session::Usable(const std::string& control) {
 
 void Session::ClickWidget(QWidget& widget, QPoint at) {
   QWidget& window = *widget.window();
-  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window, at));
+  const QPoint place = widget.mapTo(&window, at);
+  QTest::mouseMove(window.windowHandle(), place);
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
   Settle();
 }
 
@@ -248,10 +225,9 @@ void Session::KeyUp(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 }
 
 void Session::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  ReleaseKeys();
-  pressed.push_back({key, modifiers});
   KeyDown(key, modifiers);
-  ReleaseKeys();
+  // The press may have taken the last window away.
+  if (QGuiApplication::focusWindow() != nullptr) KeyUp(key, modifiers);
 }
 
 void Session::PressAll(std::initializer_list<Qt::Key> keys) {
@@ -271,30 +247,20 @@ void Session::CloseWindow(const std::string& screen) {
   Settle();
 }
 
-void Session::Answer(const QString& title, std::function<void(QMessageBox&)> reply) {
-  answers_.push_back({title, std::move(reply)});
+void Session::Answer(const QString& title, const std::function<void(QMessageBox&)>& reply) {
+  QPointer<QMessageBox> box;
+  Until("the box " + title.toStdString(), [&] {
+    box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    return box != nullptr && box->windowTitle() == title && box->isActiveWindow();
+  });
+  Settle();
+  reply(*box);
+  Until("the end of the box " + title.toStdString(), [&] { return !box || !box->isVisible(); });
+  Settle();
 }
 
 void Session::Answer(const QString& title, Qt::Key key) {
   Answer(title, [key](QMessageBox&) { Press(key); });
-}
-
-// Boxes stand within an event, so that they are answered from a timer's.
-void Session::LookForBox() {
-  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (box == nullptr || !box->isActiveWindow()) return;
-  if (!answers_.empty() && answers_.front().Title == box->windowTitle()) {
-    looked_in_vain_ = 0;
-    const Reply reply = std::move(answers_.front());
-    answers_.pop_front();
-    ReleaseKeys();
-    return reply.Give(*box);
-  }
-  if (++looked_in_vain_ < kBoxPatience) return;
-  looked_in_vain_ = 0;
-  ADD_FAILURE() << "a box that nobody answers: " << box->windowTitle().toStdString() << ": "
-                << box->text().toStdString();
-  box->done(QMessageBox::Rejected);
 }
 
 void Session::Run(const std::string& timer, const std::function<bool()>& until) {

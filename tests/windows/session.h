@@ -6,12 +6,9 @@
 #include <QImage>
 #include <QPoint>
 #include <QString>
-#include <QTimer>
 #include <QWidget>
-#include <deque>
 #include <functional>
 #include <initializer_list>
-#include <memory>
 #include <string>
 
 #include "tests/windows/front_end.h"
@@ -26,7 +23,6 @@ constexpr int kPatience = 10000;
 class Session {
  public:
   explicit Session(const Opening& opening = {});
-  ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
@@ -89,11 +85,10 @@ class Session {
   // The window's own close control.
   void CloseWindow(const std::string& screen);
 
-  // The next message box is to have this title, and `reply` answers it by its keys or its buttons.
-  void Answer(const QString& title, std::function<void(QMessageBox&)> reply);
-  void Answer(const QString& title, Qt::Key key);
-  // All answers have been given.
-  bool HasAnswered() const { return answers_.empty(); }
+  // Waits for a message box with this title, which `reply` answers by its keys or its buttons, and
+  // for its end.
+  static void Answer(const QString& title, const std::function<void(QMessageBox&)>& reply);
+  static void Answer(const QString& title, Qt::Key key);
 
   // One tick after another of a timer, all within one event, until the condition holds or the timer
   // is off. Throws after 100000.
@@ -104,20 +99,11 @@ class Session {
   QImage Shown(const std::string& screen) { return Shown(Window(screen)); }
 
  private:
-  struct Reply {
-    QString Title;
-    std::function<void(QMessageBox&)> Give;
-  };
-
   // The widget of a control that can be used.
   QWidget& Usable(const std::string& control);
   void ClickWidget(QWidget& widget, QPoint at);
-  void LookForBox();
 
   FrontEnd front_end_;
-  std::deque<Reply> answers_;
-  QTimer box_watch_;
-  int looked_in_vain_ = 0;
 };
 
 }  // namespace orvane::test

@@ -38,6 +38,8 @@ Rendering Render(const std::string& midi, const std::string& sound_font, double 
   fluid_settings_setint(settings.get(), "synth.polyphony", 128);
   fluid_settings_setstr(settings.get(), "player.timing-source", "sample");
   fluid_settings_setint(settings.get(), "synth.lock-memory", 0);
+  // Of the font only the instruments that play: unpacking all of them takes longer than a piece.
+  fluid_settings_setint(settings.get(), "synth.dynamic-sample-loading", 1);
   const std::unique_ptr<fluid_synth_t, Closer> synth(new_fluid_synth(settings.get()));
   if (synth == nullptr || fluid_synth_sfload(synth.get(), sound_font.c_str(), 1) == FLUID_FAILED) {
     throw std::runtime_error("the sound font cannot be loaded: " + sound_font);

@@ -10,7 +10,7 @@ set -u
 . "$(dirname "$(realpath "$0")")/x_session.sh"
 program=$(realpath "$1")
 player=$(realpath "$3")
-percent=200
+percent=250
 keys_repeat=yes  # keys are held here, under boxes too
 keep_shots_in "$2"
 
@@ -110,8 +110,6 @@ open_over_full_screen() {
 # A window whose width is no whole number of pixels in this scale has its ground up to its last ones.
 see_edges() {
   local strip
-  keys ctrl+plus
-  grows_to 250
   menu $info_menu 2
   opens 環境設定
   xdotool mousemove "$((screen_width - 1))" "$((screen_height - 1))"
@@ -123,8 +121,6 @@ see_edges() {
   keys alt+F4
   closes 環境設定
   wait_for 5 "the focus of the field" has_focus Orvane
-  keys ctrl+0
-  grows_to 200
 }
 
 screen_width=1920 screen_height=1200
@@ -132,7 +128,7 @@ open_display "${screen_width}x$screen_height"
 copy_folder
 start_game --seed 26 --folder "$folder"
 see_title
-grows_to 200
+grows_to 250
 shot 1-title
 enter_names
 listen 30 "the opening"
@@ -140,8 +136,10 @@ shot 2-field
 hold Left
 hold Right
 hold_key_under_box
+see_edges
+keys ctrl+minus
+grows_to 200
 fill_screen
 open_over_full_screen
-see_edges
 quit_game
 echo "the real window: opened, clicked, walked, filled the screen and closed"

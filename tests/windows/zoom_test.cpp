@@ -18,6 +18,7 @@ namespace {
 
 // Per cent of the size that everything is drawn for.
 constexpr int kDrawn = 100;
+constexpr int kBest = 250;  // on the usual screen
 constexpr int kMayBeLost = 10;  // pixels: a text that is cut off loses dozens
 constexpr auto kControl = Qt::ControlModifier;
 
@@ -83,6 +84,12 @@ class Zooming : public testing::Test {
         << name << " at " << percent_ << " per cent";
   }
 
+  // From the best scale, with which the game opens, to one that everything fits into at twice.
+  void BeginAtTwice() {
+    GrowsTo(kBest);
+    Smaller();
+    GrowsTo(200);
+  }
   void SeeTitle(int percent) {
     GrowsTo(percent);
     Look("title", "Main");
@@ -163,7 +170,7 @@ void ExpectBlackBeside(const QImage& shown) {
 }
 
 TEST_F(Zooming, GoesThroughEveryScaleThatFitsAndBackToTheBest) {
-  GrowsTo(200);
+  BeginAtTwice();
   Smaller();
   GrowsTo(150);
   Smaller();
@@ -181,12 +188,12 @@ TEST_F(Zooming, GoesThroughEveryScaleThatFitsAndBackToTheBest) {
   Smaller();
   GrowsTo(300);
   Best();
-  GrowsTo(200);
+  GrowsTo(kBest);
 }
 
 TEST_F(Zooming, LooksAndWorksTheSameInEachScale) {
   const std::string before = folder_.Bytes("Save01.sav");
-  GrowsTo(200);
+  BeginAtTwice();
   LoadSave(session_, kTravellersRow);
   Smaller();
   Smaller();
@@ -199,7 +206,7 @@ TEST_F(Zooming, LooksAndWorksTheSameInEachScale) {
 }
 
 TEST_F(Zooming, PaintsTheLastPixelsOfAWindowWhoseSizeIsNoWholeNumber) {
-  GrowsTo(200);
+  BeginAtTwice();
   LoadSave(session_, kTravellersRow);
   Larger();
   GrowsTo(250);
@@ -218,7 +225,7 @@ TEST_F(Zooming, PaintsTheLastPixelsOfAWindowWhoseSizeIsNoWholeNumber) {
 }
 
 TEST_F(Zooming, FillsTheScreenAndComesBackToItsPlace) {
-  GrowsTo(200);
+  BeginAtTwice();
   session_.Window("Main").move(50, 150);
   Session::Settle();
   const QRect place = Inside("Main");
@@ -233,7 +240,7 @@ TEST_F(Zooming, FillsTheScreenAndComesBackToItsPlace) {
 
 // The keys walk and a menu opens by a click, in whatever scale the screen allows.
 TEST_F(Zooming, IsPlayedOnTheFullScreen) {
-  GrowsTo(200);
+  BeginAtTwice();
   LoadSave(session_, kTravellersRow);
   Session::Press(Qt::Key_F11);
   Session::Until("the full screen", [&] { return CoversDisplay("Main"); });
@@ -256,7 +263,7 @@ TEST_F(Zooming, IsPlayedOnTheFullScreen) {
 }
 
 TEST_F(Zooming, ShowsTheBattleInEachScaleAndOnTheFullScreen) {
-  GrowsTo(200);
+  BeginAtTwice();
   LoadSave(session_, kBeforeDragonRow);
   MeetDragon(session_);
   Smaller();
@@ -278,7 +285,7 @@ class OnLargerLetters : public Zooming {};
 
 TEST_F(OnLargerLetters, WindowsAreWhatTheyAreOnAnyOtherDesktop) {
   if (TheScreen().Factor == 1) GTEST_SKIP() << "this screen's letters are as usual";
-  const int best = TheScreen().Whole.Height < 1440 ? 200 : 300;
+  const int best = TheScreen().Whole.Height < 1440 ? kBest : 300;
   GrowsTo(best);
   LoadSave(session_, kTravellersRow);
   for (int percent = best; percent > 100; percent -= 50) Smaller();

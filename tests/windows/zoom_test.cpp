@@ -18,7 +18,7 @@ namespace {
 
 // Per cent of the size that everything is drawn for.
 constexpr int kDrawn = 100;
-constexpr int kBest = 250;  // on the usual screen
+constexpr int kBest = 250;      // on the usual screen
 constexpr int kMayBeLost = 10;  // pixels: a text that is cut off loses dozens
 constexpr auto kControl = Qt::ControlModifier;
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMetaObject>
-#include <QTimer>
 #include <cstdlib>
 #include <exception>
 #include <memory>
@@ -38,6 +37,11 @@ Desktop::Desktop(Program& program, const Zoom& zoom)
       ticks_(program.TheStage(), *this),
       keys_(*this, [this] { return KeysReachGame(); }),
       pad_(*this, [this] { return KeysReachGame(); }) {
+  // A window manager may tell of a state that is not the last one on the way.
+  constexpr int settled_ms = 200;
+  states_.setSingleShot(true);
+  states_.setInterval(settled_ms);
+  QObject::connect(&states_, &QTimer::timeout, this, [this] { TakeState(); });
   QCoreApplication::instance()->installEventFilter(this);
   OnEndSignals([this] { End(); });
   OnCallSignal([this] { ComeToFront(); });
@@ -144,7 +148,7 @@ bool Desktop::eventFilter(QObject* watched, QEvent* event) {
       if (auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeActivation(*window);
       return false;
     case QEvent::WindowStateChange:
-      if (const auto* window = dynamic_cast<ScreenWindow*>(watched)) TakeState(*window);
+      if (!following_ && dynamic_cast<ScreenWindow*>(watched) != nullptr) states_.start();
       return false;
     case QEvent::Quit:
       // The session ends; the player is not asked.
@@ -166,12 +170,12 @@ void Desktop::TakeActivation(ScreenWindow& window) {
   Send([&window](Program& program) { program.Activate(window.Model()); });
 }
 
-void Desktop::TakeState(const ScreenWindow& window) {
-  // While the windows follow the game their states are the game's own doing. A window that is away
-  // keeps what it was.
-  if (following_ || !window.Model().IsScene || !window.isVisible() || window.isMinimized()) return;
+void Desktop::TakeState() {
+  const ScreenWindow* window = windows_.Scene();
+  // A window that is away keeps what it was.
+  if (window == nullptr || window->isMinimized()) return;
   // The window manager's control for the largest size means the full screen.
-  const bool is_largest = window.isMaximized() || window.isFullScreen();
+  const bool is_largest = window->isMaximized() || window->isFullScreen();
   if (is_largest != zoom_.IsFullScreen()) SetFullScreen(is_largest);
 }
 

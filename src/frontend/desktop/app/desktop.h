@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <functional>
 
 #include "src/frontend/desktop/app/boxes.h"
@@ -50,7 +51,7 @@ class Desktop : public QObject, public Events {
   void ComeToFront();
   bool KeysReachGame() const;
   void TakeActivation(ScreenWindow& window);
-  void TakeState(const ScreenWindow& window);
+  void TakeState();
   bool TakeZoomKey(const QKeyEvent& event);
   void SetFullScreen(bool full_screen);
   void RescaleLater();
@@ -67,6 +68,7 @@ class Desktop : public QObject, public Events {
   Keys keys_;
   Pad pad_;
   std::function<void(const Screen&)> painted_;
+  QTimer states_;  // runs while a window's state may still change
   bool following_ = false;
   bool held_ = false;
   bool rescaling_later_ = false;

@@ -22,6 +22,13 @@ ScreenWindow* Windows::Of(const Screen* screen) const {
   return nullptr;
 }
 
+const ScreenWindow* Windows::Scene() const {
+  const auto found = std::find_if(windows_.begin(), windows_.end(), [](const auto& window) {
+    return window->Model().IsScene && window->isVisible();
+  });
+  return found == windows_.end() ? nullptr : found->get();
+}
+
 ScreenWindow* Windows::Active() const {
   return Of(stage_.Active());
 }
@@ -76,7 +83,8 @@ Setting Windows::TheSetting() const {
 // manager that places all windows itself may have no more than one on the full screen, and
 // Wayland's compositors may keep the one that came first in front.
 void Windows::FollowBackdrop() {
-  const bool is_wanted = full_screen_ && !IsGiven() && QGuiApplication::platformName() == "xcb";
+  const bool is_wayland = QGuiApplication::platformName().startsWith("wayland");
+  const bool is_wanted = full_screen_ && !IsGiven() && !is_wayland;
   if (is_wanted == (backdrop_ != nullptr)) return;
   if (!is_wanted) return backdrop_.reset();
   backdrop_ = std::make_unique<QWidget>();

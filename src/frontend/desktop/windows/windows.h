@@ -32,6 +32,8 @@ class Windows {
   // The window of the active screen, or null.
   ScreenWindow* Active() const;
   ScreenWindow* Of(const Screen* screen) const;
+  // The window of a scene that is shown, or null.
+  const ScreenWindow* Scene() const;
 
   // The window manager has made a window the active one. True if the player meant it; false if it
   // comes of the game's own opening and closing of windows.

@@ -2,10 +2,10 @@
 // bright.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <optional>
 
+#include "content/pictures/shared/ramp.h"
 #include "tools/paint/recipe.h"
 
 namespace orvane::paint::effects {
@@ -14,27 +14,20 @@ using Colour = uint32_t;  // 0xRRGGBB
 
 constexpr int CellSize = 24;
 
-// Six colours from dark to light; a tone outside is taken as the nearest end.
-struct Ramp {
-  std::array<Colour, 6> Tones;
-  Colour operator()(double tone) const {
-    const int index = tone < 0 ? 0 : tone >= 5 ? 5 : static_cast<int>(tone);
-    return Tones[static_cast<size_t>(index)];
-  }
-};
+using SixTones = Ramp<6>;
 
-inline constexpr Ramp Fire{{0x7C1008, 0xC02C0C, 0xEC6410, 0xFCA024, 0xFCDC58, 0xFFFCD8}};
-inline constexpr Ramp Ice{{0x183868, 0x2C68A8, 0x58A0D8, 0x94D0F0, 0xD0F4FC, 0xFFFFFF}};
-inline constexpr Ramp Star{{0x9C6010, 0xD89820, 0xF4C838, 0xFCEC84, 0xFFFCD0, 0xFFFFFF}};
-inline constexpr Ramp Wind{{0x145C44, 0x249058, 0x54C868, 0xA4EC88, 0xE0FCC0, 0xFFFFFF}};
-inline constexpr Ramp Sunlight{{0xDC6418, 0xF49428, 0xFCC448, 0xFCE884, 0xFFFBD0, 0xFFFFFF}};
-inline constexpr Ramp Force{{0x1C5C4C, 0x4C9C3C, 0xC0CC38, 0xFCEC7C, 0xFFFCD0, 0xFFFFFF}};
-inline constexpr Ramp Blood{{0x240818, 0x540C24, 0x981424, 0xD83020, 0xFC8038, 0xFFE8A0}};
-inline constexpr Ramp Shade{{0x100820, 0x2C1450, 0x542480, 0x8C44B8, 0xCC8CE8, 0xFCE4FF}};
-inline constexpr Ramp Smoke{{0x302830, 0x504448, 0x786864, 0xA09080, 0xC8B8A0, 0xF0E4CC}};
-inline constexpr Ramp Ash{{0x241C34, 0x443C58, 0x6C6480, 0xA098AC, 0xD0CCD8, 0xF8F4F4}};
-inline constexpr Ramp Earth{{0x2C1C20, 0x54383C, 0x84604C, 0xB08C64, 0xD8BC88, 0xFCECC0}};
-inline constexpr Ramp Steel{{0x1C1454, 0x3840BC, 0x3C84F4, 0x6CC8FC, 0xC4F4FC, 0xFFFFFF}};
+inline constexpr SixTones Fire{{0x7C1008, 0xC02C0C, 0xEC6410, 0xFCA024, 0xFCDC58, 0xFFFCD8}};
+inline constexpr SixTones Ice{{0x183868, 0x2C68A8, 0x58A0D8, 0x94D0F0, 0xD0F4FC, 0xFFFFFF}};
+inline constexpr SixTones Star{{0x9C6010, 0xD89820, 0xF4C838, 0xFCEC84, 0xFFFCD0, 0xFFFFFF}};
+inline constexpr SixTones Wind{{0x145C44, 0x249058, 0x54C868, 0xA4EC88, 0xE0FCC0, 0xFFFFFF}};
+inline constexpr SixTones Sunlight{{0xDC6418, 0xF49428, 0xFCC448, 0xFCE884, 0xFFFBD0, 0xFFFFFF}};
+inline constexpr SixTones Force{{0x1C5C4C, 0x4C9C3C, 0xC0CC38, 0xFCEC7C, 0xFFFCD0, 0xFFFFFF}};
+inline constexpr SixTones Blood{{0x240818, 0x540C24, 0x981424, 0xD83020, 0xFC8038, 0xFFE8A0}};
+inline constexpr SixTones Shade{{0x100820, 0x2C1450, 0x542480, 0x8C44B8, 0xCC8CE8, 0xFCE4FF}};
+inline constexpr SixTones Smoke{{0x302830, 0x504448, 0x786864, 0xA09080, 0xC8B8A0, 0xF0E4CC}};
+inline constexpr SixTones Ash{{0x241C34, 0x443C58, 0x6C6480, 0xA098AC, 0xD0CCD8, 0xF8F4F4}};
+inline constexpr SixTones Earth{{0x2C1C20, 0x54383C, 0x84604C, 0xB08C64, 0xD8BC88, 0xFCECC0}};
+inline constexpr SixTones Steel{{0x1C1454, 0x3840BC, 0x3C84F4, 0x6CC8FC, 0xC4F4FC, 0xFFFFFF}};
 
 // What a shape gives for a place: a colour where it is hit, nothing elsewhere. The middle of the
 // cell is (0, 0), its edges lie at 12; x grows to the right, y downward.

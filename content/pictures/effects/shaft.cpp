@@ -26,7 +26,7 @@ std::optional<double> ToneIn(const Shaft& shaft, double x, double y, double shou
 
 }  // namespace
 
-Shape Cluster(const std::vector<Shaft>& shafts, double shoulder, const Ramp& ramp) {
+Shape Cluster(const std::vector<Shaft>& shafts, double shoulder, const SixTones& ramp) {
   return [shafts, shoulder, ramp](double x, double y) -> std::optional<Colour> {
     std::optional<Colour> colour;
     for (const Shaft& shaft : shafts) {

@@ -17,6 +17,6 @@ struct Shaft {
 };
 
 // Several shafts, the later ones in front. `shoulder` is where they begin to narrow, 0 to 1.
-Shape Cluster(const std::vector<Shaft>& shafts, double shoulder, const Ramp& ramp);
+Shape Cluster(const std::vector<Shaft>& shafts, double shoulder, const SixTones& ramp);
 
 }  // namespace orvane::paint::effects

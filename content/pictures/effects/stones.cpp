@@ -12,7 +12,7 @@ namespace {
 using std::numbers::pi;
 
 // A lump with flat faces: lit above and to the left.
-std::optional<Colour> Lump(double x, double y, double radius, double turn, const Ramp& ramp) {
+std::optional<Colour> Lump(double x, double y, double radius, double turn, const SixTones& ramp) {
   const double direction = std::atan2(y, x) + turn;
   const double face = std::fmod(direction + 4 * pi, pi / 3) - pi / 6;
   const double rim = radius * std::cos(pi / 6) / std::cos(face);

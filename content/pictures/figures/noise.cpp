@@ -1,20 +1,11 @@
-#include <cstdint>
-
 #include "content/pictures/figures/vec.h"
+#include "content/pictures/shared/hash.h"
 
 namespace orvane::paint {
 namespace {
 
-// Whole numbers only, so that no rounding of a sine can change the pattern.
 float Scatter(int x, int y, int z) {
-  uint32_t h = static_cast<uint32_t>(x) * 0x8DA6B343U ^ static_cast<uint32_t>(y) * 0xD8163841U ^
-               static_cast<uint32_t>(z) * 0xCB1AB31FU;
-  h ^= h >> 15;
-  h *= 0x2C1B3C6DU;
-  h ^= h >> 12;
-  h *= 0x297A2D39U;
-  h ^= h >> 15;
-  return static_cast<float>(h & 0xFFFFU) / 65535.0F;
+  return static_cast<float>(HashOf(x, y, z) & 0xFFFFU) / 65535.0F;
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ Colour Paper(const Style& style, const Area& area, int x, int y) {
   const float browned = std::exp(-(static_cast<float>(edge) - 5 + cloud * 12) * 0.28F);
   const Colour sheet =
       Mix(Hex(style.paper), Hex(style.stain), 0.18F + cloud * 1.5F + fibre * 0.22F);
-  return Mix(sheet, Hex(style.rim), scene::Clamp(browned) * 0.8F);
+  return Mix(sheet, Hex(style.rim), Clamp(browned) * 0.8F);
 }
 
 void DrawCorners(Canvas& canvas, const Style& style, const Area& area) {

@@ -5,17 +5,14 @@
 #include <cmath>
 
 #include "content/pictures/scenes/noise.h"
-#include "content/pictures/scenes/vec.h"
+#include "content/pictures/shared/vec.h"
 
 namespace orvane::paint::panel {
 namespace {
 
-using scene::Clamp;
 using scene::Colour;
 using scene::Hex;
 using scene::Mix;
-using scene::SmoothStep;
-using scene::Vec;
 
 constexpr float side = 64;
 constexpr float width = 4.6F;
@@ -56,10 +53,10 @@ float Height(float x, float y) {
 
 Colour Gilt(float x, float y) {
   constexpr float step = 0.12F;
-  const Vec normal = scene::Unit({Height(x - step, y) - Height(x + step, y),
-                                  Height(x, y - step) - Height(x, y + step), 2 * step});
-  const Vec light = scene::Unit({-0.52F, -0.66F, 0.62F});
-  const float facing = scene::Dot(normal, light);
+  const Vec normal = Unit({Height(x - step, y) - Height(x + step, y),
+                           Height(x, y - step) - Height(x, y + step), 2 * step});
+  const Vec light = Unit({-0.52F, -0.66F, 0.62F});
+  const float facing = Dot(normal, light);
   const float worn = scene::Fbm(x * 0.45F, y * 0.45F, 3, 81) - 0.5F;
   const float tone = 0.10F + 0.62F * Clamp(0.45F + 0.55F * facing) + 0.16F * worn +
                      0.34F * std::pow(Clamp(facing), 10.0F);

@@ -6,22 +6,18 @@
 
 #include "content/pictures/panels/icon_frame.h"
 #include "content/pictures/scenes/noise.h"
-#include "content/pictures/scenes/vec.h"
+#include "content/pictures/shared/vec.h"
 
 namespace orvane::paint::panel {
 namespace {
 
-using scene::Clamp;
 using scene::Colour;
 using scene::Fbm;
 using scene::Hash;
 using scene::Hex;
-using scene::Lerp;
 using scene::Mix;
 using scene::Noise;
 using scene::OnRamp;
-using scene::SmoothStep;
-using scene::Vec;
 
 // Everything is measured in sixty-fourths of the icon's side.
 constexpr float corner_x = 5.5F;  // the eye's inner corner, and the way from it to the outer one
@@ -34,7 +30,7 @@ constexpr float pupil_y = 32.5F;
 constexpr float lid = 10.5F;  // how far the lids reach out from the eye, above
 constexpr float lower_lid = 7;
 
-const Vec key = scene::Unit({-0.52F, -0.66F, 0.62F});
+const Vec key = Unit({-0.52F, -0.66F, 0.62F});
 
 constexpr std::array<uint32_t, 8> skin{0x1E0818, 0x3C0E22, 0x6A1626, 0x9A2428,
                                        0xC43E2A, 0xE06834, 0xF49C54, 0xFFDC9C};
@@ -109,21 +105,21 @@ float SkinHeight(float x, float y) {
   const float lids = std::max(roll, edge) + (fold + leather) * share * (1 - share) * 4;
   if (at.out < from) return lids;
   const float settled = SmoothStep(0, 2.5F, at.out - from);
-  return Lerp(0.6F, ScaleAt(at).height, settled) + 2.0F * SmoothStep(0, 16, at.out - from);
+  return Mix(0.6F, ScaleAt(at).height, settled) + 2.0F * SmoothStep(0, 16, at.out - from);
 }
 
 Vec SkinNormal(float x, float y) {
   constexpr float step = 0.16F;
   const float across = SkinHeight(x + step, y) - SkinHeight(x - step, y);
   const float down = SkinHeight(x, y + step) - SkinHeight(x, y - step);
-  return scene::Unit({-across, -down, 2 * step});
+  return Unit({-across, -down, 2 * step});
 }
 
 Colour Skin(float x, float y) {
   const AboutEye at = SeenFromEye(x, y);
   const float from = at.above ? lid : lower_lid;
   const Vec normal = SkinNormal(x, y);
-  const float facing = scene::Dot(normal, key);
+  const float facing = Dot(normal, key);
   float light = 0.16F + 0.62F * Clamp(0.5F + 0.5F * facing) * Clamp(0.5F + 0.5F * facing);
   light += 0.24F * std::pow(Clamp(facing), 14.0F);
   // Light lies on the upper left of the whole head and fails towards the lower right.
@@ -139,7 +135,7 @@ Colour Skin(float x, float y) {
   }
   Colour colour = OnRamp(skin, light);
   // A cool rim from behind on what turns away to the lower right.
-  const float rim = std::pow(Clamp(scene::Dot(normal, scene::Unit({0.7F, 0.5F, 0.25F}))), 4.0F);
+  const float rim = std::pow(Clamp(Dot(normal, Unit({0.7F, 0.5F, 0.25F}))), 4.0F);
   colour = colour + Hex(0x5A3C9C) * (0.30F * rim);
   return Mix(colour, Hex(0x180414), 0.9F * (1 - SmoothStep(0.0F, 0.7F, at.out)));
 }
@@ -163,7 +159,7 @@ Colour Eye(float x, float y, float depth, bool fine) {
   const AboutEye shaded = SeenFromEye(x + 0.9F, y - 1.2F);
   const float lid_shadow =
       SmoothStep(7.0F, 0.5F, -shaded.out) * SmoothStep(pupil_y + 5, pupil_y - 4, y);
-  light = Lerp(light, 0.16F, 0.62F * lid_shadow);
+  light = Mix(light, 0.16F, 0.62F * lid_shadow);
   Colour colour = OnRamp(iris, light);
   // The slit, a little aslant, with a burnt border and a pale one.
   const float lean = dx + 0.10F * dy;

@@ -4,7 +4,7 @@
 
 namespace orvane::paint::scene {
 
-Colour OnRamp(Ramp ramp, float t) {
+Colour OnRamp(RampView ramp, float t) {
   const float place = Clamp(t) * static_cast<float>(ramp.size() - 1);
   const size_t below = std::min(static_cast<size_t>(place), ramp.size() - 1);
   const size_t above = std::min(below + 1, ramp.size() - 1);

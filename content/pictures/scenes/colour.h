@@ -1,9 +1,10 @@
 // Colours in floating point, and the ramps that light indexes.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <span>
+
+#include "content/pictures/shared/vec.h"
 
 namespace orvane::paint::scene {
 
@@ -25,21 +26,7 @@ constexpr Colour operator*(Colour a, float k) {
 }
 
 // A run of colours from dark to light, each 0xRRGGBB; never empty.
-using Ramp = std::span<const uint32_t>;
-
-constexpr float Clamp(float value, float low = 0, float high = 1) {
-  return std::min(std::max(value, low), high);
-}
-
-constexpr float Lerp(float from, float to, float t) {
-  return from + (to - from) * t;
-}
-
-// 0 below `low`, 1 above `high`, smooth between; `low` must differ from `high`.
-constexpr float SmoothStep(float low, float high, float value) {
-  const float t = Clamp((value - low) / (high - low));
-  return t * t * (3 - 2 * t);
-}
+using RampView = std::span<const uint32_t>;
 
 // The colour 0xRRGGBB.
 constexpr Colour Hex(uint32_t rgb) {
@@ -47,13 +34,14 @@ constexpr Colour Hex(uint32_t rgb) {
           static_cast<float>(rgb & 0xFF) / 255};
 }
 
+using paint::Mix;
 // From `from` at t = 0 to `to` at t = 1; t is cut to that range.
 constexpr Colour Mix(Colour from, Colour to, float t) {
   return from + (to - from) * Clamp(t);
 }
 
 // The ramp's colour at t, 0 the darkest and 1 the lightest, blended between neighbours.
-Colour OnRamp(Ramp ramp, float t);
+Colour OnRamp(RampView ramp, float t);
 
 // The nearest 24-bit pixel.
 uint32_t ToPixel(Colour colour);

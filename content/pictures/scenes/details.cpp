@@ -18,8 +18,8 @@ float Chance(const Standing& at, int number) {
 }  // namespace
 
 Dresser::Foot Dresser::FootOf(const Standing& at) const {
-  const float ground = terrain_.Height(at.x, at.z, 6);
-  return {view_.ColumnOf(at.x, at.z), view_.RowOf(ground, at.z), view_.focal / at.z};
+  const float ground = terrain_.Height(at.X, at.Z, 6);
+  return {view_.ColumnOf(at.X, at.Z), view_.RowOf(ground, at.Z), view_.focal / at.Z};
 }
 
 void Dresser::Put(float column, float row, float z, Colour colour, float cover) {
@@ -32,11 +32,11 @@ void Dresser::Put(float column, float row, float z, Colour colour, float cover) 
   painting_.canvas.Blend(x, y, Mix(colour, air, terrain_.HazeCover(z)), cover);
 }
 
-void Dresser::Stone(const Standing& at, Ramp rock, Colour shadow) {
+void Dresser::Stone(const Standing& at, RampView rock, Colour shadow) {
   const Foot foot = FootOf(at);
   const float radius = at.size * foot.scale;
   if (radius < 0.8F) return;
-  const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
+  const float side = terrain_.Light().X < 0 ? 1.0F : -1.0F;
   const float wide = radius * 1.4F;
   for (int y = Cells(-radius); y <= Cells(radius * 0.7F); ++y) {
     for (int x = Cells(-wide * 1.6F); x <= Cells(wide * 1.9F); ++x) {
@@ -51,13 +51,13 @@ void Dresser::Stone(const Standing& at, Ramp rock, Colour shadow) {
         const float facet = fy < -radius * 0.25F ? 0.30F : side * fx < -wide * 0.1F ? 0.08F : -0.2F;
         const float light = 0.5F + facet - 0.15F * fy / radius +
                             0.22F * (Noise(fx * 0.4F, fy * 0.4F, at.seed) - 0.5F);
-        Put(foot.column + fx, foot.row + fy, at.z, OnRamp(rock, light));
+        Put(foot.column + fx, foot.row + fy, at.Z, OnRamp(rock, light));
         continue;
       }
       const float shade_x = (fx - side * radius * 0.7F) / (wide * 1.15F);
       const float shade_y = (fy - radius * 0.35F) / (radius * 0.36F);
       if (fy > -radius * 0.2F && shade_x * shade_x + shade_y * shade_y < 1) {
-        Put(foot.column + fx, foot.row + fy, at.z, shadow, 0.55F);
+        Put(foot.column + fx, foot.row + fy, at.Z, shadow, 0.55F);
       }
     }
   }
@@ -82,17 +82,17 @@ void Dresser::Shade(float x, float z, float across, float deep, Colour shadow) {
   }
 }
 
-void Dresser::Limb(std::span<const Joint> joints, Ramp tones) {
-  const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
+void Dresser::Limb(std::span<const Joint> joints, RampView tones) {
+  const float side = terrain_.Light().X < 0 ? 1.0F : -1.0F;
   for (size_t k = 0; k + 1 < joints.size(); ++k) {
     const Joint& from = joints[k];
     const Joint& to = joints[k + 1];
-    const float x0 = view_.ColumnOf(from.place.x, from.place.z);
-    const float y0 = view_.RowOf(from.place.y, from.place.z);
-    const float x1 = view_.ColumnOf(to.place.x, to.place.z);
-    const float y1 = view_.RowOf(to.place.y, to.place.z);
-    const float r0 = from.radius / from.place.z * view_.focal;
-    const float r1 = to.radius / to.place.z * view_.focal;
+    const float x0 = view_.ColumnOf(from.place.X, from.place.Z);
+    const float y0 = view_.RowOf(from.place.Y, from.place.Z);
+    const float x1 = view_.ColumnOf(to.place.X, to.place.Z);
+    const float y1 = view_.RowOf(to.place.Y, to.place.Z);
+    const float r0 = from.radius / from.place.Z * view_.focal;
+    const float r1 = to.radius / to.place.Z * view_.focal;
     const float length = (x1 - x0) * (x1 - x0) + (y1 - y0) * (y1 - y0) + 1e-4F;
     const float wide = std::max(r0, r1) + 1;
     for (int row = Cells(std::min(y0, y1) - wide); row <= Cells(std::max(y0, y1) + wide); ++row) {
@@ -101,12 +101,12 @@ void Dresser::Limb(std::span<const Joint> joints, Ramp tones) {
         const auto x = static_cast<float>(column);
         const auto y = static_cast<float>(row);
         const float along = Clamp(((x - x0) * (x1 - x0) + (y - y0) * (y1 - y0)) / length);
-        const float off_x = x - Lerp(x0, x1, along);
-        const float off_y = y - Lerp(y0, y1, along);
-        const float radius = Lerp(r0, r1, along);
+        const float off_x = x - Mix(x0, x1, along);
+        const float off_y = y - Mix(y0, y1, along);
+        const float radius = Mix(r0, r1, along);
         if (off_x * off_x + off_y * off_y > radius * radius) continue;
         const float light = 0.48F - (0.42F * side * off_x + 0.36F * off_y) / (radius + 0.3F);
-        Put(x, y, Lerp(from.place.z, to.place.z, along), OnRamp(tones, light));
+        Put(x, y, Mix(from.place.Z, to.place.Z, along), OnRamp(tones, light));
       }
     }
   }

@@ -9,8 +9,8 @@ namespace orvane::paint::scene {
 
 // Where a thing stands, how large it is and what chance it is drawn from.
 struct Standing {
-  float x = 0;
-  float z = 0;
+  float X = 0;
+  float Z = 0;
   float size = 1;  // in units of the scene
   int seed = 0;
 };
@@ -28,21 +28,21 @@ class Dresser {
       : terrain_(terrain), view_(view), painting_(painting) {}
 
   // A round crown of lit leaf clusters over a shadow; `size` is its radius.
-  void Tree(const Standing& at, Ramp leaves);
+  void Tree(const Standing& at, RampView leaves);
   // A fir of hanging tiers; `size` is a third of its height.
-  void Fir(const Standing& at, Ramp needles);
+  void Fir(const Standing& at, RampView needles);
   // A stone that throws its shadow away from the light; `size` is its radius.
-  void Stone(const Standing& at, Ramp rock, Colour shadow);
+  void Stone(const Standing& at, RampView rock, Colour shadow);
   // Some blades that lean apart; `size` is their length.
-  void Tuft(const Standing& at, Ramp blades);
+  void Tuft(const Standing& at, RampView blades);
   // A few blossoms on short stems.
-  void Flowers(const Standing& at, Colour petal, Ramp blades);
+  void Flowers(const Standing& at, Colour petal, RampView blades);
 
   // A soft shadow on level ground, `across` and `deep` units from its middle to its border.
   void Shade(float x, float z, float across, float deep, Colour shadow);
   // A round rod through the joints: a bone, a bough. `height` of the places is above the ground's
   // 0.
-  void Limb(std::span<const Joint> joints, Ramp tones);
+  void Limb(std::span<const Joint> joints, RampView tones);
 
  private:
   struct Foot {

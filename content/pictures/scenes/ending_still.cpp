@@ -37,24 +37,24 @@ class Dawn : public Terrain {
 
   Colour Ground(const Spot& spot) const override {
     const Vec p = spot.place;
-    const float fine = Fbm(p.x * 0.3F, p.z * 0.3F, 4, 8) - 0.5F;
-    if (p.y < water_level) {
-      const float ripple = Noise(p.x * 0.2F, p.z * 0.05F, 12) - 0.5F;
-      const Vec way = Unit({p.x, view.eye - p.y, p.z});
-      const Vec mirrored = Unit({way.x + 0.03F * ripple, way.y * (1 + 0.5F * ripple), way.z});
+    const float fine = Fbm(p.X * 0.3F, p.Z * 0.3F, 4, 8) - 0.5F;
+    if (p.Y < water_level) {
+      const float ripple = Noise(p.X * 0.2F, p.Z * 0.05F, 12) - 0.5F;
+      const Vec way = Unit({p.X, view.eye - p.Y, p.Z});
+      const Vec mirrored = Unit({way.X + 0.03F * ripple, way.Y * (1 + 0.5F * ripple), way.Z});
       return Sky(mirrored) * 0.86F;
     }
-    const float light = 0.16F + 0.14F * spot.normal.y + 0.74F * spot.sun;
-    const float big = Fbm(p.x * 0.02F, p.z * 0.02F, 4, 7) - 0.5F;
+    const float light = 0.16F + 0.14F * spot.normal.Y + 0.74F * spot.sun;
+    const float big = Fbm(p.X * 0.02F, p.Z * 0.02F, 4, 7) - 0.5F;
     const Colour ground = OnRamp(grass, light * 0.8F + 0.4F * big + 0.2F * fine);
-    const float steep = SmoothStep(0.22F, 0.42F, 1 - spot.normal.y) + SmoothStep(460, 520, p.z);
+    const float steep = SmoothStep(0.22F, 0.42F, 1 - spot.normal.Y) + SmoothStep(460, 520, p.Z);
     return Mix(ground, OnRamp(rock, light + 0.2F * fine), steep);
   }
 
   Colour Sky(Vec direction) const override {
-    const float up = Clamp(direction.y / direction.z / 0.6F);
-    const float x = direction.x / direction.z - sun.x;
-    const float y = direction.y / direction.z - sun.y;
+    const float up = Clamp(direction.Y / direction.Z / 0.6F);
+    const float x = direction.X / direction.Z - sun.X;
+    const float y = direction.Y / direction.Z - sun.Y;
     const float from_sun = std::sqrt(x * x + y * y);
     // The horizon is golden about the sun and rose elsewhere.
     const float gold = std::exp(-from_sun * 4.4F);
@@ -73,7 +73,7 @@ class Dawn : public Terrain {
     return Mix(Hex(0xFFFAE0), clouded, SmoothStep(0.040F, 0.046F, from_sun));
   }
   Colour Haze(Vec direction) const override {
-    const float off = std::fabs(direction.x / direction.z - sun.x);
+    const float off = std::fabs(direction.X / direction.Z - sun.X);
     return Mix(Hex(0x8C5884), Hex(0xE89C80), std::exp(-off * 5));
   }
   float HazeCover(float distance) const override {
@@ -92,10 +92,10 @@ void PlantTrees(Dresser& dresser, const Dawn& land) {
     trees.push_back({x, z, 2.2F + 2.2F * Hash(k, 2, 40), k});
   }
   std::sort(trees.begin(), trees.end(),
-            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+            [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : trees) {
     if (Hash(at.seed, 3, 40) < 0.4F)
-      dresser.Fir({at.x, at.z, at.size * 1.3F, at.seed}, leaves);
+      dresser.Fir({at.X, at.Z, at.size * 1.3F, at.seed}, leaves);
     else
       dresser.Tree(at, leaves);
   }

@@ -22,8 +22,8 @@ constexpr Vec key{-0.55F, 0.78F, -0.3F};
 
 // The disc: rings and rays that brighten towards the middle.
 Colour DiscColour(Vec p) {
-  const float x = p.x - disc_centre.x;
-  const float y = p.y - disc_centre.y;
+  const float x = p.X - disc_centre.X;
+  const float y = p.Y - disc_centre.Y;
   const float radius = std::sqrt(x * x + y * y) / disc_radius;
   const float angle = std::atan2(y, x);
   const float rays = 0.13F * std::sin(angle * 16) * SmoothStep(0.42F, 0.55F, radius);
@@ -32,32 +32,32 @@ Colour DiscColour(Vec p) {
 }
 
 float SlabTone(Vec p) {
-  const float row = std::floor(p.z / 9);
+  const float row = std::floor(p.Z / 9);
   const float shift = static_cast<int>(row) % 2 == 0 ? 0.0F : 5.0F;
-  const float column = std::floor((p.x + shift) / 10);
-  const float in_x = (p.x + shift) - column * 10;
-  const float in_z = p.z - row * 9;
+  const float column = std::floor((p.X + shift) / 10);
+  const float in_x = (p.X + shift) - column * 10;
+  const float in_z = p.Z - row * 9;
   const float edge = std::min(std::min(in_x, 10 - in_x), std::min(in_z, 9 - in_z));
   const float slab = Hash(static_cast<int>(column), static_cast<int>(row), 5) - 0.5F;
-  const float worn = Fbm(p.x * 0.11F, p.z * 0.11F, 4, 6) - 0.5F;
-  const float wide = 0.10F + p.z * 0.002F;
-  const float seam = SmoothStep(wide + 0.14F, wide * 0.4F, edge) * SmoothStep(190, 60, p.z);
+  const float worn = Fbm(p.X * 0.11F, p.Z * 0.11F, 4, 6) - 0.5F;
+  const float wide = 0.10F + p.Z * 0.002F;
+  const float seam = SmoothStep(wide + 0.14F, wide * 0.4F, edge) * SmoothStep(190, 60, p.Z);
   return 0.07F * slab + 0.22F * worn - 0.17F * seam;
 }
 
 // Where the shafts from above reach the floor.
 float Pool(Vec p) {
-  const float x = (p.x + 12) / 22;
-  const float z = (p.z - 62) / 34;
-  const float other_x = (p.x - 17) / 10;
-  const float other_z = (p.z - 40) / 13;
+  const float x = (p.X + 12) / 22;
+  const float z = (p.Z - 62) / 34;
+  const float other_x = (p.X - 17) / 10;
+  const float other_z = (p.Z - 40) / 13;
   return std::exp(-x * x - z * z) + 0.7F * std::exp(-other_x * other_x - other_z * other_z);
 }
 
 // A ring of signs in the floor's middle, faintly alight.
 float SignLight(Vec p) {
-  const float x = p.x + 4;
-  const float z = p.z - 66;
+  const float x = p.X + 4;
+  const float z = p.Z - 66;
   const float radius = std::sqrt(x * x + z * z);
   const auto band = [&](float at, float half) {
     return SmoothStep(half + 0.16F, half, std::fabs(radius - at));
@@ -89,10 +89,10 @@ Colour Surface(const Hit& hit, Vec direction) {
       colour = OnRamp(slate, light);
       break;
     case Stuff::Pillar: {
-      const float vein = Fbm(p.x * 0.2F + p.y * 0.05F, p.y * 0.11F + p.z * 0.2F, 4, 7) - 0.5F;
+      const float vein = Fbm(p.X * 0.2F + p.Y * 0.05F, p.Y * 0.11F + p.Z * 0.2F, 4, 7) - 0.5F;
       colour = OnRamp(marble, light * 1.12F + 0.24F * vein);
       // Bands of old gilding run round the shafts.
-      if (std::fabs(p.y - 15) < 0.9F || std::fabs(p.y - 3.6F) < 0.8F) {
+      if (std::fabs(p.Y - 15) < 0.9F || std::fabs(p.Y - 3.6F) < 0.8F) {
         colour = OnRamp(gold, light * 1.2F + 0.2F * vein);
       }
       break;
@@ -101,11 +101,11 @@ Colour Surface(const Hit& hit, Vec direction) {
       colour = OnRamp(gold, light * 1.1F + std::min(gate, 1.2F) * 0.3F);
       break;
     case Stuff::Crystal: {
-      const float face = 0.30F + 0.45F * Clamp(Dot(normal, lamp)) + rim * 1.6F + 0.02F * p.y;
+      const float face = 0.30F + 0.45F * Clamp(Dot(normal, lamp)) + rim * 1.6F + 0.02F * p.Y;
       return OnRamp(crystal, face);
     }
     default: {
-      const float grain = Fbm(p.y * 0.15F + p.x * 0.1F, p.z * 0.15F, 4, 9) - 0.5F;
+      const float grain = Fbm(p.Y * 0.15F + p.X * 0.1F, p.Z * 0.15F, 4, 9) - 0.5F;
       colour = OnRamp(slate, light * 0.62F + 0.20F * grain);
     }
   }
@@ -131,12 +131,12 @@ Colour Look(Vec from, Vec direction) {
   if (hit.stuff == Stuff::Floor) {
     // Polished stone mirrors the hall, more so at a flat angle.
     const Vec up{0, 1, 0};
-    const float ripple = 0.035F * (Noise(hit.place.x * 0.5F, hit.place.z * 0.5F, 15) - 0.5F);
-    const float lengthened = 1 + 0.9F * ripple * std::fabs(direction.y) * 20;
+    const float ripple = 0.035F * (Noise(hit.place.X * 0.5F, hit.place.Z * 0.5F, 15) - 0.5F);
+    const float lengthened = 1 + 0.9F * ripple * std::fabs(direction.Y) * 20;
     const Vec mirrored =
-        Unit({direction.x + ripple, -direction.y * lengthened, direction.z + ripple});
+        Unit({direction.X + ripple, -direction.Y * lengthened, direction.Z + ripple});
     const Hit other = March(hit.place + up * 0.05F, mirrored, 80);
-    const float flat = std::pow(Clamp(1 + direction.y), 5.0F);
+    const float flat = std::pow(Clamp(1 + direction.Y), 5.0F);
     const Colour seen = Surface(other, mirrored);
     if (other.stuff == Stuff::Disc) {
       // The disc's own light is added, with the stone's seams and wear in it.
@@ -155,9 +155,9 @@ Colour Look(Vec from, Vec direction) {
 Colour Air(const View& view, int x, int y) {
   const float column = static_cast<float>(x);
   const float row = static_cast<float>(y);
-  const float off_x = column - view.ColumnOf(disc_centre.x, disc_centre.z);
-  const float off_y = row - view.RowOf(disc_centre.y, disc_centre.z);
-  const float size = disc_radius / disc_centre.z * view.focal;
+  const float off_x = column - view.ColumnOf(disc_centre.X, disc_centre.Z);
+  const float off_y = row - view.RowOf(disc_centre.Y, disc_centre.Z);
+  const float size = disc_radius / disc_centre.Z * view.focal;
   const float near = std::exp(-(off_x * off_x + off_y * off_y) / (size * size * 6));
   const float slanted = (column + row * 0.55F) / static_cast<float>(view.width);
   const float beam = SmoothStep(0.56F, 0.78F, Fbm(slanted * 7, 0.5F, 3, 17));

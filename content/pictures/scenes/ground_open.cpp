@@ -40,26 +40,26 @@ class OpenLand : public Terrain {
 
   Colour Ground(const Spot& spot) const override {
     const Vec p = spot.place;
-    const float big = Fbm(p.x * 0.035F + 11, p.z * 0.035F, 4, 7);
-    float fine = Fbm(p.x * 0.7F, p.z * 0.7F, 4, 8);
-    fine = Lerp(fine, 0.5F, SmoothStep(60, 170, spot.distance));
-    const float light = 0.30F + 0.16F * spot.normal.y + 0.72F * spot.sun;
-    if (p.z > 90 && p.z < 420 && p.y < water_level) {
-      const float ripple = Noise(p.x * 0.3F, p.z * 0.05F, 12);
+    const float big = Fbm(p.X * 0.035F + 11, p.Z * 0.035F, 4, 7);
+    float fine = Fbm(p.X * 0.7F, p.Z * 0.7F, 4, 8);
+    fine = Mix(fine, 0.5F, SmoothStep(60, 170, spot.distance));
+    const float light = 0.30F + 0.16F * spot.normal.Y + 0.72F * spot.sun;
+    if (p.Z > 90 && p.Z < 420 && p.Y < water_level) {
+      const float ripple = Noise(p.X * 0.3F, p.Z * 0.05F, 12);
       return OnRamp(water, 0.35F + 0.5F * (ripple - 0.3F));
     }
     // Bands of cloud shadow lie across the land.
-    const float cloud = SmoothStep(0.48F, 0.60F, Fbm(p.x * 0.010F + 3, p.z * 0.022F, 3, 9));
+    const float cloud = SmoothStep(0.48F, 0.60F, Fbm(p.X * 0.010F + 3, p.Z * 0.022F, 3, 9));
     const float lit = light * (1.04F - 0.36F * cloud);
     Colour ground = OnRamp(grass, lit * 0.62F + (big - 0.5F) * 0.42F + (fine - 0.5F) * 0.26F);
-    const float track = std::fabs(p.x - Track(p.z)) + 1.6F * (fine - 0.5F) + 2 * (big - 0.5F);
-    const float bare = SmoothStep(2.9F, 1.7F, track) * SmoothStep(360, 240, p.z);
+    const float track = std::fabs(p.X - Track(p.Z)) + 1.6F * (fine - 0.5F) + 2 * (big - 0.5F);
+    const float bare = SmoothStep(2.9F, 1.7F, track) * SmoothStep(360, 240, p.Z);
     ground = Mix(ground, OnRamp(earth, lit * 0.62F + (fine - 0.5F) * 0.4F), bare * 0.85F);
-    if (p.z > 420) ground = Mix(ground, OnRamp(forest, light), 0.75F);
-    const float steep = SmoothStep(0.30F, 0.5F, 1 - spot.normal.y);
+    if (p.Z > 420) ground = Mix(ground, OnRamp(forest, light), 0.75F);
+    const float steep = SmoothStep(0.30F, 0.5F, 1 - spot.normal.Y);
     Colour result = Mix(ground, OnRamp(rock, light * 0.9F + (fine - 0.5F) * 0.2F), steep);
-    const float snow_line = SmoothStep(76, 112, p.y + 40 * (big - 0.5F) + 30 * (spot.sun - 0.4F));
-    const float holds = 1 - SmoothStep(0.5F, 0.75F, 1 - spot.normal.y);
+    const float snow_line = SmoothStep(76, 112, p.Y + 40 * (big - 0.5F) + 30 * (spot.sun - 0.4F));
+    const float holds = 1 - SmoothStep(0.5F, 0.75F, 1 - spot.normal.Y);
     return Mix(result, OnRamp(snow, light * 1.05F), snow_line * holds);
   }
 
@@ -69,7 +69,7 @@ class OpenLand : public Terrain {
                   Light());
   }
   Colour Haze(Vec direction) const override {
-    return Mix(Hex(0xA8C8E4), Hex(0xD8ECF4), Clamp(direction.y * 3));
+    return Mix(Hex(0xA8C8E4), Hex(0xD8ECF4), Clamp(direction.Y * 3));
   }
   float HazeCover(float distance) const override {
     return 1 - std::exp(-std::pow(distance / 1050, 1.35F));
@@ -96,12 +96,12 @@ void Dress(Dresser& dresser, const OpenLand& land) {
     things.push_back({x, z, 2.6F + 2.4F * Hash(k, 2, 40), k});
   }
   std::sort(things.begin(), things.end(),
-            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+            [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : things) {
     if (Hash(at.seed, 3, 40) < 0.3F)
-      dresser.Fir({at.x, at.z, at.size * 1.4F, at.seed}, leaves);
+      dresser.Fir({at.X, at.Z, at.size * 1.4F, at.seed}, leaves);
     else
-      dresser.Tree(at, Hash(at.seed, 4, 40) < 0.22F ? Ramp(warm_leaves) : Ramp(leaves));
+      dresser.Tree(at, Hash(at.seed, 4, 40) < 0.22F ? RampView(warm_leaves) : RampView(leaves));
   }
   things.clear();
   for (int k = 0; k < 1500; ++k) {
@@ -111,12 +111,12 @@ void Dress(Dresser& dresser, const OpenLand& land) {
     things.push_back({x, z, 0.22F + 0.36F * Hash(k, 9, 50), k});
   }
   std::sort(things.begin(), things.end(),
-            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+            [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : things) {
     const int kind = static_cast<int>(Hash(at.seed, 11, 50) * 100);
-    if (land.Height(at.x, at.z, 6) > 4) continue;
+    if (land.Height(at.X, at.Z, 6) > 4) continue;
     if (kind < 4) {
-      dresser.Stone({at.x, at.z, at.size * 0.5F, at.seed}, stone, Hex(0x143C30));
+      dresser.Stone({at.X, at.Z, at.size * 0.5F, at.seed}, stone, Hex(0x143C30));
     } else if (kind < 10) {
       dresser.Flowers(at,
                       kind < 6   ? Hex(0xFFF4A0)

@@ -40,23 +40,23 @@ class Waste : public Terrain {
 
   Colour Ground(const Spot& spot) const override {
     const Vec p = spot.place;
-    const float big = Fbm(p.x * 0.035F + 11, p.z * 0.035F, 4, 8);
-    float fine = Fbm(p.x * 0.7F, p.z * 0.7F, 4, 9);
-    fine = Lerp(fine, 0.5F, SmoothStep(60, 170, spot.distance));
-    const float light = 0.26F + 0.16F * spot.normal.y + 0.72F * spot.sun;
-    const float cloud = SmoothStep(0.50F, 0.62F, Fbm(p.x * 0.007F + 5, p.z * 0.013F, 3, 10));
+    const float big = Fbm(p.X * 0.035F + 11, p.Z * 0.035F, 4, 8);
+    float fine = Fbm(p.X * 0.7F, p.Z * 0.7F, 4, 9);
+    fine = Mix(fine, 0.5F, SmoothStep(60, 170, spot.distance));
+    const float light = 0.26F + 0.16F * spot.normal.Y + 0.72F * spot.sun;
+    const float cloud = SmoothStep(0.50F, 0.62F, Fbm(p.X * 0.007F + 5, p.Z * 0.013F, 3, 10));
     const float lit = light * (1 - 0.2F * cloud);
     Colour ground = OnRamp(soil, lit * 0.66F + (big - 0.5F) * 0.4F + (fine - 0.5F) * 0.28F);
     // Mud plates: dark gaps that fade with the distance and lie in patches.
-    const float gap = CellBorder(p.x * 0.22F + 0.35F * fine, p.z * 0.22F + 0.3F * fine, 11);
+    const float gap = CellBorder(p.X * 0.22F + 0.35F * fine, p.Z * 0.22F + 0.3F * fine, 11);
     const float patch = SmoothStep(0.36F, 0.5F, big) * SmoothStep(110, 30, spot.distance);
     ground = Mix(ground, OnRamp(soil, 0.12F), SmoothStep(0.075F, 0.02F, gap) * patch * 0.62F);
-    const float green = SmoothStep(0.54F, 0.62F, Fbm(p.x * 0.03F + 31, p.z * 0.03F, 4, 12));
+    const float green = SmoothStep(0.54F, 0.62F, Fbm(p.X * 0.03F + 31, p.Z * 0.03F, 4, 12));
     ground = Mix(ground, OnRamp(scrub, lit * 0.75F + (fine - 0.5F) * 0.5F), green * 0.6F);
     // Strata follow the height, a little warped.
-    const float strata = Fbm(p.y * 0.34F + p.x * 0.01F, p.y * 0.02F + 3, 3, 13);
+    const float strata = Fbm(p.Y * 0.34F + p.X * 0.01F, p.Y * 0.02F + 3, 3, 13);
     const float tone = light * 0.84F + (strata - 0.5F) * 0.4F + (fine - 0.5F) * 0.2F;
-    return Mix(ground, OnRamp(rock, tone), SmoothStep(0.10F, 0.26F, 1 - spot.normal.y));
+    return Mix(ground, OnRamp(rock, tone), SmoothStep(0.10F, 0.26F, 1 - spot.normal.Y));
   }
 
   Colour Sky(Vec direction) const override {
@@ -64,7 +64,7 @@ class Waste : public Terrain {
     return Clouds(clear, direction, {Hex(0x8C7898), Hex(0xFCE8C8), 0.48F, 0.2F, 0.9F, 47}, Light());
   }
   Colour Haze(Vec direction) const override {
-    return Mix(Hex(0xC8A49C), Hex(0xE8C8A8), Clamp(direction.y * 4));
+    return Mix(Hex(0xC8A49C), Hex(0xE8C8A8), Clamp(direction.Y * 4));
   }
   float HazeCover(float distance) const override {
     return 1 - std::exp(-std::pow(distance / 660, 1.3F));
@@ -78,7 +78,7 @@ class Waste : public Terrain {
   static float Terraced(float height, float step) {
     const float level = height / step;
     const float whole = std::floor(level);
-    return Lerp(height, (whole + SmoothStep(0.55F, 1, level - whole)) * step, 0.62F);
+    return Mix(height, (whole + SmoothStep(0.55F, 1, level - whole)) * step, 0.62F);
   }
 };
 
@@ -94,13 +94,13 @@ void Dress(Dresser& dresser, const Waste& land) {
     things.push_back({(Hash(k, 7, 60) - 0.5F) * 1.6F * z, z, 0.2F + 0.4F * Hash(k, 9, 60), k});
   }
   std::sort(things.begin(), things.end(),
-            [](const Standing& a, const Standing& b) { return a.z > b.z; });
+            [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : things) {
-    if (land.Height(at.x, at.z, 6) > 4) continue;
+    if (land.Height(at.X, at.Z, 6) > 4) continue;
     if (Hash(at.seed, 11, 60) < 0.3F) {
       const float size = Hash(at.seed, 12, 60) * Hash(at.seed, 13, 60);
-      dresser.Stone({at.x, at.z, 0.1F + 0.42F * size, at.seed}, stone, Hex(0x4C3440));
-    } else if (Fbm(at.x * 0.03F + 31, at.z * 0.03F, 4, 12) > 0.53F) {
+      dresser.Stone({at.X, at.Z, 0.1F + 0.42F * size, at.seed}, stone, Hex(0x4C3440));
+    } else if (Fbm(at.X * 0.03F + 31, at.Z * 0.03F, 4, 12) > 0.53F) {
       dresser.Tuft(at, blades);
     }
   }

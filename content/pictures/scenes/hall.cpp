@@ -14,67 +14,67 @@ constexpr float first_pillar = 64;
 constexpr float last_pillar = 4;  // the number of the last pair
 
 float Box(Vec p, Vec half) {
-  const Vec q{std::fabs(p.x) - half.x, std::fabs(p.y) - half.y, std::fabs(p.z) - half.z};
-  const Vec out{std::max(q.x, 0.0F), std::max(q.y, 0.0F), std::max(q.z, 0.0F)};
-  return Length(out) + std::min(std::max(q.x, std::max(q.y, q.z)), 0.0F);
+  const Vec q{std::fabs(p.X) - half.X, std::fabs(p.Y) - half.Y, std::fabs(p.Z) - half.Z};
+  const Vec out{std::max(q.X, 0.0F), std::max(q.Y, 0.0F), std::max(q.Z, 0.0F)};
+  return Length(out) + std::min(std::max(q.X, std::max(q.Y, q.Z)), 0.0F);
 }
 
 // A fluted shaft between square stones; some shafts are broken off.
 float Pillar(Vec p) {
-  const float number = std::clamp(std::round((p.z - first_pillar) / pillar_gap), 0.0F, last_pillar);
-  const int side = p.x < 0 ? 0 : 1;
+  const float number = std::clamp(std::round((p.Z - first_pillar) / pillar_gap), 0.0F, last_pillar);
+  const int side = p.X < 0 ? 0 : 1;
   const int seed = static_cast<int>(number) * 2 + side;
-  const Vec q{std::fabs(p.x) - pillar_side, p.y, p.z - first_pillar - number * pillar_gap};
-  const float round = std::sqrt(q.x * q.x + q.z * q.z);
-  const float angle = std::atan2(q.z, q.x);
+  const Vec q{std::fabs(p.X) - pillar_side, p.Y, p.Z - first_pillar - number * pillar_gap};
+  const float round = std::sqrt(q.X * q.X + q.Z * q.Z);
+  const float angle = std::atan2(q.Z, q.X);
   const float flute = 0.16F * std::fabs(std::sin(angle * 7));
-  const float swell = 4.6F - 0.012F * q.y;
+  const float swell = 4.6F - 0.012F * q.Y;
   float shaft = round - swell + flute;
   const bool broken = Hash(seed, 4, 3) < 0.2F;
   if (broken) {
-    const float top = 22 + 16 * Hash(seed, 5, 3) + 4 * Noise(q.x * 0.5F, q.z * 0.5F, seed);
-    shaft = std::max(shaft, q.y - top);
+    const float top = 22 + 16 * Hash(seed, 5, 3) + 4 * Noise(q.X * 0.5F, q.Z * 0.5F, seed);
+    shaft = std::max(shaft, q.Y - top);
   }
-  const float base = std::min(Box({q.x, q.y - 1.4F, q.z}, {6.4F, 1.4F, 6.4F}),
-                              std::max(round - 5.7F, std::fabs(q.y - 3.6F) - 0.9F));
-  const float ring = std::max(round - 5.2F, std::fabs(q.y - 15) - 0.7F);
-  const float cap = broken ? 99 : Box({q.x, q.y - 66, q.z}, {7, 3, 7});
+  const float base = std::min(Box({q.X, q.Y - 1.4F, q.Z}, {6.4F, 1.4F, 6.4F}),
+                              std::max(round - 5.7F, std::fabs(q.Y - 3.6F) - 0.9F));
+  const float ring = std::max(round - 5.2F, std::fabs(q.Y - 15) - 0.7F);
+  const float cap = broken ? 99 : Box({q.X, q.Y - 66, q.Z}, {7, 3, 7});
   return std::min(std::min(shaft, ring), std::min(base, cap)) * 0.85F;
 }
 
 // Walls and vault, hewn out of the living rock.
 float Rock(Vec p) {
-  const float rough = 7 * (Fbm(p.y * 0.06F + p.x * 0.05F, p.z * 0.06F, 4, 11) - 0.5F) +
-                      2.2F * (Ridges(p.y * 0.13F, p.z * 0.13F + p.x * 0.1F, 2, 12) - 0.4F);
-  const float wall = 62 - std::fabs(p.x) + rough;
+  const float rough = 7 * (Fbm(p.Y * 0.06F + p.X * 0.05F, p.Z * 0.06F, 4, 11) - 0.5F) +
+                      2.2F * (Ridges(p.Y * 0.13F, p.Z * 0.13F + p.X * 0.1F, 2, 12) - 0.4F);
+  const float wall = 62 - std::fabs(p.X) + rough;
   // Dripstones hang from the vault.
-  const float drip = Noise(p.x * 0.16F, p.z * 0.13F, 13);
+  const float drip = Noise(p.X * 0.16F, p.Z * 0.13F, 13);
   const float spikes = 30 * SmoothStep(0.62F, 1, drip);
-  const float vault = 84 - p.y - 0.010F * p.x * p.x + rough - spikes;
+  const float vault = 84 - p.Y - 0.010F * p.X * p.X + rough - spikes;
   return std::min(wall, vault) * 0.6F;
 }
 
 float Crystal(Vec p) {
   float nearest = 99;
   for (const float depth : crystal_depths) {
-    const Vec q{std::fabs(p.x) - crystal_side, p.y, p.z - depth};
+    const Vec q{std::fabs(p.X) - crystal_side, p.Y, p.Z - depth};
     if (Length(q) > 30) {
       nearest = std::min(nearest, Length(q) - 24);
       continue;
     }
-    const int side = p.x < 0 ? 7 : 0;
+    const int side = p.X < 0 ? 7 : 0;
     for (int k = 0; k < 6; ++k) {
       const int seed = k + side + static_cast<int>(depth);
       const float lean_x = (Hash(seed, 1, 21) - 0.6F) * 0.9F;
       const float lean_z = (Hash(seed, 2, 21) - 0.5F) * 0.9F;
       const float tall = 4 + 8 * Hash(seed, 3, 21) * (k == 0 ? 1.5F : 0.8F);
-      const Vec local{q.x - (Hash(seed, 4, 21) - 0.5F) * 8 - lean_x * q.y, q.y,
-                      q.z - (Hash(seed, 5, 21) - 0.5F) * 8 - lean_z * q.y};
+      const Vec local{q.X - (Hash(seed, 4, 21) - 0.5F) * 8 - lean_x * q.Y, q.Y,
+                      q.Z - (Hash(seed, 5, 21) - 0.5F) * 8 - lean_z * q.Y};
       const float six =
-          std::max(std::fabs(local.x), std::fabs(local.x) * 0.5F + std::fabs(local.z) * 0.87F);
+          std::max(std::fabs(local.X), std::fabs(local.X) * 0.5F + std::fabs(local.Z) * 0.87F);
       const float thick = 1.1F + 0.9F * Hash(seed, 6, 21);
-      const float prism = std::max(six - thick, six * 1.9F + local.y - tall);
-      nearest = std::min(nearest, std::max(prism, -local.y) * 0.55F);
+      const float prism = std::max(six - thick, six * 1.9F + local.Y - tall);
+      nearest = std::min(nearest, std::max(prism, -local.Y) * 0.55F);
     }
   }
   return nearest;
@@ -83,7 +83,7 @@ float Crystal(Vec p) {
 }  // namespace
 
 Solid HallAt(Vec place) {
-  Solid best{place.y, Stuff::Floor};
+  Solid best{place.Y, Stuff::Floor};
   const auto offer = [&](float distance, Stuff stuff) {
     if (distance < best.distance) best = {distance, stuff};
   };
@@ -98,13 +98,13 @@ Solid HallAt(Vec place) {
           Stuff::Gate);
   }
   const Vec from_disc = place - disc_centre;
-  const float round = std::sqrt(from_disc.x * from_disc.x + from_disc.y * from_disc.y);
-  const float wall = std::max(disc_centre.z + 2 - place.z, disc_radius - round);
+  const float round = std::sqrt(from_disc.X * from_disc.X + from_disc.Y * from_disc.Y);
+  const float wall = std::max(disc_centre.Z + 2 - place.Z, disc_radius - round);
   offer(wall * 0.9F, Stuff::Rock);
   const float ring =
-      std::max(std::fabs(round - disc_radius - 2.4F) - 2.4F, std::fabs(from_disc.z) - 2.5F);
+      std::max(std::fabs(round - disc_radius - 2.4F) - 2.4F, std::fabs(from_disc.Z) - 2.5F);
   offer(ring, Stuff::Gate);
-  offer(disc_centre.z + 3 - place.z, Stuff::Disc);
+  offer(disc_centre.Z + 3 - place.Z, Stuff::Disc);
   return best;
 }
 

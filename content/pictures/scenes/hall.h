@@ -1,7 +1,7 @@
 // The last dragon's hall as a solid: where stone is, and of which kind.
 #pragma once
 
-#include "content/pictures/scenes/vec.h"
+#include "content/pictures/shared/vec.h"
 
 namespace orvane::paint::scene {
 

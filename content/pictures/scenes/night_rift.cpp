@@ -23,8 +23,8 @@ Colour MoonColour(float x, float y) {
 }
 
 float Star(Vec direction) {
-  const float x = direction.x / direction.z * 210;
-  const float y = direction.y / direction.z * 210;
+  const float x = direction.X / direction.Z * 210;
+  const float y = direction.Y / direction.Z * 210;
   const int cell_x = static_cast<int>(std::floor(x));
   const int cell_y = static_cast<int>(std::floor(y));
   if (Hash(cell_x, cell_y, 62) > 0.020F) return 0;
@@ -50,35 +50,35 @@ float NightRift::Height(float x, float z, int octaves) const {
 
 Colour NightRift::Ground(const Spot& spot) const {
   const Vec p = spot.place;
-  const float fine = Fbm(p.x * 0.16F, p.z * 0.16F + p.y * 0.2F, 4, 5) - 0.5F;
-  if (p.y < water_level) {
+  const float fine = Fbm(p.X * 0.16F, p.Z * 0.16F + p.Y * 0.2F, 4, 5) - 0.5F;
+  if (p.Y < water_level) {
     // Still water: the sky once more, shaken a little by ripples that flatten with the distance.
     const float shake = 0.09F * std::exp(-spot.distance / 260);
-    const float ripple_x = Noise(p.x * 0.35F, p.z * 0.09F, 6) - 0.5F;
-    const float ripple_y = Noise(p.x * 0.22F, p.z * 0.16F, 7) - 0.5F;
-    const Vec way = Unit({p.x, view_.eye - p.y, p.z});
+    const float ripple_x = Noise(p.X * 0.35F, p.Z * 0.09F, 6) - 0.5F;
+    const float ripple_y = Noise(p.X * 0.22F, p.Z * 0.16F, 7) - 0.5F;
+    const Vec way = Unit({p.X, view_.eye - p.Y, p.Z});
     const Vec mirrored =
-        Unit({way.x + shake * ripple_x, std::fabs(way.y + shake * 2.6F * ripple_y), way.z});
+        Unit({way.X + shake * ripple_x, std::fabs(way.Y + shake * 2.6F * ripple_y), way.Z});
     const Colour still = Mix(Sky(mirrored), Hex(0x181444), 0.42F);
     // The moon's road: glints that widen towards the eye.
-    const float aside = (way.x / way.z - moon.x) / (0.055F + 0.9F / spot.distance);
+    const float aside = (way.X / way.Z - moon.X) / (0.055F + 0.9F / spot.distance);
     const float glint =
-        SmoothStep(0.52F, 0.62F, Noise(p.x * 0.5F, p.z * 0.16F, 8)) * std::exp(-aside * aside);
+        SmoothStep(0.52F, 0.62F, Noise(p.X * 0.5F, p.Z * 0.16F, 8)) * std::exp(-aside * aside);
     return Mix(still, Hex(0xE8DCEC), glint * 0.6F);
   }
-  const float light = 0.10F + 0.12F * spot.normal.y + 0.86F * spot.sun + 0.2F * fine;
-  const float high = SmoothStep(70, 105, p.y + 60 * fine);
-  const float flat = 1 - SmoothStep(0.45F, 0.7F, 1 - spot.normal.y);
+  const float light = 0.10F + 0.12F * spot.normal.Y + 0.86F * spot.sun + 0.2F * fine;
+  const float high = SmoothStep(70, 105, p.Y + 60 * fine);
+  const float flat = 1 - SmoothStep(0.45F, 0.7F, 1 - spot.normal.Y);
   return Mix(OnRamp(rock, light), OnRamp(snow, light), high * flat);
 }
 
 Colour NightRift::Sky(Vec direction) const {
-  const float up = Clamp(direction.y / direction.z / 0.62F);
+  const float up = Clamp(direction.Y / direction.Z / 0.62F);
   Colour sky =
       Mix(Mix(Hex(0x985880), Hex(0x442C78), up / 0.22F), Hex(0x0C0C34), (up - 0.22F) / 0.75F);
   sky = sky + Hex(0xF4F0FF) * Star(direction) * SmoothStep(0.18F, 0.5F, up);
-  const float x = (direction.x / direction.z - moon.x) / moon_radius;
-  const float y = (direction.y / direction.z - moon.y) / moon_radius;
+  const float x = (direction.X / direction.Z - moon.X) / moon_radius;
+  const float y = (direction.Y / direction.Z - moon.Y) / moon_radius;
   const float from_moon = std::sqrt(x * x + y * y);
   sky = sky + Hex(0x8878B0) * (0.55F * std::exp(-from_moon * 0.62F));
   sky = Mix(MoonColour(x, y), sky, SmoothStep(0.97F, 1.03F, from_moon));
@@ -88,7 +88,7 @@ Colour NightRift::Sky(Vec direction) const {
 }
 
 Colour NightRift::Haze(Vec direction) const {
-  return Mix(Hex(0x785088), Hex(0x403478), Clamp(direction.y * 3));
+  return Mix(Hex(0x785088), Hex(0x403478), Clamp(direction.Y * 3));
 }
 
 float NightRift::HazeCover(float distance) const {

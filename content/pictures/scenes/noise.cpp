@@ -1,17 +1,18 @@
 #include "content/pictures/scenes/noise.h"
 
+#include <algorithm>
 #include <cmath>
-#include <cstdint>
 
-#include "content/pictures/scenes/colour.h"
+#include "content/pictures/shared/hash.h"
+#include "content/pictures/shared/vec.h"
 
 namespace orvane::paint::scene {
 namespace {
 
 // Turning each octave by some 37 degrees hides the lattice.
 struct Turned {
-  float x;
-  float y;
+  float X;
+  float Y;
 };
 
 Turned NextOctave(float x, float y) {
@@ -21,12 +22,7 @@ Turned NextOctave(float x, float y) {
 }  // namespace
 
 float Hash(int x, int y, int seed) {
-  uint32_t bits = static_cast<uint32_t>(x) * 0x8DA6B343U ^ static_cast<uint32_t>(y) * 0xD8163841U ^
-                  static_cast<uint32_t>(seed) * 0xCB1AB31FU;
-  bits = (bits ^ bits >> 15) * 0x2C1B3C6DU;
-  bits = (bits ^ bits >> 12) * 0x297A2D39U;
-  bits ^= bits >> 15;
-  return static_cast<float>(bits >> 8) / 16777216.0F;
+  return static_cast<float>(HashOf(x, y, seed) >> 8) / 16777216.0F;
 }
 
 float Noise(float x, float y, int seed) {
@@ -36,10 +32,9 @@ float Noise(float x, float y, int seed) {
   const int cell_y = static_cast<int>(floor_y);
   const float in_x = SmoothStep(0, 1, x - floor_x);
   const float in_y = SmoothStep(0, 1, y - floor_y);
-  const float upper = Lerp(Hash(cell_x, cell_y, seed), Hash(cell_x + 1, cell_y, seed), in_x);
-  const float lower =
-      Lerp(Hash(cell_x, cell_y + 1, seed), Hash(cell_x + 1, cell_y + 1, seed), in_x);
-  return Lerp(upper, lower, in_y);
+  const float upper = Mix(Hash(cell_x, cell_y, seed), Hash(cell_x + 1, cell_y, seed), in_x);
+  const float lower = Mix(Hash(cell_x, cell_y + 1, seed), Hash(cell_x + 1, cell_y + 1, seed), in_x);
+  return Mix(upper, lower, in_y);
 }
 
 float Fbm(float x, float y, int octaves, int seed) {
@@ -48,8 +43,8 @@ float Fbm(float x, float y, int octaves, int seed) {
   for (int octave = 0; octave < octaves; ++octave) {
     sum += strength * Noise(x, y, seed);
     const Turned next = NextOctave(x, y);
-    x = next.x;
-    y = next.y;
+    x = next.X;
+    y = next.Y;
     strength *= 0.5F;
   }
   // The octaves left out would have added their mean.
@@ -65,8 +60,8 @@ float Ridges(float x, float y, int octaves, int seed) {
     sum += strength * crest * crest * above;
     above = crest * crest;
     const Turned next = NextOctave(x, y);
-    x = next.x;
-    y = next.y;
+    x = next.X;
+    y = next.Y;
     strength *= 0.5F;
   }
   return sum;

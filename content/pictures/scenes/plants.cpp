@@ -19,24 +19,24 @@ float Chance(const Standing& at, int number) {
 
 }  // namespace
 
-void Dresser::Tree(const Standing& at, Ramp leaves) {
+void Dresser::Tree(const Standing& at, RampView leaves) {
   const Foot foot = FootOf(at);
   const float radius = at.size * foot.scale;
   if (radius < 0.7F) return;
-  const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
+  const float side = terrain_.Light().X < 0 ? 1.0F : -1.0F;
   for (int y = Cells(-radius * 0.3F); y <= Cells(radius * 0.3F); ++y) {
     for (int x = Cells(-radius * 1.4F); x <= Cells(radius * 1.4F); ++x) {
       const float across = static_cast<float>(x) / (radius * 1.3F);
       const float down = static_cast<float>(y) / (radius * 0.26F);
       if (across * across + down * down < 1) {
         Put(foot.column + radius * 0.45F * side + static_cast<float>(x),
-            foot.row + static_cast<float>(y), at.z, OnRamp(leaves, 0.06F), 0.5F);
+            foot.row + static_cast<float>(y), at.Z, OnRamp(leaves, 0.06F), 0.5F);
       }
     }
   }
   for (int up = 0; up < Cells(radius * 0.7F); ++up) {
     for (int x = Cells(-radius * 0.12F); x <= Cells(radius * 0.12F); ++x) {
-      Put(foot.column + static_cast<float>(x), foot.row - static_cast<float>(up), at.z,
+      Put(foot.column + static_cast<float>(x), foot.row - static_cast<float>(up), at.Z,
           OnRamp(leaves, 0.02F));
     }
   }
@@ -61,17 +61,17 @@ void Dresser::Tree(const Standing& at, Ramp leaves) {
         const float light = 0.4F - 0.28F * side * (fx + offset_x) / radius -
                             0.26F * (fy + offset_y + radius * 1.1F) / radius - 0.20F * fy / leaf +
                             0.12F * (Hash(x, y, at.seed + k) - 0.5F);
-        Put(foot.column + offset_x + fx, foot.row + offset_y + fy, at.z, OnRamp(leaves, light));
+        Put(foot.column + offset_x + fx, foot.row + offset_y + fy, at.Z, OnRamp(leaves, light));
       }
     }
   }
 }
 
-void Dresser::Fir(const Standing& at, Ramp needles) {
+void Dresser::Fir(const Standing& at, RampView needles) {
   const Foot foot = FootOf(at);
   const float tall = 3 * at.size * foot.scale;
   if (tall < 1.5F) return;
-  const float side = terrain_.Light().x < 0 ? 1.0F : -1.0F;
+  const float side = terrain_.Light().X < 0 ? 1.0F : -1.0F;
   for (int line = 0; line < Cells(tall / fine); ++line) {
     const float up = static_cast<float>(line) * fine;
     const float share = up / tall;
@@ -83,12 +83,12 @@ void Dresser::Fir(const Standing& at, Ramp needles) {
       if (std::fabs(x) > half * (0.75F + 0.25F * ragged)) continue;
       const float light = 0.42F - 0.4F * side * x / (half + 0.5F) - 0.35F * (1 - tier) * 0.6F +
                           0.2F * share + 0.2F * (ragged - 0.5F);
-      Put(foot.column + x, foot.row - up, at.z, OnRamp(needles, light));
+      Put(foot.column + x, foot.row - up, at.Z, OnRamp(needles, light));
     }
   }
 }
 
-void Dresser::Tuft(const Standing& at, Ramp blades) {
+void Dresser::Tuft(const Standing& at, RampView blades) {
   const Foot foot = FootOf(at);
   const float longest = at.size * foot.scale;
   if (longest < 1) return;
@@ -101,13 +101,13 @@ void Dresser::Tuft(const Standing& at, Ramp blades) {
     for (int step = 0; step < Cells(length / fine); ++step) {
       const float up = static_cast<float>(step) * fine;
       const float share = up / length;
-      Put(foot.column + start + lean * share * share * length, foot.row - up, at.z,
+      Put(foot.column + start + lean * share * share * length, foot.row - up, at.Z,
           OnRamp(blades, share * 0.75F + 0.15F + tone));
     }
   }
 }
 
-void Dresser::Flowers(const Standing& at, Colour petal, Ramp blades) {
+void Dresser::Flowers(const Standing& at, Colour petal, RampView blades) {
   Tuft(at, blades);
   const Foot foot = FootOf(at);
   const float length = at.size * foot.scale;
@@ -119,7 +119,7 @@ void Dresser::Flowers(const Standing& at, Colour petal, Ramp blades) {
     const int reach = Cells(radius / fine);
     for (int down = -reach; down <= reach; ++down) {
       for (int across = -reach; across <= reach; ++across) {
-        Put(x + static_cast<float>(across) * fine, y + static_cast<float>(down) * fine, at.z,
+        Put(x + static_cast<float>(across) * fine, y + static_cast<float>(down) * fine, at.Z,
             petal * (down > 0 ? 0.85F : 1.0F));
       }
     }

@@ -63,7 +63,7 @@ void DrawSkeleton(Dresser& dresser) {
   ribs(-7);
   // The skull lies before the ribs: cranium, muzzle, jaw, horns, and the hollow of the eye.
   const Vec skull{-5, 3.2F, z - 10};
-  const auto part = [&](Vec from, Vec to, float radius_from, float radius_to, Ramp tones) {
+  const auto part = [&](Vec from, Vec to, float radius_from, float radius_to, RampView tones) {
     const std::array<Joint, 2> joints{{{skull + from, radius_from}, {skull + to, radius_to}}};
     dresser.Limb(joints, tones);
   };
@@ -87,8 +87,8 @@ void DrawDeadTree(Dresser& dresser, float x, float z, float size, int seed) {
     for (int k = 0; k <= 6; ++k) {
       const float t = static_cast<float>(k) / 6;
       const float bend = (Hash(k, chance, seed) - 0.5F) * 0.18F * length;
-      joints.push_back({{from.x + lean * length * t * (0.6F + 0.5F * t) + bend * t,
-                         from.y + length * t * (1 - 0.25F * t * std::fabs(lean)), z},
+      joints.push_back({{from.X + lean * length * t * (0.6F + 0.5F * t) + bend * t,
+                         from.Y + length * t * (1 - 0.25F * t * std::fabs(lean)), z},
                         radius * (1 - 0.8F * t)});
     }
     dresser.Limb(joints, wood);
@@ -97,8 +97,8 @@ void DrawDeadTree(Dresser& dresser, float x, float z, float size, int seed) {
   const Vec fork = bough({x, -0.5F, z}, 0.15F, 6 * size, 0.55F * size, 1);
   bough(fork, -0.9F, 3.6F * size, 0.28F * size, 2);
   bough(fork, 0.8F, 3.2F * size, 0.3F * size, 3);
-  bough({fork.x - 0.2F * size, fork.y - 1.3F * size, z}, 1.2F, 2.6F * size, 0.22F * size, 4);
-  bough({fork.x - 0.3F * size, fork.y - 1.9F * size, z}, -1.3F, 2.2F * size, 0.2F * size, 5);
+  bough({fork.X - 0.2F * size, fork.Y - 1.3F * size, z}, 1.2F, 2.6F * size, 0.22F * size, 4);
+  bough({fork.X - 0.3F * size, fork.Y - 1.9F * size, z}, -1.3F, 2.2F * size, 0.2F * size, 5);
 }
 
 }  // namespace orvane::paint::scene

@@ -14,19 +14,19 @@ float Density(float x, float y, int seed) {
 }  // namespace
 
 Colour GradientSky(Vec direction, Colour high, Colour low) {
-  return Mix(low, high, std::pow(Clamp(direction.y * 3.2F), 0.75F));
+  return Mix(low, high, std::pow(Clamp(direction.Y * 3.2F), 0.75F));
 }
 
 Colour Clouds(Colour sky, Vec direction, const CloudLayer& layer, Vec light) {
-  const float lift = 1 / (std::max(direction.y, 0.0F) + 0.09F);
-  const float x = direction.x * lift * layer.fineness + 3.7F;
-  const float y = direction.z * lift * layer.fineness;
+  const float lift = 1 / (std::max(direction.Y, 0.0F) + 0.09F);
+  const float x = direction.X * lift * layer.fineness + 3.7F;
+  const float y = direction.Z * lift * layer.fineness;
   const float here = Density(x, y, layer.seed);
-  const float there = Density(x + light.x * 0.14F, y - 0.12F, layer.seed);
+  const float there = Density(x + light.X * 0.14F, y - 0.12F, layer.seed);
   const float cover = SmoothStep(layer.free, layer.free + layer.border, here);
   const float bright = Clamp(0.6F + (here - there) * 5.5F);
   return Mix(sky, Mix(layer.shade, layer.lit, bright),
-             cover * SmoothStep(-0.02F, 0.10F, direction.y) * 0.94F);
+             cover * SmoothStep(-0.02F, 0.10F, direction.Y) * 0.94F);
 }
 
 }  // namespace orvane::paint::scene

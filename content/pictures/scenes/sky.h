@@ -2,7 +2,7 @@
 #pragma once
 
 #include "content/pictures/scenes/colour.h"
-#include "content/pictures/scenes/vec.h"
+#include "content/pictures/shared/vec.h"
 
 namespace orvane::paint::scene {
 

@@ -16,10 +16,10 @@ int OctavesAt(float distance) {
 Vec NormalAt(const Terrain& terrain, Vec place, float distance) {
   const float gap = 0.12F + distance * 0.004F;
   const int octaves = OctavesAt(distance);
-  const float slope_x = terrain.Height(place.x + gap, place.z, octaves) -
-                        terrain.Height(place.x - gap, place.z, octaves);
-  const float slope_z = terrain.Height(place.x, place.z + gap, octaves) -
-                        terrain.Height(place.x, place.z - gap, octaves);
+  const float slope_x = terrain.Height(place.X + gap, place.Z, octaves) -
+                        terrain.Height(place.X - gap, place.Z, octaves);
+  const float slope_z = terrain.Height(place.X, place.Z + gap, octaves) -
+                        terrain.Height(place.X, place.Z - gap, octaves);
   return Unit({-slope_x, 2 * gap, -slope_z});
 }
 
@@ -30,7 +30,7 @@ float SunAt(const Terrain& terrain, Vec place, float distance) {
   float reach = 1 + distance * 0.01F;
   for (int step = 0; step < shadow_steps && reach < shadow_reach; ++step) {
     const Vec point = place + light * reach;
-    const float gap = point.y - terrain.Height(point.x, point.z, 5);
+    const float gap = point.Y - terrain.Height(point.X, point.Z, 5);
     open = std::min(open, 0.5F + gap * 6 / reach);
     if (open < 0) return 0;
     reach = reach * 1.22F + 0.4F;
@@ -40,7 +40,7 @@ float SunAt(const Terrain& terrain, Vec place, float distance) {
 
 // Walks away from the eye under one column and finds, from the bottom row up, what each row shows.
 void FindDepths(const Terrain& terrain, const View& view, int column, Painting& painting) {
-  const float side = view.Through(column, 0).x;
+  const float side = view.Through(column, 0).X;
   int row = view.height - 1;
   float z = nearest;
   float height = terrain.Height(side * z, z, 8);
@@ -49,11 +49,11 @@ void FindDepths(const Terrain& terrain, const View& view, int column, Painting& 
     const float next_height = terrain.Height(side * next_z, next_z, OctavesAt(next_z));
     while (row >= 0 && view.RowOf(next_height, next_z) <= static_cast<float>(row) + 0.5F) {
       // Where the line of sight crosses the ground between the two steps.
-      const float rise = view.Through(column, row).y;
+      const float rise = view.Through(column, row).Y;
       const float before = view.eye + rise * z - height;
       const float after = view.eye + rise * next_z - next_height;
       const float share = before <= 0 ? 0 : before / (before - after);
-      painting.Depth(column, row) = Lerp(z, next_z, Clamp(share));
+      painting.Depth(column, row) = Mix(z, next_z, Clamp(share));
       --row;
     }
     z = next_z;
@@ -66,7 +66,7 @@ Colour PixelColour(const Terrain& terrain, const View& view, int x, int y, float
   const Vec direction = Unit(through);
   if (depth == std::numeric_limits<float>::infinity()) return terrain.Sky(direction);
   Vec place = Vec{0, view.eye, 0} + through * depth;
-  place.y = terrain.Height(place.x, place.z, OctavesAt(depth));
+  place.Y = terrain.Height(place.X, place.Z, OctavesAt(depth));
   const Vec normal = NormalAt(terrain, place, depth);
   const float facing = Clamp(Dot(normal, terrain.Light()));
   const float sun = facing > 0 ? facing * SunAt(terrain, place, depth) : 0;

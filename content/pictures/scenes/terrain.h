@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "content/pictures/scenes/canvas.h"
-#include "content/pictures/scenes/vec.h"
+#include "content/pictures/shared/vec.h"
 
 namespace orvane::paint::scene {
 

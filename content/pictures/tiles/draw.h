@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "content/pictures/shared/ramp.h"
 #include "tools/paint/recipe.h"
 
 namespace orvane::paint::tiles {
@@ -14,16 +15,6 @@ namespace orvane::paint::tiles {
 using Colour = uint32_t;  // 0xRRGGBB
 
 constexpr int TileSize = 16;
-
-// Colours from dark to light. An index outside is taken as the nearest end.
-template <size_t Count>
-struct Ramp {
-  std::array<Colour, Count> Tones;
-  constexpr Colour operator[](int index) const {
-    const int last = static_cast<int>(Count) - 1;
-    return Tones[static_cast<size_t>(index < 0 ? 0 : index > last ? last : index)];
-  }
-};
 
 // Paints every pixel of a new picture from `colour_at(x, y)`.
 template <typename ColourAt>

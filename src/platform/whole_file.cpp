@@ -12,7 +12,7 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) return std::nullopt;
   std::string bytes;
-  std::array<char, 1 << 16> part;
+  std::array<char, 1 << 16> part{};
   do {
     file.read(part.data(), part.size());
     bytes.append(part.data(), static_cast<size_t>(file.gcount()));

@@ -72,13 +72,17 @@ std::string LinesOn(const Screen& screen, const Control* holder) {
     if (control->Parent() != holder || control->Kind() != ControlKind::Label) continue;
     const std::string text = TrimAll(static_cast<const Label*>(control)->Caption);
     if (!HasWords(text) || !IsShown(*control)) continue;
-    const std::string whose = SpokenName(*control);
-    const std::string line = whose.empty() ? text : whose + std::string(kColon) + text;
+    std::string line = SpokenName(*control);
+    if (!line.empty()) line += kColon;
+    line += text;
     // A title and its shadow are one.
     if (std::find(lines.begin(), lines.end(), line) == lines.end()) lines.push_back(line);
   }
   std::string words;
-  for (const std::string& line : lines) words += (words.empty() ? "" : "\n") + line;
+  for (const std::string& line : lines) {
+    if (!words.empty()) words += '\n';
+    words += line;
+  }
   return words;
 }
 

@@ -47,7 +47,7 @@ std::string Utf8(char32_t code) {
 std::unordered_map<std::string, std::string> MakeEncoder() {
   std::unordered_map<std::string, std::string> encoder;
   for (const bool late_rows : {false, true}) {
-    for (const Cp932Row& row : Cp932Rows) {
+    for (const Cp932Row& row : kCp932Rows) {
       if ((row.Lead == 0xED || row.Lead == 0xEE) != late_rows) continue;
       for (int index = 0; row.Characters[index] != 0; ++index) {
         if (row.Characters[index] == kNone) continue;
@@ -61,7 +61,7 @@ std::unordered_map<std::string, std::string> MakeEncoder() {
 }
 
 const Cp932Row* FindRow(unsigned char lead) {
-  for (const Cp932Row& row : Cp932Rows) {
+  for (const Cp932Row& row : kCp932Rows) {
     if (row.Lead == lead) return &row;
   }
   return nullptr;

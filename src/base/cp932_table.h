@@ -12,6 +12,6 @@ struct Cp932Row {
   const char16_t* Characters;
 };
 
-extern const std::array<Cp932Row, 45> Cp932Rows;
+extern const std::array<Cp932Row, 45> kCp932Rows;
 
 }  // namespace orvane

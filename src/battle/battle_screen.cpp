@@ -23,9 +23,9 @@ constexpr int kActionInterval = 1;
 constexpr int kActionPace = 10;
 constexpr int kMusicInterval = 100;
 
-const Font kNumberFont{Gothic, 9.75, true};
-const Font kNameFont{Gothic, 12, true};
-const Font kPanelFont{Gothic, 11.25, true};
+const Font kNumberFont{kGothic, 9.75, true};
+const Font kNameFont{kGothic, 12, true};
+const Font kPanelFont{kGothic, 11.25, true};
 
 // The fixed captions of a status pane.
 struct PaneCaption {

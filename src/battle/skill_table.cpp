@@ -11,30 +11,30 @@ namespace {
 
 // clang-format off
 constexpr Skill kTechniques[] = {
-    {"炎舞剣",            20,   4, Targets::One, Techniques::FlameDance},
-    {"氷岩断絶剣",        30,   8, Targets::One, Techniques::IceCleaver},
-    {"パワーブレイク",    50,  16, Targets::One, Techniques::PowerBreak},
-    {"大地の剣",         100,  24, Targets::One, Techniques::EarthSword},
-    {"召雷斬",           150,  32, Targets::One, Techniques::ThunderCall},
-    {"一刀両断",         180,  42, Targets::One, Techniques::SingleStroke},
-    {"ダークスラッシュ", 200,  50, Targets::One, Techniques::DarkSlash},
-    {"円陣斬",           250,  60, Targets::One, Techniques::CircleCut},
-    {"必殺撃",           300,  80, Targets::One, Techniques::DeadlyBlow},
-    {"奥義･真魔神斬",    500, 160, Targets::One, Techniques::DemonGod},
+    {"炎舞剣",            20,   4, Targets::One, techniques::FlameDance},
+    {"氷岩断絶剣",        30,   8, Targets::One, techniques::IceCleaver},
+    {"パワーブレイク",    50,  16, Targets::One, techniques::PowerBreak},
+    {"大地の剣",         100,  24, Targets::One, techniques::EarthSword},
+    {"召雷斬",           150,  32, Targets::One, techniques::ThunderCall},
+    {"一刀両断",         180,  42, Targets::One, techniques::SingleStroke},
+    {"ダークスラッシュ", 200,  50, Targets::One, techniques::DarkSlash},
+    {"円陣斬",           250,  60, Targets::One, techniques::CircleCut},
+    {"必殺撃",           300,  80, Targets::One, techniques::DeadlyBlow},
+    {"奥義･真魔神斬",    500, 160, Targets::One, techniques::DemonGod},
 };
 
 // The eighth spell is cheaper than the two before it, on purpose.
 constexpr Skill kSpells[] = {
-    {"ファイヤーブレズ",    20,  10, Targets::One,    Spells::FireBreath},
-    {"絶対零度",            30,  16, Targets::One,    Spells::AbsoluteZero},
-    {"リフレッシュ",        50,  30, Targets::Heroes, Spells::Refresh, Targets::One},
-    {"アースクエイク",     100,  48, Targets::All,    Spells::Earthquake},
-    {"爆雷降臨",           150,  56, Targets::All,    Spells::Thunderbolt},
-    {"サンプレゼンター",   180,  70, Targets::All,    Spells::SunPresenter},
-    {"ダークプレッシャー", 200,  80, Targets::All,    Spells::DarkPressure},
-    {"風の癒し",           250,  60, Targets::Heroes, Spells::HealingWind, Targets::All},
-    {"アトミックボム",     300, 120, Targets::All,    Spells::AtomicBomb},
-    {"ジオ･スプリート",    500, 250, Targets::All,    Spells::GeoSplit},
+    {"ファイヤーブレズ",    20,  10, Targets::One,    spells::FireBreath},
+    {"絶対零度",            30,  16, Targets::One,    spells::AbsoluteZero},
+    {"リフレッシュ",        50,  30, Targets::Heroes, spells::Refresh, Targets::One},
+    {"アースクエイク",     100,  48, Targets::All,    spells::Earthquake},
+    {"爆雷降臨",           150,  56, Targets::All,    spells::Thunderbolt},
+    {"サンプレゼンター",   180,  70, Targets::All,    spells::SunPresenter},
+    {"ダークプレッシャー", 200,  80, Targets::All,    spells::DarkPressure},
+    {"風の癒し",           250,  60, Targets::Heroes, spells::HealingWind, Targets::All},
+    {"アトミックボム",     300, 120, Targets::All,    spells::AtomicBomb},
+    {"ジオ･スプリート",    500, 250, Targets::All,    spells::GeoSplit},
 };
 // clang-format on
 

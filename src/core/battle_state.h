@@ -11,17 +11,17 @@
 namespace orvane {
 
 // What ActionKind says: the action that is being prepared or plays. There is no 1.
-namespace Action {
-constexpr int Nothing = 0;
-constexpr int Fight = 2;
-constexpr int Spell = 3;
-constexpr int Technique = 4;
-constexpr int EnemyAttack = 5;
-constexpr int Heal = 6;
-constexpr int Item = 7;
-constexpr int BossSpecial = 8;
-constexpr int LastBossSpecial = 9;
-}  // namespace Action
+struct Action {
+  static constexpr int Nothing = 0;
+  static constexpr int Fight = 2;
+  static constexpr int Spell = 3;
+  static constexpr int Technique = 4;
+  static constexpr int EnemyAttack = 5;
+  static constexpr int Heal = 6;
+  static constexpr int Item = 7;
+  static constexpr int BossSpecial = 8;
+  static constexpr int LastBossSpecial = 9;
+};
 
 struct BattleState {
   Int16 EnemyKind;            // row of the enemy table of the ordinary group

@@ -57,7 +57,7 @@ struct GameRecord {
   Int16 SaveRound;
 };
 
-constexpr int NoItem = 99;
-constexpr int BagSize = 20;
+constexpr int kNoItem = 99;
+constexpr int kBagSize = 20;
 
 }  // namespace orvane

@@ -14,9 +14,9 @@ constexpr int kWalkInterval = 5;
 constexpr int kWalkPace = 33;
 constexpr int kMessageInterval = 50;
 
-const Font kTitleFont{Mincho, 36, true};
-const Font kPanelFont{Gothic, 9.75, true};
-const Font kItemFont{Gothic, 14.25, true};
+const Font kTitleFont{kMincho, 36, true};
+const Font kPanelFont{kGothic, 9.75, true};
+const Font kItemFont{kGothic, 14.25, true};
 
 // The field's surface, with the title picture in its top left corner.
 Surface TitleSurface() {
@@ -38,7 +38,7 @@ MainScreen::MainScreen(Stage& stage, Game& game)
       TitleLabel(FieldPicture, "Label1", {96, 88, 301, 48},
                  {"Orvane", Rgb(224, 224, 224), kTitleFont, Align::Centre}),
       TitleReading(FieldPicture, "Label3", {188, 144, 113, 13},
-                   {"- オルベイン -", Rgb(0, 192, 192), {Gothic, 9.75}, Align::Centre}),
+                   {"- オルベイン -", Rgb(0, 192, 192), {kGothic, 9.75}, Align::Centre}),
       Copyright(FieldPicture, "Label2", {8, 264, 161, 36}, {"", Rgb(192, 192, 192)}),
       BeginButton(FieldPicture, "Command1", {176, 184, 137, 33}, {"始めから"}),
       MessageWindow(FieldPicture, "Picture5", {64, 8, 338, 66}, {Sheet("message_window"), 1}),
@@ -46,7 +46,7 @@ MainScreen::MainScreen(Stage& stage, Game& game)
       SpeakerFace(MessageWindow, "Picture9", {264, 8, 48, 48},
                   {Surface(48, 48, Rgb(192, 192, 192))}),
       GoOnMark(MessageWindow, "Label7", {312, 40, 17, 17},
-               {"↓", Rgb(255, 128, 128), {Gothic, 12, true}}),
+               {"↓", Rgb(255, 128, 128), {kGothic, 12, true}}),
       StatusPanel(FieldPicture, "Picture6", {0, 256, 482, 50}, {Sheet("status_panel"), 1}),
       ManFace(StatusPanel, "Picture7", {0, 0, 50, 50}, {Sheet("face_man"), 1}),
       WomanFace(StatusPanel, "Picture8", {240, 0, 50, 50}, {Sheet("face_woman"), 1}),

@@ -9,15 +9,15 @@
 
 namespace orvane {
 
-constexpr int MapColumns = 30;
-constexpr int MapRows = 16;
-constexpr int TileSize = 16;  // pixels
+constexpr int kMapColumns = 30;
+constexpr int kMapRows = 16;
+constexpr int kTileSize = 16;  // pixels
 
 // Whether a tile is of the wastes, where battles show their second background.
 bool IsWasteGround(int tile);
 
 // Tile codes by column, then row; the last of each is spare.
-using MapTiles = Array<Array<Int16, MapRows + 1>, MapColumns + 1>;
+using MapTiles = Array<Array<Int16, kMapRows + 1>, kMapColumns + 1>;
 
 // A room behind a door, or none.
 struct Room {

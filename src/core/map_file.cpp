@@ -58,8 +58,8 @@ class NumberReader {
 
 void ReadMapText(std::string_view text, const std::string& file, MapTiles& tiles) {
   NumberReader reader(text, file);
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) tiles[column][row] = reader.Next();
+  for (int column = 0; column < kMapColumns; ++column) {
+    for (int row = 0; row < kMapRows; ++row) tiles[column][row] = reader.Next();
   }
 }
 

@@ -44,8 +44,8 @@ void FreshRecord(GameRecord& record) {
   record.SaveX = 13;
   record.SaveY = 7;
   for (int i = 0; i < kSkills; ++i) record.WazaKnown[i] = record.MagicKnown[i] = kFalse;
-  for (int slot = 0; slot < BagSize; ++slot) {
-    record.Items[slot] = slot < kStarterItems ? kStarterItem : NoItem;
+  for (int slot = 0; slot < kBagSize; ++slot) {
+    record.Items[slot] = slot < kStarterItems ? kStarterItem : kNoItem;
   }
   record.ItemCount = kStarterItems;
   record.TreasureNo = 0;

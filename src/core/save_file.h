@@ -11,7 +11,7 @@ namespace orvane {
 
 struct Game;
 
-constexpr size_t SaveFileSize = 540;
+constexpr size_t kSaveFileSize = 540;
 
 // The record as a save file holds it: little-endian numbers, CP932 text padded with blanks.
 std::string PackRecord(const GameRecord& record);

@@ -57,12 +57,12 @@ EndingScreen::EndingScreen(Game& game)
       StillPicture(*this, "Picture2", kOutOfSight, {Sheet("ending_still")}),
       CreditsSheet(*this, "Picture1", kOutOfSight, {Sheet("credits")}),
       Presenter(*this, "Label1", {64, 264, 337, 25},
-                {"Presented by Kelmark 2001 ", Rgb(0xE0, 0xE0, 0xE0), {Gothic, 12, true}}),
+                {"Presented by Kelmark 2001 ", Rgb(0xE0, 0xE0, 0xE0), {kGothic, 12, true}}),
       ScrollTimer(*this, "Timer1", kInterval),
       game_(game),
       scene_(kWidth, kHeight) {
   IsScene = true;
-  const LabelValues card{"", Rgb(255, 255, 255), {Gothic, 15.75, true}};
+  const LabelValues card{"", Rgb(255, 255, 255), {kGothic, 15.75, true}};
   CardLines.Add(0, *this, Place{112, 112, 225, 25}, card).Caption = "Thank you for playing";
   CardLines.Add(1, *this, Place{152, 152, 185, 25}, card).Caption = "To be continue...?";
   for (Control* hidden : std::initializer_list<Control*>{&CreditsSheet, &StillPicture, &Presenter,

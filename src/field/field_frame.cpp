@@ -31,12 +31,12 @@ void FieldTick(Game& game) {
 void DrawMap(Game& game) {
   Surface& field = game.Main.FieldPicture.Picture;
   const Surface& sheet = game.Main.TileSheet.Picture;
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) {
+  for (int column = 0; column < kMapColumns; ++column) {
+    for (int row = 0; row < kMapRows; ++row) {
       const int code = game.state.MapTile[column][row];
       if (code < 1 || code > kHighestTile) continue;
-      BitBlt(field, column * TileSize, row * TileSize, TileSize, TileSize, sheet,
-             (code - 1) % kTilesPerSheetRow * TileSize, (code - 1) / kTilesPerSheetRow * TileSize,
+      BitBlt(field, column * kTileSize, row * kTileSize, kTileSize, kTileSize, sheet,
+             (code - 1) % kTilesPerSheetRow * kTileSize, (code - 1) / kTilesPerSheetRow * kTileSize,
              Blit::Copy);
     }
   }

@@ -48,7 +48,7 @@ const Find* FindHere(State& state, const ChestKind& kind) {
 
 int FirstEmptySlot(const State& state) {
   int slot = 0;
-  while (slot < BagSize && state.Items[slot] != NoItem) ++slot;
+  while (slot < kBagSize && state.Items[slot] != kNoItem) ++slot;
   return slot;
 }
 
@@ -57,9 +57,9 @@ void ShowItemGot(Game& game, int slot) {
   State& state = game.state;
   ReadItem(game, state.Items[slot]);
   int empty = 0;
-  for (int each = 0; each < BagSize; ++each) empty += state.Items[each] == NoItem ? 1 : 0;
+  for (int each = 0; each < kBagSize; ++each) empty += state.Items[each] == kNoItem ? 1 : 0;
   // One less than the bag holds; the caller counts the new item.
-  state.ItemCount = BagSize - 1 - empty;
+  state.ItemCount = kBagSize - 1 - empty;
   game.Main.MessageLines[0].Caption = state.ItemRec.Name.Trimmed();
   game.Main.MessageLines[1].Caption = "を手に入れた";
 }
@@ -67,7 +67,7 @@ void ShowItemGot(Game& game, int slot) {
 // Puts the round's item of a chest into the slot, if the chest has one for this round.
 bool StoreItem(Game& game, const Find* find, int slot) {
   State& state = game.state;
-  if (find == nullptr || state.Round < 1 || state.Round > 3 || slot >= BagSize) return false;
+  if (find == nullptr || state.Round < 1 || state.Round > 3 || slot >= kBagSize) return false;
   state.Items[slot] = find->Item[state.Round - 1];
   ShowItemGot(game, slot);
   return true;
@@ -97,7 +97,7 @@ void OpenTreasure(Game& game, const Handler& then) {
                        "アイテムがいっぱいです。"};
   const Find* find = FindHere(state, kind);
   if (state.TreasureLeft[state.TreasureNo] != kTrue) return then();
-  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText, then);
+  if (state.ItemCount >= kBagSize) return WarnOfFullBag(game, kind.FullText, then);
   StoreItem(game, find, FirstEmptySlot(state));
   state.TreasureLeft[state.TreasureNo] = kFalse;
   state.ItemCount += 1;
@@ -111,11 +111,11 @@ void OpenBook(Game& game, const Handler& then) {
                        "アイテムがいっぱいです"};
   const Find* find = FindHere(state, kind);
   if (state.BookLeft[state.BookNo] != kTrue) return then();
-  if (state.ItemCount >= BagSize) return WarnOfFullBag(game, kind.FullText, then);
+  if (state.ItemCount >= kBagSize) return WarnOfFullBag(game, kind.FullText, then);
   const int slot = FirstEmptySlot(state);
   // Where no slot took a book, the spare slot beyond the bag is read, and its number teaches
   // nothing.
-  const int taught = StoreItem(game, find, slot) ? slot : BagSize;
+  const int taught = StoreItem(game, find, slot) ? slot : kBagSize;
   const int skill = state.Items[taught] - kFirstBook;
   state.WazaKnown[skill] = kTrue;
   state.MagicKnown[skill] = kTrue;

@@ -102,8 +102,8 @@ bool InStrip(const Party& party, int lowest_y) {
 }  // namespace
 
 Surroundings LookAround(const MapTiles& tiles, int x, int y) {
-  const int column = Quotient(x, TileSize);
-  const int row = Quotient(y, TileSize);
+  const int column = Quotient(x, kTileSize);
+  const int row = Quotient(y, kTileSize);
   return {tiles[column][row], tiles[column][row - 1], tiles[column][row + 1],
           tiles[column - 1][row], tiles[column + 1][row]};
 }

@@ -22,8 +22,8 @@ void StartUp(Game& game) {
   main.SaveItem.Enabled = false;
   main.ItemMenu.Enabled = false;
   main.InfoMenu.Enabled = false;
-  state.HeroX = (state.SaveX - 1) * TileSize;
-  state.HeroY = (state.SaveY - 1) * TileSize;
+  state.HeroX = (state.SaveX - 1) * kTileSize;
+  state.HeroY = (state.SaveY - 1) * kTileSize;
   main.Copyright.Caption = "Copyright (C) 2001 Kelmark";
   game.items.Open(game.services.Files);
   for (int number = 1; number <= ItemFile::RecordCount; ++number) ReadItem(game, number);

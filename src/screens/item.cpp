@@ -54,8 +54,8 @@ void ItemScreen::RowChosen() {
   const State& state = game_.state;
   const int item = state.Items[Bag.ListIndex];
   ReadItem(game_, item);
-  UseButton.Enabled = item != NoItem && state.ItemRec.Is(ItemKind::Recovery);
-  DiscardButton.Enabled = item != NoItem && !state.ItemRec.Is(ItemKind::Book) && !IsWorn();
+  UseButton.Enabled = item != kNoItem && state.ItemRec.Is(ItemKind::Recovery);
+  DiscardButton.Enabled = item != kNoItem && !state.ItemRec.Is(ItemKind::Book) && !IsWorn();
 }
 
 void ItemScreen::Use() {
@@ -75,7 +75,7 @@ void ItemScreen::Discard() {
 
 void ItemScreen::ThrowAway() {
   State& state = game_.state;
-  state.Items[Bag.ListIndex] = NoItem;
+  state.Items[Bag.ListIndex] = kNoItem;
   state.ItemCount -= 1;
   FillItemList(game_, Bag);
   DiscardButton.Enabled = false;
@@ -88,16 +88,16 @@ void ItemScreen::Tidy() {
 
 void FillItemList(Game& game, ListBox& list) {
   list.Clear();
-  for (int slot = 0; slot < BagSize; ++slot) {
+  for (int slot = 0; slot < kBagSize; ++slot) {
     const int item = game.state.Items[slot];
     ReadItem(game, item);
-    list.AddItem(item == NoItem ? std::string("なし") : game.state.ItemRec.Name.Full());
+    list.AddItem(item == kNoItem ? std::string("なし") : game.state.ItemRec.Name.Full());
   }
 }
 
 void SortItems(GameRecord& record) {
-  for (int pass = 0; pass < BagSize; ++pass) {
-    for (int slot = 0; slot + 1 < BagSize; ++slot) {
+  for (int pass = 0; pass < kBagSize; ++pass) {
+    for (int slot = 0; slot + 1 < kBagSize; ++slot) {
       if (record.Items[slot] > record.Items[slot + 1])
         std::swap(record.Items[slot], record.Items[slot + 1]);
     }

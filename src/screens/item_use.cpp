@@ -60,7 +60,7 @@ void ItemUseScreen::Give(int hero) {
   state.MP[hero] = RoundToInt16(state.MP[hero] + MPOf(value));
   CapHP(state, hero);
   CapMP(state, hero);
-  state.Items[item_.Bag.ListIndex] = NoItem;
+  state.Items[item_.Bag.ListIndex] = kNoItem;
   state.ItemCount -= 1;
   TheStage().Hide(*this);
 }

@@ -27,13 +27,13 @@ enum class ControlKind {
   Timer,
 };
 
-constexpr const char* Gothic = "ＭＳ Ｐゴシック";
-constexpr const char* Mincho = "ＭＳ Ｐ明朝";
+constexpr const char* kGothic = "ＭＳ Ｐゴシック";
+constexpr const char* kMincho = "ＭＳ Ｐ明朝";
 
 // A face: its name, its size in points of 1/72 inch at 96 pixels to the inch, and whether it is
 // bold.
 struct Font {
-  std::string Name = Gothic;
+  std::string Name = kGothic;
   double Size = 9;
   bool Bold = false;
 };
@@ -50,7 +50,7 @@ struct Place {
 // Where pictures stand that are only drawn from: below the edge of every screen.
 constexpr Place kOutOfSight{0, 600, 16, 16};
 
-constexpr double TwipsPerPixel = 15;
+constexpr double kTwipsPerPixel = 15;
 
 // What holds a control: a screen, another control, or one pane of a tab control.
 struct Holder {

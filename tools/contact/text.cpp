@@ -19,7 +19,7 @@ struct Free {
 
 // The faces that the windows take for the game's own.
 const char* FamilyOf(const Font& face) {
-  return face.Name == Mincho ? "IPAPMincho" : "IPAPGothic";
+  return face.Name == kMincho ? "IPAPMincho" : "IPAPGothic";
 }
 
 PangoAlignment AlignmentOf(Align alignment) {

@@ -14,7 +14,7 @@ void Biquad::Set(double b0, double b1, double b2, double a1, double a2) {
 }
 
 void Biquad::Set(FilterKind kind, double frequency, double q) {
-  const double w = 2 * 3.14159265358979 * std::clamp(frequency, 10.0, 0.45 * Rate) / Rate;
+  const double w = 2 * 3.14159265358979 * std::clamp(frequency, 10.0, 0.45 * kRate) / kRate;
   const double alpha = std::sin(w) / (2 * std::max(q, 0.1));
   const double cosine = std::cos(w);
   const double a0 = 1 + alpha;

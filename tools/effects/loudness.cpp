@@ -50,7 +50,7 @@ double MeanAbove(const std::vector<double>& blocks, double gate) {
 
 double PeakLoudness(const std::vector<float>& samples, double seconds) {
   const std::vector<double> power = WeightedPower(samples);
-  const size_t window = std::min(static_cast<size_t>(seconds * Rate), power.size());
+  const size_t window = std::min(static_cast<size_t>(seconds * kRate), power.size());
   double best = 0;
   for (size_t from = 0; from + window <= power.size(); from += 441) {
     best = std::max(best, Mean(power, from, window));
@@ -62,7 +62,7 @@ double WholeLoudness(const std::vector<float>& left, const std::vector<float>& r
   std::vector<double> power = WeightedPower(left);
   const std::vector<double> other = WeightedPower(right);
   for (size_t i = 0; i < std::min(power.size(), other.size()); ++i) power[i] += other[i];
-  const size_t window = Rate * 4 / 10;
+  const size_t window = kRate * 4 / 10;
   std::vector<double> blocks;
   for (size_t from = 0; from + window <= power.size(); from += window / 4) {
     blocks.push_back(Mean(power, from, window));

@@ -7,7 +7,7 @@
 
 namespace orvane::effects {
 
-constexpr int Rate = 44100;  // samples in a second
+constexpr int kRate = 44100;  // samples in a second
 
 enum class Source { Sine, Triangle, Square, Saw, Noise, Crackle };
 

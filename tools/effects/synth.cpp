@@ -10,7 +10,7 @@
 namespace orvane::effects {
 namespace {
 
-constexpr double Pi = 3.14159265358979;
+constexpr double kPi = 3.14159265358979;
 
 // White noise, -1 to 1, from a seed.
 class Noise {
@@ -31,12 +31,12 @@ double Wave(Source source, double phase) {
   const double turn = phase - std::floor(phase);
   switch (source) {
     case Source::Sine:
-      return std::sin(2 * Pi * turn);
+      return std::sin(2 * kPi * turn);
     case Source::Triangle:
       return 1 - 4 * std::abs(turn - 0.5);
     case Source::Square:
       // Corners a little rounded: less of the harsh overtones that fold back.
-      return std::tanh(6 * std::sin(2 * Pi * turn));
+      return std::tanh(6 * std::sin(2 * kPi * turn));
     case Source::Saw:
       return 2 * turn - 1;
     case Source::Noise:
@@ -47,7 +47,7 @@ double Wave(Source source, double phase) {
 }
 
 double Envelope(const Layer& layer, double time, double length) {
-  if (time < layer.attack) return 0.5 - 0.5 * std::cos(Pi * time / layer.attack);
+  if (time < layer.attack) return 0.5 - 0.5 * std::cos(kPi * time / layer.attack);
   const double falling = time - layer.attack - layer.hold;
   if (falling < 0) return 1;
   const double whole = length - layer.attack - layer.hold;
@@ -69,32 +69,34 @@ void Render(const Layer& layer, const Sounding& sounding, uint32_t seed, std::ve
   double second = 0.37;
   double modulator = 0;
   double pop = 0;
-  const auto start = static_cast<size_t>(sounding.at * Rate);
-  const auto count = static_cast<size_t>(sounding.length * Rate);
+  const auto start = static_cast<size_t>(sounding.at * kRate);
+  const auto count = static_cast<size_t>(sounding.length * kRate);
   const double ratio = std::pow(2.0, layer.detune / 12);
   for (size_t i = 0; i < count && start + i < mix.size(); ++i) {
-    const double time = static_cast<double>(i) / Rate;
+    const double time = static_cast<double>(i) / kRate;
     const double share = time / sounding.length;
     double pitch = layer.pitch.At(share) * sounding.pitch;
-    pitch *= std::pow(2.0, layer.vibrato_depth / 12 * std::sin(2 * Pi * layer.vibrato_rate * time));
+    pitch *=
+        std::pow(2.0, layer.vibrato_depth / 12 * std::sin(2 * kPi * layer.vibrato_rate * time));
     double bend = 0;
     if (layer.fm_ratio > 0) {
-      modulator += pitch * layer.fm_ratio / Rate;
-      bend = layer.fm_depth.At(share) * std::sin(2 * Pi * modulator);
+      modulator += pitch * layer.fm_ratio / kRate;
+      bend = layer.fm_depth.At(share) * std::sin(2 * kPi * modulator);
     }
     double sample = 0;
     if (layer.source == Source::Noise) {
       sample = noise.Next();
     } else if (layer.source == Source::Crackle) {
       // A pop is a burst of noise that dies within a millisecond or two.
-      if (noise.Next() * 0.5 + 0.5 < layer.density / Rate) pop = 0.4 + 0.6 * std::abs(noise.Next());
+      if (noise.Next() * 0.5 + 0.5 < layer.density / kRate)
+        pop = 0.4 + 0.6 * std::abs(noise.Next());
       sample = pop * noise.Next();
       pop *= 0.985;
     } else {
-      phase += pitch / Rate;
+      phase += pitch / kRate;
       sample = Wave(layer.source, phase + bend);
       if (layer.detune != 0) {
-        second += pitch * ratio / Rate;
+        second += pitch * ratio / kRate;
         sample = 0.5 * (sample + Wave(layer.source, second + bend));
       }
     }
@@ -105,7 +107,7 @@ void Render(const Layer& layer, const Sounding& sounding, uint32_t seed, std::ve
     }
     if (layer.drive > 0) sample = std::tanh(sample * layer.drive);
     const double tremolo =
-        1 - layer.tremolo_depth * (0.5 - 0.5 * std::cos(2 * Pi * layer.tremolo_rate * time));
+        1 - layer.tremolo_depth * (0.5 - 0.5 * std::cos(2 * kPi * layer.tremolo_rate * time));
     mix[start + i] += sample * Envelope(layer, time, sounding.length) * tremolo * sounding.level;
   }
 }
@@ -136,7 +138,7 @@ void RenderAll(const Layer& layer, uint32_t seed, std::vector<double>& mix) {
 std::vector<double> Room(const std::vector<double>& dry, double seconds) {
   std::vector<double> wet(dry.size(), 0);
   for (const size_t delay : {1557U, 1617U, 1491U, 1422U}) {
-    const double feedback = std::pow(0.001, static_cast<double>(delay) / Rate / seconds);
+    const double feedback = std::pow(0.001, static_cast<double>(delay) / kRate / seconds);
     std::vector<double> line(delay, 0);
     double damped = 0;
     for (size_t i = 0; i < dry.size(); ++i) {
@@ -160,21 +162,21 @@ std::vector<double> Room(const std::vector<double>& dry, double seconds) {
 
 // Bends what exceeds two thirds of the ceiling so that nothing goes beyond the ceiling.
 double Bend(double sample) {
-  const double knee = Ceiling * 0.66;
+  const double knee = kCeiling * 0.66;
   const double size = std::abs(sample);
   if (size <= knee) return sample;
-  const double over = (size - knee) / (Ceiling - knee);
-  return std::copysign(knee + (Ceiling - knee) * std::tanh(over), sample);
+  const double over = (size - knee) / (kCeiling - knee);
+  return std::copysign(knee + (kCeiling - knee) * std::tanh(over), sample);
 }
 
 }  // namespace
 
 std::vector<float> Mix(const Recipe& recipe) {
-  std::vector<double> mix(static_cast<size_t>(recipe.length * Rate), 0);
+  std::vector<double> mix(static_cast<size_t>(recipe.length * kRate), 0);
   uint32_t seed = 1;
   for (const Layer& layer : recipe.layers) RenderAll(layer, seed++, mix);
   if (recipe.echo_seconds > 0) {
-    const auto delay = static_cast<size_t>(recipe.echo_seconds * Rate);
+    const auto delay = static_cast<size_t>(recipe.echo_seconds * kRate);
     for (size_t i = delay; i < mix.size(); ++i) mix[i] += recipe.echo_level * mix[i - delay];
   }
   if (recipe.room > 0) {
@@ -197,17 +199,17 @@ std::vector<float> Finish(const std::vector<float>& mix) {
     for (size_t i = 0; i < mix.size(); ++i) {
       out[i] = static_cast<float>(Bend(static_cast<double>(mix[i]) * gain));
     }
-    gain *= std::pow(10.0, (TargetLoudness - PeakLoudness(out, 0.2)) / 20);
+    gain *= std::pow(10.0, (kTargetLoudness - PeakLoudness(out, 0.2)) / 20);
   }
-  const size_t in = std::min<size_t>(Rate / 500, out.size());
+  const size_t in = std::min<size_t>(kRate / 500, out.size());
   for (size_t i = 0; i < in; ++i) {
     out[i] *= static_cast<float>(
-        0.5 - 0.5 * std::cos(Pi * static_cast<double>(i) / static_cast<double>(in)));
+        0.5 - 0.5 * std::cos(kPi * static_cast<double>(i) / static_cast<double>(in)));
   }
-  const size_t rest = std::min<size_t>(Rate / 50, out.size());
+  const size_t rest = std::min<size_t>(kRate / 50, out.size());
   for (size_t i = 0; i < rest; ++i) {
     out[out.size() - 1 - i] *= static_cast<float>(
-        0.5 - 0.5 * std::cos(Pi * static_cast<double>(i) / static_cast<double>(rest)));
+        0.5 - 0.5 * std::cos(kPi * static_cast<double>(i) / static_cast<double>(rest)));
   }
   return out;
 }

@@ -9,8 +9,8 @@ namespace orvane::effects {
 
 // Loudness that every effect is brought to, in dB of its loudest 0.2 s, and the highest sample
 // that any may hold: three effects at once stay below full scale.
-constexpr double TargetLoudness = -17;
-constexpr double Ceiling = 0.40;
+constexpr double kTargetLoudness = -17;
+constexpr double kCeiling = 0.40;
 
 // Mixes the layers with echo and room, without levelling; noise is the same on every run.
 std::vector<float> Mix(const Recipe& recipe);

@@ -40,8 +40,8 @@ class DrawingCheck {
   void Add(FaultKind kind, const std::string& what) { faults_.push_back({kind, what}); }
 
   void CheckCodes(const MapId& place, const TileMap& map) {
-    for (int column = 0; column < MapColumns; ++column) {
-      for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) {
+      for (int row = 0; row < kMapRows; ++row) {
         const int code = map.At(column, row);
         if (code >= 1 && code <= kHighestTile) continue;
         Add(FaultKind::BadCode, "code " + std::to_string(code) + Cell(place, column, row));
@@ -57,8 +57,8 @@ class DrawingCheck {
   template <typename Test>
   static int Count(const TileMap& map, Test test) {
     int count = 0;
-    for (int column = 0; column < MapColumns; ++column) {
-      for (int row = 0; row < MapRows; ++row) count += test(map.At(column, row)) ? 1 : 0;
+    for (int column = 0; column < kMapColumns; ++column) {
+      for (int row = 0; row < kMapRows; ++row) count += test(map.At(column, row)) ? 1 : 0;
     }
     return count;
   }
@@ -78,8 +78,8 @@ class DrawingCheck {
   }
 
   static bool HasWholeBook(const TileMap& map) {
-    for (int column = 0; column < MapColumns; ++column) {
-      for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) {
+      for (int row = 0; row < kMapRows; ++row) {
         if (map.At(column, row) == kBookTopLeft && map.At(column + 1, row) == kBookTopRight &&
             map.At(column, row + 1) == kBookBottomLeft &&
             map.At(column + 1, row + 1) == kBookBottomRight) {
@@ -115,12 +115,12 @@ class DrawingCheck {
   // One of the four border lines of a map: 0 top, 1 bottom, 2 left, 3 right.
   static std::vector<int> Line(const TileMap& map, int side) {
     std::vector<int> codes;
-    const int length = side < 2 ? MapColumns : MapRows;
+    const int length = side < 2 ? kMapColumns : kMapRows;
     for (int at = 0; at < length; ++at) {
       if (side < 2) {
-        codes.push_back(map.At(at, side == 0 ? 0 : MapRows - 1));
+        codes.push_back(map.At(at, side == 0 ? 0 : kMapRows - 1));
       } else {
-        codes.push_back(map.At(side == 2 ? 0 : MapColumns - 1, at));
+        codes.push_back(map.At(side == 2 ? 0 : kMapColumns - 1, at));
       }
     }
     return codes;

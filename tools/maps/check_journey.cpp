@@ -66,7 +66,7 @@ class JourneyCheck {
       Add(FaultKind::DeadEnd, ground,
           "stuck on tile " + std::to_string(tile) + ": " + Where(party));
     }
-    const Cell cell{ground, party.X / TileSize, party.Y / TileSize};
+    const Cell cell{ground, party.X / kTileSize, party.Y / kTileSize};
     if (cell != last_cell_) cells_.insert(cell);  // neighbours in the search often share a cell
     last_cell_ = cell;
     if (tile == kRecovery) recovery_.insert(GridOf(party));
@@ -112,7 +112,7 @@ class JourneyCheck {
 
   void VisitDoor(const Party& party, const Party& there, size_t way) {
     if (there.InBook && !party.InBook) {
-      entered_.insert({GridOf(party), party.X / TileSize, party.Y / TileSize - 1});
+      entered_.insert({GridOf(party), party.X / kTileSize, party.Y / kTileSize - 1});
       rooms_.emplace(there.Inside, GridOf(party));
     } else if (!there.InBook && way == kDown) {
       left_.emplace(party.Inside, GridOf(party));
@@ -155,8 +155,8 @@ class JourneyCheck {
     CheckCells(place, map);
     bool book = false;
     bool book_reached = false;
-    for (int column = 0; column < MapColumns; ++column) {
-      for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) {
+      for (int row = 0; row < kMapRows; ++row) {
         const int code = map.At(column, row);
         if (IsDoor(code)) Demand(entered_.count({place, column, row}) > 0, place, "the door");
         book = book || IsBookChest(code);
@@ -169,8 +169,8 @@ class JourneyCheck {
 
   // Chests and recovery points, on a map or in a room.
   void CheckCells(const MapId& place, const TileMap& map) {
-    for (int column = 0; column < MapColumns; ++column) {
-      for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) {
+      for (int row = 0; row < kMapRows; ++row) {
         const int code = map.At(column, row);
         const bool reached = cells_.count({place, column, row}) > 0;
         if (code == kChest) Demand(reached, place, "the chest");

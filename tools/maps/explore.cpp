@@ -66,7 +66,7 @@ Party AfterLoading(const Party& party) {
 
 bool SameCell(const Party& one, const Party& other) {
   return one.Map() == other.Map() && one.MapA == other.MapA && one.MapB == other.MapB &&
-         one.X / TileSize == other.X / TileSize && one.Y / TileSize == other.Y / TileSize;
+         one.X / kTileSize == other.X / kTileSize && one.Y / kTileSize == other.Y / kTileSize;
 }
 
 template <typename Visit>

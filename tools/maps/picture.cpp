@@ -15,7 +15,7 @@ uint32_t Darkened(uint32_t colour) {
 }  // namespace
 
 paint::Image Picture(const TileMap& map, const paint::Image& sheet, int scale, bool marked) {
-  paint::Image picture(MapColumns * kTile * scale, MapRows * kTile * scale, 0);
+  paint::Image picture(kMapColumns * kTile * scale, kMapRows * kTile * scale, 0);
   for (int y = 0; y < picture.height; ++y) {
     for (int x = 0; x < picture.width; ++x) {
       const int pixel_x = x / scale;

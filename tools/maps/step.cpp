@@ -13,7 +13,7 @@ WalkRules RulesOf(int round, bool nine_techniques) {
 
 int TileUnder(const World& world, const Party& party) {
   const TileMap* map = world.Find(party.Map());
-  return map == nullptr ? 0 : map->At(party.X / TileSize, party.Y / TileSize);
+  return map == nullptr ? 0 : map->At(party.X / kTileSize, party.Y / kTileSize);
 }
 
 bool AtDragon(const WalkRules& rules, const Party& party) {

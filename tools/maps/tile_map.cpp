@@ -13,8 +13,8 @@ namespace orvane::maps {
 
 std::string WriteDat(const TileMap& map) {
   std::string text;
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) {
+  for (int column = 0; column < kMapColumns; ++column) {
+    for (int row = 0; row < kMapRows; ++row) {
       if (row > 0) text += ',';
       text += std::to_string(map.At(column, row));
     }

@@ -9,7 +9,7 @@
 
 namespace orvane::maps {
 
-constexpr int kCells = MapColumns * MapRows;
+constexpr int kCells = kMapColumns * kMapRows;
 
 // A whole screen of tile codes. Column 0 is the left one, row 0 the top one.
 class TileMap {
@@ -31,7 +31,7 @@ class TileMap {
   bool operator==(const TileMap&) const = default;
 
   static bool Inside(int column, int row) {
-    return column >= 0 && column < MapColumns && row >= 0 && row < MapRows;
+    return column >= 0 && column < kMapColumns && row >= 0 && row < kMapRows;
   }
 
  private:

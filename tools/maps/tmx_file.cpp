@@ -82,14 +82,14 @@ std::string WriteTmx(const TileMap& map, std::string_view title) {
   text +=
       " <tileset firstgid=\"1\" source=\"tiles.tsx\"/>\n"
       " <layer id=\"1\" name=\"tiles\" width=\"30\" height=\"16\">\n  <data encoding=\"csv\">\n";
-  for (int row = 0; row < MapRows; ++row) {
-    for (int column = 0; column < MapColumns; ++column) {
+  for (int row = 0; row < kMapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) {
       const int code = map.At(column, row);
       if (code < 0 || code > kHighestTile) {
         throw std::runtime_error("the tileset has no tile " + std::to_string(code));
       }
       text += std::to_string(code);
-      if (row < MapRows - 1 || column < MapColumns - 1) text += ',';
+      if (row < kMapRows - 1 || column < kMapColumns - 1) text += ',';
     }
     text += '\n';
   }
@@ -115,7 +115,7 @@ TileMap ReadTmx(std::string_view text) {
     // Tiled marks turned tiles in the highest bits, so they too are beyond the tileset.
     Demand(id == 0 || (id >= first_id && id - first_id < kHighestTile),
            "a tile is turned, or not of the tileset");
-    map.Set(cell % MapColumns, cell / MapColumns,
+    map.Set(cell % kMapColumns, cell / kMapColumns,
             id == 0 ? 0 : static_cast<int>(id - first_id) + 1);
   }
   return map;

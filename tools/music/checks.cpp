@@ -12,7 +12,7 @@
 namespace orvane::music {
 namespace {
 
-constexpr int DrumChannel = 9;
+constexpr int kDrumChannel = 9;
 
 void CheckEnds(const MidiFile& file, const PieceNotes& piece, std::vector<std::string>& faults) {
   const int sixteenth = piece.ticks_per_quarter / 4;
@@ -40,7 +40,7 @@ void CheckRanges(const PieceNotes& piece, std::vector<std::string>& faults) {
       if (note.track != track) continue;
       low = std::min(low, note.pitch);
       high = std::max(high, note.pitch);
-      drums = note.channel == DrumChannel;
+      drums = note.channel == kDrumChannel;
     }
     if (high < 0) {
       faults.push_back(piece.names[track] + " plays nothing");
@@ -112,7 +112,7 @@ std::vector<std::string> CheckPiece(const std::string& name, const MidiFile& fil
   CheckEnds(file, piece, faults);
   CheckRanges(piece, faults);
   const int voices = Voices(piece);
-  if (voices > MostVoices) faults.push_back(std::to_string(voices) + " notes at once");
+  if (voices > kMostVoices) faults.push_back(std::to_string(voices) + " notes at once");
   return faults;
 }
 
@@ -121,12 +121,13 @@ std::vector<std::string> Frictions(const PieceNotes& piece) {
   const int eighth = piece.ticks_per_quarter / 2;
   for (size_t i = 0; i < piece.notes.size(); ++i) {
     const FileNote& a = piece.notes[i];
-    if (a.channel == DrumChannel) continue;
+    if (a.channel == kDrumChannel) continue;
     for (size_t j = i + 1; j < piece.notes.size() && piece.notes[j].start < a.end; ++j) {
       const FileNote& b = piece.notes[j];
       const int interval = std::abs(a.pitch - b.pitch);
       const int together = std::min(a.end, b.end) - b.start;
-      if (b.channel == DrumChannel || (interval != 1 && interval != 13) || together < eighth - 20) {
+      if (b.channel == kDrumChannel || (interval != 1 && interval != 13) ||
+          together < eighth - 20) {
         continue;
       }
       found.push_back(
@@ -171,7 +172,7 @@ std::string Describe(const std::string& name, const PieceNotes& piece) {
     int count = 0;
     for (const FileNote& note : piece.notes) {
       if (note.track != track) continue;
-      drums = note.channel == DrumChannel;
+      drums = note.channel == kDrumChannel;
       ++count;
     }
     const Instrument* instrument = FindProgram(piece.programs[track], drums);

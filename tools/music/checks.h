@@ -9,7 +9,7 @@
 namespace orvane::music {
 
 // Most notes that may sound at once.
-constexpr int MostVoices = 24;
+constexpr int kMostVoices = 24;
 
 // How long a piece may last before it repeats, in seconds.
 struct Span {

@@ -108,7 +108,7 @@ MidiTrack ReadTrack(Bytes in) {
       event.status = first;
       event.data1 = in.Byte();
       event.text = in.Text(in.Variable());
-      if (event.data1 == MetaEnd) {
+      if (event.data1 == kMetaEnd) {
         if (!in.Done()) throw std::runtime_error("events behind the end of a track");
         track.end = now;
         return track;

@@ -30,13 +30,13 @@ struct MidiFile {
 };
 
 // Types of the meta events that we use.
-constexpr uint8_t MetaText = 0x01;
-constexpr uint8_t MetaName = 0x03;
-constexpr uint8_t MetaMarker = 0x06;
-constexpr uint8_t MetaEnd = 0x2F;
-constexpr uint8_t MetaTempo = 0x51;
-constexpr uint8_t MetaMeter = 0x58;
-constexpr uint8_t MetaKey = 0x59;
+constexpr uint8_t kMetaText = 0x01;
+constexpr uint8_t kMetaName = 0x03;
+constexpr uint8_t kMetaMarker = 0x06;
+constexpr uint8_t kMetaEnd = 0x2F;
+constexpr uint8_t kMetaTempo = 0x51;
+constexpr uint8_t kMetaMeter = 0x58;
+constexpr uint8_t kMetaKey = 0x59;
 
 // The file's bytes. Events of a track are put in the order of their ticks, and at one tick meta
 // events first, then note-offs, controllers and programs, and note-ons.

@@ -7,14 +7,14 @@
 namespace orvane::music {
 namespace {
 
-constexpr int Step = Whole / 16;           // between two values of a controller that moves
-constexpr double RestingExpression = 104;  // leaves room above for the middle of a phrase
-constexpr uint8_t Modulation = 1;
-constexpr uint8_t Volume = 7;
-constexpr uint8_t Pan = 10;
-constexpr uint8_t Expression = 11;
-constexpr uint8_t Reverb = 91;
-constexpr uint8_t Chorus = 93;
+constexpr int kStep = kWhole / 16;          // between two values of a controller that moves
+constexpr double kRestingExpression = 104;  // leaves room above for the middle of a phrase
+constexpr uint8_t kModulation = 1;
+constexpr uint8_t kVolume = 7;
+constexpr uint8_t kPan = 10;
+constexpr uint8_t kExpression = 11;
+constexpr uint8_t kReverb = 91;
+constexpr uint8_t kChorus = 93;
 
 uint8_t Seven(double value) {
   return static_cast<uint8_t>(std::lround(std::clamp(value, 0.0, 127.0)));
@@ -37,7 +37,7 @@ MidiEvent Meta(int tick, uint8_t type, const std::string& text) {
 
 MidiEvent TempoEvent(int tick, double tempo) {
   const auto micros = static_cast<uint32_t>(std::lround(60000000.0 / tempo));
-  return Meta(tick, MetaTempo,
+  return Meta(tick, kMetaTempo,
               {static_cast<char>(micros >> 16), static_cast<char>((micros >> 8) & 0xFF),
                static_cast<char>(micros & 0xFF)});
 }
@@ -54,34 +54,34 @@ char Log2(int unit) {
 // What the end loses so that a player who notices it late still repeats in time, on average.
 int CutAtEnd(const Sheet& sheet) {
   const double beats = sheet.score->poll / 2.0 / 60000.0 * sheet.sections.back().section->tempo_end;
-  return static_cast<int>(beats * Quarter);
+  return static_cast<int>(beats * kQuarter);
 }
 
 MidiTrack Conductor(const Sheet& sheet, int end) {
   MidiTrack track;
   track.end = end;
-  track.events.push_back(Meta(0, MetaName, sheet.score->name));
-  track.events.push_back(Meta(0, MetaText, sheet.score->title));
+  track.events.push_back(Meta(0, kMetaName, sheet.score->name));
+  track.events.push_back(Meta(0, kMetaText, sheet.score->title));
   const Section* before = nullptr;
   for (const PlacedSection& placed : sheet.sections) {
     const Section& now = *placed.section;
-    track.events.push_back(Meta(placed.start, MetaMarker, now.name));
+    track.events.push_back(Meta(placed.start, kMetaMarker, now.name));
     if (before == nullptr || before->key.name != now.key.name) {
       track.events.push_back(
-          Meta(placed.start, MetaKey,
+          Meta(placed.start, kMetaKey,
                {static_cast<char>(now.key.sharps), static_cast<char>(now.key.minor ? 1 : 0)}));
     }
     if (before == nullptr || before->meter.beats != now.meter.beats ||
         before->meter.unit != now.meter.unit) {
       track.events.push_back(
-          Meta(placed.start, MetaMeter,
+          Meta(placed.start, kMetaMeter,
                {static_cast<char>(now.meter.beats), Log2(now.meter.unit), 24, 8}));
     }
     if (before == nullptr || before->tempo_end != now.tempo) {
       track.events.push_back(TempoEvent(placed.start, now.tempo));
     }
     if (now.tempo != now.tempo_end) {
-      const int step = Quarter / 2;
+      const int step = kQuarter / 2;
       for (int tick = placed.start + step; tick < std::min(placed.end, end); tick += step) {
         const double share = static_cast<double>(tick - placed.start) /
                              static_cast<double>(placed.end - placed.start);
@@ -130,15 +130,15 @@ class Player {
   }
 
   void SetUp() {
-    track_.events.push_back(Meta(0, MetaName, part_.name));
+    track_.events.push_back(Meta(0, kMetaName, part_.name));
     Send(0, 0xC0, static_cast<uint8_t>(part_.instrument->program), 0);
     // A synthesizer makes 40 dB of each tenfold volume.
-    Send(0, 0xB0, Volume, Seven(part_.volume * std::pow(10.0, sheet_.score->level / 40)));
-    Send(0, 0xB0, Pan, Seven(64 + part_.pan));
-    Send(0, 0xB0, Expression, Seven(RestingExpression));
-    Send(0, 0xB0, Reverb, Seven(part_.reverb));
-    Send(0, 0xB0, Chorus, Seven(part_.chorus));
-    Send(0, 0xB0, Modulation, 0);
+    Send(0, 0xB0, kVolume, Seven(part_.volume * std::pow(10.0, sheet_.score->level / 40)));
+    Send(0, 0xB0, kPan, Seven(64 + part_.pan));
+    Send(0, 0xB0, kExpression, Seven(kRestingExpression));
+    Send(0, 0xB0, kReverb, Seven(part_.reverb));
+    Send(0, 0xB0, kChorus, Seven(part_.chorus));
+    Send(0, 0xB0, kModulation, 0);
   }
 
   // How much the place in the bar weighs: the first beat leads, off-beats are lighter.
@@ -233,17 +233,17 @@ class Player {
     if (part_.instrument->drums) return;
     size_t next = 0;
     const Note* held = nullptr;
-    int last = static_cast<int>(RestingExpression);
-    for (int tick = 0; tick < end_ - 1; tick += Step) {
+    int last = static_cast<int>(kRestingExpression);
+    for (int tick = 0; tick < end_ - 1; tick += kStep) {
       while (next < own_.notes.size() && own_.notes[next].start <= tick) held = &own_.notes[next++];
       if (held == nullptr) continue;
       double ratio = 1;
-      if (held->length >= Quarter && tick < held->start + held->length) {
+      if (held->length >= kQuarter && tick < held->start + held->length) {
         ratio = LoudnessAt(tick) / std::max(1.0, held->loudness);
       }
-      const int value = Seven(RestingExpression * Arc(tick) * ratio);
+      const int value = Seven(kRestingExpression * Arc(tick) * ratio);
       if (std::abs(value - last) < 2) continue;
-      Send(tick, 0xB0, Expression, static_cast<uint8_t>(value));
+      Send(tick, 0xB0, kExpression, static_cast<uint8_t>(value));
       last = value;
     }
   }
@@ -251,14 +251,14 @@ class Player {
   // Long notes begin straight and grow a vibrato.
   void Vibrate() {
     for (const Note& note : own_.notes) {
-      if (note.length < Quarter * 3 / 2) continue;
+      if (note.length < kQuarter * 3 / 2) continue;
       const int from = note.start + note.length / 3;
       for (int i = 1; i <= 4; ++i) {
-        const int tick = from + (i - 1) * Step / 2;
-        if (tick < end_ - 1) Send(tick, 0xB0, Modulation, Seven(part_.vibrato * i / 4.0));
+        const int tick = from + (i - 1) * kStep / 2;
+        if (tick < end_ - 1) Send(tick, 0xB0, kModulation, Seven(part_.vibrato * i / 4.0));
       }
       const int stop = note.start + note.length - 8;
-      if (stop < end_ - 1) Send(stop, 0xB0, Modulation, 0);
+      if (stop < end_ - 1) Send(stop, 0xB0, kModulation, 0);
     }
   }
 
@@ -274,7 +274,7 @@ class Player {
 
 MidiFile Perform(const Sheet& sheet) {
   MidiFile file;
-  file.ticks_per_quarter = Quarter;
+  file.ticks_per_quarter = kQuarter;
   const int end = sheet.end - CutAtEnd(sheet);
   file.tracks.push_back(Conductor(sheet, end));
   for (size_t i = 0; i < sheet.parts.size(); ++i) {

@@ -30,15 +30,15 @@ std::string KeyText(const std::string& bytes) {
 }
 
 void ReadMeta(const MidiEvent& event, PieceNotes& piece, size_t track) {
-  if (event.data1 == MetaName) piece.names[track] = event.text;
-  if (event.data1 == MetaMarker) piece.sections.push_back({event.tick, event.text});
-  if (event.data1 == MetaKey) piece.keys.push_back({event.tick, KeyText(event.text)});
-  if (event.data1 == MetaTempo && event.text.size() == 3) {
+  if (event.data1 == kMetaName) piece.names[track] = event.text;
+  if (event.data1 == kMetaMarker) piece.sections.push_back({event.tick, event.text});
+  if (event.data1 == kMetaKey) piece.keys.push_back({event.tick, KeyText(event.text)});
+  if (event.data1 == kMetaTempo && event.text.size() == 3) {
     const int micros =
         Unsigned(event.text[0]) << 16 | Unsigned(event.text[1]) << 8 | Unsigned(event.text[2]);
     if (micros > 0) piece.tempos.push_back({event.tick, 60000000.0 / micros});
   }
-  if (event.data1 == MetaMeter && event.text.size() == 4 && event.tick == 0) {
+  if (event.data1 == kMetaMeter && event.text.size() == 4 && event.tick == 0) {
     piece.bar_ticks = piece.ticks_per_quarter * 4 / (1 << event.text[1]) * event.text[0];
   }
 }

@@ -7,7 +7,7 @@ namespace orvane::music {
 namespace {
 
 // Semitones above c of the letters a to g.
-constexpr std::array<int, 7> LetterSemitones = {9, 11, 0, 2, 4, 5, 7};
+constexpr std::array<int, 7> kLetterSemitones = {9, 11, 0, 2, 4, 5, 7};
 
 }  // namespace
 
@@ -17,7 +17,7 @@ int ReadSemitone(std::string_view text, size_t& at) {
   if (letter < 'a' || letter > 'g') {
     throw std::invalid_argument("no pitch: " + std::string(text.substr(at)));
   }
-  int semitone = LetterSemitones[static_cast<size_t>(letter - 'a')];
+  int semitone = kLetterSemitones[static_cast<size_t>(letter - 'a')];
   ++at;
   if (at < text.size() && text[at] == '#') {
     ++semitone;

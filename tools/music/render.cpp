@@ -17,7 +17,7 @@ struct Closer {
   void operator()(fluid_player_t* player) const { delete_fluid_player(player); }
 };
 
-constexpr int Block = 64;
+constexpr int kBlock = 64;
 
 }  // namespace
 
@@ -34,7 +34,7 @@ Rendering Render(const std::string& midi, const std::string& sound_font, double 
   const std::unique_ptr<fluid_settings_t, Closer> settings(new_fluid_settings());
   if (settings == nullptr) throw std::runtime_error("no settings of the synthesizer");
   fluid_settings_setnum(settings.get(), "synth.sample-rate", 44100);
-  fluid_settings_setnum(settings.get(), "synth.gain", RenderGain);
+  fluid_settings_setnum(settings.get(), "synth.gain", kRenderGain);
   fluid_settings_setint(settings.get(), "synth.polyphony", 128);
   fluid_settings_setstr(settings.get(), "player.timing-source", "sample");
   fluid_settings_setint(settings.get(), "synth.lock-memory", 0);
@@ -51,13 +51,13 @@ Rendering Render(const std::string& midi, const std::string& sound_font, double 
     throw std::runtime_error("the piece cannot be played");
   }
   Rendering out;
-  std::array<float, Block> left{};
-  std::array<float, Block> right{};
+  std::array<float, kBlock> left{};
+  std::array<float, kBlock> right{};
   auto rest = static_cast<int>(tail * 44100);
   while (rest > 0) {
-    if (fluid_player_get_status(player.get()) != FLUID_PLAYER_PLAYING) rest -= Block;
+    if (fluid_player_get_status(player.get()) != FLUID_PLAYER_PLAYING) rest -= kBlock;
     out.voices = std::max(out.voices, fluid_synth_get_active_voice_count(synth.get()));
-    fluid_synth_write_float(synth.get(), Block, left.data(), 0, 1, right.data(), 0, 1);
+    fluid_synth_write_float(synth.get(), kBlock, left.data(), 0, 1, right.data(), 0, 1);
     out.left.insert(out.left.end(), left.begin(), left.end());
     out.right.insert(out.right.end(), right.begin(), right.end());
   }

@@ -14,7 +14,7 @@ struct Rendering {
 };
 
 // The gain that the pieces are balanced for.
-constexpr double RenderGain = 1.2;
+constexpr double kRenderGain = 1.2;
 
 // The sound font that the game prefers, or the one it falls back to; empty where neither is.
 std::string FindSoundFont();

@@ -8,12 +8,12 @@
 namespace orvane::music {
 namespace {
 
-constexpr int BarsInRow = 16;
-constexpr int BarWidth = 96;
-constexpr int LowPitch = 24;
-constexpr int HighPitch = 103;
-constexpr int PitchHeight = 3;
-constexpr int RowHeight = (HighPitch - LowPitch + 1) * PitchHeight + 12;
+constexpr int kBarsInRow = 16;
+constexpr int kBarWidth = 96;
+constexpr int kLowPitch = 24;
+constexpr int kHighPitch = 103;
+constexpr int kPitchHeight = 3;
+constexpr int kRowHeight = (kHighPitch - kLowPitch + 1) * kPitchHeight + 12;
 
 struct Canvas {
   int width;
@@ -103,25 +103,27 @@ std::string DrawRoll(const PieceNotes& piece) {
                                                        0xC080FF, 0xFF80C0, 0x40E0D0, 0xA0A0FF,
                                                        0xE0E060, 0xFF9060, 0x90D090, 0xC0C0C0};
   const int bars = (piece.end + piece.bar_ticks - 1) / piece.bar_ticks;
-  const int rows = (bars + BarsInRow - 1) / BarsInRow;
-  Canvas canvas{BarsInRow * BarWidth, rows * RowHeight, {}};
+  const int rows = (bars + kBarsInRow - 1) / kBarsInRow;
+  Canvas canvas{kBarsInRow * kBarWidth, rows * kRowHeight, {}};
   canvas.pixels.assign(static_cast<size_t>(canvas.width) * static_cast<size_t>(canvas.height),
                        0x101018);
-  const int row_ticks = BarsInRow * piece.bar_ticks;
-  const auto x_of = [&](int tick) { return tick % row_ticks * BarWidth / piece.bar_ticks; };
+  const int row_ticks = kBarsInRow * piece.bar_ticks;
+  const auto x_of = [&](int tick) { return tick % row_ticks * kBarWidth / piece.bar_ticks; };
   for (int bar = 0; bar < bars; ++bar) {
-    canvas.Box(bar % BarsInRow * BarWidth, bar / BarsInRow * RowHeight, 1, RowHeight - 4, 0x303040);
+    canvas.Box(bar % kBarsInRow * kBarWidth, bar / kBarsInRow * kRowHeight, 1, kRowHeight - 4,
+               0x303040);
   }
   for (const Mark& section : piece.sections) {
-    canvas.Box(x_of(section.tick), section.tick / row_ticks * RowHeight, 2, RowHeight - 4,
+    canvas.Box(x_of(section.tick), section.tick / row_ticks * kRowHeight, 2, kRowHeight - 4,
                0xFFFFFF);
   }
   for (const FileNote& note : piece.notes) {
-    const int top = note.start / row_ticks * RowHeight;
+    const int top = note.start / row_ticks * kRowHeight;
     const int x = x_of(note.start);
-    const int wide = std::max(2, (note.end - note.start) * BarWidth / piece.bar_ticks - 1);
-    const int y = top + (HighPitch - std::clamp(note.pitch, LowPitch, HighPitch)) * PitchHeight;
-    canvas.Box(x, y, wide, PitchHeight, Shade(Colours[note.track % Colours.size()], note.velocity));
+    const int wide = std::max(2, (note.end - note.start) * kBarWidth / piece.bar_ticks - 1);
+    const int y = top + (kHighPitch - std::clamp(note.pitch, kLowPitch, kHighPitch)) * kPitchHeight;
+    canvas.Box(x, y, wide, kPitchHeight,
+               Shade(Colours[note.track % Colours.size()], note.velocity));
   }
   return Png(canvas);
 }

@@ -14,15 +14,15 @@
 namespace orvane::music {
 
 // Ticks of a quarter note and of a whole note.
-constexpr int Quarter = 480;
-constexpr int Whole = 4 * Quarter;
+constexpr int kQuarter = 480;
+constexpr int kWhole = 4 * kQuarter;
 
 struct Meter {
   int beats = 4;
   int unit = 4;  // 2, 4, 8 or 16
 
-  int BarTicks() const { return Whole / unit * beats; }
-  int BeatTicks() const { return Whole / unit; }
+  int BarTicks() const { return kWhole / unit * beats; }
+  int BeatTicks() const { return kWhole / unit; }
 };
 
 // One voice of the score on one channel.

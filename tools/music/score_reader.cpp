@@ -93,7 +93,7 @@ class Reader {
     Meter meter;
     meter.beats = Number(word.substr(0, slash), 1, 16);
     meter.unit = Number(word.substr(slash + 1), 2, 16);
-    if (Whole % meter.unit != 0) Fail("no such note value in the meter");
+    if (kWhole % meter.unit != 0) Fail("no such note value in the meter");
     return meter;
   }
 

@@ -52,7 +52,7 @@ class LineReader {
       const auto line = section_->lines.find(part_.name);
       if (line == section_->lines.end()) continue;
       now_ = placed.start;
-      length_ = Quarter;
+      length_ = kQuarter;
       octave_ = part_.home;
       slur_ = -1;
       SetDynamic(ReadDynamic("mf"), ReadDynamic("mf"));
@@ -211,7 +211,7 @@ class LineReader {
       if (cell == ' ') continue;
       Note note;
       note.start = now_ + bar_ticks / cells * i;
-      note.length = Whole / 16;
+      note.length = kWhole / 16;
       note.pitch = row.key;
       note.stress = cell == 'X' ? 12 : cell == 'o' ? -22 : 0;
       note.touch = Touch::Tenuto;
@@ -238,7 +238,7 @@ class LineReader {
   const Section* section_ = nullptr;
   PartSheet out_;
   int now_ = 0;
-  int length_ = Quarter;
+  int length_ = kQuarter;
   int octave_ = 4;
   int slur_ = -1;
   std::map<int, size_t> tied_;  // pitch to its note

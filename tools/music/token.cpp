@@ -81,8 +81,8 @@ class TokenReader {
   void ReadLength() {
     if (!Digit()) return;
     const int divisor = ReadDigits();
-    if (divisor == 0 || Whole % divisor != 0) Fail();
-    token_.length = Whole / divisor;
+    if (divisor == 0 || kWhole % divisor != 0) Fail();
+    token_.length = kWhole / divisor;
     if (Take('.')) token_.length += token_.length / 2;
   }
 

@@ -24,8 +24,8 @@ GameRecord SlotRecord() {
   record.StoryNo = kAfterOpening;
   record.SaveMapA = 3;
   record.SaveMapB = 3;
-  record.SaveX = (record.SaveX - 1) * TileSize;
-  record.SaveY = (record.SaveY - 1) * TileSize;
+  record.SaveX = (record.SaveX - 1) * kTileSize;
+  record.SaveY = (record.SaveY - 1) * kTileSize;
   return record;
 }
 

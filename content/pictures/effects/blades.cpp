@@ -47,9 +47,9 @@ Shape Slash(int frame) {
       if (along < begins || along > ends) return std::nullopt;
       if (frame == 2 && streak % 2 == 0) return std::nullopt;
     }
-    if (inward < 1.0) return Steel(frame == 2 ? 3 : 1);
-    if (share < 0.36) return Steel(5);
-    return Steel(5.6 - 5.6 * (share - 0.30) / 0.62);
+    if (inward < 1.0) return kSteel(frame == 2 ? 3 : 1);
+    if (share < 0.36) return kSteel(5);
+    return kSteel(5.6 - 5.6 * (share - 0.30) / 0.62);
   };
 }
 
@@ -64,17 +64,17 @@ Shape Thrust() {
     const double rays = 1 - std::pow(slanted_x / 10, 0.58) - std::pow(slanted_y / 10, 0.58);
     const double heart = 1 - std::hypot(dx, y) / 5.4;
     const double burst = std::max({1.35 * upright, 1.35 * rays, heart});
-    if (burst > 0) return Sunlight(burst < 0.1 ? 0 : 0.9 + 6.4 * burst);
+    if (burst > 0) return kSunlight(burst < 0.1 ? 0 : 0.9 + 6.4 * burst);
     const double left = (11.4 - x) / 22.8;  // 0 at the lance's end, 1 at its point
     if (left < 0 || left > 1) return std::nullopt;
     const double width = left < 0.86 ? 0.9 + 4.2 * left : 4.5 * std::sqrt((1 - left) / 0.14);
     const double lance = 1 - std::abs(y) / width;
-    if (lance > 0) return Steel(lance < 0.25 ? 0 : lance < 0.45 ? 1.5 : 2 + 4.6 * lance);
+    if (lance > 0) return kSteel(lance < 0.25 ? 0 : lance < 0.45 ? 1.5 : 2 + 4.6 * lance);
     // Strokes of torn air beside it.
     const int line = static_cast<int>(std::abs(y) - 4.5);
     const double begins = y < 0 ? 1.5 : -0.5;
-    if (line == 1 && x > begins && x < begins + 8) return Steel(x < begins + 5 ? 4 : 3);
-    if (line == 4 && x > begins + 1 && x < begins + 5) return Steel(3);
+    if (line == 1 && x > begins && x < begins + 8) return kSteel(x < begins + 5 ? 4 : 3);
+    if (line == 4 && x > begins + 1 && x < begins + 5) return kSteel(3);
     return std::nullopt;
   };
 }

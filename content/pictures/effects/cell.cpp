@@ -5,18 +5,18 @@
 namespace orvane::paint::effects {
 namespace {
 
-constexpr int MaskLeft = 192;
-constexpr Colour White = 0xFFFFFF;
+constexpr int kMaskLeft = 192;
+constexpr Colour kWhite = 0xFFFFFF;
 
 }  // namespace
 
 void PaintCell(Image& sheet, int column, int row, const Shape& shape) {
-  for (int y = 1; y < CellSize - 1; ++y) {
-    for (int x = 1; x < CellSize - 1; ++x) {
+  for (int y = 1; y < kCellSize - 1; ++y) {
+    for (int x = 1; x < kCellSize - 1; ++x) {
       const std::optional<Colour> colour = shape(x - 11.5, y - 11.5);
       if (!colour) continue;
-      sheet.At(column * CellSize + x, row * CellSize + y) = *colour;
-      sheet.At(MaskLeft + column * CellSize + x, row * CellSize + y) = White;
+      sheet.At(column * kCellSize + x, row * kCellSize + y) = *colour;
+      sheet.At(kMaskLeft + column * kCellSize + x, row * kCellSize + y) = kWhite;
     }
   }
 }

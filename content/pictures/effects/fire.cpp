@@ -29,7 +29,7 @@ Shape FireBall() {
     const double depth = std::max(body, tongue);
     if (depth <= 0) return std::nullopt;
     const double heart = 1 - std::hypot((x + 0.3) / 7.6, (y - 4.6) / 9.8);
-    return Fire(0.4 + 3.6 * std::min(depth, 0.75) + 3.6 * std::max(0.0, heart) - 0.6);
+    return kFire(0.4 + 3.6 * std::min(depth, 0.75) + 3.6 * std::max(0.0, heart) - 0.6);
   };
 }
 
@@ -42,8 +42,8 @@ Shape Flame(int frame) {
                                    InTongue(x, y, 4.8, 8, tall * 0.72, wide * 0.55, 2.0)});
     if (depth <= 0) return std::nullopt;
     const double high = (7.2 - y) / tall;
-    if (frame == 2 && high > 0.45) return Smoke(1.2 + 2.6 * depth);
-    return Fire(0.4 + 5.8 * depth * (1.15 - 0.75 * high));
+    if (frame == 2 && high > 0.45) return kSmoke(1.2 + 2.6 * depth);
+    return kFire(0.4 + 5.8 * depth * (1.15 - 0.75 * high));
   };
 }
 
@@ -64,7 +64,7 @@ Shape Explosion(int frame) {
     if (distance > rim || distance < hole) return std::nullopt;
     const double grain = 2.2 * (Wander(x * 0.42 + 20, y * 0.42 + 20 + frame, 11) - 0.5);
     const double tone = Heat[at] * (1 - distance / rim) + 0.9 + grain;
-    return Fire(tone);
+    return kFire(tone);
   };
 }
 
@@ -76,7 +76,7 @@ Shape Atom(int frame) {
     const double rim = 8.6 + points * std::cos(turn * (frame == 2 ? 10 : 8) + frame);
     if (distance > rim) return std::nullopt;
     const double band = std::abs(distance - rim * 0.66) < 0.9 && frame != 2 ? -1.6 : 0;
-    return Fire(5.9 * (1 - distance / rim) * (frame == 2 ? 1.5 : 1.25) + 0.9 + band);
+    return kFire(5.9 * (1 - distance / rim) * (frame == 2 ? 1.5 : 1.25) + 0.9 + band);
   };
 }
 
@@ -88,7 +88,7 @@ Shape Sun() {
     const double distance = std::hypot(x, y);
     if (distance < 7.2) {
       const double tone = distance < 3.3 ? 5 : distance < 4.9 ? 4 : distance < 6.3 ? 3 : 2;
-      return Sunlight(tone);
+      return kSunlight(tone);
     }
     // A long ray along each axis and a shorter one between; both pale to orange outward.
     const double between = (far - near) * 0.7071;
@@ -97,7 +97,7 @@ Shape Sun() {
     const double short_ray = between - (10.4 - slanted) * 0.85;
     const double depth = -std::min(long_ray, short_ray);
     if (depth < 0) return std::nullopt;
-    return Sunlight(depth > 1.4 && distance < 9.2 ? 2 : depth > 0.7 ? 1 : 0);
+    return kSunlight(depth > 1.4 && distance < 9.2 ? 2 : depth > 0.7 ? 1 : 0);
   };
 }
 
@@ -107,9 +107,9 @@ Shape LightRing(int frame) {
     const double rim = frame == 0 ? 7.5 : frame == 1 ? 9.5 : 10.8;
     const double thick = frame == 0 ? 3.6 : frame == 1 ? 2.8 : 1.8;
     const double off = std::abs(distance - rim + thick / 2);
-    if (frame == 0 && distance < 2.2) return Star(5);
+    if (frame == 0 && distance < 2.2) return kStar(5);
     if (off > thick / 2 + 0.3) return std::nullopt;
-    return Star(5.4 - 4.4 * off / thick * 1.6);
+    return kStar(5.4 - 4.4 * off / thick * 1.6);
   };
 }
 

@@ -15,7 +15,7 @@ Shape IceCrystal() {
                   {-2.6, 10.8, -0.32, 16.5, 3.3},
                   {3.0, 10.8, 0.34, 15.5, 3.2},
                   {0, 11, 0, 21.8, 4.4}},
-                 0.62, Ice);
+                 0.62, kIce);
 }
 
 Shape IceGrowing(int frame) {
@@ -23,7 +23,7 @@ Shape IceGrowing(int frame) {
   return Cluster({{-3.6, 10.6, -0.6, 13 * size, 2.6},
                   {3.8, 10.6, 0.6, 13 * size, 2.6},
                   {0, 11, 0, 21 * size, 2.6 + 0.5 * frame}},
-                 0.62, Ice);
+                 0.62, kIce);
 }
 
 Shape IceBreaking(int frame) {
@@ -36,7 +36,7 @@ Shape IceBreaking(int frame) {
       const double branch = std::abs(across - std::max(0.0, along - 5.2));
       const bool twig = along > 5.2 && along < 8.6 && branch < 1.1;
       if (along > 11 || (across > 1.35 && !twig && distance > 3.6)) return std::nullopt;
-      return Ice(across < 0.7 ? 5 : distance < 3.6 ? 4 : 2.6);
+      return kIce(across < 0.7 ? 5 : distance < 3.6 ? 4 : 2.6);
     }
     const int count = frame == 1 ? 7 : 6;
     for (int i = 0; i < count; ++i) {
@@ -49,7 +49,7 @@ Shape IceBreaking(int frame) {
       const double length = frame == 1 ? 4.2 : 3.2;
       const double width = (frame == 1 ? 3.0 : 2.4) * (1 - along / length);
       if (along > length || std::abs(across) > width) continue;
-      return Ice(across < -0.2 ? 5 : across < 0.6 ? 3.5 : 1.5);
+      return kIce(across < -0.2 ? 5 : across < 0.6 ? 3.5 : 1.5);
     }
     return std::nullopt;
   };
@@ -62,14 +62,14 @@ Shape Pillar() {
     if (std::abs(x) > 7.4 || y < top || y > 10.9 - std::abs(x) * 0.22) {
       return std::nullopt;
     }
-    if (y < top + 1.3) return Ice(4.4);
-    if (std::abs(x) > 6.5) return Ice(x < 0 ? 2.2 : 0.2);
+    if (y < top + 1.3) return kIce(4.4);
+    if (std::abs(x) > 6.5) return kIce(x < 0 ? 2.2 : 0.2);
     const double slant = y - 0.5 * x;
     const bool seam = std::fmod(slant + 40, 7.4) < 1.1;
-    if (x < -2.4) return Ice(seam ? 4.4 : 3.4);
-    if (x < -1.2) return Ice(5);
-    if (x < 2.6) return Ice(seam ? 3.4 : 2.6);
-    return Ice(seam ? 2.2 : 1.2);
+    if (x < -2.4) return kIce(seam ? 4.4 : 3.4);
+    if (x < -1.2) return kIce(5);
+    if (x < 2.6) return kIce(seam ? 3.4 : 2.6);
+    return kIce(seam ? 2.2 : 1.2);
   };
 }
 

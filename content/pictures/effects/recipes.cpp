@@ -6,8 +6,8 @@ namespace {
 
 using namespace effects;  // the table below names nothing else
 
-constexpr int Columns = 8;
-constexpr int Rows = 6;
+constexpr int kColumns = 8;
+constexpr int kRows = 6;
 
 struct Entry {
   int column;
@@ -33,9 +33,9 @@ Image PaintEffects() {
       {7, 4, Impact(3)},      {0, 5, IceGrowing(0)},  {1, 5, IceGrowing(1)},
       {2, 5, IceGrowing(2)},  {3, 5, IceGrowing(3)},  {4, 5, IceCrystal()},
       {5, 5, IceBreaking(0)}, {6, 5, IceBreaking(1)}, {7, 5, IceBreaking(2)}};
-  Image sheet(2 * Columns * CellSize, Rows * CellSize, 0x000000);
+  Image sheet(2 * kColumns * kCellSize, kRows * kCellSize, 0x000000);
   for (int y = 0; y < sheet.height; ++y) {
-    for (int x = 0; x < Columns * CellSize; ++x) sheet.At(x, y) = 0xFFFFFF;
+    for (int x = 0; x < kColumns * kCellSize; ++x) sheet.At(x, y) = 0xFFFFFF;
   }
   for (const Entry& entry : entries) PaintCell(sheet, entry.column, entry.row, entry.shape);
   return sheet;

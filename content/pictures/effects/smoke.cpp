@@ -52,8 +52,8 @@ Shape BlastSmoke(int frame) {
     const double wisp = Wander(x * 0.5 + 30 + 7 * frame, y * 0.5 + 30, 12);
     if (frame > 0 && wisp > 0.62 && ember < 0.4) return std::nullopt;
     const double heat = ember + 0.7 * (wisp - 0.5) - 0.34;
-    if (heat > 0) return Fire(0.8 + 7.5 * heat);
-    return Ash(2.9 + 1.7 * light + 0.9 * depth - 1.2 * (wisp - 0.5));
+    if (heat > 0) return kFire(0.8 + 7.5 * heat);
+    return kAsh(2.9 + 1.7 * light + 0.9 * depth - 1.2 * (wisp - 0.5));
   };
 }
 

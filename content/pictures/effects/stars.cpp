@@ -42,7 +42,7 @@ Shape Sparkle(int frame) {
         }
     }
     if (depth > 1) return std::nullopt;
-    return Star(5.9 - 5.2 * depth * depth);
+    return kStar(5.9 - 5.2 * depth * depth);
   };
 }
 
@@ -58,12 +58,12 @@ Shape LeafStar() {
       if (along < 0 || along > 11.3) continue;
       const double width = 3.9 * std::sin(pi * std::pow(along / 11.3, 0.8));
       best = std::max(best, 1 - std::abs(across) / std::max(0.5, width));
-      if (best > 0.72 && along > 3) return Wind(3.2);
+      if (best > 0.72 && along > 3) return kWind(3.2);
     }
     const double heart = 1 - std::hypot(x, y) / 4.2;
-    if (heart > 0) return Wind(3.4 + 3 * heart);
+    if (heart > 0) return kWind(3.4 + 3 * heart);
     if (best <= 0) return std::nullopt;
-    return Wind(0.6 + 3.4 * best);
+    return kWind(0.6 + 3.4 * best);
   };
 }
 
@@ -75,18 +75,18 @@ Shape Impact(int frame) {
       const double points = frame == 0 ? 1.6 : 3.2;
       const double rim = (frame == 0 ? 5.8 : 8.0) + points * std::cos(turn * 6 + 0.5);
       if (distance > rim) return std::nullopt;
-      return Force(5.9 - 5.4 * std::pow(distance / rim, 1.5));
+      return kForce(5.9 - 5.4 * std::pow(distance / rim, 1.5));
     }
     // A ring that runs outward and breaks into shards.
     const double part = std::fmod(turn / (2 * pi) * 9 + frame * 0.4 + 18, 1.0);
     const double shards = 1 - 4 * std::abs(part - 0.5);  // 1 in the middle of a shard
     const double rim = frame == 2 ? 9.4 + 2.0 * shards : 11.3;
     const double thick = frame == 2 ? 5.6 : 5.4 + 1.6 * shards;
-    if (frame == 2 && distance < 2.8) return Force(5);
+    if (frame == 2 && distance < 2.8) return kForce(5);
     if (frame > 2 && shards < -0.35) return std::nullopt;
     if (distance > rim || distance < rim - thick) return std::nullopt;
-    if (rim - distance < 0.9) return Force(1);
-    return Force(5.6 - 5.2 * (rim - distance) / thick);
+    if (rim - distance < 0.9) return kForce(1);
+    return kForce(5.6 - 5.2 * (rim - distance) / thick);
   };
 }
 
@@ -101,7 +101,7 @@ Shape DarkBurst(int frame) {
     const double hole = frame == 0 ? 0 : 4.6;
     if (distance > rim || distance < hole) return std::nullopt;
     const double grain = 1.4 * (Wander(x * 0.5 + 20, y * 0.5 + 20, 33) - 0.5);
-    return Blood(5.9 - 5.6 * std::pow(distance / rim, frame == 0 ? 0.9 : 1.6) + grain);
+    return kBlood(5.9 - 5.6 * std::pow(distance / rim, frame == 0 ? 0.9 : 1.6) + grain);
   };
 }
 
@@ -111,11 +111,11 @@ Shape DarkOrb(int frame) {
     if (frame == 0) {
       if (distance > 10.4) return std::nullopt;
       const double light = -(x * 0.5 + y * 0.7) / 10.4;
-      return Shade(distance > 9.2 ? 3.4 : distance > 7.8 ? 2.2 : 0.6 + 1.6 * light);
+      return kShade(distance > 9.2 ? 3.4 : distance > 7.8 ? 2.2 : 0.6 + 1.6 * light);
     }
     const double whirl = std::cos(2 * std::atan2(y, x) + distance * 0.62);
     if (distance > 11 || (whirl < 0.05 && distance > 3)) return std::nullopt;
-    return Shade(4.9 * whirl * (1 - distance / 15));
+    return kShade(4.9 * whirl * (1 - distance / 15));
   };
 }
 

@@ -32,11 +32,11 @@ Shape RockSpire() {
                   {6.2, 10.8, 0.28, 12.0, 4.4},
                   {2.6, 10.9, 0.12, 9.0, 4.6},
                   {-3.0, 10.9, -0.12, 7.0, 4.0}},
-                 0.30, Earth);
+                 0.30, kEarth);
 }
 
 Shape Boulder() {
-  return [](double x, double y) { return Lump(x, y, 10.8, 0.35, Earth); };
+  return [](double x, double y) { return Lump(x, y, 10.8, 0.35, kEarth); };
 }
 
 Shape RockShards() {
@@ -50,7 +50,7 @@ Shape RockShards() {
     double turn = 0;
     for (const auto& place : Places) {
       turn += 0.9;
-      const auto colour = Lump(x - place[0], y - place[1], place[2], turn, Earth);
+      const auto colour = Lump(x - place[0], y - place[1], place[2], turn, kEarth);
       if (colour) return colour;
     }
     return std::nullopt;
@@ -70,7 +70,7 @@ Shape Dust(int frame) {
     }
     if (best < 0) return std::nullopt;
     if (frame == 1 && Wander(x * 0.45 + 5, y * 0.45 + 5, 61) > 0.56) return std::nullopt;
-    return Smoke(best + (frame == 0 ? 1.3 : 1.9));
+    return kSmoke(best + (frame == 0 ? 1.3 : 1.9));
   };
 }
 

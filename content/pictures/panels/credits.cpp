@@ -27,20 +27,20 @@ struct Strip {
 };
 
 // Strips with an image of their own; the mask lies right below the image.
-constexpr std::array<Strip, 3> coloured{
+constexpr std::array<Strip, 3> kColoured{
     {{0, 128, 200, 32, "STAFF", 24, 7},
      {200, 128, 200, 32, "SPECIAL THANKS", 16.5, 2.8, 3.6},
      {0, 288, 400, 32, "最後まで旅してくれたあなたへ", 24, 1.5}}};
-constexpr std::array<Strip, 7> plain{{{0, 192, 200, 32, "企画・脚本・プログラム", 19, 0.4},
-                                      {200, 192, 200, 32, "グラフィック・マップ", 19, 0.4},
-                                      {0, 224, 200, 32, "音楽・効果音", 19, 2},
-                                      {200, 224, 200, 32, "テストプレイのみなさん", 19, 0.4},
-                                      {0, 256, 200, 32, "道具を作ったみなさん", 19, 0.4},
-                                      {200, 256, 200, 32, "龍の狭間の龍たち", 20, 1.5},
-                                      {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}};
-constexpr const char* serif = "IPAPMincho";
-constexpr const char* plain_face = "IPAPGothic";
-constexpr uint32_t white = 0xFFFFFF;
+constexpr std::array<Strip, 7> kPlain{{{0, 192, 200, 32, "企画・脚本・プログラム", 19, 0.4},
+                                       {200, 192, 200, 32, "グラフィック・マップ", 19, 0.4},
+                                       {0, 224, 200, 32, "音楽・効果音", 19, 2},
+                                       {200, 224, 200, 32, "テストプレイのみなさん", 19, 0.4},
+                                       {0, 256, 200, 32, "道具を作ったみなさん", 19, 0.4},
+                                       {200, 256, 200, 32, "龍の狭間の龍たち", 20, 1.5},
+                                       {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}};
+constexpr const char* kSerif = "IPAPMincho";
+constexpr const char* kPlainFace = "IPAPGothic";
+constexpr uint32_t kWhite = 0xFFFFFF;
 
 bool Covered(const Cover& cover, int x, int y) {
   return cover.At(x, y) >= 0.5F;
@@ -67,18 +67,18 @@ void PutPair(Image& sheet, const Drawing& drawing, int x, int y, int width, int 
   for (int row = 0; row < height; ++row) {
     for (int column = 0; column < width; ++column) {
       const bool in = Covered(cover, column, row);
-      sheet.At(x + column, y + row) = in ? image.At(column, row) : white;
-      sheet.At(x + column, y + height + row) = in ? white : 0;
+      sheet.At(x + column, y + row) = in ? image.At(column, row) : kWhite;
+      sheet.At(x + column, y + height + row) = in ? kWhite : 0;
     }
   }
 }
 
 void PaintColoured(Image& sheet, const Strip& strip) {
   Drawing drawing(strip.width, strip.height);
-  StrokeText(drawing, strip, serif, 0x240818, strip.rim);
-  StrokeText(drawing, strip, serif, 0x6C1820, strip.rim - 2);
-  StrokeText(drawing, strip, serif, 0xF0C868, 0.7);
-  Trace(drawing, strip, serif);
+  StrokeText(drawing, strip, kSerif, 0x240818, strip.rim);
+  StrokeText(drawing, strip, kSerif, 0x6C1820, strip.rim - 2);
+  StrokeText(drawing, strip, kSerif, 0xF0C868, 0.7);
+  Trace(drawing, strip, kSerif);
   drawing.FillTraced(
       Fill(0, 5, 0, 27, {{0, 0xFFFCE8}, {0.45, 0xFCE898}, {0.55, 0xF0BC58}, {1, 0xFFF0B0}}));
   PutPair(sheet, drawing, strip.x, strip.y, strip.width, strip.height);
@@ -86,13 +86,13 @@ void PaintColoured(Image& sheet, const Strip& strip) {
 
 void PaintPlain(Image& sheet, const Strip& strip) {
   Drawing drawing(strip.width, strip.height);
-  StrokeText(drawing, strip, plain_face, white, 0.8);
-  Trace(drawing, strip, plain_face);
-  drawing.FillTraced(white);
+  StrokeText(drawing, strip, kPlainFace, kWhite, 0.8);
+  Trace(drawing, strip, kPlainFace);
+  drawing.FillTraced(kWhite);
   const Cover body = drawing.Coverage();
   for (int y = 0; y < strip.height; ++y) {
     for (int x = 0; x < strip.width; ++x) {
-      if (Covered(body, x, y)) sheet.At(strip.x + x, strip.y + y) = white;
+      if (Covered(body, x, y)) sheet.At(strip.x + x, strip.y + y) = kWhite;
     }
   }
 }
@@ -104,8 +104,8 @@ Image PaintCredits() {
   Drawing title(400, 64);
   DrawTitleLetters(title);
   PutPair(sheet, title, 0, 0, 400, 64);
-  for (const Strip& strip : coloured) PaintColoured(sheet, strip);
-  for (const Strip& strip : plain) PaintPlain(sheet, strip);
+  for (const Strip& strip : kColoured) PaintColoured(sheet, strip);
+  for (const Strip& strip : kPlain) PaintPlain(sheet, strip);
   return sheet;
 }
 

@@ -15,8 +15,8 @@ using scene::Hex;
 using scene::Mix;
 
 // The upper left corner's piece; the others are its mirror images. A dot leaves the frame.
-constexpr std::array<std::string_view, 7> corner{"aaaaaaa", "aedddca", "adbbbba", "adbedba",
-                                                 "adbdcba", "acbbbaa", "aaaaaa."};
+constexpr std::array<std::string_view, 7> kCorner{"aaaaaaa", "aedddca", "adbbbba", "adbedba",
+                                                  "adbdcba", "acbbbaa", "aaaaaa."};
 
 Colour Paper(const Style& style, const Area& area, int x, int y) {
   const auto fx = static_cast<float>(x);
@@ -33,9 +33,9 @@ Colour Paper(const Style& style, const Area& area, int x, int y) {
 }
 
 void DrawCorners(Canvas& canvas, const Style& style, const Area& area) {
-  for (size_t row = 0; row < corner.size(); ++row) {
-    for (size_t column = 0; column < corner[row].size(); ++column) {
-      const char letter = corner[row][column];
+  for (size_t row = 0; row < kCorner.size(); ++row) {
+    for (size_t column = 0; column < kCorner[row].size(); ++column) {
+      const char letter = kCorner[row][column];
       if (letter == '.') continue;
       const Colour colour = Hex(style.corner[static_cast<size_t>(letter - 'a')]);
       const int in_x = static_cast<int>(column);

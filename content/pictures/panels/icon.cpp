@@ -12,12 +12,13 @@ namespace {
 using scene::Drawing;
 using scene::Fill;
 
-constexpr const char* socket = "M2 37 Q16 13 40 13 Q55 15 63 26 Q58 50 34 54 Q13 53 2 37 Z";
-constexpr const char* ball =
+constexpr const char* kSocket = "M2 37 Q16 13 40 13 Q55 15 63 26 Q58 50 34 54 Q13 53 2 37 Z";
+constexpr const char* kBall =
     "M7 36.5 Q20 19.5 40 19.5 Q51 20.5 58 28 Q53 44.5 34 47 Q17 47 7 36.5 Z";
-constexpr const char* brow = "M0 38 Q13 6 42 7 Q57 9 64 20 L64 27 Q54 15.5 40 15 Q18 15 3 39 Z";
-constexpr const char* lid = "M2 38 Q14 51.5 34 52 Q56 49 63 28 L64 34 Q58 56.5 34 59 Q11 57 0 41 Z";
-constexpr const char* slit = "M37 18.5 Q43.5 33 35.5 47.5 Q30 33 37 18.5 Z";
+constexpr const char* kBrow = "M0 38 Q13 6 42 7 Q57 9 64 20 L64 27 Q54 15.5 40 15 Q18 15 3 39 Z";
+constexpr const char* kLid =
+    "M2 38 Q14 51.5 34 52 Q56 49 63 28 L64 34 Q58 56.5 34 59 Q11 57 0 41 Z";
+constexpr const char* kSlit = "M37 18.5 Q43.5 33 35.5 47.5 Q30 33 37 18.5 Z";
 
 // Overlapping scales in rows, each a lit bow over a dark one.
 void DrawScales(Drawing& icon) {
@@ -37,11 +38,11 @@ void DrawScales(Drawing& icon) {
 }
 
 void DrawEye(Drawing& icon, int size) {
-  icon.Shape(socket, 0x200818);
-  icon.Shape(ball, Fill(20, 18, 30, 48,
-                        {{0, 0x9C4808}, {0.35, 0xE89C18}, {0.7, 0xFCD848}, {1, 0xFFF8B0}}));
+  icon.Shape(kSocket, 0x200818);
+  icon.Shape(kBall, Fill(20, 18, 30, 48,
+                         {{0, 0x9C4808}, {0.35, 0xE89C18}, {0.7, 0xFCD848}, {1, 0xFFF8B0}}));
   if (size >= 48) {
-    icon.Clip(ball);
+    icon.Clip(kBall);
     for (int ray = 0; ray < 28; ++ray) {
       icon.Place(36, 33, 1, 1, ray * 6.2831853 / 28);
       icon.Line("M5 0 L13 1.2", ray % 2 == 0 ? 0xB85C10U : 0xFFF0A0U, 0.9, 0.55);
@@ -50,8 +51,8 @@ void DrawEye(Drawing& icon, int size) {
     icon.Ellipse(36, 33, 6.5, 14.5, 0x8C3C08, 0.28);
     icon.Unclip();
   }
-  icon.Outlined(slit, 0x100410, 0x6C2C08, size >= 32 ? 1.0 : 0.2);
-  icon.Clip(ball);
+  icon.Outlined(kSlit, 0x100410, 0x6C2C08, size >= 32 ? 1.0 : 0.2);
+  icon.Clip(kBall);
   icon.Shape("M0 38 Q16 18 42 18.5 Q54 20 64 30 L64 24 Q52 12 40 12 Q16 12 0 34 Z", 0x3C1008, 0.5);
   icon.Unclip();
   icon.Ellipse(26, 28.5, size >= 32 ? 4.6 : 5.6, size >= 32 ? 3.2 : 4.4, 0xFFFFFF);
@@ -70,9 +71,9 @@ Image PaintIcon(int size) {
   if (size >= 32) DrawScales(icon);
   DrawEye(icon, size);
   const double border = size >= 48 ? 1.4 : 2.4;
-  icon.Outlined(brow, Fill(14, 8, 44, 24, {{0, 0xF48C4C}, {0.5, 0xB43428}, {1, 0x641828}}),
+  icon.Outlined(kBrow, Fill(14, 8, 44, 24, {{0, 0xF48C4C}, {0.5, 0xB43428}, {1, 0x641828}}),
                 0x240818, border);
-  icon.Outlined(lid, Fill(20, 46, 30, 60, {{0, 0xB03828}, {1, 0x4C1020}}), 0x240818, border);
+  icon.Outlined(kLid, Fill(20, 46, 30, 60, {{0, 0xB03828}, {1, 0x4C1020}}), 0x240818, border);
   if (size >= 48) {
     icon.Line("M6 29 Q18 10.5 41 10 Q52 11 58 16", 0xFCC088, 1.2, 0.8);
     icon.Line("M10 48 Q20 54 34 54.4 Q50 53 58 42", 0xE86C48, 1.0, 0.6);

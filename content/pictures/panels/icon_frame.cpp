@@ -14,20 +14,20 @@ using scene::Colour;
 using scene::Hex;
 using scene::Mix;
 
-constexpr float side = 64;
-constexpr float width = 4.6F;
-constexpr float boss = 4.3F;       // where a corner's boss stands, from both edges
-constexpr float boss_size = 4.3F;  // its radius
+constexpr float kSide = 64;
+constexpr float kWidth = 4.6F;
+constexpr float kBoss = 4.3F;      // where a corner's boss stands, from both edges
+constexpr float kBossSize = 4.3F;  // its radius
 
-constexpr std::array<uint32_t, 6> gold{0x2C140C, 0x6C3C14, 0xA86C20, 0xDCA83C, 0xF8DC74, 0xFFFCDC};
+constexpr std::array<uint32_t, 6> kGold{0x2C140C, 0x6C3C14, 0xA86C20, 0xDCA83C, 0xF8DC74, 0xFFFCDC};
 
 float FromEdge(float x, float y) {
-  return std::min(std::min(x, y), std::min(side - x, side - y));
+  return std::min(std::min(x, y), std::min(kSide - x, kSide - y));
 }
 
 // The nearest corner's boss: how far off, 1 on its rim.
 float FromBoss(float x, float y) {
-  return std::hypot(std::min(x, side - x) - boss, std::min(y, side - y) - boss) / boss_size;
+  return std::hypot(std::min(x, kSide - x) - kBoss, std::min(y, kSide - y) - kBoss) / kBossSize;
 }
 
 // Two rolls with a beaded groove between them, and bosses on the corners.
@@ -42,7 +42,7 @@ float Height(float x, float y) {
     const float t = (edge - middle) / half;
     return std::sqrt(std::max(0.0F, 1 - t * t)) * half;
   };
-  const bool upright = std::min(x, side - x) < std::min(y, side - y);
+  const bool upright = std::min(x, kSide - x) < std::min(y, kSide - y);
   const float along = (upright ? y : x) / 1.6F;
   const float bead_along = 2 * (along - std::floor(along)) - 1;
   const float bead_across = (edge - 2.5F) / 0.62F;
@@ -60,19 +60,19 @@ Colour Gilt(float x, float y) {
   const float worn = scene::Fbm(x * 0.45F, y * 0.45F, 3, 81) - 0.5F;
   const float tone = 0.10F + 0.62F * Clamp(0.45F + 0.55F * facing) + 0.16F * worn +
                      0.34F * std::pow(Clamp(facing), 10.0F);
-  Colour colour = scene::OnRamp(gold, tone);
+  Colour colour = scene::OnRamp(kGold, tone);
   const float off = FromBoss(x, y);
   if (off < 0.62F) {
     // A garnet in the boss.
     constexpr std::array<uint32_t, 5> garnet{0x280414, 0x6C0C24, 0xB82038, 0xF06070, 0xFFE8E0};
-    const float dx = (std::min(x, side - x) - boss) * (x < side / 2 ? 1.0F : -1.0F) / boss_size;
-    const float dy = (std::min(y, side - y) - boss) * (y < side / 2 ? 1.0F : -1.0F) / boss_size;
+    const float dx = (std::min(x, kSide - x) - kBoss) * (x < kSide / 2 ? 1.0F : -1.0F) / kBossSize;
+    const float dy = (std::min(y, kSide - y) - kBoss) * (y < kSide / 2 ? 1.0F : -1.0F) / kBossSize;
     const float spot = std::hypot(dx + 0.20F, dy + 0.24F);
     const float glow = 0.34F + 0.34F * (dx + dy) + 0.9F * std::exp(-spot * spot * 46) -
                        0.3F * SmoothStep(0.42F, 0.62F, off);
     colour = scene::OnRamp(garnet, glow);
   }
-  return Mix(colour, Hex(gold[0]), 0.8F * std::exp(-std::pow((off - 0.65F) / 0.07F, 2.0F)));
+  return Mix(colour, Hex(kGold[0]), 0.8F * std::exp(-std::pow((off - 0.65F) / 0.07F, 2.0F)));
 }
 
 }  // namespace
@@ -81,13 +81,13 @@ Colour IconFramed(Colour inside, float x, float y) {
   const float edge = FromEdge(x, y);
   const float off = FromBoss(x, y);
   if (edge < 0.36F && off > 1) return Hex(0x180C10);
-  if (edge < width || off < 1) {
-    const float seam = std::min(std::max(width - edge, (1 - off) * boss_size), edge - 0.2F);
+  if (edge < kWidth || off < 1) {
+    const float seam = std::min(std::max(kWidth - edge, (1 - off) * kBossSize), edge - 0.2F);
     return Mix(Hex(0x180C10), Gilt(x, y), SmoothStep(0.0F, 0.5F, seam));
   }
   // The frame's shadow falls to the right and downward.
   const float lit = FromEdge(x - 1.6F, y - 1.6F);
-  const float shadow = std::max(1 - SmoothStep(width - 0.6F, width + 2.4F, std::min(lit, edge)),
+  const float shadow = std::max(1 - SmoothStep(kWidth - 0.6F, kWidth + 2.4F, std::min(lit, edge)),
                                 1 - SmoothStep(0.9F, 1.5F, FromBoss(x - 1, y - 1)));
   return Mix(inside, Hex(0x140610), 0.72F * shadow);
 }

@@ -20,22 +20,22 @@ using scene::Noise;
 using scene::OnRamp;
 
 // Everything is measured in sixty-fourths of the icon's side.
-constexpr float corner_x = 5.5F;  // the eye's inner corner, and the way from it to the outer one
-constexpr float corner_y = 38;
-constexpr float axis_x = 0.981F;
-constexpr float axis_y = -0.194F;
-constexpr float axis_length = 55;
-constexpr float pupil_x = 36.5F;
-constexpr float pupil_y = 32.5F;
-constexpr float lid = 10.5F;  // how far the lids reach out from the eye, above
-constexpr float lower_lid = 7;
+constexpr float kCornerX = 5.5F;  // the eye's inner corner, and the way from it to the outer one
+constexpr float kCornerY = 38;
+constexpr float kAxisX = 0.981F;
+constexpr float kAxisY = -0.194F;
+constexpr float kAxisLength = 55;
+constexpr float kPupilX = 36.5F;
+constexpr float kPupilY = 32.5F;
+constexpr float kLid = 10.5F;  // how far the lids reach out from the eye, above
+constexpr float kLowerLid = 7;
 
-const Vec key = Unit({-0.52F, -0.66F, 0.62F});
+const Vec kKey = Unit({-0.52F, -0.66F, 0.62F});
 
-constexpr std::array<uint32_t, 8> skin{0x1E0818, 0x3C0E22, 0x6A1626, 0x9A2428,
-                                       0xC43E2A, 0xE06834, 0xF49C54, 0xFFDC9C};
-constexpr std::array<uint32_t, 7> iris{0x5C1C08, 0x9C4408, 0xD07C10, 0xF0AC20,
-                                       0xFCD448, 0xFFF088, 0xFFFCD8};
+constexpr std::array<uint32_t, 8> kSkin{0x1E0818, 0x3C0E22, 0x6A1626, 0x9A2428,
+                                        0xC43E2A, 0xE06834, 0xF49C54, 0xFFDC9C};
+constexpr std::array<uint32_t, 7> kIris{0x5C1C08, 0x9C4408, 0xD07C10, 0xF0AC20,
+                                        0xFCD448, 0xFFF088, 0xFFFCD8};
 
 // A place seen from the eye: how far along its axis, how far outside its rim (negative inside), and
 // on which side.
@@ -46,10 +46,10 @@ struct AboutEye {
 };
 
 AboutEye SeenFromEye(float x, float y) {
-  const float dx = x - corner_x;
-  const float dy = y - corner_y;
-  const float along = (dx * axis_x + dy * axis_y) / axis_length;
-  const float up = dx * axis_y - dy * axis_x;
+  const float dx = x - kCornerX;
+  const float dy = y - kCornerY;
+  const float along = (dx * kAxisX + dy * kAxisY) / kAxisLength;
+  const float up = dx * kAxisY - dy * kAxisX;
   const float bow = 4 * along * (1 - along);
   const float upper = 13.2F * bow * (1 + 0.34F * (along - 0.5F));
   const float lower = 13.4F * bow * (1 - 0.25F * (along - 0.5F));
@@ -68,7 +68,7 @@ struct Scale {
 };
 
 Scale ScaleAt(const AboutEye& at) {
-  const float from = at.above ? lid : lower_lid;
+  const float from = at.above ? kLid : kLowerLid;
   const float root = std::sqrt(std::max(0.0F, at.out - from) * 0.34F + 0.9F) * 2.6F;
   const int row = static_cast<int>(root);
   float best = -1;
@@ -77,7 +77,7 @@ Scale ScaleAt(const AboutEye& at) {
   for (const int each : {row, row - 1}) {
     const float tip = (root - static_cast<float>(each)) / 1.45F;
     const float wide = 5.2F + 0.55F * static_cast<float>(each);
-    const float along = at.along * axis_length / wide + (each % 2 == 0 ? 0 : 0.5F);
+    const float along = at.along * kAxisLength / wide + (each % 2 == 0 ? 0 : 0.5F);
     const float cell = std::floor(along);
     const float side = 2 * (along - cell) - 1;
     const float shape = 1 - side * side - std::pow(std::max(0.0F, tip), 3.0F) * 0.98F;
@@ -94,7 +94,7 @@ Scale ScaleAt(const AboutEye& at) {
 // How far the skin stands out towards the viewer.
 float SkinHeight(float x, float y) {
   const AboutEye at = SeenFromEye(x, y);
-  const float from = at.above ? lid : lower_lid;
+  const float from = at.above ? kLid : kLowerLid;
   const float share = Clamp(at.out / from);
   // A lid is a roll about the eye, its wet edge a smaller one.
   const float roll = (at.above ? 8.0F : 5.0F) * std::sqrt(std::max(0.0F, share * (1 - share) * 4));
@@ -117,9 +117,9 @@ Vec SkinNormal(float x, float y) {
 
 Colour Skin(float x, float y) {
   const AboutEye at = SeenFromEye(x, y);
-  const float from = at.above ? lid : lower_lid;
+  const float from = at.above ? kLid : kLowerLid;
   const Vec normal = SkinNormal(x, y);
-  const float facing = Dot(normal, key);
+  const float facing = Dot(normal, kKey);
   float light = 0.16F + 0.62F * Clamp(0.5F + 0.5F * facing) * Clamp(0.5F + 0.5F * facing);
   light += 0.24F * std::pow(Clamp(facing), 14.0F);
   // Light lies on the upper left of the whole head and fails towards the lower right.
@@ -133,7 +133,7 @@ Colour Skin(float x, float y) {
   } else {
     light += 0.05F * (Fbm(x * 0.5F, y * 0.5F, 3, 67) - 0.5F);
   }
-  Colour colour = OnRamp(skin, light);
+  Colour colour = OnRamp(kSkin, light);
   // A cool rim from behind on what turns away to the lower right.
   const float rim = std::pow(Clamp(Dot(normal, Unit({0.7F, 0.5F, 0.25F}))), 4.0F);
   colour = colour + Hex(0x5A3C9C) * (0.30F * rim);
@@ -141,8 +141,8 @@ Colour Skin(float x, float y) {
 }
 
 Colour Eye(float x, float y, float depth, bool fine) {
-  const float dx = x - pupil_x;
-  const float dy = y - pupil_y;
+  const float dx = x - kPupilX;
+  const float dy = y - kPupilY;
   const float radius = std::hypot(dx, dy);
   const float turn = std::atan2(dy, dx);
   // Fibres run outward from the pupil; they are drawn on a circle so that no seam shows.
@@ -158,9 +158,9 @@ Colour Eye(float x, float y, float depth, bool fine) {
   // The upper lid throws its shadow on the ball.
   const AboutEye shaded = SeenFromEye(x + 0.9F, y - 1.2F);
   const float lid_shadow =
-      SmoothStep(7.0F, 0.5F, -shaded.out) * SmoothStep(pupil_y + 5, pupil_y - 4, y);
+      SmoothStep(7.0F, 0.5F, -shaded.out) * SmoothStep(kPupilY + 5, kPupilY - 4, y);
   light = Mix(light, 0.16F, 0.62F * lid_shadow);
-  Colour colour = OnRamp(iris, light);
+  Colour colour = OnRamp(kIris, light);
   // The slit, a little aslant, with a burnt border and a pale one.
   const float lean = dx + 0.10F * dy;
   const float reach = dy / 14.6F;

@@ -9,8 +9,8 @@ Image PaintPortrait(std::span<const Mark> marks) {
   scene::Drawing drawing(size, size);
   for (const Mark& mark : marks) {
     if (mark.within != nullptr) drawing.Clip(mark.within);
-    if (mark.fill != none) drawing.Shape(mark.path, mark.fill, mark.opacity);
-    if (mark.line != none) drawing.Line(mark.path, mark.line, mark.width, mark.opacity);
+    if (mark.fill != kNone) drawing.Shape(mark.path, mark.fill, mark.opacity);
+    if (mark.line != kNone) drawing.Line(mark.path, mark.line, mark.width, mark.opacity);
     if (mark.within != nullptr) drawing.Unclip();
   }
   scene::Canvas canvas(size, size);

@@ -8,14 +8,14 @@
 
 namespace orvane::paint::panel {
 
-constexpr uint32_t none = 0xFFFFFFFF;
+constexpr uint32_t kNone = 0xFFFFFFFF;
 
 // One shape of a face: its path, its fill and border colour (or none), how wide the border is, how
 // much it covers, and the shape that it is cut to (or null).
 struct Mark {
   const char* path;
-  uint32_t fill = none;
-  uint32_t line = none;
+  uint32_t fill = kNone;
+  uint32_t line = kNone;
   double width = 0;
   double opacity = 1;
   const char* within = nullptr;

@@ -14,7 +14,7 @@ struct Letter {
   const char* path;
 };
 
-constexpr std::array<Letter, 6> letters{{
+constexpr std::array<Letter, 6> kLetters{{
     {58,
      "M29 4 Q46 4 54 16 Q59 24 58 33 Q56 48 44 55 Q36 60 27 59 Q10 58 3 44 Q-1 34 2 24 Q8 5 29 4 Z"
      " M28 9.5 Q19 10 15.4 20 Q12.4 29 14.4 39 Q17.6 52.6 29.6 53.6 Q40 53.6 44 43 Q47 34 45.6 25.4"
@@ -41,18 +41,18 @@ constexpr std::array<Letter, 6> letters{{
 }};
 
 // A tail that ends in a point, for both sides of the name; drawn to the left of x = 0.
-constexpr const char* flourish =
+constexpr const char* kFlourish =
     "M0 36 Q-14 27 -30 31 Q-44 35 -60 30 L-52 34 L-58 38 Q-44 40 -30 36 Q-14 32.4 -4 40 Z";
 
 void ForEachLetter(Drawing& drawing, const auto& draw) {
-  for (const Letter& letter : letters) {
+  for (const Letter& letter : kLetters) {
     drawing.Place(letter.x, 0, 1, 1);
     draw(letter.path);
     drawing.Replace();
   }
   for (const bool right : {false, true}) {
     drawing.Place(right ? 350 : 51, 0, right ? -0.74 : 0.74, 1);
-    draw(flourish);
+    draw(kFlourish);
     drawing.Replace();
   }
 }

@@ -41,20 +41,20 @@ struct Sign {
   std::array<uint32_t, 4> colours{};  // for the letters a to d
 };
 
-constexpr int sign_width = 7;
+constexpr int kSignWidth = 7;
 
 // Life and magic, beside their numbers.
-constexpr Sign heart{{".......", ".aa.aa.", "abcabba", "acdbbba", "abcbbba", "abbbbba", ".abbba.",
-                      "..aba..", "...a..."},
-                     {0x501020, 0xD83848, 0xF89090, 0xFFFFFF}};
-constexpr Sign drop{{"...a...", "..aba..", "..aba..", ".abcba.", ".abcba.", "abdcbba", "acdbbba",
-                     ".abbba.", "..aaa.."},
-                    {0x14205C, 0x3C6CD8, 0x90C8F8, 0xFFFFFF}};
+constexpr Sign kHeart{{".......", ".aa.aa.", "abcabba", "acdbbba", "abcbbba", "abbbbba", ".abbba.",
+                       "..aba..", "...a..."},
+                      {0x501020, 0xD83848, 0xF89090, 0xFFFFFF}};
+constexpr Sign kDrop{{"...a...", "..aba..", "..aba..", ".abcba.", ".abcba.", "abdcbba", "acdbbba",
+                      ".abbba.", "..aaa.."},
+                     {0x14205C, 0x3C6CD8, 0x90C8F8, 0xFFFFFF}};
 
 void DrawSign(Canvas& canvas, const Sign& sign, int left, int top) {
   int y = top;
   for (const std::string_view row : sign.rows) {
-    for (int x = 0; x < sign_width; ++x) {
+    for (int x = 0; x < kSignWidth; ++x) {
       const char letter = row[static_cast<size_t>(x)];
       if (letter != '.') {
         canvas.Blend(left + x, y, Hex(sign.colours[static_cast<size_t>(letter - 'a')]));
@@ -67,44 +67,44 @@ void DrawSign(Canvas& canvas, const Sign& sign, int left, int top) {
 // Where a face hangs: dark cloth in a frame, woven in lozenges, and a stone.
 void DrawNiche(Canvas& canvas, int left) {
   const Area area{left, 0, 50, 48};
-  DrawWindow(canvas, cloth, area);
+  DrawWindow(canvas, kCloth, area);
   for (int y = 7; y < 41; ++y) {
     for (int x = 7; x < 43; ++x) {
       const bool thread = (x + y) % 8 == 0 || (x - y + 48) % 8 == 0;
-      if (thread) canvas.Blend(left + x, y, Hex(cloth.rim), 0.5F);
+      if (thread) canvas.Blend(left + x, y, Hex(kCloth.rim), 0.5F);
     }
   }
-  DrawGem(canvas, parchment, left + 25, 24, {0xE8B840, 0xA86C20});
+  DrawGem(canvas, kParchment, left + 25, 24, {0xE8B840, 0xA86C20});
 }
 
 }  // namespace
 
 Image PaintMessageWindow() {
-  return Window(336, 64, parchment);
+  return Window(336, 64, kParchment);
 }
 Image PaintHeroName() {
-  return NameWindow(azure, {0x4C90E8, 0x2048A8});
+  return NameWindow(kAzure, {0x4C90E8, 0x2048A8});
 }
 Image PaintEnemyName() {
-  return NameWindow(crimson, {0xE84858, 0x981838});
+  return NameWindow(kCrimson, {0xE84858, 0x981838});
 }
 Image PaintVictoryPanel() {
   Canvas canvas(336, 93);
-  DrawWindow(canvas, parchment, {0, 0, 336, 93});
+  DrawWindow(canvas, kParchment, {0, 0, 336, 93});
   // A rule between the gains and the heroes' news, fading to both sides, with a lozenge on it, and
   // one between the two heroes.
   constexpr int rule = 36;
   constexpr int middle = 167;
   for (int off = -150; off <= 150; ++off) {
     const float cover = 0.9F - 0.0055F * static_cast<float>(std::abs(off));
-    canvas.Blend(middle + off, rule, Hex(parchment.shaded[1]), cover);
-    canvas.Blend(middle + off, rule + 1, Hex(parchment.lit[1]), cover);
+    canvas.Blend(middle + off, rule, Hex(kParchment.shaded[1]), cover);
+    canvas.Blend(middle + off, rule + 1, Hex(kParchment.lit[1]), cover);
   }
   for (int y = rule + 6; y < 84; ++y) {
-    canvas.Blend(middle, y, Hex(parchment.shaded[1]), 0.45F);
-    canvas.Blend(middle + 1, y, Hex(parchment.lit[2]), 0.45F);
+    canvas.Blend(middle, y, Hex(kParchment.shaded[1]), 0.45F);
+    canvas.Blend(middle + 1, y, Hex(kParchment.lit[2]), 0.45F);
   }
-  DrawGem(canvas, parchment, middle, rule, {0xE85858, 0xB02838});
+  DrawGem(canvas, kParchment, middle, rule, {0xE85858, 0xB02838});
   return scene::ToSheet(canvas);
 }
 
@@ -114,9 +114,9 @@ Image PaintStatusPanel() {
   // that border, for the texts begin at column 64 and the signs need room before them.
   for (const int left : {0, 240}) {
     DrawNiche(canvas, left);
-    DrawWindow(canvas, parchment, {left + 49, 0, 191, 48});
-    DrawSign(canvas, heart, left + 56, 11);
-    DrawSign(canvas, drop, left + 56, 27);
+    DrawWindow(canvas, kParchment, {left + 49, 0, 191, 48});
+    DrawSign(canvas, kHeart, left + 56, 11);
+    DrawSign(canvas, kDrop, left + 56, 27);
   }
   return scene::ToSheet(canvas);
 }

@@ -7,11 +7,11 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr std::array<std::array<int, 4>, 4> bayer{
+constexpr std::array<std::array<int, 4>, 4> kBayer{
     {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}}};
 
 float Threshold(int x, int y) {
-  const int rank = bayer[static_cast<size_t>(y & 3)][static_cast<size_t>(x & 3)];
+  const int rank = kBayer[static_cast<size_t>(y & 3)][static_cast<size_t>(x & 3)];
   return static_cast<float>(rank) / 16 - 0.47F;
 }
 

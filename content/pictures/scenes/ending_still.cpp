@@ -13,15 +13,16 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr std::array<uint32_t, 6> grass{0x14203C, 0x20404C, 0x3C6448, 0x74904C, 0xC0B85C, 0xFCE890};
-constexpr std::array<uint32_t, 5> hillside{0x101430, 0x1C2840, 0x34483C, 0x646C3C, 0xA89850};
-constexpr std::array<uint32_t, 5> rock{0x28204C, 0x503C68, 0x8C5C78, 0xD0948C, 0xFCD8A8};
-constexpr std::array<uint32_t, 5> leaves{0x10182C, 0x1C3438, 0x3C5838, 0x807C3C, 0xD8B858};
-constexpr std::array<uint32_t, 4> blades{0x14283C, 0x345440, 0x809048, 0xE8D470};
-constexpr float water_level = -4;
+constexpr std::array<uint32_t, 6> kGrass{0x14203C, 0x20404C, 0x3C6448,
+                                         0x74904C, 0xC0B85C, 0xFCE890};
+constexpr std::array<uint32_t, 5> kHillside{0x101430, 0x1C2840, 0x34483C, 0x646C3C, 0xA89850};
+constexpr std::array<uint32_t, 5> kRock{0x28204C, 0x503C68, 0x8C5C78, 0xD0948C, 0xFCD8A8};
+constexpr std::array<uint32_t, 5> kLeaves{0x10182C, 0x1C3438, 0x3C5838, 0x807C3C, 0xD8B858};
+constexpr std::array<uint32_t, 4> kBlades{0x14283C, 0x345440, 0x809048, 0xE8D470};
+constexpr float kWaterLevel = -4;
 // Left of the lines of text, which are white and have no rim.
-constexpr Vec sun{-0.47F, 0.052F, 1};
-constexpr View view{908, 600, 396, 640, 30};
+constexpr Vec kSun{-0.47F, 0.052F, 1};
+constexpr View kView{908, 600, 396, 640, 30};
 
 class Dawn : public Terrain {
  public:
@@ -38,23 +39,23 @@ class Dawn : public Terrain {
   Colour Ground(const Spot& spot) const override {
     const Vec p = spot.place;
     const float fine = Fbm(p.X * 0.3F, p.Z * 0.3F, 4, 8) - 0.5F;
-    if (p.Y < water_level) {
+    if (p.Y < kWaterLevel) {
       const float ripple = Noise(p.X * 0.2F, p.Z * 0.05F, 12) - 0.5F;
-      const Vec way = Unit({p.X, view.eye - p.Y, p.Z});
+      const Vec way = Unit({p.X, kView.eye - p.Y, p.Z});
       const Vec mirrored = Unit({way.X + 0.03F * ripple, way.Y * (1 + 0.5F * ripple), way.Z});
       return Sky(mirrored) * 0.86F;
     }
     const float light = 0.16F + 0.14F * spot.normal.Y + 0.74F * spot.sun;
     const float big = Fbm(p.X * 0.02F, p.Z * 0.02F, 4, 7) - 0.5F;
-    const Colour ground = OnRamp(grass, light * 0.8F + 0.4F * big + 0.2F * fine);
+    const Colour ground = OnRamp(kGrass, light * 0.8F + 0.4F * big + 0.2F * fine);
     const float steep = SmoothStep(0.22F, 0.42F, 1 - spot.normal.Y) + SmoothStep(460, 520, p.Z);
-    return Mix(ground, OnRamp(rock, light + 0.2F * fine), steep);
+    return Mix(ground, OnRamp(kRock, light + 0.2F * fine), steep);
   }
 
   Colour Sky(Vec direction) const override {
     const float up = Clamp(direction.Y / direction.Z / 0.6F);
-    const float x = direction.X / direction.Z - sun.X;
-    const float y = direction.Y / direction.Z - sun.Y;
+    const float x = direction.X / direction.Z - kSun.X;
+    const float y = direction.Y / direction.Z - kSun.Y;
     const float from_sun = std::sqrt(x * x + y * y);
     // The horizon is golden about the sun and rose elsewhere.
     const float gold = std::exp(-from_sun * 4.4F);
@@ -73,7 +74,7 @@ class Dawn : public Terrain {
     return Mix(Hex(0xFFFAE0), clouded, SmoothStep(0.040F, 0.046F, from_sun));
   }
   Colour Haze(Vec direction) const override {
-    const float off = std::fabs(direction.X / direction.Z - sun.X);
+    const float off = std::fabs(direction.X / direction.Z - kSun.X);
     return Mix(Hex(0x8C5884), Hex(0xE89C80), std::exp(-off * 5));
   }
   float HazeCover(float distance) const override {
@@ -88,16 +89,16 @@ void PlantTrees(Dresser& dresser, const Dawn& land) {
     const float z = 130 + Hash(k, 5, 40) * 320;
     const float x = (Hash(k, 8, 40) - 0.5F) * 1.6F * z;
     if (Fbm(x * 0.017F + 40, z * 0.02F, 3, 41) < 0.53F) continue;
-    if (land.Height(x, z, 6) < water_level + 1.5F) continue;
+    if (land.Height(x, z, 6) < kWaterLevel + 1.5F) continue;
     trees.push_back({x, z, 2.2F + 2.2F * Hash(k, 2, 40), k});
   }
   std::sort(trees.begin(), trees.end(),
             [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : trees) {
     if (Hash(at.seed, 3, 40) < 0.4F)
-      dresser.Fir({at.X, at.Z, at.size * 1.3F, at.seed}, leaves);
+      dresser.Fir({at.X, at.Z, at.size * 1.3F, at.seed}, kLeaves);
     else
-      dresser.Tree(at, leaves);
+      dresser.Tree(at, kLeaves);
   }
 }
 
@@ -116,7 +117,7 @@ void DrawHill(Canvas& canvas) {
       const float below = row - top;
       const float patch = Fbm(column * 0.012F, row * 0.03F, 5, 91) - 0.5F;
       const float light = 0.42F + 0.4F * patch + 0.5F * std::exp(-below * 0.16F) - below * 0.0034F;
-      canvas.Blend(x, y, OnRamp(hillside, light));
+      canvas.Blend(x, y, OnRamp(kHillside, light));
     }
   }
   for (int k = 0; k < 2600; ++k) {
@@ -130,7 +131,7 @@ void DrawHill(Canvas& canvas) {
       const float share = up / length;
       const float tone = 0.25F + 0.75F * share - 0.62F * depth - 0.12F * Hash(k, 5, 92);
       canvas.Blend(static_cast<int>(x + lean * share * up), static_cast<int>(foot - up),
-                   OnRamp(blades, tone));
+                   OnRamp(kBlades, tone));
     }
   }
 }
@@ -165,8 +166,8 @@ void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& m
 
 Image PaintEndingStill() {
   const Dawn land;
-  Painting painting = PaintTerrain(land, view);
-  Dresser dresser(land, view, painting);
+  Painting painting = PaintTerrain(land, kView);
+  Dresser dresser(land, kView, painting);
   PlantTrees(dresser, land);
   Canvas canvas = Painted(painting.canvas, 2, 0.75F);
   // Right of the lines of text, as the sun is left of them.

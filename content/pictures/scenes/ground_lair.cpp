@@ -11,24 +11,25 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr std::array<uint32_t, 6> slate{0x140C28, 0x282048, 0x40386C, 0x645C94, 0x9890B8, 0xD8D0DC};
-constexpr std::array<uint32_t, 6> marble{0x181030, 0x342850, 0x5C4874,
-                                         0x8C7898, 0xC4B0B8, 0xF4E8D4};
-constexpr std::array<uint32_t, 6> gold{0x2C1830, 0x603840, 0xA06C40, 0xD8A850, 0xF8E090, 0xFFFCE0};
-constexpr std::array<uint32_t, 5> crystal{0x106080, 0x18A0B0, 0x40DCD0, 0xA8F8E8, 0xFFFFFF};
-constexpr std::array<uint32_t, 6> radiance{0x184878, 0x2088A0, 0x58C8B8,
-                                           0xC8E8A0, 0xFCF0B0, 0xFFFFF0};
-constexpr Vec key{-0.55F, 0.78F, -0.3F};
+constexpr std::array<uint32_t, 6> kSlate{0x140C28, 0x282048, 0x40386C,
+                                         0x645C94, 0x9890B8, 0xD8D0DC};
+constexpr std::array<uint32_t, 6> kMarble{0x181030, 0x342850, 0x5C4874,
+                                          0x8C7898, 0xC4B0B8, 0xF4E8D4};
+constexpr std::array<uint32_t, 6> kGold{0x2C1830, 0x603840, 0xA06C40, 0xD8A850, 0xF8E090, 0xFFFCE0};
+constexpr std::array<uint32_t, 5> kCrystal{0x106080, 0x18A0B0, 0x40DCD0, 0xA8F8E8, 0xFFFFFF};
+constexpr std::array<uint32_t, 6> kRadiance{0x184878, 0x2088A0, 0x58C8B8,
+                                            0xC8E8A0, 0xFCF0B0, 0xFFFFF0};
+constexpr Vec kKey{-0.55F, 0.78F, -0.3F};
 
 // The disc: rings and rays that brighten towards the middle.
 Colour DiscColour(Vec p) {
-  const float x = p.X - disc_centre.X;
-  const float y = p.Y - disc_centre.Y;
-  const float radius = std::sqrt(x * x + y * y) / disc_radius;
+  const float x = p.X - kDiscCentre.X;
+  const float y = p.Y - kDiscCentre.Y;
+  const float radius = std::sqrt(x * x + y * y) / kDiscRadius;
   const float angle = std::atan2(y, x);
   const float rays = 0.13F * std::sin(angle * 16) * SmoothStep(0.42F, 0.55F, radius);
   const float rings = radius > 0.4F ? 0.11F * std::cos(radius * 34) : 0.0F;
-  return OnRamp(radiance, 1.02F - 0.95F * SmoothStep(0.05F, 1.0F, radius) + rays + rings);
+  return OnRamp(kRadiance, 1.02F - 0.95F * SmoothStep(0.05F, 1.0F, radius) + rays + rings);
 }
 
 float SlabTone(Vec p) {
@@ -73,11 +74,11 @@ float SignLight(Vec p) {
 Colour Surface(const Hit& hit, Vec direction) {
   if (hit.stuff == Stuff::Disc) return DiscColour(hit.place);
   const Vec normal = NormalAt(hit.place, 0.05F + hit.distance * 0.001F);
-  const Vec lamp = Unit(key);
+  const Vec lamp = Unit(kKey);
   const float facing = Clamp(Dot(normal, lamp) * 0.75F + 0.25F);
   const float shadow = facing > 0 ? Shadow(hit.place + normal * 0.2F, lamp) : 0;
   const float open = Openness(hit.place, normal);
-  const float gate = Glow(hit.place, normal, disc_centre + Vec{0, 0, -22}, 2600);
+  const float gate = Glow(hit.place, normal, kDiscCentre + Vec{0, 0, -22}, 2600);
   const float rim = std::pow(Clamp(1 + Dot(normal, direction)), 3.0F) * 0.18F;
   float light =
       0.02F + 0.10F * open + 0.62F * facing * facing * (0.3F + 0.7F * shadow) * open + rim;
@@ -86,32 +87,32 @@ Colour Surface(const Hit& hit, Vec direction) {
   switch (hit.stuff) {
     case Stuff::Floor:
       light = 0.05F + 0.18F * open + 0.20F * shadow + SlabTone(p) + 0.16F * Pool(p);
-      colour = OnRamp(slate, light);
+      colour = OnRamp(kSlate, light);
       break;
     case Stuff::Pillar: {
       const float vein = Fbm(p.X * 0.2F + p.Y * 0.05F, p.Y * 0.11F + p.Z * 0.2F, 4, 7) - 0.5F;
-      colour = OnRamp(marble, light * 1.12F + 0.24F * vein);
+      colour = OnRamp(kMarble, light * 1.12F + 0.24F * vein);
       // Bands of old gilding run round the shafts.
       if (std::fabs(p.Y - 15) < 0.9F || std::fabs(p.Y - 3.6F) < 0.8F) {
-        colour = OnRamp(gold, light * 1.2F + 0.2F * vein);
+        colour = OnRamp(kGold, light * 1.2F + 0.2F * vein);
       }
       break;
     }
     case Stuff::Gate:
-      colour = OnRamp(gold, light * 1.1F + std::min(gate, 1.2F) * 0.3F);
+      colour = OnRamp(kGold, light * 1.1F + std::min(gate, 1.2F) * 0.3F);
       break;
     case Stuff::Crystal: {
       const float face = 0.30F + 0.45F * Clamp(Dot(normal, lamp)) + rim * 1.6F + 0.02F * p.Y;
-      return OnRamp(crystal, face);
+      return OnRamp(kCrystal, face);
     }
     default: {
       const float grain = Fbm(p.Y * 0.15F + p.X * 0.1F, p.Z * 0.15F, 4, 9) - 0.5F;
-      colour = OnRamp(slate, light * 0.62F + 0.20F * grain);
+      colour = OnRamp(kSlate, light * 0.62F + 0.20F * grain);
     }
   }
   colour = colour + Hex(0xFFD898) * (std::min(gate, 1.0F) * 0.22F * open);
-  for (const float depth : crystal_depths) {
-    for (const float side : {-crystal_side, crystal_side}) {
+  for (const float depth : kCrystalDepths) {
+    for (const float side : {-kCrystalSide, kCrystalSide}) {
       const float glow = Glow(p, normal, {side, 7, depth - 4}, 150);
       colour = colour + Hex(0x30E0D0) * (std::min(glow, 0.9F) * 0.6F * open);
     }
@@ -155,9 +156,9 @@ Colour Look(Vec from, Vec direction) {
 Colour Air(const View& view, int x, int y) {
   const float column = static_cast<float>(x);
   const float row = static_cast<float>(y);
-  const float off_x = column - view.ColumnOf(disc_centre.X, disc_centre.Z);
-  const float off_y = row - view.RowOf(disc_centre.Y, disc_centre.Z);
-  const float size = disc_radius / disc_centre.Z * view.focal;
+  const float off_x = column - view.ColumnOf(kDiscCentre.X, kDiscCentre.Z);
+  const float off_y = row - view.RowOf(kDiscCentre.Y, kDiscCentre.Z);
+  const float size = kDiscRadius / kDiscCentre.Z * view.focal;
   const float near = std::exp(-(off_x * off_x + off_y * off_y) / (size * size * 6));
   const float slanted = (column + row * 0.55F) / static_cast<float>(view.width);
   const float beam = SmoothStep(0.56F, 0.78F, Fbm(slanted * 7, 0.5F, 3, 17));

@@ -11,19 +11,20 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr std::array<uint32_t, 6> grass{0x12402C, 0x1C5C34, 0x34803A, 0x5CA444, 0x90C454, 0xC8E078};
-constexpr std::array<uint32_t, 5> earth{0x5C4430, 0x8C6C44, 0xB4945C, 0xD8BC80, 0xF0DCA8};
-constexpr std::array<uint32_t, 6> rock{0x303450, 0x4C5470, 0x748090, 0xA4ACB0, 0xD8DCD4, 0xFFFFF4};
-constexpr std::array<uint32_t, 4> snow{0x7C8CC0, 0xACC0E0, 0xECF4FC, 0xFFFFFF};
-constexpr std::array<uint32_t, 3> forest{0x1C4048, 0x306054, 0x5C8C60};
-constexpr std::array<uint32_t, 4> water{0x2C6CA8, 0x5CA0D0, 0xA8D8F0, 0xF0FCFF};
-constexpr std::array<uint32_t, 6> warm_leaves{0x1C2C28, 0x2C4428, 0x4C6C2C,
+constexpr std::array<uint32_t, 6> kGrass{0x12402C, 0x1C5C34, 0x34803A,
+                                         0x5CA444, 0x90C454, 0xC8E078};
+constexpr std::array<uint32_t, 5> kEarth{0x5C4430, 0x8C6C44, 0xB4945C, 0xD8BC80, 0xF0DCA8};
+constexpr std::array<uint32_t, 6> kRock{0x303450, 0x4C5470, 0x748090, 0xA4ACB0, 0xD8DCD4, 0xFFFFF4};
+constexpr std::array<uint32_t, 4> kSnow{0x7C8CC0, 0xACC0E0, 0xECF4FC, 0xFFFFFF};
+constexpr std::array<uint32_t, 3> kForest{0x1C4048, 0x306054, 0x5C8C60};
+constexpr std::array<uint32_t, 4> kWater{0x2C6CA8, 0x5CA0D0, 0xA8D8F0, 0xF0FCFF};
+constexpr std::array<uint32_t, 6> kWarmLeaves{0x1C2C28, 0x2C4428, 0x4C6C2C,
                                               0x789038, 0xACBC4C, 0xE4E47C};
-constexpr std::array<uint32_t, 6> leaves{0x0C2C30, 0x144430, 0x246434,
-                                         0x448C38, 0x7CB848, 0xBCE064};
-constexpr std::array<uint32_t, 5> blades{0x1C5830, 0x307C34, 0x60AC40, 0xA0D454, 0xE0F098};
-constexpr std::array<uint32_t, 4> stone{0x383C54, 0x646C80, 0x98A0A4, 0xCCD0C4};
-constexpr float water_level = -2.2F;
+constexpr std::array<uint32_t, 6> kLeaves{0x0C2C30, 0x144430, 0x246434,
+                                          0x448C38, 0x7CB848, 0xBCE064};
+constexpr std::array<uint32_t, 5> kBlades{0x1C5830, 0x307C34, 0x60AC40, 0xA0D454, 0xE0F098};
+constexpr std::array<uint32_t, 4> kStone{0x383C54, 0x646C80, 0x98A0A4, 0xCCD0C4};
+constexpr float kWaterLevel = -2.2F;
 
 class OpenLand : public Terrain {
  public:
@@ -44,23 +45,23 @@ class OpenLand : public Terrain {
     float fine = Fbm(p.X * 0.7F, p.Z * 0.7F, 4, 8);
     fine = Mix(fine, 0.5F, SmoothStep(60, 170, spot.distance));
     const float light = 0.30F + 0.16F * spot.normal.Y + 0.72F * spot.sun;
-    if (p.Z > 90 && p.Z < 420 && p.Y < water_level) {
+    if (p.Z > 90 && p.Z < 420 && p.Y < kWaterLevel) {
       const float ripple = Noise(p.X * 0.3F, p.Z * 0.05F, 12);
-      return OnRamp(water, 0.35F + 0.5F * (ripple - 0.3F));
+      return OnRamp(kWater, 0.35F + 0.5F * (ripple - 0.3F));
     }
     // Bands of cloud shadow lie across the land.
     const float cloud = SmoothStep(0.48F, 0.60F, Fbm(p.X * 0.010F + 3, p.Z * 0.022F, 3, 9));
     const float lit = light * (1.04F - 0.36F * cloud);
-    Colour ground = OnRamp(grass, lit * 0.62F + (big - 0.5F) * 0.42F + (fine - 0.5F) * 0.26F);
+    Colour ground = OnRamp(kGrass, lit * 0.62F + (big - 0.5F) * 0.42F + (fine - 0.5F) * 0.26F);
     const float track = std::fabs(p.X - Track(p.Z)) + 1.6F * (fine - 0.5F) + 2 * (big - 0.5F);
     const float bare = SmoothStep(2.9F, 1.7F, track) * SmoothStep(360, 240, p.Z);
-    ground = Mix(ground, OnRamp(earth, lit * 0.62F + (fine - 0.5F) * 0.4F), bare * 0.85F);
-    if (p.Z > 420) ground = Mix(ground, OnRamp(forest, light), 0.75F);
+    ground = Mix(ground, OnRamp(kEarth, lit * 0.62F + (fine - 0.5F) * 0.4F), bare * 0.85F);
+    if (p.Z > 420) ground = Mix(ground, OnRamp(kForest, light), 0.75F);
     const float steep = SmoothStep(0.30F, 0.5F, 1 - spot.normal.Y);
-    Colour result = Mix(ground, OnRamp(rock, light * 0.9F + (fine - 0.5F) * 0.2F), steep);
+    Colour result = Mix(ground, OnRamp(kRock, light * 0.9F + (fine - 0.5F) * 0.2F), steep);
     const float snow_line = SmoothStep(76, 112, p.Y + 40 * (big - 0.5F) + 30 * (spot.sun - 0.4F));
     const float holds = 1 - SmoothStep(0.5F, 0.75F, 1 - spot.normal.Y);
-    return Mix(result, OnRamp(snow, light * 1.05F), snow_line * holds);
+    return Mix(result, OnRamp(kSnow, light * 1.05F), snow_line * holds);
   }
 
   Colour Sky(Vec direction) const override {
@@ -91,7 +92,7 @@ void Dress(Dresser& dresser, const OpenLand& land) {
     const float z = 120 + Hash(k, 5, 40) * 320;
     const float x = (Hash(k, 8, 40) - 0.5F) * 1.7F * z;
     if (Fbm(x * 0.017F + 40, z * 0.03F, 3, 41) < 0.565F) continue;
-    if (land.Height(x, z, 6) < water_level + 1.5F) continue;
+    if (land.Height(x, z, 6) < kWaterLevel + 1.5F) continue;
     if (std::fabs(x - OpenLand::Track(z)) < 14) continue;
     things.push_back({x, z, 2.6F + 2.4F * Hash(k, 2, 40), k});
   }
@@ -99,9 +100,9 @@ void Dress(Dresser& dresser, const OpenLand& land) {
             [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : things) {
     if (Hash(at.seed, 3, 40) < 0.3F)
-      dresser.Fir({at.X, at.Z, at.size * 1.4F, at.seed}, leaves);
+      dresser.Fir({at.X, at.Z, at.size * 1.4F, at.seed}, kLeaves);
     else
-      dresser.Tree(at, Hash(at.seed, 4, 40) < 0.22F ? RampView(warm_leaves) : RampView(leaves));
+      dresser.Tree(at, Hash(at.seed, 4, 40) < 0.22F ? RampView(kWarmLeaves) : RampView(kLeaves));
   }
   things.clear();
   for (int k = 0; k < 1500; ++k) {
@@ -116,15 +117,15 @@ void Dress(Dresser& dresser, const OpenLand& land) {
     const int kind = static_cast<int>(Hash(at.seed, 11, 50) * 100);
     if (land.Height(at.X, at.Z, 6) > 4) continue;
     if (kind < 4) {
-      dresser.Stone({at.X, at.Z, at.size * 0.5F, at.seed}, stone, Hex(0x143C30));
+      dresser.Stone({at.X, at.Z, at.size * 0.5F, at.seed}, kStone, Hex(0x143C30));
     } else if (kind < 10) {
       dresser.Flowers(at,
                       kind < 6   ? Hex(0xFFF4A0)
                       : kind < 8 ? Hex(0xFFFFFF)
                                  : Hex(0xF4A8C8),
-                      blades);
+                      kBlades);
     } else {
-      dresser.Tuft(at, blades);
+      dresser.Tuft(at, kBlades);
     }
   }
 }

@@ -12,11 +12,11 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr std::array<uint32_t, 6> rock{0x2C2038, 0x543848, 0x8C5850, 0xBC8460, 0xDCB07C, 0xF4DCA8};
-constexpr std::array<uint32_t, 6> soil{0x3C2C38, 0x644844, 0x906850, 0xB48C64, 0xD0AC80, 0xE8CCA0};
-constexpr std::array<uint32_t, 4> scrub{0x343028, 0x5C5838, 0x8C8450, 0xB8AC70};
-constexpr std::array<uint32_t, 5> stone{0x38283C, 0x60484C, 0x907060, 0xC09C7C, 0xE8CCA0};
-constexpr std::array<uint32_t, 4> blades{0x3C3428, 0x645C38, 0x988C4C, 0xCCC078};
+constexpr std::array<uint32_t, 6> kRock{0x2C2038, 0x543848, 0x8C5850, 0xBC8460, 0xDCB07C, 0xF4DCA8};
+constexpr std::array<uint32_t, 6> kSoil{0x3C2C38, 0x644844, 0x906850, 0xB48C64, 0xD0AC80, 0xE8CCA0};
+constexpr std::array<uint32_t, 4> kScrub{0x343028, 0x5C5838, 0x8C8450, 0xB8AC70};
+constexpr std::array<uint32_t, 5> kStone{0x38283C, 0x60484C, 0x907060, 0xC09C7C, 0xE8CCA0};
+constexpr std::array<uint32_t, 4> kBlades{0x3C3428, 0x645C38, 0x988C4C, 0xCCC078};
 
 class Waste : public Terrain {
  public:
@@ -46,17 +46,17 @@ class Waste : public Terrain {
     const float light = 0.26F + 0.16F * spot.normal.Y + 0.72F * spot.sun;
     const float cloud = SmoothStep(0.50F, 0.62F, Fbm(p.X * 0.007F + 5, p.Z * 0.013F, 3, 10));
     const float lit = light * (1 - 0.2F * cloud);
-    Colour ground = OnRamp(soil, lit * 0.66F + (big - 0.5F) * 0.4F + (fine - 0.5F) * 0.28F);
+    Colour ground = OnRamp(kSoil, lit * 0.66F + (big - 0.5F) * 0.4F + (fine - 0.5F) * 0.28F);
     // Mud plates: dark gaps that fade with the distance and lie in patches.
     const float gap = CellBorder(p.X * 0.22F + 0.35F * fine, p.Z * 0.22F + 0.3F * fine, 11);
     const float patch = SmoothStep(0.36F, 0.5F, big) * SmoothStep(110, 30, spot.distance);
-    ground = Mix(ground, OnRamp(soil, 0.12F), SmoothStep(0.075F, 0.02F, gap) * patch * 0.62F);
+    ground = Mix(ground, OnRamp(kSoil, 0.12F), SmoothStep(0.075F, 0.02F, gap) * patch * 0.62F);
     const float green = SmoothStep(0.54F, 0.62F, Fbm(p.X * 0.03F + 31, p.Z * 0.03F, 4, 12));
-    ground = Mix(ground, OnRamp(scrub, lit * 0.75F + (fine - 0.5F) * 0.5F), green * 0.6F);
+    ground = Mix(ground, OnRamp(kScrub, lit * 0.75F + (fine - 0.5F) * 0.5F), green * 0.6F);
     // Strata follow the height, a little warped.
     const float strata = Fbm(p.Y * 0.34F + p.X * 0.01F, p.Y * 0.02F + 3, 3, 13);
     const float tone = light * 0.84F + (strata - 0.5F) * 0.4F + (fine - 0.5F) * 0.2F;
-    return Mix(ground, OnRamp(rock, tone), SmoothStep(0.10F, 0.26F, 1 - spot.normal.Y));
+    return Mix(ground, OnRamp(kRock, tone), SmoothStep(0.10F, 0.26F, 1 - spot.normal.Y));
   }
 
   Colour Sky(Vec direction) const override {
@@ -99,9 +99,9 @@ void Dress(Dresser& dresser, const Waste& land) {
     if (land.Height(at.X, at.Z, 6) > 4) continue;
     if (Hash(at.seed, 11, 60) < 0.3F) {
       const float size = Hash(at.seed, 12, 60) * Hash(at.seed, 13, 60);
-      dresser.Stone({at.X, at.Z, 0.1F + 0.42F * size, at.seed}, stone, Hex(0x4C3440));
+      dresser.Stone({at.X, at.Z, 0.1F + 0.42F * size, at.seed}, kStone, Hex(0x4C3440));
     } else if (Fbm(at.X * 0.03F + 31, at.Z * 0.03F, 4, 12) > 0.53F) {
-      dresser.Tuft(at, blades);
+      dresser.Tuft(at, kBlades);
     }
   }
 }

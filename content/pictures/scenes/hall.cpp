@@ -8,10 +8,10 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr float pillar_side = 37;
-constexpr float pillar_gap = 38;
-constexpr float first_pillar = 64;
-constexpr float last_pillar = 4;  // the number of the last pair
+constexpr float kPillarSide = 37;
+constexpr float kPillarGap = 38;
+constexpr float kFirstPillar = 64;
+constexpr float kLastPillar = 4;  // the number of the last pair
 
 float Box(Vec p, Vec half) {
   const Vec q{std::fabs(p.X) - half.X, std::fabs(p.Y) - half.Y, std::fabs(p.Z) - half.Z};
@@ -21,10 +21,10 @@ float Box(Vec p, Vec half) {
 
 // A fluted shaft between square stones; some shafts are broken off.
 float Pillar(Vec p) {
-  const float number = std::clamp(std::round((p.Z - first_pillar) / pillar_gap), 0.0F, last_pillar);
+  const float number = std::clamp(std::round((p.Z - kFirstPillar) / kPillarGap), 0.0F, kLastPillar);
   const int side = p.X < 0 ? 0 : 1;
   const int seed = static_cast<int>(number) * 2 + side;
-  const Vec q{std::fabs(p.X) - pillar_side, p.Y, p.Z - first_pillar - number * pillar_gap};
+  const Vec q{std::fabs(p.X) - kPillarSide, p.Y, p.Z - kFirstPillar - number * kPillarGap};
   const float round = std::sqrt(q.X * q.X + q.Z * q.Z);
   const float angle = std::atan2(q.Z, q.X);
   const float flute = 0.16F * std::fabs(std::sin(angle * 7));
@@ -56,8 +56,8 @@ float Rock(Vec p) {
 
 float Crystal(Vec p) {
   float nearest = 99;
-  for (const float depth : crystal_depths) {
-    const Vec q{std::fabs(p.X) - crystal_side, p.Y, p.Z - depth};
+  for (const float depth : kCrystalDepths) {
+    const Vec q{std::fabs(p.X) - kCrystalSide, p.Y, p.Z - depth};
     if (Length(q) > 30) {
       nearest = std::min(nearest, Length(q) - 24);
       continue;
@@ -97,14 +97,14 @@ Solid HallAt(Vec place) {
     offer(Box(place - middle, {30 - 1.5F * static_cast<float>(step), up * 0.5F + 0.8F, 40}),
           Stuff::Gate);
   }
-  const Vec from_disc = place - disc_centre;
+  const Vec from_disc = place - kDiscCentre;
   const float round = std::sqrt(from_disc.X * from_disc.X + from_disc.Y * from_disc.Y);
-  const float wall = std::max(disc_centre.Z + 2 - place.Z, disc_radius - round);
+  const float wall = std::max(kDiscCentre.Z + 2 - place.Z, kDiscRadius - round);
   offer(wall * 0.9F, Stuff::Rock);
   const float ring =
-      std::max(std::fabs(round - disc_radius - 2.4F) - 2.4F, std::fabs(from_disc.Z) - 2.5F);
+      std::max(std::fabs(round - kDiscRadius - 2.4F) - 2.4F, std::fabs(from_disc.Z) - 2.5F);
   offer(ring, Stuff::Gate);
-  offer(disc_centre.Z + 3 - place.Z, Stuff::Disc);
+  offer(kDiscCentre.Z + 3 - place.Z, Stuff::Disc);
   return best;
 }
 

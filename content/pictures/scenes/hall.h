@@ -8,11 +8,11 @@ namespace orvane::paint::scene {
 enum class Stuff { Floor, Pillar, Rock, Gate, Disc, Crystal };
 
 // The middle of the glowing disc behind the hall, and its radius.
-constexpr Vec disc_centre{0, 41, 262};
-constexpr float disc_radius = 25;
+constexpr Vec kDiscCentre{0, 41, 262};
+constexpr float kDiscRadius = 25;
 // Where crystals grow, one cluster on each side of the hall at these depths.
-constexpr float crystal_side = 34;
-constexpr float crystal_depths[] = {84, 158};
+constexpr float kCrystalSide = 34;
+constexpr float kCrystalDepths[] = {84, 158};
 
 struct Solid {
   float distance = 0;  // to the nearest stone, a lower bound

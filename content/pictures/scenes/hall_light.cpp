@@ -7,14 +7,14 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr float sight = 320;
+constexpr float kSight = 320;
 
 }  // namespace
 
 Hit March(Vec from, Vec direction, int steps) {
   float reach = 0.5F;
   Solid solid;
-  for (int step = 0; step < steps && reach < sight; ++step) {
+  for (int step = 0; step < steps && reach < kSight; ++step) {
     solid = HallAt(from + direction * reach);
     if (solid.distance < 0.01F + reach * 0.0006F) break;
     reach += solid.distance;

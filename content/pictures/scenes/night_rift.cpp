@@ -8,11 +8,11 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr std::array<uint32_t, 6> rock{0x0C0A24, 0x1C1840, 0x343064, 0x5C5490, 0x9890C0, 0xE8E0F0};
-constexpr std::array<uint32_t, 4> snow{0x3C3C78, 0x6C70A8, 0x9CA0CC, 0xD8D8F0};
-constexpr float water_level = -3;
-constexpr Vec moon{-0.262F, 0.512F, 1};  // the way to its middle, one unit deep
-constexpr float moon_radius = 0.088F;
+constexpr std::array<uint32_t, 6> kRock{0x0C0A24, 0x1C1840, 0x343064, 0x5C5490, 0x9890C0, 0xE8E0F0};
+constexpr std::array<uint32_t, 4> kSnow{0x3C3C78, 0x6C70A8, 0x9CA0CC, 0xD8D8F0};
+constexpr float kWaterLevel = -3;
+constexpr Vec kMoon{-0.262F, 0.512F, 1};  // the way to its middle, one unit deep
+constexpr float kMoonRadius = 0.088F;
 
 // Craters as soft dark seas on a bright disc.
 Colour MoonColour(float x, float y) {
@@ -51,7 +51,7 @@ float NightRift::Height(float x, float z, int octaves) const {
 Colour NightRift::Ground(const Spot& spot) const {
   const Vec p = spot.place;
   const float fine = Fbm(p.X * 0.16F, p.Z * 0.16F + p.Y * 0.2F, 4, 5) - 0.5F;
-  if (p.Y < water_level) {
+  if (p.Y < kWaterLevel) {
     // Still water: the sky once more, shaken a little by ripples that flatten with the distance.
     const float shake = 0.09F * std::exp(-spot.distance / 260);
     const float ripple_x = Noise(p.X * 0.35F, p.Z * 0.09F, 6) - 0.5F;
@@ -61,7 +61,7 @@ Colour NightRift::Ground(const Spot& spot) const {
         Unit({way.X + shake * ripple_x, std::fabs(way.Y + shake * 2.6F * ripple_y), way.Z});
     const Colour still = Mix(Sky(mirrored), Hex(0x181444), 0.42F);
     // The moon's road: glints that widen towards the eye.
-    const float aside = (way.X / way.Z - moon.X) / (0.055F + 0.9F / spot.distance);
+    const float aside = (way.X / way.Z - kMoon.X) / (0.055F + 0.9F / spot.distance);
     const float glint =
         SmoothStep(0.52F, 0.62F, Noise(p.X * 0.5F, p.Z * 0.16F, 8)) * std::exp(-aside * aside);
     return Mix(still, Hex(0xE8DCEC), glint * 0.6F);
@@ -69,7 +69,7 @@ Colour NightRift::Ground(const Spot& spot) const {
   const float light = 0.10F + 0.12F * spot.normal.Y + 0.86F * spot.sun + 0.2F * fine;
   const float high = SmoothStep(70, 105, p.Y + 60 * fine);
   const float flat = 1 - SmoothStep(0.45F, 0.7F, 1 - spot.normal.Y);
-  return Mix(OnRamp(rock, light), OnRamp(snow, light), high * flat);
+  return Mix(OnRamp(kRock, light), OnRamp(kSnow, light), high * flat);
 }
 
 Colour NightRift::Sky(Vec direction) const {
@@ -77,8 +77,8 @@ Colour NightRift::Sky(Vec direction) const {
   Colour sky =
       Mix(Mix(Hex(0x985880), Hex(0x442C78), up / 0.22F), Hex(0x0C0C34), (up - 0.22F) / 0.75F);
   sky = sky + Hex(0xF4F0FF) * Star(direction) * SmoothStep(0.18F, 0.5F, up);
-  const float x = (direction.X / direction.Z - moon.X) / moon_radius;
-  const float y = (direction.Y / direction.Z - moon.Y) / moon_radius;
+  const float x = (direction.X / direction.Z - kMoon.X) / kMoonRadius;
+  const float y = (direction.Y / direction.Z - kMoon.Y) / kMoonRadius;
   const float from_moon = std::sqrt(x * x + y * y);
   sky = sky + Hex(0x8878B0) * (0.55F * std::exp(-from_moon * 0.62F));
   sky = Mix(MoonColour(x, y), sky, SmoothStep(0.97F, 1.03F, from_moon));

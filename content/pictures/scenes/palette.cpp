@@ -10,8 +10,8 @@ namespace orvane::paint::scene {
 namespace {
 
 // Differences in green are seen most, in blue least.
-constexpr std::array<int, 3> weight{3, 5, 2};
-constexpr int settling_rounds = 8;
+constexpr std::array<int, 3> kWeight{3, 5, 2};
+constexpr int kSettlingRounds = 8;
 
 struct Bin {
   uint32_t colour;
@@ -26,7 +26,7 @@ int Distance(uint32_t a, uint32_t b) {
   int sum = 0;
   for (int channel = 0; channel < 3; ++channel) {
     const int difference = Channel(a, channel) - Channel(b, channel);
-    sum += weight[static_cast<size_t>(channel)] * difference * difference;
+    sum += kWeight[static_cast<size_t>(channel)] * difference * difference;
   }
   return sum;
 }
@@ -67,7 +67,7 @@ Box MeasureBox(const std::vector<Bin>& bins, size_t begin, size_t end) {
       sum += times * value;
       squares += times * value * value;
     }
-    const double spread = (squares - sum * sum / count) * weight[static_cast<size_t>(channel)];
+    const double spread = (squares - sum * sum / count) * kWeight[static_cast<size_t>(channel)];
     if (spread > box.spread) {
       box.spread = spread;
       box.channel = channel;
@@ -138,7 +138,7 @@ std::vector<uint32_t> MakePalette(const Image& image, int colours) {
   std::vector<uint32_t> palette;
   palette.reserve(boxes.size());
   for (const Box& box : boxes) palette.push_back(box.mean);
-  for (int round = 0; round < settling_rounds; ++round) Settle(bins, palette);
+  for (int round = 0; round < kSettlingRounds; ++round) Settle(bins, palette);
   return palette;
 }
 

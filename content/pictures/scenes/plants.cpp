@@ -6,8 +6,8 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr float fine = 0.6F;       // the step of strokes, so that none has holes
-constexpr float turn = 2.399963F;  // the golden angle spreads things evenly
+constexpr float kFine = 0.6F;       // the step of strokes, so that none has holes
+constexpr float kTurn = 2.399963F;  // the golden angle spreads things evenly
 
 int Cells(float length) {
   return static_cast<int>(std::ceil(length));
@@ -46,7 +46,7 @@ void Dresser::Tree(const Standing& at, RampView leaves) {
   const float lean = 0.3F * (Chance(at, 6) - 0.5F);
   constexpr int clusters = 19;
   for (int k = 0; k < clusters; ++k) {
-    const float angle = static_cast<float>(k) * turn;
+    const float angle = static_cast<float>(k) * kTurn;
     const float spread = std::sqrt(static_cast<float>(k) / clusters);
     const float up = -std::sin(angle) * spread * tall;
     const float offset_x = (std::cos(angle) * spread * broad + lean * up) * radius;
@@ -72,13 +72,13 @@ void Dresser::Fir(const Standing& at, RampView needles) {
   const float tall = 3 * at.size * foot.scale;
   if (tall < 1.5F) return;
   const float side = terrain_.Light().X < 0 ? 1.0F : -1.0F;
-  for (int line = 0; line < Cells(tall / fine); ++line) {
-    const float up = static_cast<float>(line) * fine;
+  for (int line = 0; line < Cells(tall / kFine); ++line) {
+    const float up = static_cast<float>(line) * kFine;
     const float share = up / tall;
     const float tier = share * 5 - std::floor(share * 5);
     const float half = tall * 0.24F * (1 - share) * (1.15F - 0.5F * tier) + 0.3F;
-    for (int step = 0; step <= Cells(2 * half / fine); ++step) {
-      const float x = static_cast<float>(step) * fine - half;
+    for (int step = 0; step <= Cells(2 * half / kFine); ++step) {
+      const float x = static_cast<float>(step) * kFine - half;
       const float ragged = Hash(static_cast<int>(up * 2), static_cast<int>(x * 2), at.seed);
       if (std::fabs(x) > half * (0.75F + 0.25F * ragged)) continue;
       const float light = 0.42F - 0.4F * side * x / (half + 0.5F) - 0.35F * (1 - tier) * 0.6F +
@@ -98,8 +98,8 @@ void Dresser::Tuft(const Standing& at, RampView blades) {
     const float start = (Chance(at, blade * 4 + 1) - 0.5F) * at.size * foot.scale * 1.3F;
     const float length = longest * (0.5F + 0.5F * Chance(at, blade * 4 + 2));
     const float tone = 0.3F * (Chance(at, blade * 4 + 3) - 0.5F);
-    for (int step = 0; step < Cells(length / fine); ++step) {
-      const float up = static_cast<float>(step) * fine;
+    for (int step = 0; step < Cells(length / kFine); ++step) {
+      const float up = static_cast<float>(step) * kFine;
       const float share = up / length;
       Put(foot.column + start + lean * share * share * length, foot.row - up, at.Z,
           OnRamp(blades, share * 0.75F + 0.15F + tone));
@@ -116,10 +116,10 @@ void Dresser::Flowers(const Standing& at, Colour petal, RampView blades) {
     const float x = foot.column + (Chance(at, 60 + k) - 0.5F) * length * 1.6F;
     const float y = foot.row - length * (0.6F + 0.6F * Chance(at, 70 + k));
     const float radius = std::max(0.6F, length * 0.13F);
-    const int reach = Cells(radius / fine);
+    const int reach = Cells(radius / kFine);
     for (int down = -reach; down <= reach; ++down) {
       for (int across = -reach; across <= reach; ++across) {
-        Put(x + static_cast<float>(across) * fine, y + static_cast<float>(down) * fine, at.Z,
+        Put(x + static_cast<float>(across) * kFine, y + static_cast<float>(down) * kFine, at.Z,
             petal * (down > 0 ? 0.85F : 1.0F));
       }
     }

@@ -9,10 +9,10 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr std::array<uint32_t, 5> bone{0x4C3C48, 0x847070, 0xBCA890, 0xE4D8B8, 0xFCF8E4};
-constexpr std::array<uint32_t, 2> hollow{0x2C1C2C, 0x50383C};
-constexpr std::array<uint32_t, 4> wood{0x241C2C, 0x44343C, 0x6C5450, 0xA08470};
-constexpr Colour shadow = Hex(0x443040);
+constexpr std::array<uint32_t, 5> kBone{0x4C3C48, 0x847070, 0xBCA890, 0xE4D8B8, 0xFCF8E4};
+constexpr std::array<uint32_t, 2> kHollow{0x2C1C2C, 0x50383C};
+constexpr std::array<uint32_t, 4> kWood{0x241C2C, 0x44343C, 0x6C5450, 0xA08470};
+constexpr Colour kShadow = Hex(0x443040);
 
 }  // namespace
 
@@ -38,11 +38,11 @@ void DrawSkeleton(Dresser& dresser) {
               tall - (tall + 1) * t * t * 0.25F - (tall + 1) * t * 0.75F, z + depth * bow},
              (1.05F - 0.55F * t) * (0.82F + 0.3F * Hash(rib, 2, 70))});
       }
-      dresser.Limb(joints, bone);
+      dresser.Limb(joints, kBone);
     }
   };
-  dresser.Shade(start + 24, z, 30, 13, shadow);
-  dresser.Shade(-3, z - 10, 13, 4, shadow);
+  dresser.Shade(start + 24, z, 30, 13, kShadow);
+  dresser.Shade(-3, z - 10, 13, 4, kShadow);
   ribs(8);
   std::vector<Joint> spine;
   for (int k = 0; k <= 30; ++k) {
@@ -51,14 +51,14 @@ void DrawSkeleton(Dresser& dresser) {
     spine.push_back(
         {{start + along, spine_height(along), z}, std::max(0.35F, thick * (1 - 0.016F * along))});
   }
-  dresser.Limb(spine, bone);
+  dresser.Limb(spine, kBone);
   // Thorns of the spine.
   for (int k = 1; k < 11; ++k) {
     const float along = static_cast<float>(k) * 3.1F;
     const Vec root{start + along, spine_height(along) + 1, z};
     const std::array<Joint, 2> thorn{
         {{root, 0.8F}, {root + Vec{1.4F, 2.6F - 0.12F * static_cast<float>(k), 0}, 0.15F}}};
-    dresser.Limb(thorn, bone);
+    dresser.Limb(thorn, kBone);
   }
   ribs(-7);
   // The skull lies before the ribs: cranium, muzzle, jaw, horns, and the hollow of the eye.
@@ -67,21 +67,21 @@ void DrawSkeleton(Dresser& dresser) {
     const std::array<Joint, 2> joints{{{skull + from, radius_from}, {skull + to, radius_to}}};
     dresser.Limb(joints, tones);
   };
-  part({2.4F, 2, 0}, {7, 5.6F, 0}, 0.9F, 0.7F, bone);
-  part({7, 5.6F, 0}, {11.5F, 5.6F, 0}, 0.7F, 0.15F, bone);
-  part({1.6F, -2.2F, 0}, {-8.4F, -3.4F, 0}, 1.1F, 0.8F, bone);
-  part({0, 0, 0}, {2, 0.6F, 0}, 3.2F, 2.4F, bone);
-  part({-1, -0.2F, 0}, {-8.8F, -1.4F, 0}, 2.5F, 1.3F, bone);
+  part({2.4F, 2, 0}, {7, 5.6F, 0}, 0.9F, 0.7F, kBone);
+  part({7, 5.6F, 0}, {11.5F, 5.6F, 0}, 0.7F, 0.15F, kBone);
+  part({1.6F, -2.2F, 0}, {-8.4F, -3.4F, 0}, 1.1F, 0.8F, kBone);
+  part({0, 0, 0}, {2, 0.6F, 0}, 3.2F, 2.4F, kBone);
+  part({-1, -0.2F, 0}, {-8.8F, -1.4F, 0}, 2.5F, 1.3F, kBone);
   for (int tooth = 0; tooth < 5; ++tooth) {
     const float x = -3.4F - 1.3F * static_cast<float>(tooth);
-    part({x, -1.9F, -0.4F}, {x - 0.1F, -3.4F, -0.4F}, 0.5F, 0.15F, bone);
+    part({x, -1.9F, -0.4F}, {x - 0.1F, -3.4F, -0.4F}, 0.5F, 0.15F, kBone);
   }
-  part({-0.9F, 0.7F, -0.5F}, {-0.2F, 0.9F, -0.5F}, 0.95F, 0.85F, hollow);
-  part({-8.2F, -0.7F, -0.5F}, {-7.7F, -0.5F, -0.5F}, 0.4F, 0.35F, hollow);
+  part({-0.9F, 0.7F, -0.5F}, {-0.2F, 0.9F, -0.5F}, 0.95F, 0.85F, kHollow);
+  part({-8.2F, -0.7F, -0.5F}, {-7.7F, -0.5F, -0.5F}, 0.4F, 0.35F, kHollow);
 }
 
 void DrawDeadTree(Dresser& dresser, float x, float z, float size, int seed) {
-  dresser.Shade(x + 1, z, 2.6F * size, 1.3F * size, shadow);
+  dresser.Shade(x + 1, z, 2.6F * size, 1.3F * size, kShadow);
   const auto bough = [&](Vec from, float lean, float length, float radius, int chance) {
     std::vector<Joint> joints;
     for (int k = 0; k <= 6; ++k) {
@@ -91,7 +91,7 @@ void DrawDeadTree(Dresser& dresser, float x, float z, float size, int seed) {
                          from.Y + length * t * (1 - 0.25F * t * std::fabs(lean)), z},
                         radius * (1 - 0.8F * t)});
     }
-    dresser.Limb(joints, wood);
+    dresser.Limb(joints, kWood);
     return joints[4].place;
   };
   const Vec fork = bough({x, -0.5F, z}, 0.15F, 6 * size, 0.55F * size, 1);

@@ -5,9 +5,9 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr float nearest = 2;
-constexpr int shadow_steps = 26;
-constexpr float shadow_reach = 260;
+constexpr float kNearest = 2;
+constexpr int kShadowSteps = 26;
+constexpr float kShadowReach = 260;
 
 int OctavesAt(float distance) {
   return distance < 120 ? 8 : distance < 320 ? 7 : 6;
@@ -28,7 +28,7 @@ float SunAt(const Terrain& terrain, Vec place, float distance) {
   const Vec light = terrain.Light();
   float open = 1;
   float reach = 1 + distance * 0.01F;
-  for (int step = 0; step < shadow_steps && reach < shadow_reach; ++step) {
+  for (int step = 0; step < kShadowSteps && reach < kShadowReach; ++step) {
     const Vec point = place + light * reach;
     const float gap = point.Y - terrain.Height(point.X, point.Z, 5);
     open = std::min(open, 0.5F + gap * 6 / reach);
@@ -42,7 +42,7 @@ float SunAt(const Terrain& terrain, Vec place, float distance) {
 void FindDepths(const Terrain& terrain, const View& view, int column, Painting& painting) {
   const float side = view.Through(column, 0).X;
   int row = view.height - 1;
-  float z = nearest;
+  float z = kNearest;
   float height = terrain.Height(side * z, z, 8);
   while (row >= 0 && z < view.far) {
     const float next_z = z * 1.004F + 0.04F;

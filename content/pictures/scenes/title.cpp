@@ -8,9 +8,9 @@ namespace orvane::paint::scene {
 namespace {
 
 // Painted in the shape in which it is shown, twice as fine; the sheet is squashed from that.
-constexpr View view{960, 640, 424, 660};
-constexpr int across = 3;
-constexpr int down = 4;
+constexpr View kView{960, 640, 424, 660};
+constexpr int kAcross = 3;
+constexpr int kDown = 4;
 
 // The middle is darkened, so that pale letters stand on it well.
 void Quieten(Canvas& canvas) {
@@ -27,12 +27,12 @@ void Quieten(Canvas& canvas) {
 }  // namespace
 
 Image PaintTitle() {
-  const NightRift land(view);
-  Painting painting = PaintTerrain(land, view);
+  const NightRift land(kView);
+  Painting painting = PaintTerrain(land, kView);
   Canvas canvas = Painted(painting.canvas, 3, 0.8F);
   Quieten(canvas);
   DrawTitleFigures(canvas);
-  return ToSheet(Shrink(canvas, across, down), 240, 4);
+  return ToSheet(Shrink(canvas, kAcross, kDown), 240, 4);
 }
 
 }  // namespace orvane::paint::scene

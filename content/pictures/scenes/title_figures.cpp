@@ -10,12 +10,12 @@
 namespace orvane::paint::scene {
 namespace {
 
-constexpr int dragon_left = 450;  // its muzzle keeps clear of the title's last letter
-constexpr std::array<uint32_t, 5> rock{0x08061C, 0x141030, 0x28204C, 0x483C70, 0x8478A4};
-constexpr Colour night{0.52F, 0.46F, 0.78F};  // what the night leaves of a colour
+constexpr int kDragonLeft = 450;  // its muzzle keeps clear of the title's last letter
+constexpr std::array<uint32_t, 5> kRock{0x08061C, 0x141030, 0x28204C, 0x483C70, 0x8478A4};
+constexpr Colour kNight{0.52F, 0.46F, 0.78F};  // what the night leaves of a colour
 
 Colour AtNight(Colour day) {
-  return {day.r * night.r, day.g * night.g, day.b * night.b};
+  return {day.r * kNight.r, day.g * kNight.g, day.b * kNight.b};
 }
 
 void LaySprite(Canvas& canvas, const Sprite& sprite, int left, int top, float dark, float deeper) {
@@ -50,7 +50,7 @@ void DrawLedge(Canvas& canvas) {
       const float there = Fbm((column - 5) * 0.02F + row * 0.008F, (row - 6) * 0.035F, 5, 72);
       const float light =
           0.22F + (here - there) * 3.2F + 0.5F * std::exp(-below * 0.09F) - below * 0.0012F;
-      canvas.Blend(x, y, OnRamp(rock, light));
+      canvas.Blend(x, y, OnRamp(kRock, light));
     }
   }
 }
@@ -75,7 +75,7 @@ void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& m
 }  // namespace
 
 void DrawTitleFigures(Canvas& canvas) {
-  LaySprite(canvas, RenderTitleDragon(), dragon_left, 0, 0.45F, 0.95F);
+  LaySprite(canvas, RenderTitleDragon(), kDragonLeft, 0, 0.45F, 0.95F);
   DrawLedge(canvas);
   DrawHero(canvas, WomanModel(0), WomanMaterials(), 122);
   DrawHero(canvas, ManModel(0), ManMaterials(), 226);

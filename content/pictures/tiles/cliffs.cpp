@@ -14,25 +14,25 @@ namespace orvane::paint::tiles {
 namespace {
 
 // The strata of a wall from its lip to its foot.
-constexpr int LipStratum = 8;
-constexpr int MiddleStratum = 15;
-constexpr int FootStratum = 22;
-constexpr int DarkStratum = 13;
+constexpr int kLipStratum = 8;
+constexpr int kMiddleStratum = 15;
+constexpr int kFootStratum = 22;
+constexpr int kDarkStratum = 13;
 
 Colour Face(int x, int y, int stratum, double lift) {
-  return Rock[static_cast<int>(std::floor(FaceTone(x, y, stratum) + lift))];
+  return kRock[static_cast<int>(std::floor(FaceTone(x, y, stratum) + lift))];
 }
 
 // Three tiles side by side of a face that is `foot` or not; its ends are cut upright.
 Image FaceRow(bool foot) {
-  const int stratum = foot ? FootStratum : MiddleStratum;
-  return Fill(3 * TileSize, TileSize, [&](int x, int y) {
-    if (x == 0) return Rock[1];
-    if (x == 47) return Rock[0];
+  const int stratum = foot ? kFootStratum : kMiddleStratum;
+  return Fill(3 * kTileSize, kTileSize, [&](int x, int y) {
+    if (x == 0) return kRock[1];
+    if (x == 47) return kRock[0];
     double lift = foot ? -0.5 : 0;
     if (x < 3) lift += 1.0;
     if (x > 43) lift -= 1.2;
-    if (foot && y == 15) return Rock[0];
+    if (foot && y == 15) return kRock[0];
     if (foot && y > 12) lift -= 1.6;
     return Face(x, y, stratum, lift);
   });
@@ -40,47 +40,47 @@ Image FaceRow(bool foot) {
 
 // Blades that hang over the edge of the plateau, in pixels, by column.
 int Overhang(int x) {
-  return static_cast<int>(3.4 * Hash(x % TileSize, 0, 451) * Hash(x % TileSize / 3, 1, 451) +
+  return static_cast<int>(3.4 * Hash(x % kTileSize, 0, 451) * Hash(x % kTileSize / 3, 1, 451) +
                           1.5 * Noise(x / 4.0, 0.5, 4, 452));
 }
 
-constexpr int RimWidth = 6;
+constexpr int kRimWidth = 6;
 
 // The row of boulders along a rim: `out` pixels from the outer side, `along` it. Gives no colour
 // where the boulders leave the grass free.
 std::optional<Colour> Rim(int out, int along, bool lit) {
-  if (out == 0) return Rock[0];
-  const Facet stone = FacetAt((along + 0.5) * 3 / TileSize, (out + 0.2) / 7.0, 3, 1, 641);
-  const double reach = RimWidth - 0.5 + 1.6 * (stone.chance - 0.5) - 2.2 * stone.dx * stone.dx * 4;
+  if (out == 0) return kRock[0];
+  const Facet stone = FacetAt((along + 0.5) * 3 / kTileSize, (out + 0.2) / 7.0, 3, 1, 641);
+  const double reach = kRimWidth - 0.5 + 1.6 * (stone.chance - 0.5) - 2.2 * stone.dx * stone.dx * 4;
   if (out > reach + 1) return std::nullopt;
-  if (out > reach || stone.edge < 0.16) return Rock[lit ? 1 : 0];
+  if (out > reach || stone.edge < 0.16) return kRock[lit ? 1 : 0];
   const double tone = (lit ? 5.4 : 3.2) - 2.6 * stone.dx - 2.4 * stone.dy;
-  return Rock[static_cast<int>(std::floor(tone))];
+  return kRock[static_cast<int>(std::floor(tone))];
 }
 
 Image Plateau() {
   const Image grass = GrassTile(0);
-  return Fill(3 * TileSize, 3 * TileSize, [&](int x, int y) {
+  return Fill(3 * kTileSize, 3 * kTileSize, [&](int x, int y) {
     const int lip = 37 + Overhang(x);
-    const int across = x % TileSize;
+    const int across = x % kTileSize;
     if (y > lip + 1) {
-      if (x == 0) return Rock[1];
-      if (x == 47) return Rock[0];
+      if (x == 0) return kRock[1];
+      if (x == 47) return kRock[0];
       const double lift = (x < 3 ? 1.0 : x > 43 ? -1.2 : 0.0) + (y < lip + 4 ? -1.8 : 0.2);
-      return Face(x, y, LipStratum, lift);
+      return Face(x, y, kLipStratum, lift);
     }
-    if (y == lip + 1) return Grass[1];
-    if (y == lip) return Grass[3];
-    if (y > lip - 3) return Grass[Hash(across, y, 455) > 0.35 ? 6 : 5];
+    if (y == lip + 1) return kGrass[1];
+    if (y == lip) return kGrass[3];
+    if (y > lip - 3) return kGrass[Hash(across, y, 455) > 0.35 ? 6 : 5];
     std::optional<Colour> rim;
-    if (x < TileSize) rim = Rim(x, y % TileSize, true);
-    if (47 - x < TileSize) rim = Rim(47 - x, y % TileSize, false);
-    if (y < TileSize && !rim) rim = Rim(y, across, true);
+    if (x < kTileSize) rim = Rim(x, y % kTileSize, true);
+    if (47 - x < kTileSize) rim = Rim(47 - x, y % kTileSize, false);
+    if (y < kTileSize && !rim) rim = Rim(y, across, true);
     if (rim) return *rim;
     // Grass grows dark in the shade of the boulders.
-    const int blades = RimWidth + 1 + (Hash(across, 0, 458) > 0.5 ? 1 : 0);
-    const int rows = RimWidth + 1 + (Hash(y % TileSize, 0, 457) > 0.5 ? 1 : 0);
-    if (y <= blades || x <= rows || 47 - x <= rows - 1) return Grass[2];
+    const int blades = kRimWidth + 1 + (Hash(across, 0, 458) > 0.5 ? 1 : 0);
+    const int rows = kRimWidth + 1 + (Hash(y % kTileSize, 0, 457) > 0.5 ? 1 : 0);
+    if (y <= blades || x <= rows || 47 - x <= rows - 1) return kGrass[2];
     return Repeated(grass, x, y);
   });
 }
@@ -128,14 +128,14 @@ Colour InMassif(const PatchSpot& spot, const Massif& massif) {
 
 Colour Mountain(const PatchSpot& spot) {
   static const Image scree = GravelTile(0);
-  return InMassif(spot, {scree, 0.85, Rock, Summit, SummitTone, LipStratum, 0});
+  return InMassif(spot, {scree, 0.85, kRock, kSummit, SummitTone, kLipStratum, 0});
 }
 
 Colour DarkRock(const PatchSpot& spot) {
   // Its own rubble and not the waste's ground, since it hangs under the floors of the last stage
   // too.
-  static const Image scree(TileSize, TileSize, Dark[2]);
-  return InMassif(spot, {scree, 0.3, Dark, Dark, CaveTopTone, DarkStratum, -0.2});
+  static const Image scree(kTileSize, kTileSize, kDark[2]);
+  return InMassif(spot, {scree, 0.3, kDark, kDark, CaveTopTone, kDarkStratum, -0.2});
 }
 
 }  // namespace
@@ -148,7 +148,7 @@ void PaintCliffs(Sheet& sheet) {
   sheet.Put(61, plateau, 0, 16);
   sheet.Put(63, plateau, 32, 16);
   for (int column = 0; column < 3; ++column)
-    sheet.Put(157 + column, plateau, column * TileSize, 32);
+    sheet.Put(157 + column, plateau, column * kTileSize, 32);
   sheet.PutBlock(187, FaceRow(false));
   sheet.PutBlock(217, FaceRow(true));
   PaintPatch(sheet, {.first = 163, .inset = 0.7, .radius = 4, .waver = 0.9, .seed = 231}, Mountain);

@@ -7,7 +7,7 @@
 namespace orvane::paint::tiles {
 namespace {
 
-constexpr int TilesInRow = 30;
+constexpr int kTilesInRow = 30;
 
 int Wrapped(int value, int size) {
   const int rest = value % size;
@@ -81,17 +81,17 @@ void Stamp(Image& image, int x, int y, std::initializer_list<std::string_view> r
 
 void Sheet::Put(int code, const Image& from, int x, int y) {
   if (code < 1 || code > 240) throw std::out_of_range("no such tile");
-  const int left = (code - 1) % TilesInRow * TileSize;
-  const int top = (code - 1) / TilesInRow * TileSize;
-  for (int j = 0; j < TileSize; ++j) {
-    for (int i = 0; i < TileSize; ++i) Picture.At(left + i, top + j) = from.At(x + i, y + j);
+  const int left = (code - 1) % kTilesInRow * kTileSize;
+  const int top = (code - 1) / kTilesInRow * kTileSize;
+  for (int j = 0; j < kTileSize; ++j) {
+    for (int i = 0; i < kTileSize; ++i) Picture.At(left + i, top + j) = from.At(x + i, y + j);
   }
 }
 
 void Sheet::PutBlock(int code, const Image& from) {
-  for (int y = 0; y + TileSize <= from.height; y += TileSize) {
-    for (int x = 0; x + TileSize <= from.width; x += TileSize) {
-      Put(code + y / TileSize * TilesInRow + x / TileSize, from, x, y);
+  for (int y = 0; y + kTileSize <= from.height; y += kTileSize) {
+    for (int x = 0; x + kTileSize <= from.width; x += kTileSize) {
+      Put(code + y / kTileSize * kTilesInRow + x / kTileSize, from, x, y);
     }
   }
 }

@@ -14,7 +14,7 @@ namespace orvane::paint::tiles {
 
 using Colour = uint32_t;  // 0xRRGGBB
 
-constexpr int TileSize = 16;
+constexpr int kTileSize = 16;
 
 // Paints every pixel of a new picture from `colour_at(x, y)`.
 template <typename ColourAt>
@@ -42,7 +42,7 @@ void Copy(Image& image, const Image& from, int x, int y);
 Image Tiled(const Image& from, int width, int height);
 
 // The part of `from` at (x, y); what lies outside repeats the picture.
-Image Cut(const Image& from, int x, int y, int width = TileSize, int height = TileSize);
+Image Cut(const Image& from, int x, int y, int width = kTileSize, int height = kTileSize);
 
 // A colour in shade: darker and a little to purple. Strength 0 leaves it, 1 is the deepest shade.
 Colour Shaded(Colour colour, double strength);

@@ -12,15 +12,15 @@ Image Flagstone(int width, int height) {
   return Fill(width, height, [&](int x, int y) {
     const bool rim_low = x == width - 1 || y == height - 1;
     const bool rim_high = x == 0 || y == 0;
-    if (rim_low) return Stone[1];
-    if (rim_high) return Stone[5];
-    if (x == width - 2 || y == height - 2) return Stone[2];
-    return Stone[(x * 7 + y * 5) % 13 == 0 ? 3 : 4];
+    if (rim_low) return kStone[1];
+    if (rim_high) return kStone[5];
+    if (x == width - 2 || y == height - 2) return kStone[2];
+    return kStone[(x * 7 + y * 5) % 13 == 0 ? 3 : 4];
   });
 }
 
 Image Chest() {
-  Image tile = Flagstone(TileSize, TileSize);
+  Image tile = Flagstone(kTileSize, kTileSize);
   Stamp(tile, 0, 1,
         {"...kkkkkkkkkk...", "..kbdddddddcbk..", ".kydeeeeeedcyak.", ".kydeeeeeddcyak.",
          ".kycddddddccyak.", ".kybcccyycbbyak.", ".kkkkkyYYokkkkk.", ".kyooyYkkYoyook.",
@@ -32,10 +32,10 @@ Image Chest() {
          {'c', 0xA86424},
          {'d', 0xD08C3C},
          {'e', 0xF4C474},
-         {'y', Gold[3]},
-         {'Y', Gold[4]},
-         {'o', Gold[2]},
-         {'s', Stone[1]}});
+         {'y', kGold[3]},
+         {'Y', kGold[4]},
+         {'o', kGold[2]},
+         {'s', kStone[1]}});
   return tile;
 }
 
@@ -59,14 +59,14 @@ Image BookChest() {
                       "kyoooooooooooooooooooooooook", "kkkkkkkkkkkkkkkkkkkkkkkkkkkk",
                       ".kk......................kk."},
         {{'k', 0x20100C},
-         {'l', Wood[4]},
-         {'c', Wood[2]},
-         {'b', Wood[2]},
+         {'l', kWood[4]},
+         {'c', kWood[2]},
+         {'b', kWood[2]},
          {'d', 0x2C140C},
-         {'y', Gold[3]},
-         {'Y', Gold[4]},
-         {'o', Gold[1]},
-         {'z', Carpet[2]},
+         {'y', kGold[3]},
+         {'Y', kGold[4]},
+         {'o', kGold[1]},
+         {'z', kCarpet[2]},
          {'w', 0xF8ECC8},
          {'r', 0x8C1C24},
          {'R', 0xE05048},
@@ -81,21 +81,21 @@ Image BookChest() {
 
 // A disc of pale stone with a ring of light and a star of eight points.
 Image RecoveryPoint() {
-  const Image slab = Flagstone(TileSize, TileSize);
-  return Fill(TileSize, TileSize, [&](int x, int y) {
+  const Image slab = Flagstone(kTileSize, kTileSize);
+  return Fill(kTileSize, kTileSize, [&](int x, int y) {
     const double dx = x - 7.5;
     const double dy = y - 7.5;
     const double distance = std::hypot(dx, dy);
     const double turn = std::atan2(dy, dx);
     if (distance > 7.9) return Shaded(slab.At(x, y), 0.25);
-    if (distance > 6.9) return Glow[0];
-    if (distance > 5.7) return Glow[4];
-    if (distance > 5.0) return Glow[1];
+    if (distance > 6.9) return kGlow[0];
+    if (distance > 5.7) return kGlow[4];
+    if (distance > 5.0) return kGlow[1];
     const double star = 3.1 + 1.7 * std::cos(4 * turn);
-    if (distance < 1.4) return Glow[4];
-    if (distance < star) return Glow[3];
-    if (distance < star + 0.8) return Glow[2];
-    return Glow[1];
+    if (distance < 1.4) return kGlow[4];
+    if (distance < star) return kGlow[3];
+    if (distance < star + 0.8) return kGlow[2];
+    return kGlow[1];
   });
 }
 

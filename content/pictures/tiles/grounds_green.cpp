@@ -14,14 +14,14 @@ double Woven(int x, int y, int seed, int variant) {
   const auto grain = [&](int own) {
     return 0.55 * Noise(x / 4.0, y / 4.0, 4, own) + 0.45 * Noise(x / 2.0, y / 2.0, 8, own + 1);
   };
-  const double inward = std::min(std::min(x, TileSize - 1 - x), std::min(y, TileSize - 1 - y));
+  const double inward = std::min(std::min(x, kTileSize - 1 - x), std::min(y, kTileSize - 1 - y));
   const double own_share = std::clamp((inward - 0.5) / 3.0, 0.0, 1.0);
   return grain(seed) * (1 - own_share) + grain(seed + 10 + variant * 10) * own_share;
 }
 
 // A few blades: dark at the root, bright at the tip.
 void Blades(Image& tile, int x, int y, int shape) {
-  const Key key = {{'d', Grass[2]}, {'m', Grass[3]}, {'l', Grass[5]}, {'b', Grass[6]}};
+  const Key key = {{'d', kGrass[2]}, {'m', kGrass[3]}, {'l', kGrass[5]}, {'b', kGrass[6]}};
   switch (shape) {
     case 0:
       Stamp(tile, x, y, {"l.b", "ml.", ".dd"}, key);
@@ -40,15 +40,15 @@ void Blades(Image& tile, int x, int y, int shape) {
 
 void Flower(Image& tile, int x, int y, Colour petal, Colour dark_petal, Colour heart) {
   Stamp(tile, x, y, {".p.", "php", ".q.", ".sd"},
-        {{'p', petal}, {'q', dark_petal}, {'h', heart}, {'s', Grass[2]}, {'d', Grass[2]}});
+        {{'p', petal}, {'q', dark_petal}, {'h', heart}, {'s', kGrass[2]}, {'d', kGrass[2]}});
 }
 
 }  // namespace
 
 Image GrassTile(int variant) {
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+  Image tile = Fill(kTileSize, kTileSize, [&](int x, int y) {
     const double grain = Woven(x, y, 3, variant);
-    return grain < 0.36 ? Grass[3] : Grass[4];
+    return grain < 0.36 ? kGrass[3] : kGrass[4];
   });
   switch (variant) {
     case 1:
@@ -65,8 +65,8 @@ Image GrassTile(int variant) {
       Blades(tile, 11, 12, 2);
       break;
     case 4:
-      Flower(tile, 3, 2, 0xFCFCF4, 0xD0C8E0, Gold[3]);
-      Flower(tile, 10, 8, 0xFCFCF4, 0xD0C8E0, Gold[3]);
+      Flower(tile, 3, 2, 0xFCFCF4, 0xD0C8E0, kGold[3]);
+      Flower(tile, 10, 8, 0xFCFCF4, 0xD0C8E0, kGold[3]);
       Blades(tile, 3, 10, 2);
       break;
     case 5:
@@ -83,26 +83,26 @@ Image GrassTile(int variant) {
 }
 
 Image LitterTile(int variant) {
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+  Image tile = Fill(kTileSize, kTileSize, [&](int x, int y) {
     const double grain = Woven(x, y, 71, variant);
-    return Litter[grain < 0.30 ? 1 : grain < 0.52 ? 2 : grain < 0.74 ? 3 : 4];
+    return kLitter[grain < 0.30 ? 1 : grain < 0.52 ? 2 : grain < 0.74 ? 3 : 4];
   });
   // Fallen leaves, each two or three pixels with its own shade below.
   for (int i = 0; i < 3; ++i) {
     const int x = 1 + static_cast<int>(Hash(i, variant, 81) * 12);
     const int y = 1 + static_cast<int>(Hash(i, variant, 82) * 12);
-    const Colour leaf = i % 3 == 0 ? 0xC07C38 : i % 3 == 1 ? Litter[4] : 0x98A850;
-    Stamp(tile, x, y, {"ll", ".l", "dd"}, {{'l', leaf}, {'d', Litter[1]}});
+    const Colour leaf = i % 3 == 0 ? 0xC07C38 : i % 3 == 1 ? kLitter[4] : 0x98A850;
+    Stamp(tile, x, y, {"ll", ".l", "dd"}, {{'l', leaf}, {'d', kLitter[1]}});
   }
   if (variant == 1) {
     Stamp(tile, 1, 4,
           {"...ll.......", ".lmmmll.....", "lmd..dmmll..", ".d.....ddmml", "..........dd"},
-          {{'l', Wood[3]}, {'m', Wood[2]}, {'d', Wood[1]}});
+          {{'l', kWood[3]}, {'m', kWood[2]}, {'d', kWood[1]}});
   }
   if (variant == 2) {
     for (const int x : {2, 8}) {
       Stamp(tile, x, x == 2 ? 3 : 7, {"l..l..l", ".lmlml.", "l.mlm.l", ".lmlml.", "..ddd.."},
-            {{'l', Leaf[5]}, {'m', Leaf[3]}, {'d', Litter[0]}});
+            {{'l', kLeaf[5]}, {'m', kLeaf[3]}, {'d', kLitter[0]}});
     }
   }
   return tile;
@@ -110,13 +110,13 @@ Image LitterTile(int variant) {
 
 // Wet ground with sedge, and in one variant with gleams of water.
 Image MarshTile(int variant) {
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+  Image tile = Fill(kTileSize, kTileSize, [&](int x, int y) {
     const double moss = Woven(x, y, 114, variant);
-    if (moss < 0.40) return Grass[3];
-    return Marsh[moss < 0.56 ? 4 : moss < 0.74 ? 3 : 2];
+    if (moss < 0.40) return kGrass[3];
+    return kMarsh[moss < 0.56 ? 4 : moss < 0.74 ? 3 : 2];
   });
-  const Key key = {{'d', Pool[3]},  {'w', Pool[4]},  {'l', Pool[5]},
-                   {'h', Marsh[5]}, {'m', Marsh[4]}, {'k', Marsh[1]}};
+  const Key key = {{'d', kPool[3]},  {'w', kPool[4]},  {'l', kPool[5]},
+                   {'h', kMarsh[5]}, {'m', kMarsh[4]}, {'k', kMarsh[1]}};
   if (variant == 1) {
     Stamp(tile, 8, 4, {"..ww.", "dwlwd", ".ww.."}, key);
     Stamp(tile, 3, 9, {".wwl..", "dwwlwd", "..dd.."}, key);

@@ -11,7 +11,7 @@ namespace {
 
 // Crossing swells that repeat every tile.
 double Swell(int x, int y) {
-  const double step = 2 * std::numbers::pi / TileSize;
+  const double step = 2 * std::numbers::pi / kTileSize;
   const double bend = 1.6 * std::sin(step * x) + 0.8 * std::sin(step * 2 * x + 1);
   return std::sin(step * 2 * y + bend) + 0.6 * std::sin(step * 4 * y + step * x + 2) +
          1.2 * (Noise(x / 4.0, y / 2.0, 8, 91) - 0.5);
@@ -20,11 +20,11 @@ double Swell(int x, int y) {
 }  // namespace
 
 Image WaterTile(int variant) {
-  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+  Image tile = Fill(kTileSize, kTileSize, [](int x, int y) {
     const double swell = Swell(x, y);
-    return Water[swell > 0.95 ? 3 : swell < -1.0 ? 1 : 2];
+    return kWater[swell > 0.95 ? 3 : swell < -1.0 ? 1 : 2];
   });
-  const Key key = {{'l', Water[4]}, {'b', Water[5]}, {'w', Water[6]}};
+  const Key key = {{'l', kWater[4]}, {'b', kWater[5]}, {'w', kWater[6]}};
   if (variant == 1) Stamp(tile, 4, 6, {"..bb....", "ll..llb."}, key);
   if (variant == 2) {
     Stamp(tile, 8, 3, {".bb..", "l..ll"}, key);
@@ -37,28 +37,28 @@ Image WaterTile(int variant) {
 // ends a beach or a row of stones in a round shore.
 Image SandbankTile() {
   const Image sand = SandTile(0);
-  return Fill(TileSize, TileSize, [&](int x, int y) {
+  return Fill(kTileSize, kTileSize, [&](int x, int y) {
     const double dx = std::abs(x - 7.5);
     const double dy = std::abs(y - 7.5);
     const double rag = 1.6 * (Noise(x / 3.0, y / 3.0, 0, 97) - 0.5);
     const double depth = std::pow(std::pow(dx, 2.4) + std::pow(dy, 2.4), 1 / 2.4) - 7.9 + rag;
-    if (depth > 2.4) return Water[4];
-    if (depth > 1.2) return Water[5];
-    if (depth > 0) return Water[6];
-    return depth > -1.0 ? Sand[2] : sand.At(x, y);
+    if (depth > 2.4) return kWater[4];
+    if (depth > 1.2) return kWater[5];
+    if (depth > 0) return kWater[6];
+    return depth > -1.0 ? kSand[2] : sand.At(x, y);
   });
 }
 
 // Plates of crust that float on the melt, which glows between them.
 Image LavaTile() {
-  Image tile = Fill(TileSize, TileSize, [](int x, int y) {
+  Image tile = Fill(kTileSize, kTileSize, [](int x, int y) {
     const double bend = 2.6 * (Noise(x / 2.0, y / 2.0, 8, 93) - 0.5);
     const Facet facet = FacetAt((x + 0.5 + bend) / 8, (y + 0.5 - bend) / 8, 2, 2, 99);
-    if (facet.edge < 0.06) return Lava[4];
-    if (facet.edge < 0.13) return Lava[3];
-    if (facet.edge < (facet.chance < 0.4 ? 0.36 : 0.20)) return Lava[2];
+    if (facet.edge < 0.06) return kLava[4];
+    if (facet.edge < 0.13) return kLava[3];
+    if (facet.edge < (facet.chance < 0.4 ? 0.36 : 0.20)) return kLava[2];
     const bool lit = facet.dx + facet.dy < -0.1;
-    return facet.edge < 0.32 || lit ? Lava[1] : Lava[0];
+    return facet.edge < 0.32 || lit ? kLava[1] : kLava[0];
   });
   return tile;
 }

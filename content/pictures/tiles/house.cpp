@@ -22,20 +22,20 @@ Image RoofPicture() {
       const int within = (y - 5) % 4;
       const int along = (x + course % 2 * 2) % 4;
       if (y < 5) {
-        colour = Roof[y == 2 ? 0 : y == 3 ? 5 : 4];
-        if (x % 4 == 3 && y > 2) colour = Roof[2];
+        colour = kRoof[y == 2 ? 0 : y == 3 ? 5 : 4];
+        if (x % 4 == 3 && y > 2) colour = kRoof[2];
       } else if (y > 29) {
-        colour = y == 31 ? Wood[0] : Wood[2];
+        colour = y == 31 ? kWood[0] : kWood[2];
       } else {
         const double sun = y < 16 ? 0.6 : 0;
         int tone = within == 3 ? 1 : within == 0 ? 4 : 3;
         if (along == 3) tone -= 1;
         if (Hash(x / 4, course, 481) > 0.8) tone -= 1;
-        colour = Roof[static_cast<int>(tone + sun)];
+        colour = kRoof[static_cast<int>(tone + sun)];
       }
-      if (from_west == 0 || from_east == 0) colour = Roof[0];
-      if (y > 4 && y < 30 && (from_west == 1 || from_west == 2)) colour = Roof[5];
-      if (y > 4 && y < 30 && (from_east == 1 || from_east == 2)) colour = Roof[1];
+      if (from_west == 0 || from_east == 0) colour = kRoof[0];
+      if (y > 4 && y < 30 && (from_west == 1 || from_west == 2)) colour = kRoof[5];
+      if (y > 4 && y < 30 && (from_east == 1 || from_east == 2)) colour = kRoof[1];
       roof.At(x, y) = colour;
     }
   }
@@ -44,25 +44,25 @@ Image RoofPicture() {
 
 // Plaster between dark beams over a stone footing, in the shade of the eaves at the top.
 Image Wall(bool west_end, bool east_end) {
-  Image wall = Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+  Image wall = Fill(kTileSize, kTileSize, [&](int x, int y) -> Colour {
     if (y < 3) return Shaded(0xD8C09C, y == 0 ? 1.0 : 0.8);
-    if (y == 15) return Stone[0];
+    if (y == 15) return kStone[0];
     if (y > 11) {
       const bool joint = y == 12 || (x + (y > 13 ? 3 : 0)) % 6 == 0;
-      return joint ? Stone[1] : Stone[y == 13 ? 3 : 2];
+      return joint ? kStone[1] : kStone[y == 13 ? 3 : 2];
     }
     return Noise(x / 3.0, y / 3.0, 0, 487) < 0.35 ? 0xC4A880 : 0xD8C09C;
   });
-  Box(wall, 0, 11, TileSize, 1, Wood[1]);
+  Box(wall, 0, 11, kTileSize, 1, kWood[1]);
   if (west_end) {
-    Box(wall, 0, 0, 1, 16, Wood[0]);
-    Box(wall, 1, 0, 2, 12, Wood[2]);
-    Box(wall, 3, 3, 1, 9, Wood[1]);
+    Box(wall, 0, 0, 1, 16, kWood[0]);
+    Box(wall, 1, 0, 2, 12, kWood[2]);
+    Box(wall, 3, 3, 1, 9, kWood[1]);
   }
   if (east_end) {
-    Box(wall, 15, 0, 1, 16, Wood[0]);
-    Box(wall, 13, 0, 2, 12, Wood[2]);
-    Box(wall, 12, 3, 1, 9, Wood[1]);
+    Box(wall, 15, 0, 1, 16, kWood[0]);
+    Box(wall, 13, 0, 2, 12, kWood[2]);
+    Box(wall, 12, 3, 1, 9, kWood[1]);
   }
   return wall;
 }
@@ -72,12 +72,12 @@ Image WindowWall() {
   Stamp(wall, 2, 2,
         {"kkkkkkkkkkkk", "kwwwwkkwwwwk", "kwbLbkkbLbwk", "kwLbbkkLbbwk", "kwkkkkkkkkwk",
          "kwbbdkkbbdwk", "kwbddkkbddwk", "kwwwwkkwwwwk", "llllllllllll", "dddddddddddd"},
-        {{'k', Wood[1]},
-         {'w', Wood[3]},
+        {{'k', kWood[1]},
+         {'w', kWood[3]},
          {'b', 0x5888B0},
          {'L', 0xC8ECF8},
          {'d', 0x304C78},
-         {'l', Wood[4]}});
+         {'l', kWood[4]}});
   return wall;
 }
 
@@ -87,15 +87,15 @@ Image Door() {
         {"...kkkkkkkk...", "..klllllllmk..", ".klkkkkkkkkmk.", ".kkdmmdmmddkk.", "klkdmldmlddkmk",
          "klkdmldmlddkmk", "klkiiiiiiiikmk", "klkdmldmlddkmk", "klkdmldmlyykmk", "klkdmldmlyokmk",
          "klkdmldmlddkmk", "klkiiiiiiiikmk", "klkdmldmlddkmk", "ssssssssssssss", "tttttttttttttt"},
-        {{'k', Wood[0]},
-         {'l', Stone[4]},
-         {'m', Wood[3]},
-         {'d', Wood[2]},
+        {{'k', kWood[0]},
+         {'l', kStone[4]},
+         {'m', kWood[3]},
+         {'d', kWood[2]},
          {'i', 0x3C3848},
-         {'y', Gold[3]},
-         {'o', Gold[1]},
-         {'s', Stone[5]},
-         {'t', Stone[3]}});
+         {'y', kGold[3]},
+         {'o', kGold[1]},
+         {'s', kStone[5]},
+         {'t', kStone[3]}});
   return wall;
 }
 
@@ -104,8 +104,8 @@ Image Door() {
 void PaintHouse(Sheet& sheet) {
   const Image roof = RoofPicture();
   for (int column = 0; column < 3; ++column) {
-    sheet.Put(22 + column, roof, column * TileSize, 0);
-    sheet.Put(15 + column, roof, column * TileSize, TileSize);
+    sheet.Put(22 + column, roof, column * kTileSize, 0);
+    sheet.Put(15 + column, roof, column * kTileSize, kTileSize);
   }
   sheet.Put(45, Wall(true, false));
   sheet.Put(46, WindowWall());

@@ -12,7 +12,7 @@ namespace {
 // Polished slabs with a slanting sheen and a vein; the variants are four dark stones for rims and
 // bridges, or inlaid with a square and a golden boss.
 Image LastFloor(int variant) {
-  return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+  return Fill(kTileSize, kTileSize, [&](int x, int y) -> Colour {
     if (variant == 1) {
       const int in_x = x % 8;
       const int in_y = y % 8;
@@ -29,15 +29,15 @@ Image LastFloor(int variant) {
       if (inset == 3) return x + y < 15 ? 0xC2BAD2 : 0xD8D2E2;
       const double boss = std::abs(x - 7.5) + std::abs(y - 7.5);
       if (boss < 3.6) {
-        if (boss > 2.6) return Gold[1];
-        return x + y < 14 ? Gold[4] : x + y < 16 ? Gold[3] : Gold[2];
+        if (boss > 2.6) return kGold[1];
+        return x + y < 14 ? kGold[4] : x + y < 16 ? kGold[3] : kGold[2];
       }
     } else {
       const double vein = x - 0.7 * y - 2.5 + 3 * (Noise(x / 4.0, y / 4.0, 0, 534) - 0.5);
       if (std::abs(vein) < 0.6) return 0xBEB6CE;
       if (std::abs(vein - 1) < 0.5) return 0xE4DFEA;
     }
-    return x + y < 13 ? 0xDCD7E4 : x + y < 20 ? Marble[3] : 0xC2BCCE;
+    return x + y < 13 ? 0xDCD7E4 : x + y < 20 ? kMarble[3] : 0xC2BCCE;
   });
 }
 
@@ -47,21 +47,21 @@ Image Glyph() {
         {"...gggggg...", "..g......g..", ".g..gGGg..g.", "g..g.gg.g..g", "g.g.gGGg.g.g",
          "gGGgG..GgGGg", "gGGgG..GgGGg", "g.g.gGGg.g.g", "g..g.gg.g..g", ".g..gGGg..g.",
          "..g......g..", "...gggggg..."},
-        {{'g', Gold[2]}, {'G', Gold[3]}});
+        {{'g', kGold[2]}, {'G', kGold[3]}});
   return tile;
 }
 
 Image LastStairs() {
-  return Fill(TileSize, TileSize, [](int x, int y) -> Colour {
-    if (x == 0 || x == 15) return Gold[2];
+  return Fill(kTileSize, kTileSize, [](int x, int y) -> Colour {
+    if (x == 0 || x == 15) return kGold[2];
     const int step = y % 4;
-    return Marble[step == 0 ? 5 : step == 3 ? 1 : step == 2 ? 3 : 4];
+    return kMarble[step == 0 ? 5 : step == 3 ? 1 : step == 2 ? 3 : 4];
   });
 }
 
 // Faint stars only: a bright one would come back in every tile and show the grid.
 Image Void() {
-  Image tile = Fill(TileSize, TileSize, [](int x, int y) -> Colour {
+  Image tile = Fill(kTileSize, kTileSize, [](int x, int y) -> Colour {
     const double cloud =
         0.6 * Noise(x / 4.0, y / 4.0, 4, 531) + 0.4 * Noise(x / 2.0, y / 2.0, 8, 532);
     return cloud > 0.62 ? 0x1A1034 : cloud > 0.50 ? 0x150C2C : 0x110926;

@@ -21,10 +21,10 @@ Image MarshPlanks() {
     int tone;
   };
   constexpr std::array<Board, 3> boards{{{0, 5, 10, 4}, {5, 5, 15, 3}, {10, 6, 4, 4}}};
-  Image tile(TileSize, TileSize);
+  Image tile(kTileSize, kTileSize);
   for (const Board& board : boards) {
-    for (int x = 0; x < TileSize; ++x) {
-      const int into = (x - board.joint + 2 * TileSize - 1) % TileSize;  // from the board's start
+    for (int x = 0; x < kTileSize; ++x) {
+      const int into = (x - board.joint + 2 * kTileSize - 1) % kTileSize;  // from the board's start
       for (int row = 0; row < board.height; ++row) {
         const int y = board.top + row;
         const bool seam = row == board.height - 1;
@@ -32,12 +32,12 @@ Image MarshPlanks() {
         int tone = row == 0 ? board.tone + 1 : grain > 0.7 ? board.tone - 1 : board.tone;
         if (row == board.height - 2) tone = board.tone - 1;
         if (into == 0 && !seam) tone = board.tone + 1;
-        if (into == TileSize - 1) tone = 2;
-        Set(tile, x, y, seam ? (y == TileSize - 1 ? Wood[1] : Wood[2]) : Wood[tone]);
+        if (into == kTileSize - 1) tone = 2;
+        Set(tile, x, y, seam ? (y == kTileSize - 1 ? kWood[1] : kWood[2]) : kWood[tone]);
       }
     }
-    for (const int nail : {2, TileSize - 4}) {
-      Set(tile, (board.joint + 1 + nail) % TileSize, board.top + 2, Wood[1]);
+    for (const int nail : {2, kTileSize - 4}) {
+      Set(tile, (board.joint + 1 + nail) % kTileSize, board.top + 2, kWood[1]);
     }
   }
   return tile;
@@ -46,8 +46,8 @@ Image MarshPlanks() {
 // How far a pixel lies inside the hummock of moss round the nearest corner of a pool's tile, or the
 // ragged moss along its sides; negative in the water.
 double HummockDepth(int x, int y) {
-  const double dx = std::min(x + 0.5, TileSize - 0.5 - x);
-  const double dy = y < 9 ? y + 1.5 : TileSize - 1.5 - y;
+  const double dx = std::min(x + 0.5, kTileSize - 0.5 - x);
+  const double dy = y < 9 ? y + 1.5 : kTileSize - 1.5 - y;
   const double rag = Noise(x / 2.0, y / 2.0, 8, 353) - 0.5;
   const double corner = 3.6 - std::hypot(dx, 1.1 * dy) + 1.6 * rag;
   const double side = std::max(-0.2 - dx, -0.7 - std::abs(dy - 0.5)) + 3.0 * rag;
@@ -57,22 +57,23 @@ double HummockDepth(int x, int y) {
 // Hummocks and tussocks of sedge in dark water. Those that cross the border are there in both
 // variants and on both sides: pools run together, and only a little is cut against grass or boards.
 Image MarshPool(int variant) {
-  const Key key = {{'h', Marsh[4]}, {'m', Marsh[2]}, {'k', Marsh[1]}, {'d', Pool[0]},
-                   {'b', Wood[3]},  {'l', Leaf[4]},  {'n', Leaf[5]},  {'g', Pool[4]},
-                   {'p', 0xF8B0D0}, {'w', 0xFCF8E0}, {'q', 0xC86C98}};
+  const Key key = {{'h', kMarsh[4]}, {'m', kMarsh[2]}, {'k', kMarsh[1]}, {'d', kPool[0]},
+                   {'b', kWood[3]},  {'l', kLeaf[4]},  {'n', kLeaf[5]},  {'g', kPool[4]},
+                   {'p', 0xF8B0D0},  {'w', 0xFCF8E0},  {'q', 0xC86C98}};
   const Image moss = MarshTile(0);
-  Image wide = Tiled(Fill(TileSize, TileSize,
+  Image wide = Tiled(Fill(kTileSize, kTileSize,
                           [&](int x, int y) {
                             const double depth = HummockDepth(x, y);
                             if (depth > 2.2) return moss.At(x, y);
-                            const double below = HummockDepth(x, (y + 1) % TileSize);
+                            const double below = HummockDepth(x, (y + 1) % kTileSize);
                             if (depth > 0)
-                              return below <= 0 ? Marsh[1] : Marsh[(x + y) % 3 == 0 ? 4 : 2];
-                            if (HummockDepth(x, (y + TileSize - 1) % TileSize) > 0) return Pool[0];
+                              return below <= 0 ? kMarsh[1] : kMarsh[(x + y) % 3 == 0 ? 4 : 2];
+                            if (HummockDepth(x, (y + kTileSize - 1) % kTileSize) > 0)
+                              return kPool[0];
                             const double ripple = Noise(x / 4.0, y / 2.0, 8, 335);
-                            return Pool[ripple > 0.80 ? 3 : ripple > 0.36 ? 2 : 1];
+                            return kPool[ripple > 0.80 ? 3 : ripple > 0.36 ? 2 : 1];
                           }),
-                     3 * TileSize, 3 * TileSize);
+                     3 * kTileSize, 3 * kTileSize);
   const auto large = [&](int x, int y) {
     Stamp(wide, x, y, {"..h.h..", ".hmhmh.", "hmhmhmk", "mmmkmmk", "kkmkkkk", "dkkkkdd", ".dddd.."},
           key);
@@ -80,13 +81,13 @@ Image MarshPool(int variant) {
   const auto small = [&](int x, int y) {
     Stamp(wide, x, y, {".h.h.", "hmhmk", "mmkmk", "dkkkd", ".ddd."}, key);
   };
-  for (int down = 0; down < 3 * TileSize; down += TileSize) {
-    for (int across = 0; across < 3 * TileSize; across += TileSize) {
-      small(across + 9, down + 12 - TileSize);
-      large(across + 13 - TileSize, down + 5);
+  for (int down = 0; down < 3 * kTileSize; down += kTileSize) {
+    for (int across = 0; across < 3 * kTileSize; across += kTileSize) {
+      small(across + 9, down + 12 - kTileSize);
+      large(across + 13 - kTileSize, down + 5);
     }
   }
-  Image tile = Cut(wide, TileSize, TileSize);
+  Image tile = Cut(wide, kTileSize, kTileSize);
   if (variant == 0) {
     Stamp(tile, 5, 6, {".nn.", "nl.l", ".lll"}, key);
     Stamp(tile, 9, 10, {"gg"}, key);

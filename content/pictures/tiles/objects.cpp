@@ -14,40 +14,40 @@ Image Sign() {
         {".kkkkkkkkkkkk.", "klhhhhhhhhhhmk", "khmmmmmmmmmmdk", "khmkkmkkkmkmdk", "khmmmmmmmmmmdk",
          "khmkkkmkkmmmdk", "khmmmmmmmmmmdk", "kmddddddddddsk", ".kkkkkkkkkkkk.", ".....kldk.....",
          ".....kldk.....", ".....kldk.....", ".....kldk.....", "....kkkkkk...."},
-        {{'k', Wood[0]},
-         {'l', Wood[4]},
-         {'h', Wood[5]},
-         {'m', Wood[4]},
-         {'d', Wood[3]},
-         {'s', Wood[2]}});
+        {{'k', kWood[0]},
+         {'l', kWood[4]},
+         {'h', kWood[5]},
+         {'m', kWood[4]},
+         {'d', kWood[3]},
+         {'s', kWood[2]}});
   return tile;
 }
 
 Image Fence(bool rails) {
   Image tile = GrassTile(0);
   if (rails) {
-    Box(tile, 0, 14, 16, 1, Grass[1]);
+    Box(tile, 0, 14, 16, 1, kGrass[1]);
     for (const int y : {4, 9}) {
-      Box(tile, 0, y, 16, 1, Wood[5]);
-      Box(tile, 0, y + 1, 16, 1, Wood[3]);
-      Box(tile, 0, y + 2, 16, 1, Wood[0]);
+      Box(tile, 0, y, 16, 1, kWood[5]);
+      Box(tile, 0, y + 1, 16, 1, kWood[3]);
+      Box(tile, 0, y + 2, 16, 1, kWood[0]);
     }
   }
   const auto post = [&](int x, int y) {
     Stamp(tile, x, y,
           {".kk.", "khlk", "kldk", "kldk", "kldk", "kldk", "kldk", "kldk", "kldk", "kldk", "kldk",
            "kldk", "kkkk", ".ss."},
-          {{'k', Wood[0]}, {'h', Wood[5]}, {'l', Wood[4]}, {'d', Wood[2]}, {'s', Grass[1]}});
+          {{'k', kWood[0]}, {'h', kWood[5]}, {'l', kWood[4]}, {'d', kWood[2]}, {'s', kGrass[1]}});
   };
   if (rails) {
     post(2, 2);
     post(10, 2);
   } else {
-    Box(tile, 6, 0, 4, 3, Wood[2]);
-    Box(tile, 6, 0, 1, 16, Wood[0]);
-    Box(tile, 9, 0, 1, 16, Wood[0]);
-    Box(tile, 7, 0, 1, 16, Wood[4]);
-    Box(tile, 8, 0, 1, 16, Wood[2]);
+    Box(tile, 6, 0, 4, 3, kWood[2]);
+    Box(tile, 6, 0, 1, 16, kWood[0]);
+    Box(tile, 9, 0, 1, 16, kWood[0]);
+    Box(tile, 7, 0, 1, 16, kWood[4]);
+    Box(tile, 8, 0, 1, 16, kWood[2]);
     post(6, 1);
   }
   return tile;
@@ -61,12 +61,12 @@ Image Boulder() {
          "..khhlllkmmmdk..", ".khhlllkmmmmddk.", ".khllllkmmmdddk.", ".kllllkmmmmddsk.",
          "klllmmkmmmddddsk", "kllmmmmkmmdddssk", "klmmmmmdkddddssk", ".kmmmdddddddssk.",
          ".kkddddddsssskk.", "...kkkkkkkkkk..."},
-        {{'k', Rock[0]},
-         {'h', Rock[7]},
-         {'l', Rock[5]},
-         {'m', Rock[4]},
-         {'d', Rock[3]},
-         {'s', Rock[2]}});
+        {{'k', kRock[0]},
+         {'h', kRock[7]},
+         {'l', kRock[5]},
+         {'m', kRock[4]},
+         {'d', kRock[3]},
+         {'s', kRock[2]}});
   return tile;
 }
 

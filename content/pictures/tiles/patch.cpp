@@ -8,21 +8,21 @@
 namespace orvane::paint::tiles {
 namespace {
 
-constexpr double PatchSize = 3.0 * TileSize;
+constexpr double kPatchSize = 3.0 * kTileSize;
 
 // Depth inside a rounded square of three by three tiles.
 double OuterDepth(const PatchPlan& plan, double x, double y) {
-  const double half = PatchSize / 2 - plan.inset - plan.radius;
-  const double dx = std::abs(x + 0.5 - PatchSize / 2) - half;
-  const double dy = std::abs(y + 0.5 - PatchSize / 2) - half;
+  const double half = kPatchSize / 2 - plan.inset - plan.radius;
+  const double dx = std::abs(x + 0.5 - kPatchSize / 2) - half;
+  const double dy = std::abs(y + 0.5 - kPatchSize / 2) - half;
   const double outside = std::hypot(std::max(dx, 0.0), std::max(dy, 0.0));
   return plan.radius - outside - std::min(std::max(dx, dy), 0.0);
 }
 
 // Depth in a tile that is all inside but for a rounded square in one corner.
 double InnerDepth(const PatchPlan& plan, int corner, double x, double y) {
-  const double across = (corner % 2 == 0 ? x + 0.5 : TileSize - 0.5 - x) - plan.inset;
-  const double down = (corner < 2 ? y + 0.5 : TileSize - 0.5 - y) - plan.inset;
+  const double across = (corner % 2 == 0 ? x + 0.5 : kTileSize - 0.5 - x) - plan.inset;
+  const double down = (corner < 2 ? y + 0.5 : kTileSize - 0.5 - y) - plan.inset;
   const double soft = 3.0;
   const double dx = across + soft;
   const double dy = down + soft;
@@ -53,14 +53,14 @@ Image Paint(const PatchPlan& plan, int size, Depth depth, Colour (*colour_at)(co
 void PaintPatch(Sheet& sheet, const PatchPlan& plan, Colour (*colour_at)(const PatchSpot&)) {
   sheet.PutBlock(plan.first,
                  Paint(
-                     plan, 3 * TileSize, [&](double x, double y) { return OuterDepth(plan, x, y); },
-                     colour_at));
+                     plan, 3 * kTileSize,
+                     [&](double x, double y) { return OuterDepth(plan, x, y); }, colour_at));
   for (int corner = 0; corner < 4; ++corner) {
     const int code = plan.inner[static_cast<size_t>(corner)];
     if (code == 0) continue;
     sheet.Put(code,
               Paint(
-                  plan, TileSize,
+                  plan, kTileSize,
                   [&](double x, double y) { return InnerDepth(plan, corner, x, y); }, colour_at));
   }
 }

@@ -20,39 +20,39 @@ Colour InGrass(const PatchSpot& spot, const Image& ground, const Ramp<Count>& ra
     if (!shaded_side && spot.depth < 1.2) return ramp[4];
     return Repeated(ground, spot.x, spot.y);
   }
-  if (spot.depth > -1.2) return shaded_side ? Grass[6] : Grass[2];
-  if (spot.depth > -2.2) return shaded_side ? Grass[5] : Grass[3];
+  if (spot.depth > -1.2) return shaded_side ? kGrass[6] : kGrass[2];
+  if (spot.depth > -2.2) return shaded_side ? kGrass[5] : kGrass[3];
   return Repeated(grass, spot.x, spot.y);
 }
 
 Colour PathInGrass(const PatchSpot& spot) {
   static const Image ground = PathTile();
-  return InGrass(spot, ground, Path);
+  return InGrass(spot, ground, kPath);
 }
 
 Colour SandInGrass(const PatchSpot& spot) {
   static const Image ground = SandTile(0);
-  return InGrass(spot, ground, Sand);
+  return InGrass(spot, ground, kSand);
 }
 
 Colour LitterInGrass(const PatchSpot& spot) {
   static const Image ground = LitterTile(0);
-  return InGrass(spot, ground, Litter);
+  return InGrass(spot, ground, kLitter);
 }
 
 Colour PavingInGrass(const PatchSpot& spot) {
   static const Image ground = PavingTile(0);
-  return InGrass(spot, ground, Stone);
+  return InGrass(spot, ground, kStone);
 }
 
 Colour WasteInGrass(const PatchSpot& spot) {
   static const Image ground = WasteTile(0);
-  return InGrass(spot, ground, Waste);
+  return InGrass(spot, ground, kWaste);
 }
 
 // A trail one cell wide, from the two opposite shores of a patch.
 Image Trail(bool across) {
-  return Fill(TileSize, TileSize, [&](int x, int y) {
+  return Fill(kTileSize, kTileSize, [&](int x, int y) {
     const int place = across ? y : x;
     const double waver = 1.6 * Noise((across ? x : y) / 3.2, 0.5, 5, 213);
     PatchSpot spot;

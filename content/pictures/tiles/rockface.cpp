@@ -9,29 +9,29 @@
 namespace orvane::paint::tiles {
 namespace {
 
-constexpr int Columns = 4;
+constexpr int kColumns = 4;
 
 int Rest(int value) {
-  const int rest = value % TileSize;
-  return rest < 0 ? rest + TileSize : rest;
+  const int rest = value % kTileSize;
+  return rest < 0 ? rest + kTileSize : rest;
 }
 
 // How far the left side of a column leans over the height of a tile, in pixels a row.
 double Lean(int column, int stratum) {
-  return (Hash(column % Columns, stratum, 1) - 0.5) * 0.3;
+  return (Hash(column % kColumns, stratum, 1) - 0.5) * 0.3;
 }
 
 }  // namespace
 
 double FaceTone(int x, int y, int stratum) {
-  constexpr std::array<std::array<int, Columns + 1>, 4> Edges{
+  constexpr std::array<std::array<int, kColumns + 1>, 4> Edges{
       {{0, 5, 9, 12, 16}, {0, 4, 10, 13, 16}, {0, 6, 9, 14, 16}, {0, 3, 8, 12, 16}}};
   const auto& edges = Edges[static_cast<size_t>(stratum % 4)];
   const double px = Rest(x) + 0.5;
   const double py = Rest(y) + 0.5;
-  for (int k = -1; k <= Columns; ++k) {
-    const int column = (k + Columns) % Columns;
-    const double shift = k < 0 ? -TileSize : k >= Columns ? TileSize : 0;
+  for (int k = -1; k <= kColumns; ++k) {
+    const int column = (k + kColumns) % kColumns;
+    const double shift = k < 0 ? -kTileSize : k >= kColumns ? kTileSize : 0;
     const auto at = static_cast<size_t>(column);
     const double left = edges[at] + shift + Lean(column, stratum) * (py - 8);
     const double right = edges[at + 1] + shift + Lean(column + 1, stratum) * (py - 8);
@@ -58,7 +58,7 @@ double FaceTone(int x, int y, int stratum) {
 double SummitTone(int x, int y) {
   const double bent_x = x + 0.5 + 3 * (Noise(x / 4.0, y / 4.0, 4, 10) - 0.5);
   const double bent_y = y + 0.5 + 3 * (Noise(x / 4.0, y / 4.0, 4, 11) - 0.5);
-  const Facet block = FacetAt(bent_x * 3 / TileSize, bent_y * 2 / TileSize, 3, 2, 749);
+  const Facet block = FacetAt(bent_x * 3 / kTileSize, bent_y * 2 / kTileSize, 3, 2, 749);
   const double slant = block.dx + block.dy;
   if (block.edge < 0.08) return 0.8;
   if (block.edge < 0.20 && slant < -0.05) return 5.8;
@@ -67,7 +67,7 @@ double SummitTone(int x, int y) {
 }
 
 double CaveTopTone(int x, int y) {
-  const Facet facet = FacetAt((x + 0.5) * 2 / TileSize, (y + 0.5) * 2 / TileSize, 2, 2, 613);
+  const Facet facet = FacetAt((x + 0.5) * 2 / kTileSize, (y + 0.5) * 2 / kTileSize, 2, 2, 613);
   if (facet.edge < 0.10) return 0.4;
   const double slant = facet.dx + facet.dy;
   if (facet.edge < 0.24 && slant < -0.1) return 2.4;
@@ -78,11 +78,11 @@ double CaveTopTone(int x, int y) {
 Colour BlockColour(int x, int down) {
   const int course = down / 4;
   const int along = (x + course % 2 * 4) % 8;
-  if (down % 4 == 3 || along == 7) return Stone[0];
+  if (down % 4 == 3 || along == 7) return kStone[0];
   const bool mossy = Noise(x / 3.0, down / 3.0, 0, 491) > 0.70;
   if (mossy) return down % 4 == 0 ? 0x6C8850 : 0x4C6840;
-  if (down % 4 == 0 || along == 0) return Stone[3];
-  return Stone[Hash(x / 8, course, 493) > 0.5 ? 2 : 1];
+  if (down % 4 == 0 || along == 0) return kStone[3];
+  return kStone[Hash(x / 8, course, 493) > 0.5 ? 2 : 1];
 }
 
 }  // namespace orvane::paint::tiles

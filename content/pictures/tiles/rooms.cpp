@@ -10,49 +10,49 @@ namespace orvane::paint::tiles {
 namespace {
 
 Image WallTop() {
-  return Fill(TileSize, TileSize, [](int x, int y) -> Colour {
-    return Noise(x / 4.0, y / 4.0, 4, 501) > 0.72 ? 0x1C1224U : Dark[0];
+  return Fill(kTileSize, kTileSize, [](int x, int y) -> Colour {
+    return Noise(x / 4.0, y / 4.0, 4, 501) > 0.72 ? 0x1C1224U : kDark[0];
   });
 }
 
 Image WallFace() {
-  return Fill(TileSize, TileSize, [](int x, int y) -> Colour {
-    if (y == 0) return Dark[0];
-    if (y < 3) return Wood[y == 1 ? 4 : 2];
-    if (y > 12) return y == 15 ? Wood[0] : Wood[y == 13 ? 3 : 1];
-    if (y == 3) return Stone[0];
+  return Fill(kTileSize, kTileSize, [](int x, int y) -> Colour {
+    if (y == 0) return kDark[0];
+    if (y < 3) return kWood[y == 1 ? 4 : 2];
+    if (y > 12) return y == 15 ? kWood[0] : kWood[y == 13 ? 3 : 1];
+    if (y == 3) return kStone[0];
     const int course = (y - 4) / 3;
-    if ((y - 4) % 3 == 2 || (x + course % 2 * 4) % 8 == 0) return Dark[2];
-    return (y - 4) % 3 == 0 ? Dark[6] : Dark[5];
+    if ((y - 4) % 3 == 2 || (x + course % 2 * 4) % 8 == 0) return kDark[2];
+    return (y - 4) % 3 == 0 ? kDark[6] : kDark[5];
   });
 }
 
 Image LampFace() {
   Image tile = WallFace();
   for (int y = 3; y < 13; ++y) {
-    for (int x = 0; x < TileSize; ++x) {
+    for (int x = 0; x < kTileSize; ++x) {
       if (std::hypot(x - 7.5, (y - 6.0) * 1.1) < 6.2)
-        tile.At(x, y) = Dark[(y - 4) % 3 == 2 ? 4 : 7];
+        tile.At(x, y) = kDark[(y - 4) % 3 == 2 ? 4 : 7];
     }
   }
   Stamp(tile, 5, 2,
         {"..yy..", ".ywwy.", ".owwo.", "..oo..", ".kggk.", "..kk..", "..kk..", "...k.."},
-        {{'y', 0xFCD060}, {'w', 0xFFFCE0}, {'o', 0xF48830}, {'k', 0x34201C}, {'g', Gold[3]}});
+        {{'y', 0xFCD060}, {'w', 0xFFFCE0}, {'o', 0xF48830}, {'k', 0x34201C}, {'g', kGold[3]}});
   return tile;
 }
 
 // Two boards of books under a top that is seen from above; the shelf throws a shadow on the floor,
 // so that it stands in the middle of a room as well as against its wall.
 Image Bookshelf() {
-  Image tile(TileSize, TileSize, Wood[0]);
+  Image tile(kTileSize, kTileSize, kWood[0]);
   Stamp(tile, 0, 0,
         {"kkkkkkkkkkkkkkkk", "llllllllllllllll", "nnnnnnnnnnnnnnnn", "kzzRrzzGgzzzzBbn",
          "kQqRrEeGgBbzzBbn", "kQqRrEeGgBbYyBbn", "kqqrreeggbbyybbn", "nnnnnnnnnnnnnnnn",
          "kBbzzzzQqzzRrzzn", "kBbEeGgQqzzRrYyn", "kBbEeGgQqGgRrYyn", "kbbeeggqqggrryyn",
          "nnnnnnnnnnnnnnnn", "kkkkkkkkkkkkkkkk", "ssssssssssssssss", "tttttttttttttttt"},
-        {{'k', Wood[0]},
-         {'l', Wood[4]},
-         {'n', Wood[2]},
+        {{'k', kWood[0]},
+         {'l', kWood[4]},
+         {'n', kWood[2]},
          {'z', 0x20100C},
          {'r', 0x842C34},
          {'R', 0xC45C4C},
@@ -74,12 +74,12 @@ Image Bookshelf() {
 // A dark wall whose rim toward the room is lit: 0 room to the right, 1 to the left, 2 above.
 Image SideWall(int side) {
   const Image top = WallTop();
-  return Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+  return Fill(kTileSize, kTileSize, [&](int x, int y) -> Colour {
     const int from_room = side == 0 ? 15 - x : side == 1 ? x : y;
-    if (from_room == 0) return Wood[0];
-    if (from_room == 1) return Wood[side == 1 ? 3 : 4];
-    if (from_room == 2) return Wood[2];
-    if (from_room == 3) return Wood[0];
+    if (from_room == 0) return kWood[0];
+    if (from_room == 1) return kWood[side == 1 ? 3 : 4];
+    if (from_room == 2) return kWood[2];
+    if (from_room == 3) return kWood[0];
     return top.At(x, y);
   });
 }
@@ -87,10 +87,10 @@ Image SideWall(int side) {
 // Four long boards in a tile, each with one end; the second variant has its ends elsewhere and a
 // knot. Seams are only a little darker than the wood, so that the floor stays calm.
 Image Boards(int variant) {
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) -> Colour {
+  Image tile = Fill(kTileSize, kTileSize, [&](int x, int y) -> Colour {
     const int board = y / 4;
     const int within = y % 4;
-    const int end = (board * 6 + variant * 5 + 2) % TileSize;
+    const int end = (board * 6 + variant * 5 + 2) % kTileSize;
     if (within == 3) return 0xB4864C;
     if (x == end) return 0xBC9054;
     if (within == 0) return 0xE0B87C;
@@ -106,15 +106,15 @@ Image CarpetPicture() {
   return Fill(48, 16, [&](int x, int y) -> Colour {
     const int in = x < 24 ? x - 3 : 44 - x;
     if (in < -1) return boards.At(x, y);
-    if (in == -1) return Wood[1];
-    if (in == 0) return Carpet[0];
-    if (in < 3) return Gold[in == 1 ? 3 : 2];
-    if (in == 3) return Carpet[1];
+    if (in == -1) return kWood[1];
+    if (in == 0) return kCarpet[0];
+    if (in < 3) return kGold[in == 1 ? 3 : 2];
+    if (in == 3) return kCarpet[1];
     const int u = std::abs(x % 16 - 8);
     const int v = std::abs(y - 8);
-    if (in > 5 && u + v == 5) return Gold[2];
-    if (in > 5 && u + v < 2) return Gold[3];
-    return Carpet[(x + y) % 4 == 0 ? 3 : 2];
+    if (in > 5 && u + v == 5) return kGold[2];
+    if (in > 5 && u + v < 2) return kGold[3];
+    return kCarpet[(x + y) % 4 == 0 ? 3 : 2];
   });
 }
 

@@ -13,8 +13,8 @@ namespace {
 Colour Top(int x, int y) {
   const double moss = Noise(x / 4.0, y / 3.0, 0, 495);
   if (moss > 0.74) return moss > 0.84 ? 0x84A058 : 0x6C8850;
-  if (Noise(x / 2.0, y / 2.0, 0, 498) > 0.80) return Stone[1];
-  return Noise(x / 3.0, y / 3.0, 0, 497) > 0.42 ? Stone[3] : Stone[2];
+  if (Noise(x / 2.0, y / 2.0, 0, 498) > 0.80) return kStone[1];
+  return Noise(x / 3.0, y / 3.0, 0, 497) > 0.42 ? kStone[3] : kStone[2];
 }
 
 // A square of ruined wall around a cell of paving. Each wall shows its top, and those that look
@@ -28,10 +28,10 @@ Image Walls() {
         if (y < top + depth) {
           const bool rim = y == top || x == left;
           const bool far_rim = x == left + width - 1;
-          colour = rim ? Stone[4] : far_rim ? Stone[1] : Top(x, y);
+          colour = rim ? kStone[4] : far_rim ? kStone[1] : Top(x, y);
         } else {
           colour = BlockColour(x, y - top - depth);
-          if (y == top + depth) colour = Stone[0];
+          if (y == top + depth) colour = kStone[0];
         }
         Set(walls, x, y, colour);
       }
@@ -40,9 +40,9 @@ Image Walls() {
   slab(2, 1, 44, 6, 9);
   slab(2, 7, 9, 34, 0);
   slab(37, 7, 9, 34, 0);
-  Box(walls, 11, 16, 2, 17, Stone[1]);
+  Box(walls, 11, 16, 2, 17, kStone[1]);
   slab(2, 33, 44, 6, 8);
-  Box(walls, 2, 47, 44, 1, Stone[0]);
+  Box(walls, 2, 47, 44, 1, kStone[0]);
   return walls;
 }
 
@@ -54,13 +54,13 @@ Image Pillar() {
          ".klhlmmddsk.", ".klhgmmddsk.", ".klhlgmddsk.", ".klhlmmddsk.", ".klhlmmddsk.",
          ".klhlmgddsk.", ".klhlmmddsk.", "kkkkkkkkkkkk", "klhhhhhmmmdk", "kddddddsssdk",
          ".kkkkkkkkkk."},
-        {{'k', Stone[0]},
-         {'l', Stone[4]},
-         {'h', Stone[5]},
-         {'m', Stone[3]},
-         {'d', Stone[2]},
-         {'s', Stone[1]},
-         {'g', Leaf[3]}});
+        {{'k', kStone[0]},
+         {'l', kStone[4]},
+         {'h', kStone[5]},
+         {'m', kStone[3]},
+         {'d', kStone[2]},
+         {'s', kStone[1]},
+         {'g', kLeaf[3]}});
   return tile;
 }
 
@@ -77,13 +77,13 @@ Image Statue() {
          ".khhhhhhllmmmdk.", ".kllllmmmmmdddk.", ".kkkkkkkkkkkkkk.", "..khllmmmmmddk..",
          "..khlkkkkkkddk..", "..khlkllmmkddk..", "..khlkkkkkkddk..", "..khllmmmmmddk..",
          ".khhhhlllmmmmdk.", ".kkkkkkkkkkkkkk."},
-        {{'k', Stone[0]},
-         {'h', Stone[5]},
-         {'l', Stone[4]},
-         {'m', Stone[3]},
-         {'d', Stone[2]},
-         {'y', Gold[2]},
-         {'Y', Gold[3]}});
+        {{'k', kStone[0]},
+         {'h', kStone[5]},
+         {'l', kStone[4]},
+         {'m', kStone[3]},
+         {'d', kStone[2]},
+         {'y', kGold[2]},
+         {'Y', kGold[3]}});
   return statue;
 }
 
@@ -93,7 +93,7 @@ void PaintRuins(Sheet& sheet) {
   const Image walls = Walls();
   const int codes[] = {82, 83, 84, 112, 0, 114, 142, 143, 144};
   for (int i = 0; i < 9; ++i) {
-    if (codes[i] != 0) sheet.Put(codes[i], walls, i % 3 * TileSize, i / 3 * TileSize);
+    if (codes[i] != 0) sheet.Put(codes[i], walls, i % 3 * kTileSize, i / 3 * kTileSize);
   }
   sheet.Put(200, Pillar());
   const Image statue = Statue();

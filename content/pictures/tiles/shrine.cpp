@@ -11,84 +11,85 @@ namespace {
 // Three by two tiles of shrine cut into a cliff: gable above, columns and a dark doorway below.
 Image Shrine() {
   Image shrine = Fill(48, 32, [](int x, int y) {
-    return Rock[static_cast<int>(std::floor(FaceTone(x, y, y < 16 ? 15 : 22) - 0.6))];
+    return kRock[static_cast<int>(std::floor(FaceTone(x, y, y < 16 ? 15 : 22) - 0.6))];
   });
   for (int y = 2; y < 16; ++y) {
     const int reach = y < 10 ? (y - 1) * 3 : 23;
     for (int x = 24 - reach; x < 24 + reach; ++x) {
-      Colour colour = Stone[3];
+      Colour colour = kStone[3];
       if (y < 10) {
         const int from_rim = reach - std::abs(2 * x - 47) / 2;
-        colour = from_rim < 2 ? Stone[0] : from_rim < 5 ? Stone[x < 24 ? 5 : 3] : Stone[2];
+        colour = from_rim < 2 ? kStone[0] : from_rim < 5 ? kStone[x < 24 ? 5 : 3] : kStone[2];
       } else {
-        colour = y == 10 ? Stone[0] : y == 11 ? Stone[5] : y == 15 ? Stone[1] : Stone[4];
-        if (y > 11 && y < 15 && x % 6 < 2) colour = Stone[2];
+        colour = y == 10 ? kStone[0] : y == 11 ? kStone[5] : y == 15 ? kStone[1] : kStone[4];
+        if (y > 11 && y < 15 && x % 6 < 2) colour = kStone[2];
       }
-      if (x == 24 - reach || x == 24 + reach - 1) colour = Stone[0];
+      if (x == 24 - reach || x == 24 + reach - 1) colour = kStone[0];
       Set(shrine, x, y, colour);
     }
   }
   Stamp(shrine, 21, 4, {"..yy..", ".yYYo.", "yYkkYo", "yYkkYo", ".oYYo."},
-        {{'y', Gold[3]}, {'Y', Gold[4]}, {'o', Gold[2]}, {'k', 0x20486C}});
+        {{'y', kGold[3]}, {'Y', kGold[4]}, {'o', kGold[2]}, {'k', 0x20486C}});
   // The wall behind the columns, then the doorway, then the columns.
-  Box(shrine, 2, 16, 44, 16, Stone[1]);
+  Box(shrine, 2, 16, 44, 16, kStone[1]);
   for (int y = 16; y < 32; ++y) {
     for (int x = 2; x < 46; ++x) {
-      if (y % 5 == 0 || (x + y / 5 * 4) % 8 == 0) Set(shrine, x, y, Stone[0]);
+      if (y % 5 == 0 || (x + y / 5 * 4) % 8 == 0) Set(shrine, x, y, kStone[0]);
     }
   }
   for (const int left : {3, 9, 34, 40}) {
-    Stamp(shrine, left, 16,
-          {"khhlmk", "kllmdk", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.",
-           ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", "khllmk", "kllmdk", "kkkkkk"},
-          {{'k', Stone[0]}, {'h', Stone[5]}, {'l', Stone[4]}, {'m', Stone[3]}, {'d', Stone[2]}});
+    Stamp(
+        shrine, left, 16,
+        {"khhlmk", "kllmdk", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.",
+         ".hlmd.", ".hlmd.", ".hlmd.", ".hlmd.", "khllmk", "kllmdk", "kkkkkk"},
+        {{'k', kStone[0]}, {'h', kStone[5]}, {'l', kStone[4]}, {'m', kStone[3]}, {'d', kStone[2]}});
   }
   Stamp(shrine, 16, 16,
         {"khhhhhhhhhhhhmmk", "khkkkkkkkkkkkkmk", "khkzzzzzzzzzzkmk", "khkzzzzzzzzzzkmk",
          "khkzzzzzzzzzzkmk", "khkzzzzyyzzzzkmk", "khkzzzyYYyzzzkmk", "khkzzzzyyzzzzkmk",
          "khkzzzzzzzzzzkmk", "khkzzzzzzzzzzkmk", "khkzzzzzzzzzzkmk", "khkzzzzzzzzzzkmk",
          "khkvvvvvvvvvvkmk", "khkwwwwwwwwwwkmk", "khkxxxxxxxxxxkmk", "khkllllllllllkmk"},
-        {{'k', Stone[0]},
-         {'h', Stone[5]},
-         {'m', Stone[3]},
-         {'l', Stone[4]},
+        {{'k', kStone[0]},
+         {'h', kStone[5]},
+         {'m', kStone[3]},
+         {'l', kStone[4]},
          {'z', 0x0C0814},
          {'v', 0x1C1828},
          {'w', 0x34303C},
-         {'x', Stone[1]},
-         {'y', Gold[1]},
-         {'Y', Gold[3]}});
+         {'x', kStone[1]},
+         {'y', kGold[1]},
+         {'Y', kGold[3]}});
   return shrine;
 }
 
 Image ShrineSteps() {
-  return Fill(TileSize, TileSize, [](int x, int y) {
-    if (x == 0 || x == 15) return Stone[1];
+  return Fill(kTileSize, kTileSize, [](int x, int y) {
+    if (x == 0 || x == 15) return kStone[1];
     const int step = y % 4;
-    return Stone[step == 0 ? 5 : step == 3 ? 2 : 4];
+    return kStone[step == 0 ? 5 : step == 3 ? 2 : 4];
   });
 }
 
 // The gate of the last book: a black arch that glows violet, framed in stone.
 Image Gate() {
-  Image tile = Fill(TileSize, TileSize, [](int x, int y) { return BlockColour(x, y); });
+  Image tile = Fill(kTileSize, kTileSize, [](int x, int y) { return BlockColour(x, y); });
   Stamp(tile, 0, 0,
         {"kkkkkkkkkkkkkkkk", "khhhhhyYYyhhhmmk", "khhkkkkyykkkkmmk", "khkkvvvvvvvvkkmk",
          "khkvwwwwwwwwvkmk", "kkvwWzzzzzzWwvkk", "kyvwzzzzzzzzwvyk", "kYvwzzVVVVzzwvYk",
          "kyvwzzVUUVzzwvyk", "khvwzzVUUVzzwvmk", "khvwzzVVVVzzwvmk", "khvwzzzzzzzzwvmk",
          "khvwWzzzzzzWwvmk", "khvwwWWWWWWwwvmk", "khvUUUUUUUUUUvmk", "kkllllllllllllkk"},
-        {{'k', Stone[0]},
-         {'h', Stone[5]},
-         {'m', Stone[3]},
-         {'y', Gold[2]},
-         {'Y', Gold[4]},
+        {{'k', kStone[0]},
+         {'h', kStone[5]},
+         {'m', kStone[3]},
+         {'y', kGold[2]},
+         {'Y', kGold[4]},
          {'v', 0x40186C},
          {'w', 0x281048},
          {'W', 0x5C2C94},
          {'z', 0x0C0418},
          {'V', 0x8C54D0},
          {'U', 0xD8B0FC},
-         {'l', Stone[4]}});
+         {'l', kStone[4]}});
   return tile;
 }
 

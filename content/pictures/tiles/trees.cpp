@@ -15,7 +15,7 @@ void Trunk(Image& image, int x, int top, int bottom, int half) {
     const int flare = y > bottom - 2 ? 1 : 0;
     for (int i = -half - flare; i <= half + flare; ++i) {
       const bool rim = std::abs(i) == half + flare;
-      Set(image, x + i, y, rim ? Wood[0] : Wood[i < 0 ? 3 : i == 0 ? 2 : 1]);
+      Set(image, x + i, y, rim ? kWood[0] : kWood[i < 0 ? 3 : i == 0 ? 2 : 1]);
     }
   }
 }
@@ -25,7 +25,7 @@ Image GreatTree() {
   CastShadow(tree, 17, 28, 13, 3.6, 0.7);
   Trunk(tree, 16, 20, 29, 3);
   const Crown crown{15.5, 12.5, 14.8, 12.0, 5, 0};
-  PaintCrown(tree, crown, Heap(crown), Leaf);
+  PaintCrown(tree, crown, Heap(crown), kLeaf);
   return tree;
 }
 
@@ -34,17 +34,17 @@ Image GreatTree() {
 Image Woods() {
   Image woods = Tiled(GrassTile(0), 48, 48);
   for (int x = 8; x < 48; x += 16) CastShadow(woods, x + 1, 44, 9, 3.4, 0.75);
-  Box(woods, 6, 14, 36, 28, Leaf[0]);
+  Box(woods, 6, 14, 36, 28, kLeaf[0]);
   for (int x = 8; x < 48; x += 16) Trunk(woods, x, 38, 46, 2);
   for (int row = 0; row < 3; ++row) {
     for (int column = 0; column < 3; ++column) {
       const Crown near{column * 16 + 7.5, row * 16 + 6.8, 8.4, 7.0, 11, 0.2};
-      PaintCrown(woods, near, Heap(near), Leaf);
+      PaintCrown(woods, near, Heap(near), kLeaf);
     }
     if (row == 2) break;
     for (int column = 1; column < 3; ++column) {
       const Crown between{column * 16 - 0.5, row * 16 + 15.0, 8.2, 7.2, 23, -0.5};
-      PaintCrown(woods, between, Heap(between), Leaf);
+      PaintCrown(woods, between, Heap(between), kLeaf);
     }
   }
   return woods;
@@ -72,7 +72,7 @@ Image FirTree() {
         double tone = 2.6 - 1.9 * aside / half + (down - 0.5) * 1.2;
         if (down < 0.3) tone -= 1.2;
         tone += 0.9 * (Hash(x, y / 2, 473) - 0.5);
-        tree.At(x, y) = rim ? Fir[0] : Fir[std::max(1, static_cast<int>(std::floor(tone)))];
+        tree.At(x, y) = rim ? kFir[0] : kFir[std::max(1, static_cast<int>(std::floor(tone)))];
       }
     }
   }
@@ -83,7 +83,7 @@ Image Bush() {
   Image tile = GrassTile(0);
   CastShadow(tile, 8.5, 12, 7.4, 3, 0.6);
   const Crown crown{7.5, 7.6, 7.2, 5.8, 37, 0.3};
-  PaintCrown(tile, crown, Heap(crown), Leaf);
+  PaintCrown(tile, crown, Heap(crown), kLeaf);
   for (const auto& [x, y] : {std::pair{4, 6}, {9, 4}, {11, 9}, {6, 10}}) {
     Stamp(tile, x, y, {"rd"}, {{'r', 0xF46858}, {'d', 0x981830}});
   }

@@ -20,19 +20,19 @@ Colour Lake(const PatchSpot& spot) {
   const double bank = far_shore ? 3.5 : 1.0;
   if (spot.depth > bank) {
     const double in = spot.depth - bank;
-    if (in < 1.0) return Water[6];
-    if (in < 2.2) return far_shore ? Water[1] : Water[4];
-    if (in < 4.0 && far_shore) return Water[1];
-    if (in < 3.4 && !far_shore) return Water[3];
+    if (in < 1.0) return kWater[6];
+    if (in < 2.2) return far_shore ? kWater[1] : kWater[4];
+    if (in < 4.0 && far_shore) return kWater[1];
+    if (in < 3.4 && !far_shore) return kWater[3];
     return Repeated(water, spot.x, spot.y);
   }
   if (spot.depth > 0) {
-    if (!far_shore) return Rock[2];
+    if (!far_shore) return kRock[2];
     const double grain = Noise(spot.x / 2.0, spot.y / 2.0, 8, 301);
-    return Rock[spot.depth > 2.5 ? 1 : grain < 0.4 ? 2 : grain < 0.7 ? 3 : 4];
+    return kRock[spot.depth > 2.5 ? 1 : grain < 0.4 ? 2 : grain < 0.7 ? 3 : 4];
   }
-  if (spot.depth > -1.2) return far_shore ? Grass[6] : Grass[2];
-  if (spot.depth > -2.2) return far_shore ? Grass[5] : Grass[3];
+  if (spot.depth > -1.2) return far_shore ? kGrass[6] : kGrass[2];
+  if (spot.depth > -2.2) return far_shore ? kGrass[5] : kGrass[3];
   return Repeated(grass, spot.x, spot.y);
 }
 
@@ -41,12 +41,12 @@ Colour Sea(const PatchSpot& spot) {
   static const Image sand = SandTile(0);
   static const Image water = WaterTile(0);
   if (spot.depth > 6.5) return Repeated(water, spot.x, spot.y);
-  if (spot.depth > 4.4) return Water[3];
-  if (spot.depth > 2.4) return Water[4];
-  if (spot.depth > 1.4) return Water[5];
-  if (spot.depth > 0) return Water[6];
-  if (spot.depth > -2.0) return Sand[1];
-  if (spot.depth > -3.2) return Sand[2];
+  if (spot.depth > 4.4) return kWater[3];
+  if (spot.depth > 2.4) return kWater[4];
+  if (spot.depth > 1.4) return kWater[5];
+  if (spot.depth > 0) return kWater[6];
+  if (spot.depth > -2.0) return kSand[1];
+  if (spot.depth > -3.2) return kSand[2];
   return Repeated(sand, spot.x, spot.y);
 }
 
@@ -58,16 +58,16 @@ Colour MoltenRock(const PatchSpot& spot) {
   const double bank = far_shore ? 4.0 : 1.6;
   if (spot.depth > bank) {
     const double in = spot.depth - bank;
-    if (in < 1.0) return Lava[5];
-    if (in < 2.0) return Lava[4];
+    if (in < 1.0) return kLava[5];
+    if (in < 2.0) return kLava[4];
     return Repeated(lava, spot.x, spot.y);
   }
   if (spot.depth > 0) {
     const double grain = Noise(spot.x / 2.0, spot.y / 2.0, 8, 311);
-    return Dark[spot.depth > bank - 1 ? 1 : grain < 0.4 ? 2 : 3];
+    return kDark[spot.depth > bank - 1 ? 1 : grain < 0.4 ? 2 : 3];
   }
-  if (spot.depth > -1.2) return far_shore ? Waste[5] : Waste[0];
-  if (spot.depth > -2.2) return far_shore ? Waste[4] : Waste[1];
+  if (spot.depth > -1.2) return far_shore ? kWaste[5] : kWaste[0];
+  if (spot.depth > -2.2) return far_shore ? kWaste[4] : kWaste[1];
   return Repeated(waste, spot.x, spot.y);
 }
 
@@ -75,16 +75,16 @@ Colour MoltenRock(const PatchSpot& spot) {
 // the border, so that stones side by side stay stones; between them the shoal shines through.
 Image SteppingStones() {
   const Image water = WaterTile(0);
-  Image tile = Fill(TileSize, TileSize, [&](int x, int y) {
+  Image tile = Fill(kTileSize, kTileSize, [&](int x, int y) {
     const double stone =
         std::min({std::hypot(x - 5.2, y - 4.6) - 4.6, std::hypot(x - 10.6, y - 11.6) - 4,
                   std::hypot(x - 12.6, y - 5) - 2, std::hypot(x - 2.8, y - 12) - 2});
     const double wave = 3 * (Noise(x / 4.0, y / 2.0, 4, 331) - 0.5);
     if (stone + wave > 2.4) return water.At(x, y);
-    return Water[stone + wave > 1.2 ? 3 : 4];
+    return kWater[stone + wave > 1.2 ? 3 : 4];
   });
-  const Key key = {{'l', Gravel[5]}, {'m', Gravel[4]}, {'n', Gravel[3]}, {'d', Gravel[1]},
-                   {'s', Water[2]},  {'f', Water[6]},  {'g', Marsh[4]}};
+  const Key key = {{'l', kGravel[5]}, {'m', kGravel[4]}, {'n', kGravel[3]}, {'d', kGravel[1]},
+                   {'s', kWater[2]},  {'f', kWater[6]},  {'g', kMarsh[4]}};
   Stamp(tile, 1, 1,
         {"..lllll..", ".lllllmm.", "lllmmmmmn", "llmmmmmnn", "lmmmmmnnn", "nnmmnnndd", "fddddddds",
          ".ffssss.."},
@@ -97,13 +97,13 @@ Image SteppingStones() {
 
 Image Waterfall() {
   // Every column falls at its own beat; the beats fit the tile, so falls of any height join.
-  return Fill(TileSize, TileSize, [](int x, int y) {
-    const double turn = 2 * std::numbers::pi * y / TileSize;
+  return Fill(kTileSize, kTileSize, [](int x, int y) {
+    const double turn = 2 * std::numbers::pi * y / kTileSize;
     const double strand = 0.5 * Noise(x / 2.0, 0.5, 8, 325) + 0.5 * Hash(x, 3, 325);
     const double beat = std::sin(turn + 6.3 * Hash(x / 3, 1, 323)) +
                         0.7 * std::sin(2 * turn + 6.3 * Hash(x, 2, 323));
     const double fall = strand + 0.13 * beat;
-    return Water[fall < 0.24 ? 2 : fall < 0.44 ? 3 : fall < 0.62 ? 4 : fall < 0.80 ? 5 : 6];
+    return kWater[fall < 0.24 ? 2 : fall < 0.44 ? 3 : fall < 0.62 ? 4 : fall < 0.80 ? 5 : 6];
   });
 }
 

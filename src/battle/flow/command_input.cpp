@@ -152,10 +152,10 @@ void CommandItem(BattleScreen& battle) {
   battle.BagItems.Clear();
   battle.BagItems.Visible = true;
   battle.BagItems.AddItem(kWayBack);
-  for (int slot = 0; slot < BagSize; ++slot) {
+  for (int slot = 0; slot < kBagSize; ++slot) {
     ReadItem(battle.game, state.Items[slot]);
-    battle.BagItems.AddItem(state.Items[slot] == NoItem ? std::string("なし")
-                                                        : state.ItemRec.Name.Full());
+    battle.BagItems.AddItem(state.Items[slot] == kNoItem ? std::string("なし")
+                                                         : state.ItemRec.Name.Full());
   }
 }
 
@@ -202,7 +202,7 @@ void ItemChosen(BattleScreen& battle) {
     battle.BagItems.Clear();
     return;
   }
-  if (state.Items[slot] == NoItem || state.Items[slot] < kFirstBattleItem) {
+  if (state.Items[slot] == kNoItem || state.Items[slot] < kFirstBattleItem) {
     return Warn(battle.game, "それは使えません");
   }
   battle.Receivers.Clear();

@@ -184,7 +184,7 @@ void PlayItem(BattleScreen& battle, const ActionRow& row) {
   if (frame == row.LastFrame) {
     EndSkill(battle);
     battle.HeroNumbers[receiver].ForeColor = kWhite;
-    state.Items[battle.ChosenBagSlot()] = NoItem;
+    state.Items[battle.ChosenBagSlot()] = kNoItem;
     state.ItemCount -= 1;
     DrawHeroes(battle);
   }

@@ -59,7 +59,7 @@ void DrawEnemyGroup(BattleScreen& battle) {
 }
 
 double ShakePixels(int frame, int twips) {
-  return SignOf(frame / 2) * twips / TwipsPerPixel;
+  return SignOf(frame / 2) * twips / kTwipsPerPixel;
 }
 
 void FlashSlot(BattleScreen& battle, int slot) {

@@ -30,14 +30,14 @@ void AimAtTarget(BattleScreen& battle) {
 }  // namespace
 
 // ファイヤーブレズ: one great flame.
-void Spells::FireBreath(BattleScreen& battle, int c) {
+void spells::FireBreath(BattleScreen& battle, int c) {
   AimAtTarget(battle);
   if (c == 6) battle.game.sound.Play(kFireSound);
   DrawEffect(battle, 4, 4, {battle.state.MagicX, battle.state.MagicY, 96, 96});
 }
 
 // 絶対零度: four crystals close in from the corners of a square, and hold.
-void Spells::AbsoluteZero(BattleScreen& battle, int c) {
+void spells::AbsoluteZero(BattleScreen& battle, int c) {
   AimAtTarget(battle);
   if (c == 14) battle.game.sound.Play(kIceSound);
   const int d = c <= 12 ? c : 16;
@@ -49,7 +49,7 @@ void Spells::AbsoluteZero(BattleScreen& battle, int c) {
 }
 
 // リフレッシュ: sparkles over the heroes.
-void Spells::Refresh(BattleScreen& battle, int c) {
+void spells::Refresh(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play(kHealingSound);
   Randomize(battle.game);
   for (int i = 0; i < 6; ++i) {
@@ -59,20 +59,20 @@ void Spells::Refresh(BattleScreen& battle, int c) {
 }
 
 // アースクエイク: the scene shakes from side to side.
-void Spells::Earthquake(BattleScreen& battle, int c) {
+void spells::Earthquake(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play(kQuakeSound);
   ShakeLeftRight(battle, c, kQuake);
 }
 
 // 爆雷降臨: a single flash that stays.
-void Spells::Thunderbolt(BattleScreen& battle, int c) {
+void spells::Thunderbolt(BattleScreen& battle, int c) {
   if (c != 10) return;
   battle.game.sound.Play(kThunderSound);
   FillBox(battle.Scene.Picture, 0, 0, 480, 288, kWhite);
 }
 
 // サンプレゼンター: a sun that grows.
-void Spells::SunPresenter(BattleScreen& battle, int c) {
+void spells::SunPresenter(BattleScreen& battle, int c) {
   battle.game.sound.Play(kFireSound);
   const int size = 16 * c + 48;
   DrawEffect(battle, 0, 3, {150 - 8 * c, 140 - 8 * c, size, size});
@@ -80,14 +80,14 @@ void Spells::SunPresenter(BattleScreen& battle, int c) {
 }
 
 // ダークプレッシャー: a ring that sinks.
-void Spells::DarkPressure(BattleScreen& battle, int c) {
+void spells::DarkPressure(BattleScreen& battle, int c) {
   battle.game.sound.Play(kBlastSound);
   DrawCircle(battle.Scene.Picture, 300 - 2 * c, 10 * c - 150, 250, kWhite);
   ShakeUpDown(battle, c, kShake);
 }
 
 // 風の癒し: pairs of sparkles over the heroes.
-void Spells::HealingWind(BattleScreen& battle, int c) {
+void spells::HealingWind(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play(kHealingSound);
   Randomize(battle.game);
   for (int i = 0; i < 6; ++i) {
@@ -100,7 +100,7 @@ void Spells::HealingWind(BattleScreen& battle, int c) {
 
 // アトミックボム: a widening ring; its angles are radians taken as they come, so that it looks
 // scattered.
-void Spells::AtomicBomb(BattleScreen& battle, int c) {
+void spells::AtomicBomb(BattleScreen& battle, int c) {
   if (c == 6) battle.game.sound.Play(kAtomicSound);
   for (int k = 0; k <= 10; ++k) {
     const int angle = 20 * k + c;
@@ -111,7 +111,7 @@ void Spells::AtomicBomb(BattleScreen& battle, int c) {
 }
 
 // ジオ･スプリート: a widening band of light full of suns.
-void Spells::GeoSplit(BattleScreen& battle, int c) {
+void spells::GeoSplit(BattleScreen& battle, int c) {
   battle.game.sound.Play(kAtomicSound);
   ShakeUpDown(battle, c, kShake);
   FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(255, 255, 10 * c));

@@ -5,7 +5,7 @@ namespace orvane {
 
 class BattleScreen;
 
-namespace Spells {
+namespace spells {
 void FireBreath(BattleScreen& battle, int frame);
 void AbsoluteZero(BattleScreen& battle, int frame);
 void Refresh(BattleScreen& battle, int frame);
@@ -16,7 +16,7 @@ void DarkPressure(BattleScreen& battle, int frame);
 void HealingWind(BattleScreen& battle, int frame);
 void AtomicBomb(BattleScreen& battle, int frame);
 void GeoSplit(BattleScreen& battle, int frame);
-}  // namespace Spells
+}  // namespace spells
 
 // One frame of the chosen spell at the even frame number `frame`, 6 to 24, under its name.
 void PlaySpellFrame(BattleScreen& battle, int frame);

@@ -65,19 +65,19 @@ void CrossingPair(BattleScreen& battle, int c, int row) {
 }  // namespace
 
 // 炎舞剣
-void Techniques::FlameDance(BattleScreen& battle, int c) {
+void techniques::FlameDance(BattleScreen& battle, int c) {
   if (c == 6) Play(battle, kFireSound);
   CrossingPair(battle, c, 4);
 }
 
 // 氷岩断絶剣
-void Techniques::IceCleaver(BattleScreen& battle, int c) {
+void techniques::IceCleaver(BattleScreen& battle, int c) {
   if (c == 6) Play(battle, kIceSound);
   CrossingPair(battle, c, 5);
 }
 
 // パワーブレイク: power gathers, then four shards fly off.
-void Techniques::PowerBreak(BattleScreen& battle, int c) {
+void techniques::PowerBreak(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
   if (c <= 13) Play(battle, kBlastSound);
@@ -91,7 +91,7 @@ void Techniques::PowerBreak(BattleScreen& battle, int c) {
 }
 
 // 大地の剣: rock rises, then ice. The first sound is cut short by closing its channel.
-void Techniques::EarthSword(BattleScreen& battle, int c) {
+void techniques::EarthSword(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
   if (c < 16) Play(battle, kBlastSound);
@@ -124,7 +124,7 @@ void Fall(BattleScreen& battle, int c, int j) {
 }  // namespace
 
 // 召雷斬: a leap straight up, a hold, a fall across the field.
-void Techniques::ThunderCall(BattleScreen& battle, int c) {
+void techniques::ThunderCall(BattleScreen& battle, int c) {
   for (int j = 0; j <= 3; ++j) {
     if (c <= 12) {
       Pose(battle, kHomeX, kHomeY - (j + c - 5) * 15);
@@ -137,7 +137,7 @@ void Techniques::ThunderCall(BattleScreen& battle, int c) {
 }
 
 // 一刀両断: a run with three afterimages.
-void Techniques::SingleStroke(BattleScreen& battle, int c) {
+void techniques::SingleStroke(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c == 20) Play(battle, kCutSound);
   if (c < 15) return PoseAtHome(battle);
@@ -146,7 +146,7 @@ void Techniques::SingleStroke(BattleScreen& battle, int c) {
 }
 
 // ダークスラッシュ: a black band that widens.
-void Techniques::DarkSlash(BattleScreen& battle, int c) {
+void techniques::DarkSlash(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c == 20 || c == 22) Play(battle, kCutSound);
   FillBox(battle.Scene.Picture, 0, 146 - 4 * c, 432, 146 + 4 * c, Rgb(0, 0, 0));
@@ -154,7 +154,7 @@ void Techniques::DarkSlash(BattleScreen& battle, int c) {
 }
 
 // 円陣斬: a ring of afterimages; its angles are radians taken as they come, so that it jumps about.
-void Techniques::CircleCut(BattleScreen& battle, int c) {
+void techniques::CircleCut(BattleScreen& battle, int c) {
   AimAtBig(battle);
   const State& state = battle.state;
   Play(battle, kCutSound);
@@ -169,7 +169,7 @@ void Techniques::CircleCut(BattleScreen& battle, int c) {
 }
 
 // 必殺撃: thrusts from right beside the enemy.
-void Techniques::DeadlyBlow(BattleScreen& battle, int c) {
+void techniques::DeadlyBlow(BattleScreen& battle, int c) {
   if (c < 16) return PoseAtHome(battle);
   const State& state = battle.state;
   Play(battle, kBlastSound);
@@ -200,7 +200,7 @@ void CloseIn(BattleScreen& battle, int c) {
 
 // 奥義･真魔神斬: then an explosion grows around the target. The first sound is cut short by closing
 // its channel.
-void Techniques::DemonGod(BattleScreen& battle, int c) {
+void techniques::DemonGod(BattleScreen& battle, int c) {
   AimAtBig(battle);
   if (c <= 15) return CloseIn(battle, c);
   if (c == 16) {

@@ -6,7 +6,7 @@ namespace orvane {
 
 class BattleScreen;
 
-namespace Techniques {
+namespace techniques {
 void FlameDance(BattleScreen& battle, int frame);
 void IceCleaver(BattleScreen& battle, int frame);
 void PowerBreak(BattleScreen& battle, int frame);
@@ -17,7 +17,7 @@ void DarkSlash(BattleScreen& battle, int frame);
 void CircleCut(BattleScreen& battle, int frame);
 void DeadlyBlow(BattleScreen& battle, int frame);
 void DemonGod(BattleScreen& battle, int frame);
-}  // namespace Techniques
+}  // namespace techniques
 
 // One frame of the chosen technique at the even frame number `frame`, 6 to 24, under its name.
 void PlayTechniqueFrame(BattleScreen& battle, int frame);

@@ -25,7 +25,7 @@ const Face& FaceFor(const std::string& name) {
                                "Takao P明朝", "Noto Serif CJK JP"},
                               "serif",
                               true};
-  return name == Mincho ? mincho : gothic;
+  return name == kMincho ? mincho : gothic;
 }
 
 // Whether the family's name has one of these words in it, in capitals or not.

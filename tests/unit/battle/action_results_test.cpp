@@ -115,7 +115,7 @@ TEST_F(ActionResults, ABattleItemGivesWhatItsNumberSays) {
 
 TEST_F(ActionResults, OtherItemsDoNothing) {
   state_.HeroFainted[kMan] = kTrue;
-  for (const int number : {46, 50, NoItem}) {
+  for (const int number : {46, 50, kNoItem}) {
     state_.Items[0] = number;
     EXPECT_EQ(UseItem(state_, {.BagSlot = 0, .Receiver = kMan}), nullptr);
   }

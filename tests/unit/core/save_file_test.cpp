@@ -23,7 +23,7 @@ TEST(SaveFile, HasItsSizeAndPlaces) {
   record.Exp[1] = -2;
   record.SaveRound = 2;
   const std::string bytes = PackRecord(record);
-  ASSERT_EQ(bytes.size(), SaveFileSize);
+  ASSERT_EQ(bytes.size(), kSaveFileSize);
   EXPECT_EQ(Number16(bytes, 0), 3);
   EXPECT_EQ(Number16(bytes, 2), 192);
   EXPECT_EQ(Number16(bytes, 8), -1) << "the first chest is closed";
@@ -65,7 +65,7 @@ TEST(SaveFile, MissingBytesAreZerosAndBlanks) {
 
 TEST(SaveFile, ZeroBytesInTextAreBlanks) {
   GameRecord record;
-  UnpackRecord(std::string(SaveFileSize, '\0'), record);
+  UnpackRecord(std::string(kSaveFileSize, '\0'), record);
   EXPECT_EQ(record.SaveName[0].Full(), "        ");
 }
 

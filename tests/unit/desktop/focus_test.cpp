@@ -72,7 +72,7 @@ class FocusTest : public testing::Test {
 
 using Names = std::vector<std::string>;
 
-TEST_F(FocusTest, tab_goes_through_each_screen_as_it_is_read) {
+TEST_F(FocusTest, TabGoesThroughEachScreenAsItIsRead) {
   program_.TheState().GameStarted = kTrue;
   program_.TheState().OpeningDone = kTrue;
   EXPECT_EQ(Round(Open("InputName")), (Names{"Text1(0)", "Text1(1)", "OKButton", "CancelButton"}));
@@ -87,12 +87,12 @@ TEST_F(FocusTest, tab_goes_through_each_screen_as_it_is_read) {
   EXPECT_EQ(Round(Open("Battle")), (Names{"Command1", "Command3", "Command4", "SSTab1"}));
 }
 
-TEST_F(FocusTest, the_title_starts_with_its_button) {
+TEST_F(FocusTest, TheTitleStartsWithItsButton) {
   windows_.Follow();
   EXPECT_EQ(At(*windows_.Of(program_.TheStage().Find("Main"))), "Command1");
 }
 
-TEST_F(FocusTest, arrows_go_from_button_to_button_where_they_stand) {
+TEST_F(FocusTest, ArrowsGoFromButtonToButtonWhereTheyStand) {
   const ScreenWindow& window = Open("Battle");
   Type(Qt::Key_Down);
   EXPECT_EQ(At(window), "Command3");
@@ -102,7 +102,7 @@ TEST_F(FocusTest, arrows_go_from_button_to_button_where_they_stand) {
   EXPECT_EQ(At(window), "SSTab1");
 }
 
-TEST_F(FocusTest, a_list_has_the_keyboard_as_soon_as_it_is_there_and_gives_it_back) {
+TEST_F(FocusTest, AListHasTheKeyboardAsSoonAsItIsThereAndGivesItBack) {
   const ScreenWindow& window = Open("Battle");
   Type(Qt::Key_Return);
   EXPECT_EQ(At(window), "List2");
@@ -114,7 +114,7 @@ TEST_F(FocusTest, a_list_has_the_keyboard_as_soon_as_it_is_there_and_gives_it_ba
   EXPECT_EQ(At(window), "Command1");
 }
 
-TEST_F(FocusTest, escape_is_the_way_back_of_a_list_and_the_cancel_of_a_dialog) {
+TEST_F(FocusTest, EscapeIsTheWayBackOfAListAndTheCancelOfADialog) {
   Open("Battle");
   Type(Qt::Key_Return);
   EXPECT_TRUE(Battle().Targets.Visible);
@@ -126,7 +126,7 @@ TEST_F(FocusTest, escape_is_the_way_back_of_a_list_and_the_cancel_of_a_dialog) {
   EXPECT_FALSE(names.isVisible());
 }
 
-TEST_F(FocusTest, enter_in_a_name_field_is_ok) {
+TEST_F(FocusTest, EnterInANameFieldIsOk) {
   const ScreenWindow& names = Open("InputName");
   EXPECT_EQ(At(names), "Text1(0)");
   Type(Qt::Key_Return);
@@ -134,7 +134,7 @@ TEST_F(FocusTest, enter_in_a_name_field_is_ok) {
   EXPECT_EQ(program_.TheStage().Boxes().back().Shown.Text, "名前を入力してください。");
 }
 
-TEST_F(FocusTest, arrows_stay_in_a_list_at_its_ends) {
+TEST_F(FocusTest, ArrowsStayInAListAtItsEnds) {
   program_.TheState().GameStarted = kTrue;
   program_.TheState().OpeningDone = kTrue;
   const ScreenWindow& window = Open("Wepon");
@@ -148,7 +148,7 @@ TEST_F(FocusTest, arrows_stay_in_a_list_at_its_ends) {
   EXPECT_EQ(At(window), "Command5") << "off the list to what lies beside it";
 }
 
-TEST_F(FocusTest, nothing_has_the_keyboard_during_an_action_and_the_command_has_it_afterwards) {
+TEST_F(FocusTest, NothingHasTheKeyboardDuringAnActionAndTheCommandHasItAfterwards) {
   const ScreenWindow& window = Open("Battle");
   Type(Qt::Key_Right);  // to the item list and back, so that it is not the first button
   Type(Qt::Key_Down);
@@ -170,7 +170,7 @@ TEST_F(FocusTest, nothing_has_the_keyboard_during_an_action_and_the_command_has_
   EXPECT_EQ(At(window), command);
 }
 
-TEST_F(FocusTest, control_and_tab_turn_the_tabs_and_the_keyboard_goes_with_them) {
+TEST_F(FocusTest, ControlAndTabTurnTheTabsAndTheKeyboardGoesWithThem) {
   program_.TheState().GameStarted = kTrue;
   program_.TheState().OpeningDone = kTrue;
   const ScreenWindow& window = Open("Wepon");
@@ -187,7 +187,7 @@ TEST_F(FocusTest, control_and_tab_turn_the_tabs_and_the_keyboard_goes_with_them)
   EXPECT_EQ(tabs.Tab(), 1) << "round and round";
 }
 
-TEST_F(FocusTest, tabs_that_are_off_are_not_turned_to) {
+TEST_F(FocusTest, TabsThatAreOffAreNotTurnedTo) {
   Open("Battle");
   Battle().HeroTabs.SetTabEnabled(1, false);
   windows_.Follow();
@@ -195,7 +195,7 @@ TEST_F(FocusTest, tabs_that_are_off_are_not_turned_to) {
   EXPECT_EQ(Battle().HeroTabs.Tab(), 0);
 }
 
-TEST_F(FocusTest, the_menu_key_opens_the_first_menu_that_is_on) {
+TEST_F(FocusTest, TheMenuKeyOpensTheFirstMenuThatIsOn) {
   windows_.Follow();
   QApplication::processEvents();
   Type(Qt::Key_F10);
@@ -208,7 +208,7 @@ TEST_F(FocusTest, the_menu_key_opens_the_first_menu_that_is_on) {
   QApplication::activePopupWidget()->close();
 }
 
-TEST_F(FocusTest, a_menu_that_closes_leaves_the_keys_to_the_walk) {
+TEST_F(FocusTest, AMenuThatClosesLeavesTheKeysToTheWalk) {
   program_.TheState().GameStarted = kTrue;
   program_.TheState().OpeningDone = kTrue;
   Screen& version = *program_.TheStage().Find("Version");

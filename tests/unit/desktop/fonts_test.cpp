@@ -10,7 +10,7 @@ namespace orvane {
 namespace {
 
 TEST(Fonts, TheFacesAreTriedInTheirOrder) {
-  EXPECT_EQ(DesktopFont({Mincho, 9, false}).families().first(), "IPAPMincho");
+  EXPECT_EQ(DesktopFont({kMincho, 9, false}).families().first(), "IPAPMincho");
   EXPECT_EQ(DefaultFont().families().first(), "IPAPGothic");
   EXPECT_EQ(DefaultFont().families().last(), "sans-serif");
 }
@@ -20,8 +20,8 @@ TEST(Fonts, ADesktopWithoutJapaneseLettersIsToldSo) {
 }
 
 TEST(Fonts, HaveTheSizeAndTheWeightThatAreAskedFor) {
-  EXPECT_EQ(DesktopFont({Mincho, 36, true}).pixelSize(), 48);
-  EXPECT_TRUE(DesktopFont({Mincho, 36, true}).bold());
+  EXPECT_EQ(DesktopFont({kMincho, 36, true}).pixelSize(), 48);
+  EXPECT_TRUE(DesktopFont({kMincho, 36, true}).bold());
   EXPECT_FALSE(DefaultFont().bold());
 }
 

@@ -63,12 +63,12 @@ class GivenSizeTest : public testing::Test {
   Screen& main_;
 };
 
-TEST_F(GivenSizeTest, a_window_of_its_own_size_has_been_given_none) {
+TEST_F(GivenSizeTest, AWindowOfItsOwnSizeHasBeenGivenNone) {
   EXPECT_FALSE(Main().Given().has_value());
   EXPECT_TRUE(windows_.Suit(zoom_));
 }
 
-TEST_F(GivenSizeTest, the_scene_becomes_as_large_as_fits) {
+TEST_F(GivenSizeTest, TheSceneBecomesAsLargeAsFits) {
   Give(Main(), 1300, 700);
   ASSERT_EQ(events_.Last, &main_);
   EXPECT_FALSE(windows_.Suit(zoom_));
@@ -80,7 +80,7 @@ TEST_F(GivenSizeTest, the_scene_becomes_as_large_as_fits) {
   EXPECT_NEAR(Main().width() * Main().devicePixelRatio(), 1300, 4);
 }
 
-TEST_F(GivenSizeTest, what_one_scene_has_been_given_the_next_one_begins_with) {
+TEST_F(GivenSizeTest, WhatOneSceneHasBeenGivenTheNextOneBeginsWith) {
   Give(Main(), 1300, 700);
   const Screen& battle = *program_.TheStage().Find("Battle");
   ASSERT_TRUE(windows_.Of(&battle)->Given().has_value());
@@ -89,7 +89,7 @@ TEST_F(GivenSizeTest, what_one_scene_has_been_given_the_next_one_begins_with) {
   EXPECT_FALSE(windows_.Of(&dialog)->Given().has_value());
 }
 
-TEST_F(GivenSizeTest, a_scale_that_the_player_chooses_gives_the_window_its_own_size_again) {
+TEST_F(GivenSizeTest, AScaleThatThePlayerChoosesGivesTheWindowItsOwnSizeAgain) {
   Give(Main(), 1300, 700);
   windows_.Rescale(zoom_);
   windows_.ForgetGiven();

@@ -59,14 +59,14 @@ class InstanceTest : public testing::Test {
   std::optional<std::string> before_;
 };
 
-TEST_F(InstanceTest, one_is_first_in_a_folder_and_others_in_other_folders) {
+TEST_F(InstanceTest, OneIsFirstInAFolderAndOthersInOtherFolders) {
   const Instance first("/a");
   EXPECT_TRUE(first.IsFirst());
   EXPECT_EQ(InAnother([] { return int(Instance("/a").IsFirst()); }), 0);
   EXPECT_EQ(InAnother([] { return int(Instance("/b").IsFirst()); }), 1);
 }
 
-TEST_F(InstanceTest, the_end_of_the_second_leaves_the_first_its_folder) {
+TEST_F(InstanceTest, TheEndOfTheSecondLeavesTheFirstItsFolder) {
   const Instance first("/a");
   for (int start = 0; start < 3; ++start) {
     EXPECT_EQ(InAnother([] { return int(Instance("/a").IsFirst()); }), 0) << start;
@@ -74,11 +74,11 @@ TEST_F(InstanceTest, the_end_of_the_second_leaves_the_first_its_folder) {
 }
 
 // In a process of one thread: another would take the signal that this one keeps waiting.
-TEST_F(InstanceTest, the_second_calls_the_first) {
+TEST_F(InstanceTest, TheSecondCallsTheFirst) {
   const auto called = InAnother([] {
     sigset_t call;
     sigemptyset(&call);
-    sigaddset(&call, CallSignal);
+    sigaddset(&call, kCallSignal);
     sigprocmask(SIG_BLOCK, &call, nullptr);
     const Instance first("/a");
     InAnother([] {
@@ -88,10 +88,10 @@ TEST_F(InstanceTest, the_second_calls_the_first) {
     const timespec second = {1, 0};
     return sigtimedwait(&call, nullptr, &second);
   });
-  EXPECT_EQ(called, CallSignal);
+  EXPECT_EQ(called, kCallSignal);
 }
 
-TEST_F(InstanceTest, nobody_is_called_where_nobody_plays) {
+TEST_F(InstanceTest, NobodyIsCalledWhereNobodyPlays) {
   const Instance first("/a");
   // A signal that is not blocked would end the process.
   EXPECT_EQ(InAnother([] {
@@ -101,14 +101,14 @@ TEST_F(InstanceTest, nobody_is_called_where_nobody_plays) {
             7);
 }
 
-TEST_F(InstanceTest, leaves_nothing_behind) {
+TEST_F(InstanceTest, LeavesNothingBehind) {
   { EXPECT_TRUE(Instance("/a").IsFirst()); }
   EXPECT_TRUE(Lock().empty()) << Lock();
 }
 
 // In a container the numbers of processes begin anew: a game that follows a crash may have the very
 // number that the crashed one had.
-TEST_F(InstanceTest, what_a_crash_left_is_no_hindrance_even_with_its_number) {
+TEST_F(InstanceTest, WhatACrashLeftIsNoHindranceEvenWithItsNumber) {
   EXPECT_EQ(InAnother([] {
               const Instance crashing("/a");
               return raise(SIGKILL);
@@ -123,7 +123,7 @@ TEST_F(InstanceTest, what_a_crash_left_is_no_hindrance_even_with_its_number) {
   EXPECT_TRUE(Instance("/a").IsFirst());
 }
 
-TEST_F(InstanceTest, is_first_where_no_lock_can_be_written) {
+TEST_F(InstanceTest, IsFirstWhereNoLockCanBeWritten) {
   setenv("XDG_RUNTIME_DIR", (session_ / "missing").c_str(), 1);
   EXPECT_TRUE(Instance("/a").IsFirst());
 }

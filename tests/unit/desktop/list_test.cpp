@@ -12,7 +12,7 @@
 namespace orvane {
 namespace {
 
-constexpr int LastRow = 19;
+constexpr int kLastRow = 19;
 
 class ListTest : public testing::Test {
  protected:
@@ -51,14 +51,14 @@ class ListTest : public testing::Test {
   QListWidget* list_ = nullptr;
 };
 
-TEST_F(ListTest, starts_without_a_highlight_and_higher_than_it_shows) {
-  ASSERT_EQ(list_->count(), LastRow + 1);
+TEST_F(ListTest, StartsWithoutAHighlightAndHigherThanItShows) {
+  ASSERT_EQ(list_->count(), kLastRow + 1);
   EXPECT_EQ(Row(), -1);
   EXPECT_EQ(FirstSeen(), 0);
-  EXPECT_LT(LastSeen(), LastRow);
+  EXPECT_LT(LastSeen(), kLastRow);
 }
 
-TEST_F(ListTest, down_up_and_home_start_with_the_first_row) {
+TEST_F(ListTest, DownUpAndHomeStartWithTheFirstRow) {
   for (const auto key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home}) {
     list_->setCurrentRow(-1);
     Type(key);
@@ -66,16 +66,16 @@ TEST_F(ListTest, down_up_and_home_start_with_the_first_row) {
   }
 }
 
-TEST_F(ListTest, end_goes_to_the_last_row_with_a_highlight_or_without) {
+TEST_F(ListTest, EndGoesToTheLastRowWithAHighlightOrWithout) {
   Type(Qt::Key_End);
-  EXPECT_EQ(Row(), LastRow);
+  EXPECT_EQ(Row(), kLastRow);
   Type(Qt::Key_Home);
   EXPECT_EQ(Row(), 0);
   Type(Qt::Key_End);
-  EXPECT_EQ(Row(), LastRow);
+  EXPECT_EQ(Row(), kLastRow);
 }
 
-TEST_F(ListTest, a_page_starts_with_what_is_seen) {
+TEST_F(ListTest, APageStartsWithWhatIsSeen) {
   const int last_seen = LastSeen();
   Type(Qt::Key_PageDown);
   EXPECT_GE(Row(), last_seen - 1);
@@ -83,7 +83,7 @@ TEST_F(ListTest, a_page_starts_with_what_is_seen) {
   list_->scrollToBottom();
   list_->setCurrentRow(-1);
   const int first_seen = FirstSeen();
-  ASSERT_GT(first_seen, LastRow / 2 - 1);
+  ASSERT_GT(first_seen, kLastRow / 2 - 1);
   Type(Qt::Key_PageUp);
   EXPECT_GT(Row(), -1);
   EXPECT_LT(Row(), first_seen) << "a page further up, not the list's beginning by chance";

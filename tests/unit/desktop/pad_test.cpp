@@ -23,7 +23,7 @@ PadState With(std::initializer_list<PadButton> buttons) {
 }
 
 // A pad that SDL itself makes up, plugged in and out like a real one.
-TEST(PadDevice, reads_a_pad_that_comes_and_goes) {
+TEST(PadDevice, ReadsAPadThatComesAndGoes) {
   PadDevice device;
   ASSERT_FALSE(device.Read().has_value()) << "a real pad is plugged in";
   const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
@@ -45,7 +45,7 @@ TEST(PadDevice, reads_a_pad_that_comes_and_goes) {
 }
 
 // SDL keeps its events until they are asked for, and nothing here asks.
-TEST(PadDevice, leaves_no_events_to_pile_up) {
+TEST(PadDevice, LeavesNoEventsToPileUp) {
   PadDevice device;
   const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
   ASSERT_GE(number, 0) << SDL_GetError();
@@ -96,7 +96,7 @@ class PadTest : public testing::Test {
   QWidget window_;
 };
 
-TEST_F(PadTest, walks_while_keys_reach_the_field) {
+TEST_F(PadTest, WalksWhileKeysReachTheField) {
   reaches_ = true;
   Show(With({PadButton::Left}));
   Show(With({PadButton::Left}));
@@ -105,7 +105,7 @@ TEST_F(PadTest, walks_while_keys_reach_the_field) {
   EXPECT_EQ(events_.Count, 2) << "the release";
 }
 
-TEST_F(PadTest, hands_in_a_release_that_went_elsewhere) {
+TEST_F(PadTest, HandsInAReleaseThatWentElsewhere) {
   reaches_ = true;
   Show(With({PadButton::Left}));
   reaches_ = false;
@@ -116,7 +116,7 @@ TEST_F(PadTest, hands_in_a_release_that_went_elsewhere) {
   EXPECT_EQ(events_.Count, 2);
 }
 
-TEST_F(PadTest, presses_a_button_once_for_each_press) {
+TEST_F(PadTest, PressesAButtonOnceForEachPress) {
   QPushButton button(&window_);
   button.show();
   button.setFocus();
@@ -131,7 +131,7 @@ TEST_F(PadTest, presses_a_button_once_for_each_press) {
   EXPECT_EQ(clicks, 2);
 }
 
-TEST_F(PadTest, moves_the_highlight_of_a_list_and_goes_from_control_to_control) {
+TEST_F(PadTest, MovesTheHighlightOfAListAndGoesFromControlToControl) {
   QListWidget list(&window_);
   QPushButton button(&window_);
   list.addItems({"one", "two", "three"});
@@ -150,7 +150,7 @@ TEST_F(PadTest, moves_the_highlight_of_a_list_and_goes_from_control_to_control) 
   EXPECT_EQ(QApplication::focusWidget(), &list);
 }
 
-TEST_F(PadTest, does_not_press_in_a_new_window_what_was_pressed_in_the_field) {
+TEST_F(PadTest, DoesNotPressInANewWindowWhatWasPressedInTheField) {
   QListWidget list(&window_);
   list.addItems({"one", "two", "three"});
   list.setCurrentRow(0);
@@ -201,7 +201,7 @@ class PadInGame : public testing::Test {
   Pad pad_;
 };
 
-TEST_F(PadInGame, the_cross_leaves_a_slider_upwards_and_moves_it_sideways) {
+TEST_F(PadInGame, TheCrossLeavesASliderUpwardsAndMovesItSideways) {
   const ScreenWindow& window = Open("Custom");
   const auto& slider = static_cast<const Slider&>(*Find("Custom")->Find("Slider1"));
   window.findChild<QSlider*>()->setFocus();
@@ -212,7 +212,7 @@ TEST_F(PadInGame, the_cross_leaves_a_slider_upwards_and_moves_it_sideways) {
   EXPECT_EQ(window.focusWidget()->objectName(), "Text1(1)");
 }
 
-TEST_F(PadInGame, the_shoulders_turn_the_tabs_and_elsewhere_go_through_the_controls) {
+TEST_F(PadInGame, TheShouldersTurnTheTabsAndElsewhereGoThroughTheControls) {
   Open("Battle");
   auto& tabs = static_cast<TabStrip&>(*Find("Battle")->Find("SSTab1"));
   Push(PadButton::Next);
@@ -224,7 +224,7 @@ TEST_F(PadInGame, the_shoulders_turn_the_tabs_and_elsewhere_go_through_the_contr
   EXPECT_EQ(items.focusWidget()->objectName(), "Command8");
 }
 
-TEST_F(PadInGame, a_battle_is_commanded) {
+TEST_F(PadInGame, ABattleIsCommanded) {
   const ScreenWindow& window = Open("Battle");
   auto& targets = static_cast<ListBox&>(*Find("Battle")->Find("List2"));
   const auto& action = static_cast<const Timer&>(*Find("Battle")->Find("Timer1"));
@@ -240,7 +240,7 @@ TEST_F(PadInGame, a_battle_is_commanded) {
   EXPECT_TRUE(action.IsEnabled());
 }
 
-TEST_F(PadInGame, the_menu_button_opens_a_menu_that_the_cross_and_the_other_buttons_work) {
+TEST_F(PadInGame, TheMenuButtonOpensAMenuThatTheCrossAndTheOtherButtonsWork) {
   Open("Version");
   program_.Enter([this] { program_.TheStage().Unload(*Find("Version")); });
   Open("Main");
@@ -256,7 +256,7 @@ TEST_F(PadInGame, the_menu_button_opens_a_menu_that_the_cross_and_the_other_butt
 }
 
 // From SDL's own pad to the keys of the field.
-TEST_F(PadInGame, a_pad_that_is_plugged_in_walks) {
+TEST_F(PadInGame, APadThatIsPluggedInWalks) {
   Open("Main");
   pad_.Start(std::make_unique<PadDevice>());
   const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);

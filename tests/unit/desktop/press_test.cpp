@@ -47,25 +47,25 @@ class PressTest : public testing::Test {
   EndingScreen& ending_;
 };
 
-TEST_F(PressTest, on_the_credits_changes_nothing) {
+TEST_F(PressTest, OnTheCreditsChangesNothing) {
   Press({200, 120}, Qt::LeftButton);
   EXPECT_FALSE(program_.HasEnded());
 }
 
-TEST_F(PressTest, anywhere_on_the_last_card_ends_the_game) {
+TEST_F(PressTest, AnywhereOnTheLastCardEndsTheGame) {
   ScrollToTheEnd();
   ASSERT_TRUE(ending_.CardLines[0].Visible);
   Press({2, 2}, Qt::LeftButton);
   EXPECT_TRUE(program_.HasEnded());
 }
 
-TEST_F(PressTest, on_a_text_of_the_last_card_ends_the_game) {
+TEST_F(PressTest, OnATextOfTheLastCardEndsTheGame) {
   ScrollToTheEnd();
   Press({200, 120}, Qt::LeftButton);
   EXPECT_TRUE(program_.HasEnded());
 }
 
-TEST_F(PressTest, with_any_button_ends_the_game) {
+TEST_F(PressTest, WithAnyButtonEndsTheGame) {
   ScrollToTheEnd();
   Press({120, 270}, Qt::RightButton);
   EXPECT_TRUE(program_.HasEnded());

@@ -79,7 +79,7 @@ int ExpectNames(const ScreenWindow& window, QAccessible::Role role) {
   return static_cast<int>(all.size());
 }
 
-TEST_F(SpokenTest, lists_fields_and_sliders_have_names_and_roles) {
+TEST_F(SpokenTest, ListsFieldsAndSlidersHaveNamesAndRoles) {
   int count = 0;
   for (const Screen* screen : program_.TheStage().Screens()) {
     const ScreenWindow& window = *windows_.Of(screen);
@@ -90,7 +90,7 @@ TEST_F(SpokenTest, lists_fields_and_sliders_have_names_and_roles) {
   EXPECT_EQ(count, 8 + 4 + 1);
 }
 
-TEST_F(SpokenTest, tabs_are_called_by_the_open_one) {
+TEST_F(SpokenTest, TabsAreCalledByTheOpenOne) {
   int count = 0;
   for (const Screen* screen : program_.TheStage().Screens()) {
     for (QTabBar* bar : windows_.Of(screen)->findChildren<QTabBar*>()) {
@@ -108,7 +108,7 @@ bool CanBeSeen(const Control& control) {
   return control.Kind() != ControlKind::Timer && control.Top() <= control.Owner().Height;
 }
 
-TEST_F(SpokenTest, every_control_that_can_be_seen_has_a_name) {
+TEST_F(SpokenTest, EveryControlThatCanBeSeenHasAName) {
   program_.TheState().HeroName[0] = "カイ";
   program_.TheState().HeroName[1] = "リナ";
   int count = 0;
@@ -132,7 +132,7 @@ TEST_F(SpokenTest, every_control_that_can_be_seen_has_a_name) {
   EXPECT_GT(count, 200);
 }
 
-TEST_F(SpokenTest, menus_have_their_captions) {
+TEST_F(SpokenTest, MenusHaveTheirCaptions) {
   windows_.Follow();
   auto* bar = windows_.Of(program_.TheStage().Find("Main"))->findChild<QMenuBar*>();
   ASSERT_NE(bar, nullptr);
@@ -142,7 +142,7 @@ TEST_F(SpokenTest, menus_have_their_captions) {
   EXPECT_EQ(spoken->child(1)->text(QAccessible::Name), "アイテム");
 }
 
-TEST_F(SpokenTest, a_picture_that_takes_clicks_is_a_button) {
+TEST_F(SpokenTest, APictureThatTakesClicksIsAButton) {
   int buttons = 0;
   for (const Screen* screen : program_.TheStage().Screens()) {
     for (const Control* control : screen->Controls()) {
@@ -160,7 +160,7 @@ TEST_F(SpokenTest, a_picture_that_takes_clicks_is_a_button) {
   EXPECT_EQ(buttons, 2) << "the field and the battle's scene";
 }
 
-TEST_F(SpokenTest, pressing_the_field_leads_on_in_the_story) {
+TEST_F(SpokenTest, PressingTheFieldLeadsOnInTheStory) {
   StartOpening();
   const auto line = program_.TheState().StoryNo;
   QWidget* field = WidgetOf(Of("Main", "Picture1"));
@@ -169,7 +169,7 @@ TEST_F(SpokenTest, pressing_the_field_leads_on_in_the_story) {
   EXPECT_EQ(program_.TheState().StoryNo, line + 1);
 }
 
-TEST_F(SpokenTest, a_message_is_read_on_its_window) {
+TEST_F(SpokenTest, AMessageIsReadOnItsWindow) {
   StartOpening();
   QWidget* window = WidgetOf(Of("Main", "Picture5"));
   QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(window);
@@ -179,7 +179,7 @@ TEST_F(SpokenTest, a_message_is_read_on_its_window) {
             QString::fromStdString(program_.TheState().StoryText[program_.TheState().StoryNo]));
 }
 
-TEST_F(SpokenTest, numbers_of_a_battle_are_read_with_whose_they_are) {
+TEST_F(SpokenTest, NumbersOfABattleAreReadWithWhoseTheyAre) {
   program_.Enter([this] { program_.TheStage().Show(*program_.TheStage().Find("Battle")); });
   windows_.Follow();
   QWidget* scene = WidgetOf(Of("Battle", "Picture1"));
@@ -197,7 +197,7 @@ TEST_F(SpokenTest, numbers_of_a_battle_are_read_with_whose_they_are) {
   EXPECT_EQ(life->accessibleDescription(), "HP ：");
 }
 
-TEST_F(SpokenTest, the_credits_are_read_until_the_last_card_stands) {
+TEST_F(SpokenTest, TheCreditsAreReadUntilTheLastCardStands) {
   Screen& ending = *program_.TheStage().Find("Ending");
   program_.Enter([&] { program_.TheStage().Show(ending); });
   windows_.Follow();
@@ -243,7 +243,7 @@ class Listener {
   }
 };
 
-TEST_F(SpokenTest, readers_are_told_once_of_each_text) {
+TEST_F(SpokenTest, ReadersAreToldOnceOfEachText) {
   StartOpening();
   const Listener listener(true);
   ASSERT_TRUE(QAccessible::isActive());
@@ -261,7 +261,7 @@ TEST_F(SpokenTest, readers_are_told_once_of_each_text) {
   EXPECT_EQ(Listener::Count(QAccessible::DescriptionChanged, "Picture5"), 3);
 }
 
-TEST_F(SpokenTest, nothing_is_told_while_nobody_listens) {
+TEST_F(SpokenTest, NothingIsToldWhileNobodyListens) {
   StartOpening();
   const Listener listener(false);
   program_.Enter([this] { static_cast<PictureBox&>(Of("Main", "Picture1")).OnClick(); });
@@ -270,7 +270,7 @@ TEST_F(SpokenTest, nothing_is_told_while_nobody_listens) {
   EXPECT_EQ(Listener::All(), 0);
 }
 
-TEST_F(SpokenTest, captions_and_texts_are_read_as_they_stand) {
+TEST_F(SpokenTest, CaptionsAndTextsAreReadAsTheyStand) {
   windows_.Follow();
   const ScreenWindow* main = windows_.Of(program_.TheStage().Find("Main"));
   auto* button = main->findChild<QPushButton*>("Command1");

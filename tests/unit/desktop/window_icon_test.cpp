@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-TEST(WindowIcon, is_its_sheet_in_every_size_that_desktops_ask_for) {
+TEST(WindowIcon, IsItsSheetInEverySizeThatDesktopsAskFor) {
   const QIcon icon = WindowIcon();
   for (const int size : {16, 24, 32, 48, 64, 128}) {
     const QImage image = icon.pixmap(QSize(size, size), 1.0).toImage();

@@ -16,8 +16,8 @@ constexpr int kRoomDoor = 47;
 // A map of open grass, without borders, so that every rule of the edges shows.
 MapTiles Meadow() {
   MapTiles tiles;
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) tiles[column][row] = kGrass;
+  for (int column = 0; column < kMapColumns; ++column) {
+    for (int row = 0; row < kMapRows; ++row) tiles[column][row] = kGrass;
   }
   return tiles;
 }
@@ -82,7 +82,7 @@ TEST(Step, EndsAtTheLimitsOfTheFeet) {
   EXPECT_FALSE(Try(Meadow(), {}, {3, 3, 463, 100}, Direction::Right).Free);
   EXPECT_TRUE(Try(Meadow(), {}, {3, 3, 462, 100}, Direction::Right).Free);
   MapTiles open_below = Meadow();
-  open_below[6][MapRows] = kGrass;  // the spare row, which no map fills
+  open_below[6][kMapRows] = kGrass;  // the spare row, which no map fills
   EXPECT_FALSE(Try(open_below, {}, {3, 3, 100, 249}, Direction::Down).Free);
   EXPECT_TRUE(Try(open_below, {}, {3, 3, 100, 248}, Direction::Down).Free);
 }
@@ -186,8 +186,8 @@ TEST(Step, MeetsTheDragonsInTheirStrips) {
 TEST(Step, BeginsWhereAFreshRecordHasTheParty) {
   GameRecord record;
   FreshRecord(record);
-  EXPECT_EQ((record.SaveX - 1) * TileSize, kGameStart.X);
-  EXPECT_EQ((record.SaveY - 1) * TileSize, kGameStart.Y);
+  EXPECT_EQ((record.SaveX - 1) * kTileSize, kGameStart.X);
+  EXPECT_EQ((record.SaveY - 1) * kTileSize, kGameStart.Y);
 }
 
 }  // namespace

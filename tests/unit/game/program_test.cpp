@@ -67,7 +67,7 @@ TEST_F(ProgramTest, ASaveThatIsAnsweredLaterHoldsEverythingUp) {
 }
 
 TEST_F(ProgramTest, ASaveKeepsWhatALongerFileHoldsBehindTheRecord) {
-  quiet_.Files.Files["Save01.sav"] = std::string(SaveFileSize, 'x') + "and more";
+  quiet_.Files.Files["Save01.sav"] = std::string(kSaveFileSize, 'x') + "and more";
   AskToSave();
   program_->Answer(BoxAnswer::Yes);
   EXPECT_EQ(quiet_.Files.Files["Save01.sav"], PackRecord(program_->TheState()) + "and more");

@@ -47,8 +47,8 @@ struct Spot {
 
 // The first cell of a code on a map; the test fails when there is none.
 Spot Find(const World& world, const MapId& place, int code) {
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) {
+  for (int column = 0; column < kMapColumns; ++column) {
+    for (int row = 0; row < kMapRows; ++row) {
       if (world.Find(place)->At(column, row) == code) return {column, row};
     }
   }
@@ -188,7 +188,7 @@ TEST(MapCheck, FindsBookChestsOutOfReach) {
 
 TEST(MapCheck, FindsDragonsOutOfReach) {
   World world = GameWorld();
-  for (int column = 0; column < MapColumns; ++column) world.maps[kDragonMap].Set(column, 8, kTree);
+  for (int column = 0; column < kMapColumns; ++column) world.maps[kDragonMap].Set(column, 8, kTree);
   EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
   World last = GameWorld();
   last.maps[kLastStage].Set(14, 4, kTree);
@@ -197,7 +197,7 @@ TEST(MapCheck, FindsDragonsOutOfReach) {
 
 TEST(MapCheck, FindsARoomWithoutAWayOut) {
   World world = GameWorld();
-  for (int column = 0; column < MapColumns; ++column) {
+  for (int column = 0; column < kMapColumns; ++column) {
     world.maps[MapId{0, 0, kSpringRoom}].Set(column, 15, 204);
   }
   EXPECT_TRUE(DrawingFault(world, FaultKind::Unreachable));
@@ -239,11 +239,11 @@ TEST(MapCheck, FindsFlipFlops) {
 
 TEST(MapCheck, FindsAWayToAMapThatDoesNotExist) {
   World world = GameWorld();
-  for (int column = 18; column < MapColumns; ++column)
+  for (int column = 18; column < kMapColumns; ++column)
     world.maps[MapId{5, 3}].Set(column, 13, kGrass);
   EXPECT_TRUE(WalkingFault(world, FaultKind::NoSuchMap));
   World hidden = GameWorld();
-  for (int column = 19; column < MapColumns; ++column)
+  for (int column = 19; column < kMapColumns; ++column)
     hidden.maps[kHiddenMap].Set(column, 8, kGrass);
   EXPECT_TRUE(WalkingFault(hidden, FaultKind::NoSuchMap, "round 3 with nine techniques"));
 }
@@ -262,8 +262,8 @@ TEST(MapCheck, FindsWrongExits) {
 TEST(MapCheck, FindsTooLongAWayToRecovery) {
   World world = GameWorld();
   for (auto& [place, map] : world.maps) {
-    for (int column = 0; column < MapColumns; ++column) {
-      for (int row = 0; row < MapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) {
+      for (int row = 0; row < kMapRows; ++row) {
         if (map.At(column, row) == kRecovery && place != kStartMap) map.Set(column, row, kGrass);
       }
     }
@@ -275,8 +275,8 @@ TEST(MapCheck, FindsTooLongAWayToRecovery) {
 TEST(MapCheck, TheWastesAreARegionOfTheirOwn) {
   for (const auto& [place, map] : GameWorld().maps) {
     int cells = 0;
-    for (int column = 0; column < MapColumns; ++column) {
-      for (int row = 0; row < MapRows; ++row) cells += IsWasteGround(map.At(column, row)) ? 1 : 0;
+    for (int column = 0; column < kMapColumns; ++column) {
+      for (int row = 0; row < kMapRows; ++row) cells += IsWasteGround(map.At(column, row)) ? 1 : 0;
     }
     const bool wastes = place == kDragonMap || place == MapId{4, 2} || place == MapId{5, 2};
     EXPECT_EQ(cells > 0, wastes) << PlaceName(place);

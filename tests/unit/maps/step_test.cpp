@@ -8,8 +8,8 @@ namespace {
 // A world of open grass, without borders, so that every step is free.
 World OpenWorld() {
   TileMap grass;
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) grass.Set(column, row, 7);
+  for (int column = 0; column < kMapColumns; ++column) {
+    for (int row = 0; row < kMapRows; ++row) grass.Set(column, row, 7);
   }
   World world;
   for (const MapId& place : AllPlaces()) world.maps[place] = grass;

@@ -9,8 +9,8 @@ namespace {
 
 TileMap Numbered() {
   TileMap map;
-  for (int column = 0; column < MapColumns; ++column) {
-    for (int row = 0; row < MapRows; ++row) map.Set(column, row, (column * MapRows + row) % 241);
+  for (int column = 0; column < kMapColumns; ++column) {
+    for (int row = 0; row < kMapRows; ++row) map.Set(column, row, (column * kMapRows + row) % 241);
   }
   return map;
 }

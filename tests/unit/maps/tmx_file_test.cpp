@@ -42,13 +42,13 @@ TEST(TmxFile, RowsOfTiledBecomeColumnsOfTheGame) {
 
 TEST(TmxFile, FollowsTheTilesetsFirstNumber) {
   TileMap map;
-  for (int row = 0; row < MapRows; ++row) {
-    for (int column = 0; column < MapColumns; ++column) map.Set(column, row, 7);
+  for (int row = 0; row < kMapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) map.Set(column, row, 7);
   }
   std::string text = WriteTmx(map);
   TileMap shifted;
-  for (int row = 0; row < MapRows; ++row) {
-    for (int column = 0; column < MapColumns; ++column) shifted.Set(column, row, 3);
+  for (int row = 0; row < kMapRows; ++row) {
+    for (int column = 0; column < kMapColumns; ++column) shifted.Set(column, row, 3);
   }
   EXPECT_EQ(ReadTmx(Replaced(text, "firstgid=\"1\"", "firstgid=\"5\"")), shifted);
 }

@@ -12,12 +12,12 @@
 namespace orvane::effects {
 namespace {
 
-constexpr double Pi = 3.14159265358979;
+constexpr double kPi = 3.14159265358979;
 
 std::vector<float> Sine(double frequency, double level, double seconds) {
   std::vector<float> samples;
-  for (int i = 0; i < static_cast<int>(seconds * Rate); ++i) {
-    samples.push_back(static_cast<float>(level * std::sin(2 * Pi * frequency * i / Rate)));
+  for (int i = 0; i < static_cast<int>(seconds * kRate); ++i) {
+    samples.push_back(static_cast<float>(level * std::sin(2 * kPi * frequency * i / kRate)));
   }
   return samples;
 }
@@ -33,15 +33,15 @@ class Effects : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(Effects, LastAsLongAsTheyMay) {
-  const double seconds = static_cast<double>(Made().size()) / Rate;
+  const double seconds = static_cast<double>(Made().size()) / kRate;
   EXPECT_GE(seconds, 0.3);
   EXPECT_LE(seconds, std::string(GetParam()) == "Win" ? 4.0 : 2.5);
 }
 
 TEST_P(Effects, AreAtOneLoudnessUnderTheCeiling) {
   const std::vector<float> samples = Made();
-  EXPECT_NEAR(PeakLoudness(samples, 0.2), TargetLoudness, 1.0);
-  for (const float sample : samples) ASSERT_LE(std::abs(sample), Ceiling);
+  EXPECT_NEAR(PeakLoudness(samples, 0.2), kTargetLoudness, 1.0);
+  for (const float sample : samples) ASSERT_LE(std::abs(sample), kCeiling);
 }
 
 TEST_P(Effects, StartAndEndAtRest) {
@@ -55,7 +55,7 @@ TEST_P(Effects, StartAndEndAtRest) {
 TEST_P(Effects, AreHeardWithinAFrameOrTwo) {
   // The first 50 ms carry sound, so that an effect is on time with its picture.
   const std::vector<float> samples = Made();
-  const auto end = samples.begin() + Rate / 20;
+  const auto end = samples.begin() + kRate / 20;
   const float peak = std::abs(*std::max_element(
       samples.begin(), end, [](float a, float b) { return std::abs(a) < std::abs(b); }));
   EXPECT_GT(peak, 0.04F);
@@ -73,8 +73,8 @@ TEST(RestartedEffects, RiseSoftlyAndAreThereBeforeTheNextStart) {
         Finish(Mix(ReadRecipe(tests::ContentText(std::string("effects/") + name + ".recipe"))));
     float first = 0;
     float later = 0;
-    for (size_t i = 0; i < Rate * 15 / 1000; ++i) {
-      float& peak = i < Rate / 1000 ? first : later;
+    for (size_t i = 0; i < kRate * 15 / 1000; ++i) {
+      float& peak = i < kRate / 1000 ? first : later;
       peak = std::max(peak, std::abs(samples[i]));
     }
     EXPECT_LT(first, 0.02F) << name;

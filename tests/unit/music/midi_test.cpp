@@ -8,23 +8,23 @@
 namespace orvane::music {
 namespace {
 
-constexpr uint8_t On = 0x90;
-constexpr uint8_t Off = 0x80;
+constexpr uint8_t kOn = 0x90;
+constexpr uint8_t kOff = 0x80;
 
 // A sound file of one part: a flute that plays quarter notes for a whole bar.
 MidiFile Plain() {
   MidiFile file;
   MidiTrack conductor;
-  conductor.end = Whole;
-  conductor.events.push_back({0, 0xFF, MetaTempo, 0, std::string("\x07\xA1\x20", 3)});
-  conductor.events.push_back({0, 0xFF, MetaKey, 0, std::string("\x02\x00", 2)});
+  conductor.end = kWhole;
+  conductor.events.push_back({0, 0xFF, kMetaTempo, 0, std::string("\x07\xA1\x20", 3)});
+  conductor.events.push_back({0, 0xFF, kMetaKey, 0, std::string("\x02\x00", 2)});
   MidiTrack flute;
-  flute.end = Whole;
-  flute.events.push_back({0, 0xFF, MetaName, 0, "flute"});
+  flute.end = kWhole;
+  flute.events.push_back({0, 0xFF, kMetaName, 0, "flute"});
   flute.events.push_back({0, 0xC0, 73, 0, {}});
   for (int i = 0; i < 4; ++i) {
-    flute.events.push_back({i * Quarter, On, 74, 80, {}});
-    flute.events.push_back({(i + 1) * Quarter - 1, Off, 74, 0, {}});
+    flute.events.push_back({i * kQuarter, kOn, 74, 80, {}});
+    flute.events.push_back({(i + 1) * kQuarter - 1, kOff, 74, 0, {}});
   }
   file.tracks = {conductor, flute};
   return file;
@@ -43,7 +43,7 @@ TEST(MidiFile, ReadsWhatItWrites) {
   EXPECT_EQ(read.format, 1);
   EXPECT_EQ(read.ticks_per_quarter, 480);
   ASSERT_EQ(read.tracks.size(), 2U);
-  EXPECT_EQ(read.tracks[1].end, Whole);
+  EXPECT_EQ(read.tracks[1].end, kWhole);
   EXPECT_EQ(read.tracks[1].events.size(), Plain().tracks[1].events.size());
   EXPECT_EQ(WriteMidi(read), bytes);
 }
@@ -69,11 +69,11 @@ TEST(Checks, FindEveryFault) {
   EXPECT_TRUE(Finds(file, "format 1"));
 
   file = Plain();
-  file.tracks[1].events[2].tick = Quarter / 2;
+  file.tracks[1].events[2].tick = kQuarter / 2;
   EXPECT_TRUE(Finds(file, "silence at the start"));
 
   file = Plain();
-  file.tracks[1].events.back().tick -= Quarter / 2;
+  file.tracks[1].events.back().tick -= kQuarter / 2;
   EXPECT_TRUE(Finds(file, "silence at the end"));
 
   file = Plain();
@@ -81,7 +81,7 @@ TEST(Checks, FindEveryFault) {
   EXPECT_TRUE(Finds(file, "never ended"));
 
   file = Plain();
-  file.tracks[1].events[3].tick = Quarter + 10;
+  file.tracks[1].events[3].tick = kQuarter + 10;
   EXPECT_TRUE(Finds(file, "struck while it sounds"));
 
   file = Plain();
@@ -93,18 +93,18 @@ TEST(Checks, FindEveryFault) {
   file = Plain();
   for (uint8_t i = 0; i < 25; ++i) {
     file.tracks[1].events.push_back(
-        {100, On, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 60, {}});
+        {100, kOn, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 60, {}});
     file.tracks[1].events.push_back(
-        {200, Off, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 0, {}});
+        {200, kOff, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 0, {}});
   }
   EXPECT_TRUE(Finds(file, "notes at once"));
 
   file = Plain();
-  file.tracks[0].events.push_back({Quarter, 0xFF, MetaKey, 0, std::string("\x03\x00", 2)});
+  file.tracks[0].events.push_back({kQuarter, 0xFF, kMetaKey, 0, std::string("\x03\x00", 2)});
   EXPECT_TRUE(Finds(file, "key at the end"));
 
   file = Plain();
-  file.tracks[0].events.push_back({Quarter, 0xFF, MetaTempo, 0, std::string("\x1E\x84\x80", 3)});
+  file.tracks[0].events.push_back({kQuarter, 0xFF, kMetaTempo, 0, std::string("\x1E\x84\x80", 3)});
   EXPECT_TRUE(Finds(file, "tempo at the end"));
 
   file = Plain();
@@ -139,7 +139,7 @@ TEST(Performance, IsTheSameEveryTimeAndKeepsToItsEnds) {
   const MidiFile file = Perform(WriteOut(score));
   EXPECT_EQ(WriteMidi(file), WriteMidi(Perform(WriteOut(score))));
   // Half of the 100 ms at 120 quarters a minute are 48 ticks.
-  EXPECT_EQ(file.tracks[1].end, 2 * Whole - 48);
+  EXPECT_EQ(file.tracks[1].end, 2 * kWhole - 48);
   EXPECT_TRUE(CheckPiece("Test", file).empty());
 }
 

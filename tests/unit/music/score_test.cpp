@@ -7,7 +7,7 @@
 namespace orvane::music {
 namespace {
 
-const std::string Head =
+const std::string kHead =
     "piece Test \"A test\"\n"
     "key D major\n"
     "tempo 120\n"
@@ -21,7 +21,7 @@ const std::string Head =
 
 // The whole score: the head, the form and the sections.
 std::string WholeScore(const std::string& form, const std::string& sections) {
-  return Head + "form " + form + "\n" + sections;
+  return kHead + "form " + form + "\n" + sections;
 }
 
 std::string Fault(const std::string& text) {
@@ -38,19 +38,19 @@ TEST(Score, PlacesSectionsByTheForm) {
   const Score score = ReadScore(
       WholeScore("A B A", "section A 1\n  tune d1 |\nsection B 2\n  tune e2 f# | g1 |\n"));
   const Sheet sheet = WriteOut(score);
-  EXPECT_EQ(sheet.end, 4 * Whole);
+  EXPECT_EQ(sheet.end, 4 * kWhole);
   ASSERT_EQ(sheet.sections.size(), 3U);
-  EXPECT_EQ(sheet.sections[2].start, 3 * Whole);
+  EXPECT_EQ(sheet.sections[2].start, 3 * kWhole);
   ASSERT_EQ(sheet.parts[0].notes.size(), 5U);
   EXPECT_EQ(sheet.parts[0].notes[0].pitch, 74);
-  EXPECT_EQ(sheet.parts[0].notes[4].start, 3 * Whole);
+  EXPECT_EQ(sheet.parts[0].notes[4].start, 3 * kWhole);
 }
 
 TEST(Score, JoinsTiedNotesAcrossTheBar) {
   const Score score = ReadScore(WholeScore("A", "section A 2\n  tune d1~ | d2 e |\n"));
   const Sheet sheet = WriteOut(score);
   ASSERT_EQ(sheet.parts[0].notes.size(), 2U);
-  EXPECT_EQ(sheet.parts[0].notes[0].length, Whole + Whole / 2);
+  EXPECT_EQ(sheet.parts[0].notes[0].length, kWhole + kWhole / 2);
 }
 
 TEST(Score, FillsALineThatRepeats) {
@@ -82,7 +82,7 @@ TEST(Score, HoldsTheCommonTonesOfSlurredChords) {
   const Sheet sheet = WriteOut(slurred);
   EXPECT_EQ(sheet.parts[0].notes.size(), 4U);  // c and e stay, g goes to a
   int held = 0;
-  for (const Note& note : sheet.parts[0].notes) held += note.length == 2 * Whole ? 1 : 0;
+  for (const Note& note : sheet.parts[0].notes) held += note.length == 2 * kWhole ? 1 : 0;
   EXPECT_EQ(held, 2);
 }
 

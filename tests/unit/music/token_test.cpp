@@ -12,7 +12,7 @@ TEST(Token, ReadsPitchOctavesLengthAndMarks) {
   ASSERT_EQ(token.tones.size(), 1U);
   EXPECT_EQ(token.tones[0].semitone, 6);
   EXPECT_EQ(token.tones[0].octaves, 2);
-  EXPECT_EQ(token.length, Quarter * 3 / 2);
+  EXPECT_EQ(token.length, kQuarter * 3 / 2);
   EXPECT_EQ(token.stress, 10);
   EXPECT_TRUE(token.opens_slur);
   EXPECT_FALSE(token.closes_slur);
@@ -32,7 +32,7 @@ TEST(Token, ReadsRestsChordsVoicesAndBassTones) {
   const Token voice = ReadToken("@3:8");
   EXPECT_EQ(voice.tones[0].kind, ToneKind::Voice);
   EXPECT_EQ(voice.tones[0].voice, 3);
-  EXPECT_EQ(voice.length, Quarter / 2);
+  EXPECT_EQ(voice.length, kQuarter / 2);
   const Token bass = ReadToken("F'16!");
   EXPECT_EQ(bass.tones[0].kind, ToneKind::Bass);
   EXPECT_EQ(bass.tones[0].degree, 'F');
@@ -40,7 +40,7 @@ TEST(Token, ReadsRestsChordsVoicesAndBassTones) {
 }
 
 TEST(Token, ReadsTripletsAsTwelfths) {
-  EXPECT_EQ(ReadToken("c12").length, Whole / 12);
+  EXPECT_EQ(ReadToken("c12").length, kWhole / 12);
 }
 
 TEST(Token, RefusesWhatIsNoNote) {

@@ -5,7 +5,7 @@
 namespace orvane {
 namespace {
 
-TEST(ProgramPath, is_the_file_of_the_running_program) {
+TEST(ProgramPath, IsTheFileOfTheRunningProgram) {
   const auto path = ProgramPath();
   EXPECT_TRUE(path.is_absolute());
   EXPECT_TRUE(std::filesystem::is_regular_file(path));

@@ -5,7 +5,7 @@
 namespace orvane {
 namespace {
 
-TEST(BoxCaptions, enter_agrees_and_escape_declines) {
+TEST(BoxCaptions, EnterAgreesAndEscapeDeclines) {
   EXPECT_EQ(ChoicesOf(BoxButtons::Ok).size(), 1);
   EXPECT_EQ(ChoicesOf(BoxButtons::Ok).front().Answer, BoxAnswer::Ok);
   EXPECT_EQ(ChoicesOf(BoxButtons::OkCancel).front().Answer, BoxAnswer::Ok);
@@ -14,7 +14,7 @@ TEST(BoxCaptions, enter_agrees_and_escape_declines) {
   EXPECT_EQ(ChoicesOf(BoxButtons::YesNo).back().Answer, BoxAnswer::No);
 }
 
-TEST(BoxCaptions, are_in_japanese) {
+TEST(BoxCaptions, AreInJapanese) {
   EXPECT_STREQ(ChoicesOf(BoxButtons::YesNo).front().Caption, "はい");
   EXPECT_STREQ(ChoicesOf(BoxButtons::YesNo).back().Caption, "いいえ");
   EXPECT_STREQ(ChoicesOf(BoxButtons::OkCancel).back().Caption, "キャンセル");

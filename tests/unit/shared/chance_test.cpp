@@ -13,7 +13,7 @@ std::vector<float> Draws(PlayersChance& chance) {
   return draws;
 }
 
-TEST(PlayersChance, draws_from_zero_up_to_but_not_one) {
+TEST(PlayersChance, DrawsFromZeroUpToButNotOne) {
   PlayersChance chance(1);
   float sum = 0;
   for (const float draw : Draws(chance)) {
@@ -24,7 +24,7 @@ TEST(PlayersChance, draws_from_zero_up_to_but_not_one) {
   EXPECT_NEAR(sum / 1000, 0.5, 0.05);
 }
 
-TEST(PlayersChance, with_a_seed_repeats_itself_whatever_is_reseeded) {
+TEST(PlayersChance, WithASeedRepeatsItselfWhateverIsReseeded) {
   PlayersChance one(5);
   PlayersChance other(5);
   other.Reseed();
@@ -34,7 +34,7 @@ TEST(PlayersChance, with_a_seed_repeats_itself_whatever_is_reseeded) {
   EXPECT_NE(Draws(third), Draws(first));
 }
 
-TEST(PlayersChance, without_a_seed_is_new_each_time_even_within_a_tick_of_the_clock) {
+TEST(PlayersChance, WithoutASeedIsNewEachTimeEvenWithinATickOfTheClock) {
   PlayersChance chance({});
   const auto before = Draws(chance);
   chance.Reseed();

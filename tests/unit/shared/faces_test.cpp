@@ -21,34 +21,34 @@ std::string Chosen(const char* asked, const Families& installed) {
 TEST(Faces, FacesLikeTheGamesOwnComeFirst) {
   const Families all = {"Noto Sans CJK JP", "Noto Serif CJK JP", "IPAPGothic", "IPAPMincho",
                         "VL PGothic"};
-  EXPECT_EQ(Chosen(Gothic, all), "IPAPGothic");
-  EXPECT_EQ(Chosen(Mincho, all), "IPAPMincho");
+  EXPECT_EQ(Chosen(kGothic, all), "IPAPGothic");
+  EXPECT_EQ(Chosen(kMincho, all), "IPAPMincho");
   EXPECT_EQ(Chosen("no face at all", all), "IPAPGothic");
 }
 
 TEST(Faces, OtherKnownFacesFollow) {
   const Families noto = {"Noto Serif CJK KR", "Noto Sans CJK HK", "Noto Sans Mono CJK JP",
                          "Noto Serif CJK JP", "Noto Sans CJK JP"};
-  EXPECT_EQ(Chosen(Gothic, noto), "Noto Sans CJK JP");
-  EXPECT_EQ(Chosen(Mincho, noto), "Noto Serif CJK JP");
-  EXPECT_EQ(Chosen(Gothic, {"VL Gothic", "VL PGothic"}), "VL PGothic");
+  EXPECT_EQ(Chosen(kGothic, noto), "Noto Sans CJK JP");
+  EXPECT_EQ(Chosen(kMincho, noto), "Noto Serif CJK JP");
+  EXPECT_EQ(Chosen(kGothic, {"VL Gothic", "VL PGothic"}), "VL PGothic");
 }
 
 TEST(Faces, AnUnknownFaceOfTheSameKindIsBetterThanAnother) {
   const Families some = {"WenQuanYi Micro Hei Mono", "WenQuanYi Micro Hei", "Shippori Mincho"};
-  EXPECT_EQ(Chosen(Gothic, some), "WenQuanYi Micro Hei");
-  EXPECT_EQ(Chosen(Mincho, some), "Shippori Mincho");
-  EXPECT_EQ(Chosen(Gothic, {"AR PL UMing CN", "Sawarabi Gothic", "AR PL UKai CN"}),
+  EXPECT_EQ(Chosen(kGothic, some), "WenQuanYi Micro Hei");
+  EXPECT_EQ(Chosen(kMincho, some), "Shippori Mincho");
+  EXPECT_EQ(Chosen(kGothic, {"AR PL UMing CN", "Sawarabi Gothic", "AR PL UKai CN"}),
             "Sawarabi Gothic");
-  EXPECT_EQ(Chosen(Gothic, {"Source Han Sans KR", "Source Han Sans JP"}), "Source Han Sans JP");
-  EXPECT_EQ(Chosen(Mincho, {"ヒラギノ角ゴシック", "ヒラギノ明朝"}), "ヒラギノ明朝");
+  EXPECT_EQ(Chosen(kGothic, {"Source Han Sans KR", "Source Han Sans JP"}), "Source Han Sans JP");
+  EXPECT_EQ(Chosen(kMincho, {"ヒラギノ角ゴシック", "ヒラギノ明朝"}), "ヒラギノ明朝");
 }
 
 TEST(Faces, AnyFaceWithJapaneseLettersIsBetterThanNone) {
-  EXPECT_EQ(Chosen(Mincho, {"Droid Sans Fallback"}), "Droid Sans Fallback");
-  EXPECT_EQ(Chosen(Gothic, {"Shippori Mincho"}), "Shippori Mincho");
-  EXPECT_EQ(Substitutes(Gothic, {}).back(), "sans-serif");
-  EXPECT_EQ(Substitutes(Mincho, {"VL PGothic"}).back(), "serif");
+  EXPECT_EQ(Chosen(kMincho, {"Droid Sans Fallback"}), "Droid Sans Fallback");
+  EXPECT_EQ(Chosen(kGothic, {"Shippori Mincho"}), "Shippori Mincho");
+  EXPECT_EQ(Substitutes(kGothic, {}).back(), "sans-serif");
+  EXPECT_EQ(Substitutes(kMincho, {"VL PGothic"}).back(), "serif");
 }
 
 TEST(Faces, OnlyASystemWithoutJapaneseLettersIsToldWhatToInstall) {
@@ -61,9 +61,9 @@ TEST(Faces, OnlyASystemWithoutJapaneseLettersIsToldWhatToInstall) {
 }
 
 TEST(Faces, SizesArePixelsOf96ToTheInch) {
-  EXPECT_EQ(PixelSize({Gothic, 9, false}), 12);
-  EXPECT_EQ(PixelSize({Mincho, 36, true}), 48);
-  EXPECT_EQ(PixelSize({Gothic, 0, false}), 1);
+  EXPECT_EQ(PixelSize({kGothic, 9, false}), 12);
+  EXPECT_EQ(PixelSize({kMincho, 36, true}), 48);
+  EXPECT_EQ(PixelSize({kGothic, 0, false}), 1);
 }
 
 }  // namespace

@@ -34,13 +34,13 @@ class FocusOrderTest : public testing::Test {
   FocusOrder order_{desk_};
 };
 
-TEST_F(FocusOrderTest, what_is_filled_in_comes_before_the_buttons) {
+TEST_F(FocusOrderTest, WhatIsFilledInComesBeforeTheButtons) {
   const std::vector<Control*> wanted = {&desk_.Things, &desk_.Speed, &desk_.Button,
                                         &desk_.Tabs,   &desk_.First, &desk_.Second};
   EXPECT_EQ(order_.Stops(), wanted);
 }
 
-TEST_F(FocusOrderTest, begins_with_what_asks_for_an_answer_or_else_with_the_first) {
+TEST_F(FocusOrderTest, BeginsWithWhatAsksForAnAnswerOrElseWithTheFirst) {
   EXPECT_EQ(order_.Begin(), &desk_.Things);
   desk_.Things.Visible = false;
   EXPECT_EQ(order_.Begin(), &desk_.Speed);
@@ -48,11 +48,11 @@ TEST_F(FocusOrderTest, begins_with_what_asks_for_an_answer_or_else_with_the_firs
   EXPECT_EQ(order_.Begin(), nullptr);
 }
 
-TEST_F(FocusOrderTest, stays_where_it_can) {
+TEST_F(FocusOrderTest, StaysWhereItCan) {
   EXPECT_EQ(order_.Follow(&desk_.Button), &desk_.Button);
 }
 
-TEST_F(FocusOrderTest, goes_to_a_list_that_has_come_and_back_when_it_has_gone) {
+TEST_F(FocusOrderTest, GoesToAListThatHasComeAndBackWhenItHasGone) {
   desk_.Things.Visible = false;
   desk_.Button.Enabled = false;  // commands are off while the list asks
   desk_.Things.Visible = true;
@@ -62,7 +62,7 @@ TEST_F(FocusOrderTest, goes_to_a_list_that_has_come_and_back_when_it_has_gone) {
   EXPECT_EQ(order_.Follow(&desk_.Things), &desk_.Button);
 }
 
-TEST_F(FocusOrderTest, the_last_that_lost_the_keyboard_is_the_first_to_have_it_again) {
+TEST_F(FocusOrderTest, TheLastThatLostTheKeyboardIsTheFirstToHaveItAgain) {
   desk_.Things.Visible = false;
   desk_.Speed.Enabled = false;
   EXPECT_EQ(order_.Follow(&desk_.Speed), &desk_.Button);
@@ -73,19 +73,19 @@ TEST_F(FocusOrderTest, the_last_that_lost_the_keyboard_is_the_first_to_have_it_a
   EXPECT_EQ(order_.Follow(&desk_.Tabs), &desk_.Button);
 }
 
-TEST_F(FocusOrderTest, goes_to_the_tabs_when_its_pane_has_closed) {
+TEST_F(FocusOrderTest, GoesToTheTabsWhenItsPaneHasClosed) {
   desk_.Tabs.OpenTab = 1;
   EXPECT_EQ(order_.Follow(&desk_.First), &desk_.Tabs);
 }
 
-TEST_F(FocusOrderTest, tabs_of_which_none_can_be_opened_are_of_no_use) {
+TEST_F(FocusOrderTest, TabsOfWhichNoneCanBeOpenedAreOfNoUse) {
   desk_.Tabs.PanesEnabled = {false, false};
   desk_.Things.Visible = false;
   EXPECT_NE(order_.Follow(&desk_.Tabs), &desk_.Tabs);
   EXPECT_FALSE(order_.NextTab(1).has_value());
 }
 
-TEST_F(FocusOrderTest, arrows_lead_to_what_lies_next_and_can_be_used) {
+TEST_F(FocusOrderTest, ArrowsLeadToWhatLiesNextAndCanBeUsed) {
   EXPECT_EQ(order_.Neighbour(desk_.Button, Direction::Right), &desk_.Speed);
   desk_.Speed.Enabled = false;
   EXPECT_EQ(order_.Neighbour(desk_.Button, Direction::Right), &desk_.Things);
@@ -95,7 +95,7 @@ TEST_F(FocusOrderTest, arrows_lead_to_what_lies_next_and_can_be_used) {
   EXPECT_EQ(order_.Neighbour(desk_.Button, Direction::Left), nullptr);
 }
 
-TEST_F(FocusOrderTest, tabs_turn_round_and_round_past_those_that_are_off) {
+TEST_F(FocusOrderTest, TabsTurnRoundAndRoundPastThoseThatAreOff) {
   auto turn = order_.NextTab(1);
   ASSERT_TRUE(turn.has_value());
   EXPECT_EQ(turn->Tabs, &desk_.Tabs);

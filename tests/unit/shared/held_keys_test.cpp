@@ -26,7 +26,7 @@ class HeldKeysTest : public testing::Test {
   }
 };
 
-TEST_F(HeldKeysTest, one_press_after_another_is_no_repeat) {
+TEST_F(HeldKeysTest, OnePressAfterAnotherIsNoRepeat) {
   EXPECT_FALSE(Press(100, field_).Repeats);
   EXPECT_TRUE(held_.IsDown(kEnterCode));
   EXPECT_FALSE(Release(150, field_).Repeats);
@@ -34,7 +34,7 @@ TEST_F(HeldKeysTest, one_press_after_another_is_no_repeat) {
   EXPECT_FALSE(Press(200, field_).Repeats);
 }
 
-TEST_F(HeldKeysTest, a_release_and_a_press_of_one_time_are_a_repeat) {
+TEST_F(HeldKeysTest, AReleaseAndAPressOfOneTimeAreARepeat) {
   Press(100, field_);
   keyboard_->set(kEnterCode);
   EXPECT_TRUE(Release(400, field_).Repeats);
@@ -44,19 +44,19 @@ TEST_F(HeldKeysTest, a_release_and_a_press_of_one_time_are_a_repeat) {
   EXPECT_FALSE(again.IsStray);
 }
 
-TEST_F(HeldKeysTest, a_press_without_a_release_is_a_repeat) {
+TEST_F(HeldKeysTest, APressWithoutAReleaseIsARepeat) {
   Press(100, field_);
   EXPECT_TRUE(Press(400, field_).Repeats);
 }
 
-TEST_F(HeldKeysTest, a_quick_second_press_counts_even_if_the_first_release_is_seen_late) {
+TEST_F(HeldKeysTest, AQuickSecondPressCountsEvenIfTheFirstReleaseIsSeenLate) {
   Press(100, field_);
   keyboard_->set(kEnterCode);  // the second press is on its way already
   Release(130, field_);
   EXPECT_FALSE(Press(150, field_).Repeats);
 }
 
-TEST_F(HeldKeysTest, what_was_pressed_in_another_window_is_stray) {
+TEST_F(HeldKeysTest, WhatWasPressedInAnotherWindowIsStray) {
   Press(100, field_);
   keyboard_->set(kEnterCode);
   Release(400, battle_);
@@ -70,7 +70,7 @@ TEST_F(HeldKeysTest, what_was_pressed_in_another_window_is_stray) {
   EXPECT_FALSE(meant.IsStray);
 }
 
-TEST_F(HeldKeysTest, what_was_pressed_in_another_program_is_stray_as_long_as_it_repeats) {
+TEST_F(HeldKeysTest, WhatWasPressedInAnotherProgramIsStrayAsLongAsItRepeats) {
   keyboard_->set(kEnterCode);
   held_.Look();
   const auto again = Press(100, field_, true);
@@ -78,7 +78,7 @@ TEST_F(HeldKeysTest, what_was_pressed_in_another_program_is_stray_as_long_as_it_
   EXPECT_TRUE(again.IsStray);
 }
 
-TEST_F(HeldKeysTest, a_press_that_the_keyboard_knew_before_its_event_came_counts) {
+TEST_F(HeldKeysTest, APressThatTheKeyboardKnewBeforeItsEventCameCounts) {
   keyboard_->set(kEnterCode);
   held_.Look();
   const auto meant = Press(100, field_);
@@ -86,14 +86,14 @@ TEST_F(HeldKeysTest, a_press_that_the_keyboard_knew_before_its_event_came_counts
   EXPECT_FALSE(meant.IsStray);
 }
 
-TEST_F(HeldKeysTest, a_release_that_another_program_got_leaves_nothing_behind) {
+TEST_F(HeldKeysTest, AReleaseThatAnotherProgramGotLeavesNothingBehind) {
   Press(100, field_);
   held_.Forget();
   EXPECT_FALSE(held_.IsDown(kEnterCode));
   EXPECT_FALSE(Press(900, field_).Repeats);
 }
 
-TEST_F(HeldKeysTest, goes_by_the_events_alone_where_the_keyboard_does_not_tell) {
+TEST_F(HeldKeysTest, GoesByTheEventsAloneWhereTheKeyboardDoesNotTell) {
   keyboard_.reset();
   Press(100, field_);
   held_.Look();
@@ -102,7 +102,7 @@ TEST_F(HeldKeysTest, goes_by_the_events_alone_where_the_keyboard_does_not_tell) 
   EXPECT_FALSE(held_.IsDown(kEnterCode));
 }
 
-TEST_F(HeldKeysTest, what_an_input_method_types_is_no_key) {
+TEST_F(HeldKeysTest, WhatAnInputMethodTypesIsNoKey) {
   for (const uint32_t code : {0U, 256U}) {
     const auto typed = held_.Take({code, true, false, 100, &field_});
     EXPECT_FALSE(typed.Repeats);

@@ -5,7 +5,7 @@
 namespace orvane {
 namespace {
 
-TEST(Options, without_arguments_leave_everything_to_the_program) {
+TEST(Options, WithoutArgumentsLeaveEverythingToTheProgram) {
   const Options options = ReadOptions({});
   EXPECT_TRUE(options.Error.empty());
   EXPECT_FALSE(options.Folder.has_value());
@@ -14,7 +14,7 @@ TEST(Options, without_arguments_leave_everything_to_the_program) {
   EXPECT_FALSE(options.WantsHelp);
 }
 
-TEST(Options, are_read) {
+TEST(Options, AreRead) {
   const Options options = ReadOptions({"--folder", "/a b", "--scale", "1.5", "--seed", "7"});
   EXPECT_EQ(options.Error, "");
   EXPECT_EQ(options.Folder, "/a b");
@@ -22,22 +22,22 @@ TEST(Options, are_read) {
   EXPECT_EQ(options.Seed, 7U);
 }
 
-TEST(Options, of_help_want_help) {
+TEST(Options, OfHelpWantHelp) {
   EXPECT_TRUE(ReadOptions({"--help"}).WantsHelp);
   EXPECT_TRUE(ReadOptions({"-h"}).WantsHelp);
   EXPECT_NE(HelpText().find("--folder"), std::string::npos);
 }
 
-TEST(Options, that_nobody_knows_are_errors) {
+TEST(Options, ThatNobodyKnowsAreErrors) {
   EXPECT_EQ(ReadOptions({"--fast"}).Error, "unknown option --fast");
   EXPECT_EQ(ReadOptions({"save.sav"}).Error, "unknown option save.sav");
 }
 
-TEST(Options, without_their_value_are_errors) {
+TEST(Options, WithoutTheirValueAreErrors) {
   EXPECT_EQ(ReadOptions({"--seed", "1", "--scale"}).Error, "--scale needs a value");
 }
 
-TEST(Options, with_a_value_out_of_range_are_errors) {
+TEST(Options, WithAValueOutOfRangeAreErrors) {
   for (const char* bad : {"0.4", "8.1", "nan", "2x", "", "-1"}) {
     EXPECT_EQ(ReadOptions({"--scale", bad}).Error, "--scale needs a number from 0.5 to 8") << bad;
   }

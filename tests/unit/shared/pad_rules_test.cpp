@@ -22,7 +22,7 @@ PadState Pushed(PadStick& stick, double x, double y) {
   return state;
 }
 
-TEST(PadStick, gives_the_direction_of_the_longer_way) {
+TEST(PadStick, GivesTheDirectionOfTheLongerWay) {
   PadStick stick;
   EXPECT_EQ(Pushed(stick, 0.9, 0.2), With({PadButton::Right}));
   EXPECT_EQ(Pushed(stick, -0.9, 0.2), With({PadButton::Left}));
@@ -30,12 +30,12 @@ TEST(PadStick, gives_the_direction_of_the_longer_way) {
   EXPECT_EQ(Pushed(stick, 0.2, 0.9), With({PadButton::Down}));
 }
 
-TEST(PadStick, is_at_rest_near_the_middle) {
+TEST(PadStick, IsAtRestNearTheMiddle) {
   PadStick stick;
   EXPECT_EQ(Pushed(stick, 0.49, 0.49), PadState{});
 }
 
-TEST(PadStick, lets_go_later_than_it_takes) {
+TEST(PadStick, LetsGoLaterThanItTakes) {
   PadStick stick;
   EXPECT_EQ(Pushed(stick, 0.45, 0), PadState{});
   EXPECT_EQ(Pushed(stick, 0.55, 0), With({PadButton::Right}));
@@ -43,7 +43,7 @@ TEST(PadStick, lets_go_later_than_it_takes) {
   EXPECT_EQ(Pushed(stick, 0.3, 0), PadState{});
 }
 
-TEST(PadStick, does_not_waver_on_the_diagonal) {
+TEST(PadStick, DoesNotWaverOnTheDiagonal) {
   PadStick stick;
   EXPECT_EQ(Pushed(stick, 0.7, 0.6), With({PadButton::Right}));
   EXPECT_EQ(Pushed(stick, 0.7, 0.8), With({PadButton::Right}));
@@ -87,7 +87,7 @@ class PadRulesTest : public testing::Test {
   PadRules rules_{hands_};
 };
 
-TEST_F(PadRulesTest, each_button_does_its_own_once_for_each_press) {
+TEST_F(PadRulesTest, EachButtonDoesItsOwnOnceForEachPress) {
   for (const PadButton button : {PadButton::Accept, PadButton::Back, PadButton::Menu,
                                  PadButton::Previous, PadButton::Next}) {
     Show(With({button}));
@@ -97,7 +97,7 @@ TEST_F(PadRulesTest, each_button_does_its_own_once_for_each_press) {
   EXPECT_EQ(hands_.Done, (Deeds{"accept", "back", "menus", "turn -1", "turn 1"}));
 }
 
-TEST_F(PadRulesTest, walks_while_keys_reach_the_field) {
+TEST_F(PadRulesTest, WalksWhileKeysReachTheField) {
   hands_.Reaches = true;
   Show(With({PadButton::Left}));
   Show(With({PadButton::Left}), 5000);
@@ -106,7 +106,7 @@ TEST_F(PadRulesTest, walks_while_keys_reach_the_field) {
   EXPECT_EQ(hands_.Done, (Deeds{"walk left", "halt left"}));
 }
 
-TEST_F(PadRulesTest, moves_where_the_menu_bar_has_the_keys) {
+TEST_F(PadRulesTest, MovesWhereTheMenuBarHasTheKeys) {
   hands_.Reaches = true;
   hands_.MenuBar = true;
   Show(With({PadButton::Left}));
@@ -114,7 +114,7 @@ TEST_F(PadRulesTest, moves_where_the_menu_bar_has_the_keys) {
   EXPECT_EQ(hands_.Done, (Deeds{"move left"}));
 }
 
-TEST_F(PadRulesTest, hands_in_a_release_that_went_elsewhere) {
+TEST_F(PadRulesTest, HandsInAReleaseThatWentElsewhere) {
   hands_.Reaches = true;
   Show(With({PadButton::Left}));
   hands_.Reaches = false;
@@ -125,7 +125,7 @@ TEST_F(PadRulesTest, hands_in_a_release_that_went_elsewhere) {
   EXPECT_EQ(hands_.Done, (Deeds{"walk left", "halt left"}));
 }
 
-TEST_F(PadRulesTest, elsewhere_a_direction_repeats_after_a_while_and_then_sooner) {
+TEST_F(PadRulesTest, ElsewhereADirectionRepeatsAfterAWhileAndThenSooner) {
   Show(With({PadButton::Down}));
   Show(With({PadButton::Down}), 400);
   EXPECT_EQ(hands_.Done.size(), 1);
@@ -137,7 +137,7 @@ TEST_F(PadRulesTest, elsewhere_a_direction_repeats_after_a_while_and_then_sooner
   EXPECT_EQ(hands_.Done, (Deeds{"move down", "move down", "move down"}));
 }
 
-TEST_F(PadRulesTest, what_was_pressed_in_the_field_does_not_repeat_in_a_new_window) {
+TEST_F(PadRulesTest, WhatWasPressedInTheFieldDoesNotRepeatInANewWindow) {
   hands_.Reaches = true;
   Show(With({PadButton::Down}));
   hands_.Reaches = false;

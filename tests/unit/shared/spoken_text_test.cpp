@@ -39,18 +39,18 @@ class SpokenTextTest : public testing::Test {
   Page page_{stage_};
 };
 
-TEST_F(SpokenTextTest, is_a_line_for_each_text_that_has_words_and_is_no_shadow) {
+TEST_F(SpokenTextTest, IsALineForEachTextThatHasWordsAndIsNoShadow) {
   EXPECT_EQ(SpokenText(page_.Scene), "龍が いる\n１２");
 }
 
-TEST_F(SpokenTextTest, leaves_out_what_cannot_be_seen) {
+TEST_F(SpokenTextTest, LeavesOutWhatCannotBeSeen) {
   page_.Number.Visible = false;
   EXPECT_EQ(SpokenText(page_.Scene), "龍が いる");
   page_.Scene.Visible = false;
   EXPECT_EQ(SpokenText(page_.Scene), "");
 }
 
-TEST_F(SpokenTextTest, signs_alone_are_no_words) {
+TEST_F(SpokenTextTest, SignsAloneAreNoWords) {
   for (const char* signs : {"", "　", "↓", "・・・", "…", "「」", "！？", "＊", "- - -"}) {
     page_.Number.Caption = signs;
     EXPECT_EQ(SpokenText(page_.Scene), "龍が いる") << signs;
@@ -61,14 +61,14 @@ TEST_F(SpokenTextTest, signs_alone_are_no_words) {
   }
 }
 
-TEST_F(SpokenTextTest, a_number_is_told_by_the_caption_before_it) {
+TEST_F(SpokenTextTest, ANumberIsToldByTheCaptionBeforeIt) {
   EXPECT_EQ(CaptionBeside(page_.Value), "HP ：");
   EXPECT_EQ(CaptionBeside(page_.OtherValue), "MP ：");
   EXPECT_EQ(CaptionBeside(page_.Nearer), "") << "a caption needs none";
   EXPECT_EQ(CaptionBeside(page_.Words), "");
 }
 
-TEST(SpokenNames, belong_to_controls_that_there_are) {
+TEST(SpokenNames, BelongToControlsThatThereAre) {
   QuietServices quiet;
   Program program(quiet.All());
   int named = 0;

@@ -44,7 +44,7 @@ class SurfaceCopyTest : public testing::Test {
   SurfaceCopy copy_;
 };
 
-TEST_F(SurfaceCopyTest, has_nothing_before_the_surface_publishes_and_then_all) {
+TEST_F(SurfaceCopyTest, HasNothingBeforeTheSurfacePublishesAndThenAll) {
   EXPECT_EQ(Follow(true), kNothing);
   EXPECT_EQ(copy_.Width(), 0);
   surface_.Refresh();
@@ -54,7 +54,7 @@ TEST_F(SurfaceCopyTest, has_nothing_before_the_surface_publishes_and_then_all) {
   EXPECT_EQ(Follow(true), kNothing) << "nothing differs, however closely one looks";
 }
 
-TEST_F(SurfaceCopyTest, what_is_drawn_and_not_published_is_no_change) {
+TEST_F(SurfaceCopyTest, WhatIsDrawnAndNotPublishedIsNoChange) {
   surface_.Refresh();
   Follow();
   FillBox(surface_, 3, 3, 9, 9, 0xFFFFFF);
@@ -62,7 +62,7 @@ TEST_F(SurfaceCopyTest, what_is_drawn_and_not_published_is_no_change) {
   ExpectSame();
 }
 
-TEST_F(SurfaceCopyTest, finds_the_box_around_all_that_differs) {
+TEST_F(SurfaceCopyTest, FindsTheBoxAroundAllThatDiffers) {
   surface_.Refresh();
   Follow();
   FillBox(surface_, 31, 4, 31, 4, 0xFFFFFF);
@@ -72,7 +72,7 @@ TEST_F(SurfaceCopyTest, finds_the_box_around_all_that_differs) {
   ExpectSame();
 }
 
-TEST_F(SurfaceCopyTest, finds_each_single_pixel) {
+TEST_F(SurfaceCopyTest, FindsEachSinglePixel) {
   surface_.Refresh();
   Follow();
   std::mt19937 chance(5);
@@ -91,7 +91,7 @@ TEST_F(SurfaceCopyTest, finds_each_single_pixel) {
   ExpectSame();
 }
 
-TEST_F(SurfaceCopyTest, a_surface_of_another_size_is_new_as_a_whole) {
+TEST_F(SurfaceCopyTest, ASurfaceOfAnotherSizeIsNewAsAWhole) {
   surface_.Refresh();
   Follow();
   surface_ = Surface(30, 10, 0x405060);

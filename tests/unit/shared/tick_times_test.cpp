@@ -54,18 +54,18 @@ class TickTimesTest : public testing::Test {
   Clockwork screen_{stage_};
 };
 
-TEST_F(TickTimesTest, while_no_timer_is_on_nothing_is_due) {
+TEST_F(TickTimesTest, WhileNoTimerIsOnNothingIsDue) {
   TickTimes times(stage_);
   EXPECT_FALSE(times.Wait(0).has_value());
   EXPECT_EQ(times.Take(100000), nullptr);
 }
 
-TEST_F(TickTimesTest, keeps_the_pace_where_it_is_longer_than_the_interval) {
+TEST_F(TickTimesTest, KeepsThePaceWhereItIsLongerThanTheInterval) {
   screen_.Paced.SetEnabled(true);
   EXPECT_EQ(Serve(2), 120);
 }
 
-TEST_F(TickTimesTest, a_tick_that_is_late_comes_at_once_and_once) {
+TEST_F(TickTimesTest, ATickThatIsLateComesAtOnceAndOnce) {
   screen_.Paced.SetEnabled(true);
   TickTimes times(stage_);
   ASSERT_EQ(times.Wait(0), 60);
@@ -76,13 +76,13 @@ TEST_F(TickTimesTest, a_tick_that_is_late_comes_at_once_and_once) {
   EXPECT_EQ(times.Wait(1000), 60);
 }
 
-TEST_F(TickTimesTest, hurries_as_many_times_as_it_is_asked_to) {
+TEST_F(TickTimesTest, HurriesAsManyTimesAsItIsAskedTo) {
   setenv("ORVANE_SPEED", "100", 1);
   screen_.Slow.SetEnabled(true);
   EXPECT_EQ(Serve(2), 40);
 }
 
-TEST_F(TickTimesTest, logs_each_tick_with_its_period_and_time_of_the_game) {
+TEST_F(TickTimesTest, LogsEachTickWithItsPeriodAndTimeOfTheGame) {
   const auto name = std::filesystem::path(testing::TempDir()) / "orvane_ticks.txt";
   setenv("ORVANE_TICKS", name.c_str(), 1);
   setenv("ORVANE_SPEED", "100", 1);
@@ -115,13 +115,13 @@ TEST_F(TickTimesTest, logs_each_tick_with_its_period_and_time_of_the_game) {
   EXPECT_GE(paced_count, 20);
 }
 
-TEST_F(TickTimesTest, goes_on_without_a_log_that_cannot_be_written) {
+TEST_F(TickTimesTest, GoesOnWithoutALogThatCannotBeWritten) {
   setenv("ORVANE_TICKS", "/nowhere/at/all/ticks.txt", 1);
   screen_.Paced.SetEnabled(true);
   EXPECT_EQ(Serve(1), 60);
 }
 
-TEST(GameSpeed, is_one_unless_a_number_from_one_to_a_thousand_says_more) {
+TEST(GameSpeed, IsOneUnlessANumberFromOneToAThousandSaysMore) {
   EXPECT_EQ(GameSpeed(nullptr), 1);
   EXPECT_EQ(GameSpeed(""), 1);
   EXPECT_EQ(GameSpeed("quick"), 1);

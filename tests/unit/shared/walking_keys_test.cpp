@@ -34,7 +34,7 @@ class WalkingKeysTest : public testing::Test {
                      [this](Direction, bool down) { sent_ += down ? "v" : "^"; }}};
 };
 
-TEST_F(WalkingKeysTest, an_arrow_walks_until_it_is_let_go) {
+TEST_F(WalkingKeysTest, AnArrowWalksUntilItIsLetGo) {
   EXPECT_FALSE(Press(kLeft, field_));
   EXPECT_TRUE(keys_.IsOutstanding());
   EXPECT_FALSE(Press(kLeft, field_, true)) << "a repeat changes nothing";
@@ -43,7 +43,7 @@ TEST_F(WalkingKeysTest, an_arrow_walks_until_it_is_let_go) {
   EXPECT_FALSE(keys_.IsOutstanding());
 }
 
-TEST_F(WalkingKeysTest, an_arrow_walks_neither_elsewhere_nor_in_the_menu_bar) {
+TEST_F(WalkingKeysTest, AnArrowWalksNeitherElsewhereNorInTheMenuBar) {
   reaches_ = false;
   Press(kLeft, battle_);
   Release(kLeft, battle_);
@@ -53,7 +53,7 @@ TEST_F(WalkingKeysTest, an_arrow_walks_neither_elsewhere_nor_in_the_menu_bar) {
   EXPECT_EQ(sent_, "");
 }
 
-TEST_F(WalkingKeysTest, a_release_that_went_elsewhere_is_handed_in_when_keys_are_back) {
+TEST_F(WalkingKeysTest, AReleaseThatWentElsewhereIsHandedInWhenKeysAreBack) {
   keys_.Follow();
   Press(kLeft, field_);
   reaches_ = false;
@@ -65,7 +65,7 @@ TEST_F(WalkingKeysTest, a_release_that_went_elsewhere_is_handed_in_when_keys_are
   EXPECT_EQ(sent_, "v^");
 }
 
-TEST_F(WalkingKeysTest, what_is_still_down_when_keys_are_back_walks_on) {
+TEST_F(WalkingKeysTest, WhatIsStillDownWhenKeysAreBackWalksOn) {
   Press(kLeft, field_);
   reaches_ = false;
   keys_.Follow();
@@ -76,25 +76,25 @@ TEST_F(WalkingKeysTest, what_is_still_down_when_keys_are_back_walks_on) {
   EXPECT_TRUE(keys_.IsOutstanding());
 }
 
-TEST_F(WalkingKeysTest, a_key_let_go_in_another_program_is_settled_afterwards) {
+TEST_F(WalkingKeysTest, AKeyLetGoInAnotherProgramIsSettledAfterwards) {
   Press(kLeft, field_);
   keys_.Forget();
   keys_.Settle();
   EXPECT_EQ(sent_, "v^");
 }
 
-TEST_F(WalkingKeysTest, a_walk_that_goes_on_repeating_moves_nothing_in_a_menu) {
+TEST_F(WalkingKeysTest, AWalkThatGoesOnRepeatingMovesNothingInAMenu) {
   Press(kLeft, field_);
   reaches_ = false;
   EXPECT_TRUE(Press(kLeft, field_, true));
 }
 
-TEST_F(WalkingKeysTest, what_repeats_in_another_window_than_its_own_does_nothing) {
+TEST_F(WalkingKeysTest, WhatRepeatsInAnotherWindowThanItsOwnDoesNothing) {
   Press(kEnter, field_);
   EXPECT_TRUE(Press(kEnter, battle_, true));
 }
 
-TEST_F(WalkingKeysTest, no_key_presses_by_repeating_but_where_text_is_typed) {
+TEST_F(WalkingKeysTest, NoKeyPressesByRepeatingButWhereTextIsTyped) {
   EXPECT_FALSE(Press(kEnter, field_));
   EXPECT_TRUE(Press(kEnter, field_, true));
   EXPECT_FALSE(Press({std::nullopt, true, true}, field_, true));

@@ -19,7 +19,7 @@ class Card : public Screen {
   Label OnPicture{Picture, "OnPicture", {10, 10, 20, 20}, {"text"}};
 };
 
-TEST(Bare, is_what_only_texts_of_the_screens_own_stand_on) {
+TEST(Bare, IsWhatOnlyTextsOfTheScreensOwnStandOn) {
   Stage stage;
   Card card(stage);
   EXPECT_TRUE(IsBare(card, {180, 80}));

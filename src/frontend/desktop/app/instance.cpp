@@ -31,7 +31,7 @@ std::string LockName(const std::filesystem::path& folder) {
 }
 
 // The last of them keeps sessions' cleaners from taking it for something forgotten.
-constexpr mode_t OwnAndKept = S_IRUSR | S_IWUSR | S_ISVTX;
+constexpr mode_t kOwnAndKept = S_IRUSR | S_IWUSR | S_ISVTX;
 
 // A lock on the whole file, to ask about or to take.
 struct flock WholeFile() {
@@ -54,7 +54,7 @@ bool IsStillNamed(int file, const std::string& name) {
 Instance::Instance(const std::filesystem::path& folder) : name_(LockName(folder)) {
   do {
     if (file_ >= 0) close(file_);
-    file_ = open(name_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnAndKept);
+    file_ = open(name_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, kOwnAndKept);
     if (file_ < 0) return;
     const struct flock lock = WholeFile();
     if (fcntl(file_, F_SETLK, &lock) != 0) {
@@ -74,7 +74,7 @@ void Instance::CallFirst() const {
   struct flock lock = WholeFile();
   if (file_ < 0 || fcntl(file_, F_GETLK, &lock) != 0) return;
   // A game that this process cannot see, one in another container, has no number here.
-  if (lock.l_type != F_UNLCK && lock.l_pid > 0) kill(lock.l_pid, CallSignal);
+  if (lock.l_type != F_UNLCK && lock.l_pid > 0) kill(lock.l_pid, kCallSignal);
 }
 
 }  // namespace orvane

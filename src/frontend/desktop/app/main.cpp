@@ -27,8 +27,8 @@ namespace {
 
 using namespace orvane;
 
-constexpr int BadCommandLine = 2;
-constexpr int NoDisplay = 3;
+constexpr int kBadCommandLine = 2;
+constexpr int kNoDisplay = 3;
 
 void Complain(const std::string& sentence) {
   std::fprintf(stderr, "orvane: %s\n", sentence.c_str());
@@ -64,7 +64,7 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
                               message.startsWith("Failed to create wl_display");
   if (has_no_display && type != QtFatalMsg) return;
   Complain(has_no_display ? DisplayProblem() : message.section('\n', 0, 0).toStdString());
-  if (type == QtFatalMsg) std::_Exit(NoDisplay);
+  if (type == QtFatalMsg) std::_Exit(kNoDisplay);
 }
 
 // How large the windows are to be, by the command line, the player's settings or the screen.
@@ -126,7 +126,7 @@ int main(int argument_count, char** arguments) {
     const Options options = ReadOptions({arguments + 1, arguments + argument_count});
     if (!options.Error.empty()) {
       Complain(options.Error);
-      return BadCommandLine;
+      return kBadCommandLine;
     }
     if (options.WantsHelp) {
       std::fputs(HelpText().c_str(), stdout);
@@ -136,7 +136,7 @@ int main(int argument_count, char** arguments) {
       Complain(
           "there is no display; start the game in a desktop session (neither DISPLAY nor "
           "WAYLAND_DISPLAY is set).");
-      return NoDisplay;
+      return kNoDisplay;
     }
     qInstallMessageHandler(OnToolkitMessage);
     return RunGame(options, argument_count, arguments);

@@ -45,7 +45,7 @@ void OnSignals(const sigset_t& wanted, std::function<void()> answer) {
 }  // namespace
 
 void HoldSignals() {
-  for (const sigset_t& set : {EndSignals(), SetOf({CallSignal})}) {
+  for (const sigset_t& set : {EndSignals(), SetOf({kCallSignal})}) {
     sigprocmask(SIG_BLOCK, &set, nullptr);
   }
 }
@@ -57,7 +57,7 @@ void OnEndSignals(std::function<void()> end) {
 }
 
 void OnCallSignal(std::function<void()> come) {
-  OnSignals(SetOf({CallSignal}), std::move(come));
+  OnSignals(SetOf({kCallSignal}), std::move(come));
 }
 
 }  // namespace orvane

@@ -7,7 +7,7 @@
 namespace orvane {
 
 // A second start of the game sends it to the first.
-constexpr int CallSignal = SIGUSR1;
+constexpr int kCallSignal = SIGUSR1;
 
 // Keeps SIGTERM, SIGINT, SIGHUP and CallSignal until they are taken. Called before any thread is
 // started, so that none of them is killed by one.

@@ -7,7 +7,7 @@
 namespace orvane {
 namespace {
 
-constexpr std::pair<SDL_GameControllerButton, PadButton> Meanings[] = {
+constexpr std::pair<SDL_GameControllerButton, PadButton> kMeanings[] = {
     {SDL_CONTROLLER_BUTTON_DPAD_LEFT, PadButton::Left},
     {SDL_CONTROLLER_BUTTON_DPAD_UP, PadButton::Up},
     {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, PadButton::Right},
@@ -44,7 +44,7 @@ std::optional<PadState> PadDevice::Read() {
   Find();
   if (controller_ == nullptr) return std::nullopt;
   PadState state{};
-  for (const auto& [button, meaning] : Meanings) {
+  for (const auto& [button, meaning] : kMeanings) {
     if (SDL_GameControllerGetButton(controller_, button) != 0) {
       state[static_cast<size_t>(meaning)] = true;
     }

@@ -41,7 +41,7 @@ int DeleteFile(Call& call) {
 }
 
 // A map: its codes by column, then row, as they stand in the file.
-using Codes = std::array<std::array<int, MapRows>, MapColumns>;
+using Codes = std::array<std::array<int, kMapRows>, kMapColumns>;
 
 // The number at `index` of the table on top of the stack, between two limits.
 int NumberOfChange(const Call& call, int index, int least, int greatest) {
@@ -63,8 +63,8 @@ void ApplyChanges(const Call& call, int at, Codes& codes) {
     if (lua_rawgeti(call.Lua(), at, i) != LUA_TTABLE) {
       throw ScriptError("{column, row, code}", call.Shown(-1));
     }
-    const auto column = static_cast<size_t>(NumberOfChange(call, 1, 0, MapColumns - 1));
-    const auto row = static_cast<size_t>(NumberOfChange(call, 2, 0, MapRows - 1));
+    const auto column = static_cast<size_t>(NumberOfChange(call, 1, 0, kMapColumns - 1));
+    const auto row = static_cast<size_t>(NumberOfChange(call, 2, 0, kMapRows - 1));
     codes.at(column).at(row) = NumberOfChange(call, 3, -kGreatestCode, kGreatestCode);
     lua_pop(call.Lua(), 1);
   }

@@ -1,4 +1,5 @@
 # The steps of a play that several tests take. Each fails when what it waits for does not happen.
+# shellcheck shell=bash disable=SC2154  # variables of the tests that source it
 
 # Parts of the first window's client area.
 field="8 0 480 250"
@@ -118,12 +119,12 @@ bytes() { od -An -v -t x1 -j "$2" -N "$3" "$folder/$1" | tr -d ' \n'; }
 # menu TITLE_X ITEM: chooses the ITEM-th usable item of the menu at that place of the menu bar. The menu
 # is open when what lies under it has changed.
 menu() {
-  local step before
+  local before
   wait_for 5 "the focus before a menu" has_focus Orvane
   before=$(sum Orvane "$1" 2 40 16)
   click Orvane "$1" -11
   wait_for 5 "the menu" changes "$before" Orvane "$1" 2 40 16
-  for step in $(seq "$2"); do xdotool key --delay 20 Down; done
+  for _ in $(seq "$2"); do xdotool key --delay 20 Down; done
   xdotool key Return
 }
 

@@ -64,17 +64,17 @@ for document in "${documents[@]}"; do
     grep -rqsw --include='*.cpp' --include='*.h' --include='*.sh' --include='*.lua' --include='CMakeLists.txt' \
       --include='*.cmake' --include='CMakePresets.json' -e "$variable" src tests tools bench cmake CMakeLists.txt \
       CMakePresets.json check play || fault "$document:$line: nothing knows $variable"
-  done < <(grep -noE 'ORVANE_[A-Z_]*[A-Z]' "$document")
+  done < <(grep -noE 'ORVANE_[A-Z0-9_]*[A-Z0-9]' "$document")
 done
 
 # What the environment may say: read by getenv in C++ and Lua, and as ${NAME...} in shell.
 while read -r variable; do
   grep -qsw "$variable" CONTRIBUTING.md || fault "CONTRIBUTING.md does not tell of $variable"
 done < <({
-  grep -rhoE 'get(env|EnvironmentVariable)\("ORVANE_[A-Z_]+' src tests tools bench content --include='*.cpp' \
+  grep -rhoE 'get(env|EnvironmentVariable)\("ORVANE_[A-Z0-9_]+' src tests tools bench content --include='*.cpp' \
     --include='*.h' --include='*.lua'
-  grep -rhoE '\$\{ORVANE_[A-Z_]+' tests tools check play --include='*.sh' --include=check --include=play
-} | grep -oE 'ORVANE_[A-Z_]+' | sort -u)
+  grep -rhoE '\$\{ORVANE_[A-Z0-9_]+' tests tools check play --include='*.sh' --include=check --include=play
+} | grep -oE 'ORVANE_[A-Z0-9_]+' | sort -u)
 
 if [ -f tools/balance_frame.md ]; then
   before=$(sed '/^{table}$/,$d' tools/balance_frame.md)

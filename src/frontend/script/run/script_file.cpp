@@ -28,14 +28,19 @@ void RemoveUnwanted(lua_State* lua) {
   lua_pop(lua, 1);
 }
 
-// Makes `require` look beside the script first.
+// Makes `require` look beside the script first, then in the folder above it, where scripts of
+// several folders keep what they share.
 void LookBeside(lua_State* lua, const std::string& file) {
   const std::string parent = std::filesystem::path(file).parent_path().string();
   const std::string folder = parent.empty() ? std::string(1, '.') : parent;
   lua_getglobal(lua, "package");
   lua_getfield(lua, -1, "path");
   const std::string others = lua_tostring(lua, -1);
-  const std::string path = folder + "/?.lua;" + folder + "/?/init.lua;" + others;
+  std::string path;
+  for (const std::string& place : {folder, folder + "/.."}) {
+    path += place + "/?.lua;" + place + "/?/init.lua;";
+  }
+  path += others;
   lua_pop(lua, 1);
   lua_pushlstring(lua, path.data(), path.size());
   lua_setfield(lua, -2, "path");

@@ -216,13 +216,13 @@ Refusal Program::Confirm(Screen& screen) {
 
 Refusal Program::GoBack(Screen& screen) {
   if (Refusal refusal = Reach(screen); !refusal.empty()) return refusal;
-  const std::vector<Control*>& controls = screen.Controls();
-  for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
-    if ((*control)->Kind() != ControlKind::List || !CanClick(**control)) continue;
-    const auto& list = static_cast<const ListBox&>(**control);
-    if (list.BackRow >= 0 && list.BackRow < list.ListCount())
-      return Choose(**control, list.BackRow);
+  ListBox* front = nullptr;
+  for (Control* control : screen.Controls()) {
+    if (control->Kind() != ControlKind::List || !CanClick(*control)) continue;
+    auto* list = static_cast<ListBox*>(control);
+    if (list->BackRow >= 0 && list->BackRow < list->ListCount()) front = list;
   }
+  if (front != nullptr) return Choose(*front, front->BackRow);
   for (CommandButton* button : screen.BackButtons) {
     if (CanClick(*button)) return Click(*button);
   }

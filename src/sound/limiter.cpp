@@ -12,7 +12,7 @@ constexpr float kRecovery = 0.02F;
 float NeedOf(const Block& block) {
   float peak = 0;
   for (const float sample : block) peak = std::max(peak, std::fabs(sample));
-  return peak > Limiter::kCeiling ? Limiter::kCeiling / peak : 1.0F;
+  return peak > Limiter::Ceiling ? Limiter::Ceiling / peak : 1.0F;
 }
 
 }  // namespace

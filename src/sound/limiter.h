@@ -17,7 +17,7 @@ using Block = std::array<float, std::size_t{2} * kBlockFrames>;
 // passes unchanged, one block late.
 class Limiter {
  public:
-  static constexpr float kCeiling = 0.95F;
+  static constexpr float Ceiling = 0.95F;
 
   // Takes the next block in and leaves the one before in its place.
   void Process(Block& block);

@@ -93,7 +93,7 @@ void Mixer::Retire(Channel& channel) {
 }
 
 int Mixer::FreeBank() const {
-  std::array<bool, Synth::kBanks> used{};
+  std::array<bool, Synth::Banks> used{};
   const auto mark = [&used](const Channel& channel) {
     if (channel.Music && channel.Music->Bank() >= 0) {
       used.at(static_cast<size_t>(channel.Music->Bank())) = true;

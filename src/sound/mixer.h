@@ -25,7 +25,7 @@ using Sound = std::variant<std::shared_ptr<const Clip>, std::shared_ptr<const Pi
 // message.
 class Mixer {
  public:
-  static constexpr int kChannels = 18;
+  static constexpr int Channels = 18;
   using TimePoint = std::chrono::steady_clock::time_point;
 
   // `rate` is in frames a second.
@@ -76,16 +76,16 @@ class Mixer {
   const int rate_;
   std::atomic<Synth*> synth_ = nullptr;
 
-  std::array<std::uint32_t, kChannels> started_{};  // by the commanding side; 0 for never
+  std::array<std::uint32_t, Channels> started_{};  // by the commanding side; 0 for never
   std::uint32_t starts_ = 0;
-  std::array<std::atomic<std::uint32_t>, kChannels> ended_{};  // the last start that has ended
+  std::array<std::atomic<std::uint32_t>, Channels> ended_{};  // the last start that has ended
 
   std::mutex messages_mutex_;
   std::vector<Message> messages_;
   std::vector<Sound> garbage_;
 
   // The playing side's own.
-  std::array<Channel, kChannels> channels_;
+  std::array<Channel, Channels> channels_;
   std::vector<Channel> leaving_;  // closed, but still fading
   std::vector<Message> taken_;    // not yet carried out
   std::vector<Sound> dropped_;

@@ -18,7 +18,7 @@
 namespace orvane {
 namespace {
 
-static_assert(kMusicChannels.size() + kEffectChannels.size() == Mixer::kChannels);
+static_assert(kMusicChannels.size() + kEffectChannels.size() == Mixer::Channels);
 
 // The sound font is read when the program has settled, unless music is wanted before.
 constexpr std::chrono::milliseconds kSettled(2000);
@@ -33,7 +33,7 @@ std::string_view AliasOf(size_t channel) {
 
 // The number of a channel; -1 for an unknown name.
 int ChannelOf(std::string_view alias) {
-  for (size_t channel = 0; channel < Mixer::kChannels; ++channel) {
+  for (size_t channel = 0; channel < Mixer::Channels; ++channel) {
     if (AliasOf(channel) == alias) return static_cast<int>(channel);
   }
   return -1;
@@ -67,8 +67,8 @@ class SoundEngine::Machine {
  public:
   explicit Machine(const SoundOptions& options) : options_(options) {
     if (!options.RecordFile.empty()) {
-      recorder_.emplace(options.RecordFile, kRate);
-      log_.emplace(options.RecordFile + ".log", kRate);
+      recorder_.emplace(options.RecordFile, SoundEngine::Rate);
+      log_.emplace(options.RecordFile + ".log", SoundEngine::Rate);
     }
     if (options.Plays == SoundOptions::Sink::Caller) return;
     jobs_.Post([this] { OpenOutput(); });
@@ -97,11 +97,11 @@ class SoundEngine::Machine {
   void Prepare(Piece& piece, const std::string& follower);
 
   const SoundOptions options_;
-  std::array<bool, Mixer::kChannels> open_{};
+  std::array<bool, Mixer::Channels> open_{};
   bool audible_ = true;
   bool synth_asked_ = false;
   std::unique_ptr<Synth> synth_;
-  Mixer mixer_{kRate};
+  Mixer mixer_{SoundEngine::Rate};
   std::optional<Recorder> recorder_;
   std::optional<PlayLog> log_;
   std::unique_ptr<Output> output_;
@@ -112,9 +112,9 @@ void SoundEngine::Machine::OpenOutput() {
   const PullFunction pull = [this](float* out, size_t frames, Mixer::TimePoint from) {
     Pull(out, frames, from);
   };
-  if (options_.Plays == SoundOptions::Sink::Device) output_ = OpenDevice(kRate, pull);
+  if (options_.Plays == SoundOptions::Sink::Device) output_ = OpenDevice(SoundEngine::Rate, pull);
   audible_ = output_ != nullptr || recorder_;
-  if (!output_) output_ = OpenClock(kRate, pull);
+  if (!output_) output_ = OpenClock(SoundEngine::Rate, pull);
   if (log_) log_->Begin(output_->Delay());
 }
 
@@ -123,7 +123,7 @@ void SoundEngine::Machine::OpenSynth() {
   if (synth_asked_ || !audible_) return;
   synth_asked_ = true;
   const std::string font = options_.FontFile.empty() ? FindSoundFont() : options_.FontFile;
-  if (!font.empty()) synth_ = Synth::Load(font, kRate);
+  if (!font.empty()) synth_ = Synth::Load(font, SoundEngine::Rate);
   mixer_.UseSynth(synth_.get());
 }
 
@@ -150,7 +150,7 @@ bool SoundEngine::Machine::Open(size_t channel, const std::string& path) {
     piece->Notes = std::move(*song);
     mixer_.Open(number, std::shared_ptr<const Piece>(piece));
     jobs_.Post([this, piece, next = FollowerOf(channel, path)] { Prepare(*piece, next); });
-  } else if (std::shared_ptr<const Clip> clip = ReadClip(file, kRate)) {
+  } else if (std::shared_ptr<const Clip> clip = ReadClip(file, SoundEngine::Rate)) {
     mixer_.Open(number, std::move(clip));
   } else {
     return false;

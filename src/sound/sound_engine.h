@@ -39,7 +39,7 @@ struct SoundOptions {
 class SoundEngine : public SoundDevice {
  public:
   // Frames a second.
-  static constexpr int kRate = 44100;
+  static constexpr int Rate = 44100;
 
   explicit SoundEngine(const SoundOptions& options = SoundOptions::FromEnvironment());
   ~SoundEngine() override;

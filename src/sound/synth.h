@@ -19,7 +19,7 @@ struct SynthHandles;
 // by a thread that has the time; the audio thread plays what is there.
 class Synth {
  public:
-  static constexpr int kBanks = 8;
+  static constexpr int Banks = 8;
 
   // Opens the font, which takes tenths of a second. Null if it is none.
   static std::unique_ptr<Synth> Load(const std::string& font, int rate);
@@ -60,7 +60,7 @@ class Synth {
 
   std::unique_ptr<SynthHandles> handles_;
   std::mutex turn_;
-  std::array<Bank, kBanks> banks_{};
+  std::array<Bank, Banks> banks_{};
   std::vector<Patch> kept_;   // in the order in which they were asked for
   std::vector<int> keepers_;  // the channel that keeps each
 };

@@ -25,7 +25,7 @@ SoundOptions ForCaller() {
 }
 
 Recording Pull(SoundEngine& engine, double seconds) {
-  std::vector<float> frames(2 * static_cast<size_t>(seconds * SoundEngine::kRate));
+  std::vector<float> frames(2 * static_cast<size_t>(seconds * SoundEngine::Rate));
   engine.Pull(frames.data(), frames.size() / 2);
   Recording recording;
   recording.Add(frames);

@@ -127,10 +127,10 @@ class DrawingCheck {
   }
 
   void DemandClosed(const MapId& place, const TileMap& map, int side) {
-    constexpr const char* kSides[] = {"top", "bottom", "left", "right"};
+    constexpr const char* sides[] = {"top", "bottom", "left", "right"};
     const std::vector<int> codes = Line(map, side);
     if (std::any_of(codes.begin(), codes.end(), IsWalkable)) {
-      Add(FaultKind::OpenBorder, PlaceName(place) + " is open at its " + kSides[side]);
+      Add(FaultKind::OpenBorder, PlaceName(place) + " is open at its " + sides[side]);
     }
   }
 

@@ -16,17 +16,17 @@ int Unsigned(char c) {
 }
 
 std::string KeyText(const std::string& bytes) {
-  static constexpr std::array<const char*, 15> Majors = {
+  static constexpr std::array<const char*, 15> majors = {
       "Cb", "Gb", "Db", "Ab", "Eb", "Bb", "F", "C", "G", "D", "A", "E", "B", "F#", "C#"};
-  static constexpr std::array<const char*, 15> Minors = {
+  static constexpr std::array<const char*, 15> minors = {
       "Ab", "Eb", "Bb", "F", "C", "G", "D", "A", "E", "B", "F#", "C#", "G#", "D#", "A#"};
   if (bytes.size() != 2) return "?";
   const int byte = Unsigned(bytes[0]);
   const int sharps = byte < 128 ? byte : byte - 256;
   if (sharps < -7 || sharps > 7) return "?";
   const size_t index = static_cast<size_t>(sharps) + 7;
-  return bytes[1] == 0 ? std::string(Majors[index]) + " major"
-                       : std::string(Minors[index]) + " minor";
+  return bytes[1] == 0 ? std::string(majors[index]) + " major"
+                       : std::string(minors[index]) + " minor";
 }
 
 void ReadMeta(const MidiEvent& event, PieceNotes& piece, size_t track) {

@@ -51,14 +51,14 @@ int ReadPitch(std::string_view text) {
 }
 
 std::string PitchName(int pitch) {
-  static constexpr std::array<const char*, 12> Names = {"C",  "C#", "D",  "D#", "E",  "F",
+  static constexpr std::array<const char*, 12> names = {"C",  "C#", "D",  "D#", "E",  "F",
                                                         "F#", "G",  "G#", "A",  "A#", "B"};
-  return Names[static_cast<size_t>(((pitch % 12) + 12) % 12)] + std::to_string(pitch / 12 - 1);
+  return names[static_cast<size_t>(((pitch % 12) + 12) % 12)] + std::to_string(pitch / 12 - 1);
 }
 
 Key ReadKey(std::string_view tonic, std::string_view mode) {
   // Sharps of the major key on each pitch class; the flat side where both are usual.
-  static constexpr std::array<int, 12> MajorSharps = {0, -5, 2, -3, 4, -1, 6, 1, -4, 3, -2, 5};
+  static constexpr std::array<int, 12> major_sharps = {0, -5, 2, -3, 4, -1, 6, 1, -4, 3, -2, 5};
   size_t at = 0;
   const int pitch_class = ReadPitchClass(tonic, at);
   if (pitch_class < 0 || at != tonic.size() || (mode != "major" && mode != "minor")) {
@@ -68,7 +68,7 @@ Key ReadKey(std::string_view tonic, std::string_view mode) {
   key.name = std::string(tonic) + " " + std::string(mode);
   key.minor = mode == "minor";
   key.tonic = pitch_class;
-  key.sharps = MajorSharps[static_cast<size_t>(key.minor ? (pitch_class + 3) % 12 : pitch_class)];
+  key.sharps = major_sharps[static_cast<size_t>(key.minor ? (pitch_class + 3) % 12 : pitch_class)];
   const bool sharp_name = tonic.size() > 1 && tonic[1] == '#';
   if (sharp_name && key.sharps < -4) key.sharps += 12;
   const bool flat_name = tonic.size() > 1 && tonic[1] == 'b';

@@ -22,9 +22,9 @@ constexpr int kBlock = 64;
 }  // namespace
 
 std::string FindSoundFont() {
-  static constexpr std::array<const char*, 2> Fonts = {"/usr/share/sounds/sf3/FluidR3Mono_GM.sf3",
+  static constexpr std::array<const char*, 2> fonts = {"/usr/share/sounds/sf3/FluidR3Mono_GM.sf3",
                                                        "/usr/share/sounds/sf2/TimGM6mb.sf2"};
-  for (const char* font : Fonts) {
+  for (const char* font : fonts) {
     if (std::filesystem::exists(font)) return font;
   }
   return {};

@@ -99,7 +99,7 @@ std::string Png(const Canvas& canvas) {
 }  // namespace
 
 std::string DrawRoll(const PieceNotes& piece) {
-  static constexpr std::array<uint32_t, 12> Colours = {0xFF5050, 0x50C8FF, 0x60E060, 0xFFC040,
+  static constexpr std::array<uint32_t, 12> colours = {0xFF5050, 0x50C8FF, 0x60E060, 0xFFC040,
                                                        0xC080FF, 0xFF80C0, 0x40E0D0, 0xA0A0FF,
                                                        0xE0E060, 0xFF9060, 0x90D090, 0xC0C0C0};
   const int bars = (piece.end + piece.bar_ticks - 1) / piece.bar_ticks;
@@ -123,7 +123,7 @@ std::string DrawRoll(const PieceNotes& piece) {
     const int wide = std::max(2, (note.end - note.start) * kBarWidth / piece.bar_ticks - 1);
     const int y = top + (kHighPitch - std::clamp(note.pitch, kLowPitch, kHighPitch)) * kPitchHeight;
     canvas.Box(x, y, wide, kPitchHeight,
-               Shade(Colours[note.track % Colours.size()], note.velocity));
+               Shade(colours[note.track % colours.size()], note.velocity));
   }
   return Png(canvas);
 }

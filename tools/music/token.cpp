@@ -122,7 +122,7 @@ double ReadDynamic(std::string_view name) {
     std::string_view name;
     double velocity;
   };
-  static constexpr std::array<Level, 8> Levels = {{{"ppp", 26},
+  static constexpr std::array<Level, 8> levels = {{{"ppp", 26},
                                                    {"pp", 38},
                                                    {"p", 50},
                                                    {"mp", 62},
@@ -130,7 +130,7 @@ double ReadDynamic(std::string_view name) {
                                                    {"f", 88},
                                                    {"ff", 101},
                                                    {"fff", 114}}};
-  for (const Level& level : Levels) {
+  for (const Level& level : levels) {
     if (level.name == name) return level.velocity;
   }
   throw std::invalid_argument("no dynamic: " + std::string(name));

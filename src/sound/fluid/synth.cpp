@@ -24,7 +24,7 @@ struct SynthHandles {
 namespace {
 
 constexpr int kBankChannels = 16;
-constexpr int kPlayChannels = Synth::kBanks * kBankChannels;
+constexpr int kPlayChannels = Synth::Banks * kBankChannels;
 // Channels that never play: choosing an instrument on one keeps its samples in memory. As many as
 // two pieces use, so that field and battle find theirs ready, and no more: one may take a megabyte.
 constexpr int kKeepers = 20;

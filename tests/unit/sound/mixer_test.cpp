@@ -172,12 +172,12 @@ TEST(Mixer, StartsWithinFourMillisecondsAreOne) {
 
 TEST(Mixer, AllEffectsAtOnceDoNotClip) {
   Mixer mixer(kRate);
-  for (int channel = 0; channel < Mixer::kChannels; ++channel) {
+  for (int channel = 0; channel < Mixer::Channels; ++channel) {
     mixer.Open(channel, ToneClip(200 + 37 * channel, 1, 0.9));
     mixer.Play(channel);
   }
   const std::vector<float> out = Pull(mixer, 1.2);
-  EXPECT_LE(PeakOf(out), Limiter::kCeiling + 1e-4F);
+  EXPECT_LE(PeakOf(out), Limiter::Ceiling + 1e-4F);
   EXPECT_GT(PeakOf(out), 0.8F);
 }
 
@@ -196,7 +196,7 @@ TEST(Mixer, LimiterRecovers) {
   mixer.Open(1, ToneClip(300, 0.2, 1.0));
   mixer.Open(2, ToneClip(400, 0.2, 1.0));
   for (int channel = 0; channel < 3; ++channel) mixer.Play(channel);
-  EXPECT_LE(PeakOf(Pull(mixer, 0.25)), Limiter::kCeiling + 1e-4F);
+  EXPECT_LE(PeakOf(Pull(mixer, 0.25)), Limiter::Ceiling + 1e-4F);
   Pull(mixer, 0.75);
   EXPECT_NEAR(PeakOf(Pull(mixer, 0.5)), 0.5F, 0.005F);
 }
@@ -224,7 +224,7 @@ TEST(Mixer, RestartOnEveryFrameHasNoClicks) {
   // A tone of 100 Hz moves by 0.0043 a frame at this level. At most seven of them meet.
   EXPECT_LT(LeapOf(all), 0.0043F * 7);
   EXPECT_GT(PeakOf(all), 0.25F);
-  EXPECT_LE(PeakOf(all), Limiter::kCeiling + 1e-4F);
+  EXPECT_LE(PeakOf(all), Limiter::Ceiling + 1e-4F);
 }
 
 TEST(Mixer, MusicWithoutASynthLastsItsLength) {

@@ -17,7 +17,7 @@
 namespace orvane {
 namespace {
 
-constexpr int kRate = SoundEngine::kRate;
+constexpr int kRate = SoundEngine::Rate;
 
 SoundOptions ForCaller() {
   SoundOptions options;

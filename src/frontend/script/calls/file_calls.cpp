@@ -53,7 +53,7 @@ int NumberOfChange(const Call& call, int index, int least, int greatest) {
 
 // Carries out the table of changes, each a {column, row, code}.
 void ApplyChanges(const Call& call, int at, Codes& codes) {
-  constexpr int kGreatestCode = 999999;
+  constexpr int greatest_code = 999999;
   if (!call.Has(at)) return;
   if (lua_type(call.Lua(), at) != LUA_TTABLE) {
     throw ScriptError("a table of {column, row, code}", call.Shown(at));
@@ -65,7 +65,7 @@ void ApplyChanges(const Call& call, int at, Codes& codes) {
     }
     const auto column = static_cast<size_t>(NumberOfChange(call, 1, 0, kMapColumns - 1));
     const auto row = static_cast<size_t>(NumberOfChange(call, 2, 0, kMapRows - 1));
-    codes.at(column).at(row) = NumberOfChange(call, 3, -kGreatestCode, kGreatestCode);
+    codes.at(column).at(row) = NumberOfChange(call, 3, -greatest_code, greatest_code);
     lua_pop(call.Lua(), 1);
   }
 }

@@ -33,10 +33,10 @@ void Paint(const NamedPicture& picture, const Rect& area, Colour colour) {
 }
 
 void SavePng(const Surface& surface, const std::string& file) {
-  constexpr int kSamples = 3;  // red, green, blue
+  constexpr int channels = 3;  // red, green, blue
   std::vector<png_byte> samples;
   samples.reserve(static_cast<size_t>(surface.Width()) * static_cast<size_t>(surface.Height()) *
-                  kSamples);
+                  channels);
   for (int y = 0; y < surface.Height(); ++y) {
     for (int x = 0; x < surface.Width(); ++x) {
       const Colour colour = surface.Row(y)[x];

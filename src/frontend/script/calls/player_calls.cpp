@@ -132,11 +132,11 @@ Direction KeyOf(const Call& call) {
     std::string_view Name;
     Direction Arrow;
   };
-  constexpr std::array<KeyName, 4> kKeys = {{{"Up", Direction::Up},
-                                             {"Down", Direction::Down},
-                                             {"Left", Direction::Left},
-                                             {"Right", Direction::Right}}};
-  for (const KeyName& known : kKeys) {
+  constexpr std::array<KeyName, 4> keys = {{{"Up", Direction::Up},
+                                            {"Down", Direction::Down},
+                                            {"Left", Direction::Left},
+                                            {"Right", Direction::Right}}};
+  for (const KeyName& known : keys) {
     if (known.Name == call.Text(1, kKey)) return known.Arrow;
   }
   throw ScriptError(kKey, call.Shown(1));

@@ -16,12 +16,12 @@ std::string ColourText(Colour colour) {
 }
 
 Colour ParseColour(std::string_view text) {
-  constexpr size_t kDigits = 6;
-  constexpr int kHexadecimal = 16;
+  constexpr size_t digits = 6;
+  constexpr int hexadecimal = 16;
   Colour colour = 0;
   const char* end = text.data() + text.size();
-  const auto [stop, failed] = std::from_chars(text.data(), end, colour, kHexadecimal);
-  if (text.size() != kDigits || failed != std::errc() || stop != end) {
+  const auto [stop, failed] = std::from_chars(text.data(), end, colour, hexadecimal);
+  if (text.size() != digits || failed != std::errc() || stop != end) {
     throw ScriptError("a colour, \"RRGGBB\"", Quoted(text));
   }
   return colour;

@@ -65,11 +65,11 @@ int PlaceMessage(lua_State* lua) {
 }
 
 std::string WithWholeSource(std::string message, const std::string& source) {
-  constexpr std::string_view kDots = "...";
-  if (message.compare(0, kDots.size(), kDots) != 0) return message;
+  constexpr std::string_view dots = "...";
+  if (message.compare(0, dots.size(), dots) != 0) return message;
   const size_t colon = message.find(':');
   if (colon == std::string::npos) return message;
-  const std::string end = message.substr(kDots.size(), colon - kDots.size());
+  const std::string end = message.substr(dots.size(), colon - dots.size());
   const bool matches = source.size() > end.size() &&
                        source.compare(source.size() - end.size(), end.size(), end) == 0;
   return matches ? source + message.substr(colon) : message;

@@ -38,7 +38,7 @@ void LookBeside(lua_State* lua, const std::string& file) {
   const std::string others = lua_tostring(lua, -1);
   std::string path;
   for (const std::string& place : {folder, folder + "/.."}) {
-    path += place + "/?.lua;" + place + "/?/init.lua;";
+    for (const char* pattern : {"/?.lua;", "/?/init.lua;"}) path.append(place).append(pattern);
   }
   path += others;
   lua_pop(lua, 1);

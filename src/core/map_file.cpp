@@ -1,8 +1,9 @@
 #include "src/core/map_file.h"
 
-#include <charconv>
+#include <system_error>
 
 #include "src/base/error.h"
+#include "src/base/read_double.h"
 
 namespace orvane {
 namespace {
@@ -42,7 +43,7 @@ class NumberReader {
     const std::string_view digits = word.front() == '+' ? word.substr(1) : word;
     if (!BeginsANumber(digits, word.front() != '+')) throw RunError(ErrorKind::Type, file_);
     double value = 0;
-    const auto [end, failed] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    const auto [end, failed] = ReadDouble(digits.data(), digits.data() + digits.size(), value);
     if (failed == std::errc::result_out_of_range) throw RunError(ErrorKind::Overflow, file_);
     if (failed != std::errc() || end != digits.data() + digits.size()) {
       throw RunError(ErrorKind::Type, file_);

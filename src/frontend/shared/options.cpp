@@ -2,6 +2,9 @@
 
 #include <charconv>
 #include <system_error>
+#include <type_traits>
+
+#include "src/base/read_double.h"
 
 namespace orvane {
 namespace {
@@ -10,7 +13,12 @@ template <class Number>
 std::optional<Number> ReadNumber(const std::string& text) {
   Number number{};
   const char* end = text.data() + text.size();
-  const auto read = std::from_chars(text.data(), end, number);
+  std::from_chars_result read{};
+  if constexpr (std::is_floating_point_v<Number>) {
+    read = ReadDouble(text.data(), end, number);
+  } else {
+    read = std::from_chars(text.data(), end, number);
+  }
   if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
   return number;
 }

@@ -4,3 +4,4 @@
 # times the price.
 add_compile_options(-fwasm-exceptions)
 add_link_options(-fwasm-exceptions)
+include(cmake/web_libraries.cmake)

@@ -39,11 +39,11 @@ std::string PageSound::Send(const std::string& text) {
 }
 
 std::string PageSound::Open(const std::string& alias, const std::string& file) {
-  const std::string name = TextOf(PathOf(file).filename());
+  const std::string name = TextOf(PathOf(file).stem());
   const auto length = lengths_.find(name);
   if (length == lengths_.end() || channels_.contains(alias)) return {};
   // An effect is as long as it is; what is a piece, its repetition follows on.
-  const bool repeats = name.ends_with(".mid");
+  const bool repeats = file.ends_with(".mid");
   const double lead = repeats ? std::min(kLeadMs, length->second * kLeadPart) : 0;
   channels_[alias] = {.Length = length->second, .Lead = lead};
   page_.LoadSound(alias, name);

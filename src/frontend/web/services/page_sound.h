@@ -21,7 +21,7 @@ class PageSound : public SoundDevice {
  public:
   explicit PageSound(Page& page) : page_(page) {}
 
-  // How long a file plays, in ms, by its name without the folder.
+  // How long a file plays, in ms, by its name without folder and ending.
   void SetLength(const std::string& file, double milliseconds) { lengths_[file] = milliseconds; }
 
   std::string Send(const std::string& command) override;

@@ -2,9 +2,9 @@
 // browser asks for by name carries its content's hash in its own, so that what is kept is never stale.
 //   SOURCES   the page's own files
 //   OUT       the folder, made anew
-//   FILE ...  what the build has made: the program, letters, pictures, sounds
+//   FILE ...  what the build has made: the program, letters, pictures, and a folder of sounds
 import { createHash } from 'node:crypto';
-import { mkdirSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
+import { existsSync, mkdirSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync } from 'node:fs';
 import { basename, join } from 'node:path';
 import { writeZip } from '../../src/frontend/web/page/zip.mjs';
 
@@ -12,8 +12,12 @@ const [sources, out, ...made] = process.argv.slice(2);
 const known = new Set(['index.html', 'sw.js', 'licences.txt']); // by their plain names
 const isText = (name) => /\.(html|m?js|css|json|webmanifest)$/.test(name);
 
+const inside = (folder) => readdirSync(folder).map((name) => join(folder, name));
+const isFolder = (path) => existsSync(path) && statSync(path).isDirectory();
+const isSound = (path) => /\.(opus|mp3|tsv)$/.test(path);
+const paths = made.flatMap((path) => (isFolder(path) ? inside(path).filter(isSound) : existsSync(path) ? [path] : []));
 const files = new Map();
-for (const path of [...readdirSync(sources).map((name) => join(sources, name)), ...made]) files.set(basename(path), readFileSync(path));
+for (const path of [...inside(sources), ...paths]) files.set(basename(path), readFileSync(path));
 
 // Of each sound its length, and what it was encoded to. Without sounds the game is silent.
 const sounds = {};

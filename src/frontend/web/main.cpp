@@ -8,6 +8,7 @@
 
 #include "src/frontend/shared/text_fit.h"
 #include "src/frontend/web/content.h"
+#include "src/frontend/web/mirror/json.h"
 #include "src/frontend/web/page_scale.h"
 #include "src/frontend/web/services/save_check.h"
 #include "src/frontend/web/web_game.h"
@@ -323,6 +324,28 @@ EXPORT const char* CheckSave(const char* bytes, int size) {
   return Give(SaveProblem({bytes, static_cast<size_t>(size)}));
 }
 
-EXPORT const char* DescribeSave(const char* bytes, int size) {
-  return Give(SaveSummary({bytes, static_cast<size_t>(size)}));
+// All slots, as JSON: their names and what they are of.
+EXPORT const char* ListSaves() {
+  std::string out;
+  {
+    Json list(out, Json::Form::List);
+    for (const std::string& name : Game().Files().List("*.sav")) {
+      std::string entry;
+      {
+        Json json(entry, Json::Form::Object);
+        json.Add("name", name);
+        json.Add("summary", SaveSummary(Game().Files().Files[name]));
+      }
+      list.AddRaw(entry);
+    }
+  }
+  return Give(out);
+}
+
+EXPORT const char* FileOf(const char* name) {
+  return Game().Files().Files[name].data();
+}
+
+EXPORT int SizeOf(const char* name) {
+  return static_cast<int>(Game().Files().Files[name].size());
 }

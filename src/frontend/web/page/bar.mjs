@@ -37,11 +37,11 @@ export async function waitForTurn() {
 
 // Whether saves last is told once: that this window keeps nothing, or that the browser may forget.
 export function tellLasting() {
-  if (!lasts()) return tell('このウィンドウでは、セーブデータは閉じると消えます。', '書き出す', openSlots);
+  if (!lasts()) return tell('このウィンドウでは、セーブデータは閉じると消えます。', '書き出す', () => openSlots(pauses));
   const forgets = /^((?!chrome|android|crios|fxios).)*safari/i.test(navigator.userAgent);
   if (!forgets || remembered('told', '') === 'yes') return undefined;
   remember('told', 'yes');
-  return tell('このブラウザは、しばらく開かないページのデータを消すことがあります。', '書き出す', openSlots);
+  return tell('このブラウザは、しばらく開かないページのデータを消すことがあります。', '書き出す', () => openSlots(pauses));
 }
 
 // A quiet page in place of the game.
@@ -92,7 +92,10 @@ async function stayAwake() {
   await navigator.wakeLock?.request('screen').catch(() => null);
 }
 
+let pauses = null;
+
 export function startBar(pauseFor) {
+  pauses = pauseFor;
   full.hidden = !document.fullscreenEnabled;
   full.addEventListener('click', () => {
     if (document.fullscreenElement) document.exitFullscreen();

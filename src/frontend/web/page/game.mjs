@@ -89,9 +89,10 @@ export function kept(number, failure) {
   follow();
 }
 
-// Why these bytes are no save, or nothing; and what a save is of.
+// Why these bytes are no save, or nothing; all slots with what they are of; and a slot's bytes.
 export const checkSave = (bytes) => withBytes(bytes, (at, size) => module.UTF8ToString(module._CheckSave(at, size)));
-export const describeSave = (bytes) => withBytes(bytes, (at, size) => module.UTF8ToString(module._DescribeSave(at, size)));
+export const listSaves = () => JSON.parse(module.UTF8ToString(module._ListSaves()));
+export const fileOf = (name) => withText(name, (at) => Uint8Array.from(bytesAt(module._FileOf(at), module._SizeOf(at))));
 
 // Something that a player does, by the name of the call; then all is brought up to date.
 export function send(call, ...values) {

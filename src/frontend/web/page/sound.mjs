@@ -8,6 +8,9 @@ let table = {}; // of each file: its length in ms, and the names of what was mad
 const channels = new Map();
 const opus = document.createElement('audio').canPlayType('audio/ogg; codecs="opus"') !== '';
 
+// The form that this browser does not want.
+export const otherForm = opus ? '.mp3' : '.opus';
+
 // The forms in which a file may be there, the best one for this browser first.
 const formsOf = ({ opus: best, other }) => (opus ? [best, other] : [other, best]).filter(Boolean);
 

@@ -62,6 +62,9 @@ async function perform({ gameModule, windowsModule, savesModule }, events, shown
       if (!(await until(() => windows.standingBox()))) return fault('no box stands');
       game.ask('Answer', answers[values[0]]);
       passHold();
+      // What the answer has had kept comes before this; until it lasts the game stands.
+      await saves.replace([]);
+      await pause();
     } else if (what === 'file') {
       const [name, bytes] = values;
       game.follow();

@@ -20,7 +20,7 @@ for ((port = first; port < first + 10; ++port)); do
   (exec 3<>"/dev/tcp/127.0.0.1/$port") 2>/dev/null || break
 done
 address="http://127.0.0.1:$port/"
-"$python" -m http.server --bind 127.0.0.1 --directory build-web/site "$port" >/dev/null 2>&1 &
+"$python" -m http.server --protocol HTTP/1.1 --bind 127.0.0.1 --directory build-web/site "$port" >/dev/null 2>&1 &
 server=$!
 trap 'kill "$server" 2>/dev/null; wait "$server" 2>/dev/null; echo; exit 0' INT TERM
 for _ in {1..50}; do

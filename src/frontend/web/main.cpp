@@ -308,6 +308,8 @@ EXPORT double ScaleFor(double width, double height, double zoom, int full_screen
   std::vector<Extent> windows;
   std::vector<Span> shown;
   for (const Screen* screen : Game().TheProgram().TheStage().Screens()) {
+    // A film has the whole display for itself when it comes.
+    if (screen->OwnSurface != nullptr && !screen->IsVisible()) continue;
     const Extent inside{static_cast<double>(screen->Width), static_cast<double>(screen->Height)};
     windows.push_back(inside);
     const double menu = windows.size() == 1 ? kMenuHeight : 0;

@@ -17,9 +17,9 @@ export function tell(sentence, caption, act) {
   button.addEventListener('click', act);
 }
 
-// One tab plays. Others say so, and begin when they may.
+// One tab plays. Others say so, and begin when they may; whether it has come to that.
 export async function waitForTurn() {
-  if (!navigator.locks) return;
+  if (!navigator.locks) return false;
   const name = `orvane ${new URL('.', location.href).pathname}`;
   const claim = (wishes) =>
     new Promise((done) => {
@@ -28,11 +28,12 @@ export async function waitForTurn() {
         return lock ? new Promise(() => {}) : undefined;
       });
     });
-  if (await claim({ ifAvailable: true })) return;
+  if (await claim({ ifAvailable: true })) return false;
   const end = showPage('別のタブで遊んでいます', 'このゲームは、ひとつのタブだけで遊べます。もうひとつのタブを閉じると、ここで始まります。');
   document.body.dataset.state = 'waiting';
   await claim({});
   end.remove();
+  return true;
 }
 
 // Whether saves last is told once: that this window keeps nothing, or that the browser may forget.

@@ -90,6 +90,7 @@ const kinds = {
         control.canvas.setAttribute('role', 'img');
         control.canvas.setAttribute('aria-label', control.spoken || control.name);
       }
+      control.element.classList.toggle('takes', control.takesClicks);
       control.element.style.borderWidth = px(control.edge);
       control.element.addEventListener('click', (event) => {
         if (event.target.closest('.picture, .push, .list') !== control.element) return;
@@ -109,8 +110,11 @@ const kinds = {
       element.tabIndex = 0;
       element.setAttribute('role', 'listbox');
       element.setAttribute('aria-label', control.spoken || control.name);
+      element.addEventListener('focus', () => grow(element));
       element.addEventListener('click', (event) => {
+        if (grow(element) || event.timeStamp - element.grownAt < settledMs) return;
         const row = [...element.children].indexOf(event.target.closest('[role=option]'));
+        shrink();
         if (row >= 0) send('Choose', control.id, row);
       });
       control.onKey = (event) => listKey(control, event);
@@ -231,6 +235,28 @@ export function highlight(control, row) {
   } else element.removeAttribute('aria-activedescendant');
 }
 
+// A list whose rows are too small for a finger is enlarged while it is being used.
+const settledMs = 400; // the touch that enlarges it chooses nothing
+const leastRow = 30;
+let grown = null;
+
+function grow(element) {
+  const row = element.children[0]?.offsetHeight ?? leastRow;
+  if (grown === element || row >= leastRow || !matchMedia('(pointer: coarse)').matches) return false;
+  shrink();
+  grown = element;
+  element.grownAt = performance.now();
+  element.classList.add('large');
+  return true;
+}
+
+function shrink() {
+  grown?.classList.remove('large');
+  grown = null;
+}
+
+addEventListener('pointerdown', (event) => grown?.contains(event.target) || shrink(), true);
+
 let typed = '';
 let typedAt = 0;
 
@@ -299,6 +325,7 @@ export function setControl(control, values) {
   bring(control);
   control.values = values;
   control.element.hidden = !values.visible;
+  if (!values.visible && grown === control.element) shrink();
   if (!values.visible) return;
   place(control.element, values);
   if ('disabled' in control.element) control.element.disabled = !values.enabled;

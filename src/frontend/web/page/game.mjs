@@ -60,11 +60,11 @@ function withBytes(bytes, work) {
 }
 
 // The compiled program, with what it may ask of the page.
-export async function load(wasm, page) {
+export async function load(program, page) {
   module = await createModule({
     page: { now, ...page },
     instantiateWasm(imports, done) {
-      wasm.then((source) => WebAssembly.instantiate(source, imports)).then((made) => done(made), followers.failed);
+      program.then((source) => WebAssembly.instantiate(source, imports)).then((made) => done(made), followers.failed);
       return {};
     },
   });

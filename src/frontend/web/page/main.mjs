@@ -6,16 +6,11 @@ import * as sound from './sound.mjs';
 import { showCrash, showEnd, startBar, tellLasting, waitForTurn } from './bar.mjs';
 import { countLines } from './controls.mjs';
 import { startOffline } from './offline.mjs';
+import { program } from './program.mjs';
 import { apply, describe, replaceAll } from './windows.mjs';
 
 const asset = (name) => new URL(name, import.meta.url);
 const wishes = new URLSearchParams(location.search);
-
-// The program comes while the page still asks whether it may begin.
-const wasm = fetch(asset('./orvane-web.wasm'), { credentials: 'same-origin' }).then(async (answer) => {
-  if (!answer.ok) throw new Error(`orvane-web.wasm: ${answer.status}`);
-  return WebAssembly.compileStreaming(answer.clone()).catch(async () => WebAssembly.compile(await answer.arrayBuffer()));
-});
 
 // A page that is not seen stands still, and what sounds with it.
 function pauseFor(reason, on) {
@@ -24,7 +19,6 @@ function pauseFor(reason, on) {
 }
 
 async function start() {
-  await waitForTurn();
   const page = {
     keep: saves.keep,
     loadSound: sound.loadSound,
@@ -33,12 +27,15 @@ async function start() {
     pad: keys.pad,
     countLines,
   };
-  const [files, lengths] = await Promise.all([
-    saves.open(() => navigator.storage?.persist?.()),
+  const openSaves = () => saves.open(() => navigator.storage?.persist?.());
+  const [waited, early, lengths] = await Promise.all([
+    waitForTurn(),
+    openSaves(),
     sound.open(asset('./sounds.json')),
-    game.load(wasm, page),
+    game.load(program, page),
     document.fonts.load('12px "Orvane Gothic"').catch(() => []),
   ]);
+  const files = waited ? await openSaves() : early; // another tab may have saved meanwhile
   describe(game.begin({ files, lengths, seed: Number(wishes.get('seed') ?? -1), speed: wishes.get('speed') ?? '1' }, { apply, ended: showEnd, failed: showCrash }));
   sound.start();
   keys.start();

@@ -104,10 +104,11 @@ export function openSlots(pauseFor) {
   const choices = make('div', 'choices', dialog);
   button(choices, 'すべて書き出す', '', () => saveAll(listSaves().map(({ name }) => [name, fileOf(name)])));
   button(choices, 'まとめて読み込む', '', () => pick(null));
-  button(choices, '閉じる', '', close);
+  const last = button(choices, '閉じる', '', close);
   show();
   pauseFor('slots', true);
   dialog.showModal();
+  last.focus();
   dialog.style.left = `${(innerWidth - dialog.offsetWidth) / 2}px`;
   dialog.style.top = `${(innerHeight - dialog.offsetHeight) / 2}px`;
 }

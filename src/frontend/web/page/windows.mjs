@@ -216,6 +216,20 @@ export function makeDialog(className, title, closed) {
   return element;
 }
 
+// A finger that has missed a small button by little has meant it.
+const fingerReach = 20; // in the page's pixels
+desktop.addEventListener('click', (event) => {
+  if (event.pointerType !== 'touch' || !active || event.target.closest('button, input, .list, .takes')) return;
+  const away = (element) => {
+    const box = element.getBoundingClientRect();
+    const x = Math.max(box.left - event.clientX, 0, event.clientX - box.right);
+    return Math.hypot(x, Math.max(box.top - event.clientY, 0, event.clientY - box.bottom));
+  };
+  const near = [...active.element.querySelectorAll('button:enabled')].filter((each) => each.checkVisibility()).map((each) => [away(each), each]);
+  const [distance, nearest] = near.sort(([one], [other]) => one - other)[0] ?? [Infinity];
+  if (distance <= fingerReach) nearest.click();
+});
+
 function makeBox(box) {
   const element = makeDialog('box', box.title, () => send('Answer', box.closing));
   element.dataset.name = 'Box';
@@ -246,7 +260,7 @@ let shownScale = 0;
 export function resize() {
   const ratio = devicePixelRatio;
   const bare = document.fullscreenElement !== null;
-  const small = matchMedia('(pointer: coarse)').matches && Math.min(innerWidth, innerHeight) < 600;
+  const small = matchMedia('(pointer: coarse)').matches;
   document.body.classList.toggle('bare', bare || small);
   const scale = ask('ScaleFor', desktop.clientWidth * ratio, desktop.clientHeight * ratio, ratio / firstRatio, bare ? 1 : 0, small ? 1 : 0, titleHeight * ratio);
   if (scale <= 0) return;
@@ -260,7 +274,7 @@ export function replaceAll() {
   resize();
   for (const screen of screens.values()) {
     if (!screen.shown) continue;
-    center(screen.element, screen.isScene ? null : screen.place, null);
+    center(screen.element, screen.place, null);
     for (const control of screen.controls.values()) if (control.values?.visible && control.kind === 'label') setControl(control, control.values);
   }
 }

@@ -110,6 +110,7 @@ TEST_F(TickTimesTest, LogsEachTickWithItsPeriodAndTimeOfTheGame) {
       paced_before = time;
     }
   }
+  log.close();
   std::filesystem::remove(name);
   EXPECT_EQ(slow_count + paced_count, 40);
   EXPECT_GE(slow_count, 1);

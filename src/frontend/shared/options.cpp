@@ -3,6 +3,8 @@
 #include <charconv>
 #include <system_error>
 
+#include "src/platform/path_text.h"
+
 namespace orvane {
 namespace {
 
@@ -31,7 +33,7 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       options.Error = name + " needs a value";
     } else {
       const std::string& value = arguments[++i];
-      if (name == "--folder") options.Folder = value;
+      if (name == "--folder") options.Folder = PathOf(value);
       if (name == "--scale") {
         options.Scale = ReadNumber<double>(value);
         if (!options.Scale || !(*options.Scale >= 0.5 && *options.Scale <= 8)) {

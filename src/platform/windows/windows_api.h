@@ -1,0 +1,12 @@
+// The system's headers, less the macros that are names of ours. Nothing else includes them.
+#pragma once
+
+#include <windows.h>
+// That one goes first.
+#include <knownfolders.h>
+#include <shellapi.h>
+#include <shlobj.h>
+
+#undef SRCAND
+#undef SRCCOPY
+#undef SRCPAINT

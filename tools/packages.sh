@@ -11,6 +11,7 @@ check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcair
   xvfb openbox xdotool weston x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
   dpkg-dev file desktop-file-utils appstream)
 package_packages=(dpkg-dev file)
+sound_packages=(opus-tools lame vorbis-tools) # for the sounds that are rendered ahead
 thorough_packages=("clang-$clang_version" "clang-tidy-$clang_version" "libclang-rt-$clang_version-dev")
 
 # What dnf, zypper and pacman call them, as far as known; "-" comes along with another.
@@ -46,6 +47,9 @@ fontconfig                fontconfig                fontconfig                fo
 imagemagick               ImageMagick               ImageMagick               imagemagick
 shellcheck                ShellCheck                ShellCheck                shellcheck
 lua-check                 luacheck                  luacheck                  luacheck
+opus-tools                opus-tools                opus-tools                opus-tools
+lame                      lame                      lame                      lame
+vorbis-tools              vorbis-tools              vorbis-tools              vorbis-tools
 "
 
 # Installs what is missing of the packages named, as root or by sudo, and says so. Asks the network for

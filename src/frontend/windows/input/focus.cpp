@@ -1,0 +1,61 @@
+#include "src/frontend/windows/input/focus.h"
+
+#include <algorithm>
+
+#include "src/frontend/windows/windows/events.h"
+
+namespace orvane {
+
+Focus::Focus(HWND window, const Screen& screen, const std::vector<std::unique_ptr<View>>& views)
+    : window_(window), views_(views), order_(screen) {}
+
+View* Focus::ViewOf(const Control* control) const {
+  for (const auto& view : views_) {
+    if (&view->Model() == control) return view.get();
+  }
+  return nullptr;
+}
+
+void Focus::GoTo(Control* control) {
+  current_ = control;
+  if (GetActiveWindow() == window_) Restore();
+}
+
+void Focus::Restore() const {
+  const View* view = Current();
+  const HWND target = view == nullptr ? window_ : view->Handle();
+  if (GetFocus() != target) SetFocus(target);
+}
+
+void Focus::Begin() {
+  GoTo(order_.Begin());
+}
+
+void Focus::Follow() {
+  GoTo(order_.Follow(current_));
+}
+
+void Focus::Note(HWND window) {
+  for (Control* stop : order_.Stops()) {
+    const View* view = ViewOf(stop);
+    if (view != nullptr && view->Handle() == window) current_ = stop;
+  }
+}
+
+void Focus::Step(int step) {
+  if (Control* next = order_.Next(current_, step)) GoTo(next);
+}
+
+void Focus::Move(Direction direction) {
+  if (current_ == nullptr) return;
+  if (Control* next = order_.Neighbour(*current_, direction)) GoTo(next);
+}
+
+bool Focus::TurnTab(int step, Events& events) const {
+  const auto turn = order_.NextTab(step);
+  if (!turn) return false;
+  events.Send([turn](Program& program) { program.SelectTab(*turn->Tabs, turn->Tab); });
+  return true;
+}
+
+}  // namespace orvane

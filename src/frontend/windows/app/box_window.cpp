@@ -57,7 +57,7 @@ HWND MakeChild(HWND window, const wchar_t* kind, const std::wstring& text, DWORD
 
 }  // namespace
 
-BoxWindow::BoxWindow(const Box& box, HWND owner, std::function<void(BoxAnswer)> answer)
+BoxWindow::BoxWindow(const Box& box, HWND owner, bool active, std::function<void(BoxAnswer)> answer)
     : box_(box), answer_(std::move(answer)) {
   Template shape;
   shape.Dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_NOIDLEMSG;
@@ -65,7 +65,7 @@ BoxWindow::BoxWindow(const Box& box, HWND owner, std::function<void(BoxAnswer)> 
                                        &BoxWindow::Receive, reinterpret_cast<LPARAM>(this));
   MakeControls();
   LayOut(owner);
-  ShowWindow(window_, SW_SHOWNA);
+  ShowWindow(window_, active ? SW_SHOW : SW_SHOWNA);
 }
 
 BoxWindow::~BoxWindow() {

@@ -11,9 +11,9 @@ namespace orvane {
 
 class BoxWindow {
  public:
-  // Shows the box over the middle of its owner, or of the display where that is null. `answer` is
-  // told what the player presses.
-  BoxWindow(const Box& box, HWND owner, std::function<void(BoxAnswer)> answer);
+  // Shows the box over the middle of its owner, or of the display where that is null. `active`
+  // tells whether it takes the keyboard as it comes; `answer` is told what the player presses.
+  BoxWindow(const Box& box, HWND owner, bool active, std::function<void(BoxAnswer)> answer);
   ~BoxWindow();
   BoxWindow(const BoxWindow&) = delete;
   BoxWindow& operator=(const BoxWindow&) = delete;

@@ -28,18 +28,18 @@ void MessageBoxes::Follow(const Stage& stage, HWND owner, const std::function<vo
     }
   }
   if (gone.empty() && stage.Boxes().size() == shown_.size()) return;
-  const bool was_in_front = IsInFront();
+  const bool in_front = IsInFront() || owner == nullptr;
   for (const StandingBox& box : stage.Boxes()) {
     if (shown_.contains(box.Number)) continue;
     const HWND under = Front() != nullptr ? Front()->Handle() : owner;
-    shown_[box.Number] = std::make_unique<BoxWindow>(box.Shown, under, answer_);
+    shown_[box.Number] = std::make_unique<BoxWindow>(box.Shown, under, in_front, answer_);
   }
   const BoxWindow* front = Front();
   for (const auto& [number, box] : shown_) {
     EnableWindow(box->Handle(), box.get() == front ? TRUE : FALSE);
   }
   enable();
-  if (front != nullptr && (was_in_front || owner == nullptr)) front->ComeToFront();
+  if (front != nullptr && in_front) front->ComeToFront();
   // Windows behind may belong to a box that goes; the newest goes first.
   while (!gone.empty()) gone.pop_back();
 }

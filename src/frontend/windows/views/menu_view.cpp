@@ -28,7 +28,7 @@ void MenuView::AddTop(MenuItem& item) {
   const HMENU menu = CreatePopupMenu();
   const auto at = static_cast<UINT>(GetMenuItemCount(bar_));
   AppendMenuW(bar_, MF_POPUP, reinterpret_cast<UINT_PTR>(menu), WideCaption(item.Caption).c_str());
-  entries_.push_back({&item, bar_, at, menu, item, item});
+  entries_.push_back({&item, bar_, at, menu, item, {}});
 }
 
 void MenuView::AddItem(MenuItem& item) {
@@ -38,7 +38,7 @@ void MenuView::AddItem(MenuItem& item) {
     const auto at = static_cast<UINT>(GetMenuItemCount(menu));
     AppendMenuW(menu, item.IsSeparator() ? MF_SEPARATOR : MF_STRING, kFirstNumber + entries_.size(),
                 WideCaption(item.Caption).c_str());
-    entries_.push_back({&item, menu, at, nullptr, item, item});
+    entries_.push_back({&item, menu, at, nullptr, item, {}});
     return;
   }
 }

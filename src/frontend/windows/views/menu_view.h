@@ -34,7 +34,7 @@ class MenuView {
     UINT At = 0;            // its position there
     HMENU Opens = nullptr;  // of a menu
     MenuValues Seen{};
-    CommonValues SeenCommon{};
+    CommonValues SeenCommon{};  // it is made as one that is on
   };
 
   void AddTop(MenuItem& item);

@@ -86,7 +86,7 @@ void ScreenWindow::FollowAll() {
   for (const auto& view : views_) view->FollowAll();
 }
 
-void ScreenWindow::Present(const ScreenWindow* over, HWND backdrop) {
+void ScreenWindow::Present(const ScreenWindow* over, HWND backdrop, bool active) {
   // The screen may have been loaded afresh since it was seen last.
   FollowAll();
   up_ = true;
@@ -99,7 +99,7 @@ void ScreenWindow::Present(const ScreenWindow* over, HWND backdrop) {
     Centre(over != nullptr ? MiddleOf(over->Handle()) : MiddleOf(DisplayAt(nullptr).Available));
     placed_ = true;
   }
-  ShowWindow(Handle(), SW_SHOWNA);
+  ShowWindow(Handle(), active ? SW_SHOW : SW_SHOWNA);
   keys_to_->Begin();
 }
 

@@ -30,7 +30,8 @@ class ScreenWindow : public OwnWindow {
 
   // Shows the window over the middle of `over`, or of the display where that is null; where it has
   // been before, it comes back to that place. While it covers the display it belongs to `backdrop`.
-  void Present(const ScreenWindow* over, HWND backdrop);
+  // `active` tells whether it takes the keyboard as it comes.
+  void Present(const ScreenWindow* over, HWND backdrop, bool active);
   void Dismiss();
 
   // The scale has changed, or whether scenes cover the display. The window keeps its middle.

@@ -60,10 +60,12 @@ void Windows::Follow(const Zoom& zoom) {
   }
   // New windows come before old ones go, and take input before others stop to, so that the keyboard
   // never falls to another program.
+  const bool in_front = active_ == nullptr || IsInFront();
+  const HWND cover = backdrop_ == nullptr ? nullptr : backdrop_->Handle();
   for (const auto& window : windows_) {
-    if (window->Model().IsVisible() && !window->IsUp()) {
-      window->Present(Of(active_), backdrop_ == nullptr ? nullptr : backdrop_->Handle());
-    }
+    if (!window->Model().IsVisible() || window->IsUp()) continue;
+    const bool is_active = &window->Model() == stage_.Active() && !stage_.BoxStands();
+    window->Present(Of(active_), cover, in_front && is_active);
   }
   FollowInput();
   if (stage_.Active() != active_) RaiseActive();

@@ -7,13 +7,13 @@
 #include <string_view>
 
 #include "src/platform/music_places.h"
+#include "src/platform/path_text.h"
 #include "src/platform/sound_channels.h"
 #include "src/sound/job_thread.h"
 #include "src/sound/mixer.h"
 #include "src/sound/output.h"
 #include "src/sound/play_log.h"
 #include "src/sound/recorder.h"
-#include "src/sound/sound_font.h"
 
 namespace orvane {
 namespace {
@@ -40,7 +40,8 @@ int ChannelOf(std::string_view alias) {
 }
 
 // All bytes of a file; none if it cannot be read.
-std::vector<std::uint8_t> ReadFile(const std::string& path) {
+std::vector<std::uint8_t> ReadFile(const std::string& name) {
+  const std::filesystem::path path = PathOf(name);
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return {};
   std::ifstream file(path, std::ios::binary | std::ios::ate);
@@ -57,7 +58,17 @@ std::vector<std::uint8_t> ReadFile(const std::string& path) {
 std::string FollowerOf(size_t channel, const std::string& path) {
   const char* next = FightMusicAfter(AliasOf(channel));
   if (next == nullptr) return "";
-  return std::filesystem::path(path).replace_filename(SoundFile(next)).string();
+  return TextOf(PathOf(path).replace_filename(SoundFile(next)));
+}
+
+// The piece that the bytes of a file are; null if they are none.
+std::shared_ptr<Piece> ReadPiece(const std::vector<std::uint8_t>& file, const std::string& path) {
+  std::optional<Song> song = ReadSong(file);
+  if (!song) return nullptr;
+  auto piece = std::make_shared<Piece>();
+  piece->Notes = *std::move(song);
+  piece->Name = TextOf(PathOf(path).stem());
+  return piece;
 }
 
 }  // namespace
@@ -122,8 +133,7 @@ void SoundEngine::Machine::OpenSynth() {
   // A font that is not heard is not worth its memory.
   if (synth_asked_ || !audible_) return;
   synth_asked_ = true;
-  const std::string font = options_.FontFile.empty() ? FindSoundFont() : options_.FontFile;
-  if (!font.empty()) synth_ = Synth::Load(font, SoundEngine::Rate);
+  synth_ = Synth::Load(options_.FontFile, SoundEngine::Rate);
   mixer_.UseSynth(synth_.get());
 }
 
@@ -132,11 +142,10 @@ void SoundEngine::Machine::Prepare(Piece& piece, const std::string& follower) {
   if (synth_) {
     // Now, as the field's first bar may wait a moment and a battle's may not; and first, as what
     // was kept first is the first to go.
-    if (const std::optional<Song> next =
-            follower.empty() ? std::nullopt : ReadSong(ReadFile(follower))) {
-      for (const Patch& patch : PatchesOf(*next)) synth_->Keep(patch);
+    if (const auto next = follower.empty() ? nullptr : ReadPiece(ReadFile(follower), follower)) {
+      synth_->Prepare(*next);
     }
-    for (const Patch& patch : PatchesOf(piece.Notes)) synth_->Keep(patch);
+    synth_->Prepare(piece);
   }
   piece.Ready.store(true, std::memory_order_release);
 }
@@ -145,9 +154,7 @@ bool SoundEngine::Machine::Open(size_t channel, const std::string& path) {
   const std::vector<std::uint8_t> file = ReadFile(path);
   if (file.empty()) return false;
   const auto number = static_cast<int>(channel);
-  if (std::optional<Song> song = ReadSong(file)) {
-    auto piece = std::make_shared<Piece>();
-    piece->Notes = std::move(*song);
+  if (const auto piece = ReadPiece(file, path)) {
     mixer_.Open(number, std::shared_ptr<const Piece>(piece));
     jobs_.Post([this, piece, next = FollowerOf(channel, path)] { Prepare(*piece, next); });
   } else if (std::shared_ptr<const Clip> clip = ReadClip(file, SoundEngine::Rate)) {

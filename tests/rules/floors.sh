@@ -59,7 +59,7 @@ breaks_order() {
 may_name() {
   case "$1" in
     platform/posix/durable_file.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
-    platform/windows/windows_api.h) echo "windows.h knownfolders.h shellapi.h shlobj.h" ;;
+    platform/windows/windows_api.h) echo "windows.h shellapi.h" ;;
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
   esac

@@ -4,8 +4,8 @@
 #   tour.sh BUILT SCREENSHOTS SCRIPT_PLAYER
 set -u
 
-# shellcheck source=tests/windows-build/wine.sh
-. "$(dirname "$(realpath "$0")")/wine.sh"
+# shellcheck source=tests/windows-build/session.sh
+. "$(dirname "$(realpath "$0")")/session.sh"
 built=$(realpath "$1")
 player=$(realpath "$3")
 keys_repeat=yes

@@ -1,5 +1,7 @@
 #include "src/platform/durable_file.h"
 
+#include <system_error>
+
 #include "src/platform/system_message.h"
 #include "src/platform/windows/replace_steps.h"
 

@@ -22,6 +22,10 @@ DWORD ErrorUnless(BOOL done) {
 }  // namespace
 
 DWORD ReplaceSteps::AskToWrite(const std::wstring& name) {
+  const DWORD attributes = GetFileAttributesW(name.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return GetLastError();
+  // A file that nobody may write is locked for administrators as well.
+  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return ERROR_ACCESS_DENIED;
   const HANDLE file = CreateFileW(name.c_str(), GENERIC_WRITE,
                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                   OPEN_EXISTING, 0, nullptr);

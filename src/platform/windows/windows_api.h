@@ -3,9 +3,7 @@
 
 #include <windows.h>
 // That one goes first.
-#include <knownfolders.h>
 #include <shellapi.h>
-#include <shlobj.h>
 
 #undef SRCAND
 #undef SRCCOPY

@@ -22,7 +22,7 @@ void Focus::GoTo(Control* control) {
 }
 
 void Focus::Restore() const {
-  const View* view = Current();
+  const View* view = ViewOf(current_);
   const HWND target = view == nullptr ? window_ : view->Handle();
   if (GetFocus() != target) SetFocus(target);
 }
@@ -32,21 +32,30 @@ void Focus::Begin() {
 }
 
 void Focus::Follow() {
+  Look();
   GoTo(order_.Follow(current_));
 }
 
-void Focus::Note(HWND window) {
+void Focus::Look() {
+  const HWND focus = GetFocus();
   for (Control* stop : order_.Stops()) {
     const View* view = ViewOf(stop);
-    if (view != nullptr && view->Handle() == window) current_ = stop;
+    if (view != nullptr && view->Handle() == focus) current_ = stop;
   }
 }
 
+View* Focus::Current() {
+  Look();
+  return ViewOf(current_);
+}
+
 void Focus::Step(int step) {
+  Look();
   if (Control* next = order_.Next(current_, step)) GoTo(next);
 }
 
 void Focus::Move(Direction direction) {
+  Look();
   if (current_ == nullptr) return;
   if (Control* next = order_.Neighbour(*current_, direction)) GoTo(next);
 }

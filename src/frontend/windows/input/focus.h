@@ -21,9 +21,6 @@ class Focus {
   void Follow();
   // The window has become the active one.
   void Restore() const;
-  // The player has clicked on a control of the window.
-  void Note(HWND window);
-
   // Tab, or with -1 Shift and Tab.
   void Step(int step);
   // Goes to the control that lies next in a direction. Nothing where there is none.
@@ -33,10 +30,12 @@ class Focus {
   bool TurnTab(int step, Events& events) const;
 
   // The view that has the keyboard, or null.
-  View* Current() const { return ViewOf(current_); }
+  View* Current();
 
  private:
   View* ViewOf(const Control* control) const;
+  // Takes note of what the player has clicked on.
+  void Look();
   void GoTo(Control* control);
 
   HWND window_;

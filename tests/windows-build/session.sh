@@ -52,6 +52,7 @@ give_dots() {
 install_game() {
   place=$1
   mkdir -p "$place"
+  # shellcheck disable=SC2154  # whoever sources this names the folder of the build
   cp "$built/Orvane.exe" "$place/"
   cp -r "$built/game" "$place/"
   folder=$place/game

@@ -143,6 +143,16 @@ EXPORT int Serve(double most) {
   return Game().Serve(most);
 }
 
+// A tick of a timer that is on, by the names of its screen and its own, whenever it would be due: so a
+// recorded game is repeated. 0 where there is no such tick.
+EXPORT int Tick(const char* screen_name, const char* name) {
+  const Screen* screen = Game().TheProgram().TheStage().Find(screen_name);
+  auto* timer = screen == nullptr ? nullptr : dynamic_cast<Timer*>(screen->Find(name));
+  if (timer == nullptr || !timer->Ticks()) return 0;
+  Send([timer](Program& p) { p.Tick(*timer); });
+  return 1;
+}
+
 EXPORT void Kept(int number, const char* failure) {
   Game().Kept(number, failure);
 }

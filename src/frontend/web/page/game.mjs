@@ -104,6 +104,9 @@ export function sendText(number, text) {
   follow();
 }
 
+// A tick of that timer of that screen, out of its time; not for play.
+export const tick = (screen, timer) => withText(screen, (at) => withText(timer, (from) => guarded(() => module._Tick(at, from))));
+
 // A question that changes nothing.
 export const ask = (call, ...values) => guarded(() => module[`_${call}`](...values)) ?? -1;
 

@@ -31,18 +31,18 @@ void Append24(std::string& bytes, uint32_t colour) {
 
 std::string Pack(const paint::Image& image) {
   std::map<uint32_t, size_t> palette;
-  for (const uint32_t pixel : image.pixels) palette.try_emplace(pixel, palette.size());
+  for (const uint32_t pixel : image.Pixels) palette.try_emplace(pixel, palette.size());
   const bool indexed = palette.size() <= kMostColours;
   std::string bytes;
-  Append16(bytes, static_cast<size_t>(image.width));
-  Append16(bytes, static_cast<size_t>(image.height));
+  Append16(bytes, static_cast<size_t>(image.Width));
+  Append16(bytes, static_cast<size_t>(image.Height));
   Append16(bytes, indexed ? palette.size() : 0);
   if (indexed) {
     std::vector<uint32_t> colours(palette.size());
     for (const auto& [colour, index] : palette) colours[index] = colour;
     for (const uint32_t colour : colours) Append24(bytes, colour);
   }
-  for (const uint32_t pixel : image.pixels) {
+  for (const uint32_t pixel : image.Pixels) {
     if (indexed) {
       bytes += static_cast<char>(palette.at(pixel));
     } else {

@@ -1,14 +1,15 @@
 #include "src/frontend/script/devices/script_storage.h"
 
-#include <filesystem>
 #include <utility>
+
+#include "src/platform/path_text.h"
 
 namespace orvane {
 namespace {
 
 // Scripts may write one name in several ways, "./Item.dat".
 std::string Plain(const std::string& name) {
-  return std::filesystem::path(name).lexically_normal().string();
+  return TextOf(PathOf(name).lexically_normal());
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "src/frontend/script/devices/sound_log.h"
 
+#include "src/platform/path_text.h"
+
 namespace orvane {
 namespace {
 
@@ -10,13 +12,13 @@ std::string WithoutFolder(std::string command, const std::string& folder) {
 
 bool IsFile(const std::string& path) {
   std::error_code failed;
-  return std::filesystem::is_regular_file(path, failed);
+  return std::filesystem::is_regular_file(PathOf(path), failed);
 }
 
 }  // namespace
 
 void SoundLog::Restart(const std::filesystem::path& folder) {
-  folder_ = folder.string();
+  folder_ = TextOf(folder);
   numbers_.clear();
   known_.clear();
   sent_.clear();

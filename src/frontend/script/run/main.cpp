@@ -8,6 +8,7 @@
 
 #include "src/frontend/script/run/script_file.h"
 #include "src/frontend/script/run/tally.h"
+#include "src/platform/path_text.h"
 #include "src/platform/program_path.h"
 
 namespace {
@@ -26,7 +27,7 @@ Arguments Read(const std::vector<std::string>& words) {
   Arguments arguments{orvane::ProgramPath().parent_path() / "game", {}};
   for (size_t i = 0; i < words.size(); ++i) {
     if (words[i] == "--folder" && i + 1 < words.size()) {
-      arguments.Folder = std::filesystem::absolute(words[++i]);
+      arguments.Folder = std::filesystem::absolute(orvane::PathOf(words[++i]));
     } else if (words[i].rfind('-', 0) == 0) {
       arguments.Wrong = true;
     } else {

@@ -6,6 +6,7 @@
 
 #include "src/frontend/script/names/value.h"
 #include "src/frontend/script/run/script_error.h"
+#include "src/platform/path_text.h"
 
 namespace orvane {
 namespace {
@@ -16,9 +17,9 @@ namespace files = std::filesystem;
 constexpr uintmax_t kLinkedSize = 65536;
 
 files::path MakeTemporaryFolder() {
-  std::string path = (files::temp_directory_path() / "orvane-script-XXXXXX").string();
+  std::string path = TextOf(files::temp_directory_path() / "orvane-script-XXXXXX");
   if (mkdtemp(path.data()) == nullptr) throw ScriptError("a scratch folder", "no way to make one");
-  return files::canonical(path);
+  return files::canonical(PathOf(path));
 }
 
 void CopyFile(const files::path& from, const files::path& to) {
@@ -46,7 +47,7 @@ void CopyFolder(const files::path& from, const files::path& to) {
 
 ScratchFolder::ScratchFolder(const files::path& original) {
   if (!files::is_directory(original)) {
-    throw ScriptError("a game folder", "none at " + Quoted(original.string()));
+    throw ScriptError("a game folder", "none at " + Quoted(TextOf(original)));
   }
   path_ = MakeTemporaryFolder();
   files_ = std::make_unique<ScriptStorage>(path_);
@@ -65,7 +66,7 @@ ScratchFolder::~ScratchFolder() {
 }
 
 files::path ScratchFolder::Inside(const std::string& name) const {
-  const files::path path = files::path(name).lexically_normal();
+  const files::path path = PathOf(name).lexically_normal();
   const bool leads_out = path.is_absolute() || (!path.empty() && *path.begin() == "..");
   if (name.empty() || leads_out) throw ScriptError("a name in the game folder", Quoted(name));
   return path_ / path;

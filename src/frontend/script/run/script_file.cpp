@@ -8,6 +8,7 @@
 #include "src/frontend/script/calls/calls.h"
 #include "src/frontend/script/names/place.h"
 #include "src/frontend/script/run/session.h"
+#include "src/platform/path_text.h"
 #include "src/platform/whole_file.h"
 
 namespace orvane {
@@ -31,7 +32,7 @@ void RemoveUnwanted(lua_State* lua) {
 // Makes `require` look beside the script first, then in the folder above it, where scripts of
 // several folders keep what they share.
 void LookBeside(lua_State* lua, const std::string& file) {
-  const std::string parent = std::filesystem::path(file).parent_path().string();
+  const std::string parent = TextOf(PathOf(file).parent_path());
   const std::string folder = parent.empty() ? std::string(1, '.') : parent;
   lua_getglobal(lua, "package");
   lua_getfield(lua, -1, "path");
@@ -77,7 +78,7 @@ std::string RunText(lua_State* lua, const std::string& file, std::string text) {
 }  // namespace
 
 void RunScript(const std::string& file, const std::filesystem::path& game_folder, Tally& tally) {
-  const std::optional<std::string> text = ReadWholeFile(file);
+  const std::optional<std::string> text = ReadWholeFile(PathOf(file));
   if (!text) return tally.Break(file + ":1: expected a script that can be read, found none");
   const StateOwner state(luaL_newstate());
   if (state == nullptr) return tally.Break(file + ":1: expected memory for the script, found none");

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "src/frontend/script/run/script_error.h"
+#include "src/platform/path_text.h"
 #include "src/ui/stage.h"
 
 namespace orvane {
@@ -24,8 +25,8 @@ void Session::Start(const StartOptions& options) {
   ++starts_;
   if (!keeps) {
     folder_.reset();
-    folder_ = std::make_unique<ScratchFolder>(
-        options.Folder.empty() ? game_folder_ : std::filesystem::path(options.Folder));
+    folder_ = std::make_unique<ScratchFolder>(options.Folder.empty() ? game_folder_
+                                                                     : PathOf(options.Folder));
   }
   Clock.Restart();
   Boxes.Restart();
@@ -50,8 +51,7 @@ void Session::Prepare(const std::string& folder) {
   prepared_ = false;
   ++starts_;
   folder_.reset();
-  folder_ = std::make_unique<ScratchFolder>(folder.empty() ? game_folder_
-                                                           : std::filesystem::path(folder));
+  folder_ = std::make_unique<ScratchFolder>(folder.empty() ? game_folder_ : PathOf(folder));
   prepared_ = true;
 }
 

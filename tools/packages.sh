@@ -12,6 +12,7 @@ check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcair
   dpkg-dev file desktop-file-utils appstream)
 web_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libfluidsynth-dev libpng-dev emscripten node-acorn nodejs
   fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
+web_test_packages=(chromium firefox-esr dpkg-dev)
 package_packages=(dpkg-dev file)
 sound_packages=(opus-tools lame vorbis-tools) # for the sounds that are rendered ahead
 thorough_packages=("clang-$clang_version" "clang-tidy-$clang_version" "libclang-rt-$clang_version-dev")

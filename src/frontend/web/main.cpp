@@ -308,13 +308,13 @@ EXPORT double ScaleFor(double width, double height, double zoom, int full_screen
   std::vector<Extent> windows;
   std::vector<Span> shown;
   for (const Screen* screen : Game().TheProgram().TheStage().Screens()) {
-    // A film has the whole display for itself when it comes.
-    if (screen->OwnSurface != nullptr && !screen->IsVisible()) continue;
+    // Dialogs, and a film that has the display for itself, count when they come.
+    const bool is_place = screen->IsScene && screen->OwnSurface == nullptr;
+    if (!is_place && !screen->IsVisible()) continue;
     const Extent inside{static_cast<double>(screen->Width), static_cast<double>(screen->Height)};
-    windows.push_back(inside);
-    const double menu = windows.size() == 1 ? kMenuHeight : 0;
+    const double menu = shown.empty() ? kMenuHeight : 0;
+    if (is_place) windows.push_back(inside);
     const bool is_bare = screen->IsScene && (full_screen != 0 || is_handheld != 0);
-    if (!screen->IsScene && !screen->IsVisible()) continue;
     shown.push_back({{inside.Width, inside.Height + menu}, is_bare ? 0 : title});
   }
   return PageScale({{width, height}, zoom, full_screen != 0, is_handheld != 0}, windows, shown);

@@ -9,12 +9,17 @@ namespace orvane {
 // Writes one object or list behind what stands in `out` already.
 class Json {
  public:
-  enum class Form { Object, List };
+  enum class Form {
+    Object,
+    List,
+    Rest,  // of an object that has values already, its end taken away
+  };
 
   Json(std::string& out, Form form) : out_(out), form_(form) {
-    out_ += form == Form::Object ? '{' : '[';
+    if (form != Form::Rest) out_ += form == Form::Object ? '{' : '[';
+    first_ = form != Form::Rest;
   }
-  ~Json() { out_ += form_ == Form::Object ? '}' : ']'; }
+  ~Json() { out_ += form_ == Form::List ? ']' : '}'; }
   Json(const Json&) = delete;
   Json& operator=(const Json&) = delete;
 
@@ -30,7 +35,7 @@ class Json {
   }
   void Add(std::string_view name, int value) {
     Name(name);
-    out_ += std::to_string(value);
+    Number(value);
   }
   // The same with a fraction of thousandths; what no page can show counts as far away.
   void Add(std::string_view name, double value);
@@ -66,6 +71,7 @@ class Json {
     out_ += "\":";
   }
   void Quote(std::string_view text);
+  void Number(long value);
 
   std::string& out_;
   Form form_;

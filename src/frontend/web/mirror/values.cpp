@@ -1,7 +1,5 @@
 #include "src/frontend/web/mirror/values.h"
 
-#include <cstdio>
-
 #include "src/frontend/shared/faces.h"
 #include "src/frontend/shared/spoken_names.h"
 #include "src/frontend/shared/spoken_text.h"
@@ -14,8 +12,9 @@ namespace {
 constexpr const char* kAlignments[] = {"left", "center", "right"};
 
 std::string HexColour(Colour colour) {
-  char text[8];
-  std::snprintf(text, sizeof text, "#%06x", static_cast<unsigned>(colour & 0xFFFFFF));
+  constexpr char digits[] = "0123456789abcdef";
+  std::string text = "#";
+  for (int shift = 20; shift >= 0; shift -= 4) text += digits[colour >> shift & 15];
   return text;
 }
 
@@ -37,8 +36,6 @@ void WriteLabel(const Label& label, Json& json) {
   json.Add("bold", label.Face.Bold);
   json.Add("align", kAlignments[static_cast<size_t>(label.Alignment)]);
   json.Add("oneLine", IsOneLine(label.Caption, label.At.Height, size));
-  const std::string whose = SpokenName(label);
-  json.Add("meaning", whose.empty() ? CaptionBeside(label) : whose);
 }
 
 void WriteList(const ListValues& values, Json& json) {
@@ -147,6 +144,12 @@ void WriteValues(const Control& control, int id, std::string& out) {
     json.Add("height", control.At.Height);
   }
   WriteKind(control, json);
+}
+
+std::string MeaningOf(const Control& control) {
+  if (control.Kind() != ControlKind::Label) return {};
+  const std::string whose = SpokenName(control);
+  return whose.empty() ? CaptionBeside(control) : whose;
 }
 
 }  // namespace orvane

@@ -1,11 +1,11 @@
 #include <SDL.h>
-#include <dlfcn.h>
 
 #include <chrono>
 #include <string_view>
 #include <utility>
 
 #include "src/sound/output.h"
+#include "src/sound/sdl/hush.h"
 
 namespace orvane {
 namespace {
@@ -14,25 +14,13 @@ namespace {
 constexpr Uint16 kBufferFrames = 256;
 constexpr std::size_t kFrameBytes = 2 * sizeof(float);
 
-void SayNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
-                const char* /*format*/, ...) {}
-
-// A machine without a sound card is no reason to write to the player's terminal. The library that
-// would do so is loaded only if SDL uses it, so it is looked up at run time.
-void HushAlsa() {
-  using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
-  using SetHandler = int (*)(Handler);
-  const auto set = reinterpret_cast<SetHandler>(dlsym(RTLD_DEFAULT, "snd_lib_error_set_handler"));
-  if (set != nullptr) set(&SayNothing);
-}
-
 class DeviceOutput : public Output {
  public:
   DeviceOutput(int rate, PullFunction pull) : pull_(std::move(pull)) {
     // The desktop keeps its own signal handlers, and sound is no reason to keep a screen awake.
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Orvane");
-    HushAlsa();
+    HushSound();
     started_ = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
     if (!started_ || std::string_view(SDL_GetCurrentAudioDriver()) == "dummy") return;
     SDL_AudioSpec wanted{};

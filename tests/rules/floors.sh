@@ -62,6 +62,7 @@ may_name() {
     platform/windows/windows_api.h) echo "windows.h shellapi.h" ;;
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
+    sound/vorbis/*) echo "stb/stb_vorbis.h" ;;
   esac
 }
 

@@ -1,5 +1,6 @@
 #!/bin/bash
-# Packs a finished build for Windows. The same build gives the same bytes, whenever it is packed.
+# Packs a finished build for Windows, with the tools of the build for this machine, in the folder build or the one that
+# ORVANE_HOST_BUILD names. The same build gives the same bytes, whenever it is packed.
 #   pack.sh BUILD-FOLDER
 set -eu
 build=$(realpath "$1")
@@ -15,7 +16,7 @@ mkdir -p "$whole/licences" "$whole/game"
 cp "$build/bin/Orvane.exe" "$whole"
 # The slots as they are before anybody plays; those of the build may have been played with.
 cp -r "$build"/bin/game/{Item.dat,Mapdata,Sound} "$whole/game"
-build/bin/orvane-saves "$whole/game"
+"${ORVANE_HOST_BUILD:-build}/bin/orvane-saves" "$whole/game"
 # Editors there know a text by its mark and its ends of lines.
 {
   printf '\xEF\xBB\xBF'

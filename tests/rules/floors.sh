@@ -64,6 +64,7 @@ may_name() {
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
     frontend/web/main.cpp) echo "emscripten.h" ;;
+    sound/vorbis/*) echo "stb/stb_vorbis.h" ;;
   esac
 }
 

@@ -8,7 +8,7 @@
 #include "src/platform/whole_file.h"
 #include "src/sound/song.h"
 #include "src/sound/sound_engine.h"
-#include "src/sound/sound_font.h"
+#include "src/sound/synth.h"
 #include "tests/sound/listening.h"
 
 namespace orvane {
@@ -47,7 +47,7 @@ struct Kept {
 class PieceTest : public testing::TestWithParam<Kept> {
  protected:
   void SetUp() override {
-    if (FindSoundFont().empty()) GTEST_SKIP() << "no sound font is installed";
+    if (Synth::Load("", SoundEngine::Rate) == nullptr) GTEST_SKIP() << "there is no sound font";
   }
 };
 

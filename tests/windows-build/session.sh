@@ -76,3 +76,13 @@ menu_is_on() {
   [ "$(import -silent -window root -crop "36x8+$at_x+$at_y" -format '%[fx:minima < 0.2]' info:- 2>/dev/null)" = 1 ]
 }
 menu_is_off() { ! menu_is_on "$1"; }
+
+# Small letters have no soft edges there, so that two colours are something to be seen.
+is_painted() {
+  local at_x at_y pixels size
+  point "$1" "$2" "$3"
+  zoomed "$4"
+  size=$pixels
+  zoomed "$5"
+  [ "$(import -silent -window root -crop "${size}x$pixels+$at_x+$at_y" -format '%k' info:- 2>/dev/null || echo 0)" -gt 1 ]
+}

@@ -15,7 +15,7 @@
 #include "src/sound/recorder.h"
 #include "src/sound/song.h"
 #include "src/sound/sound_engine.h"
-#include "src/sound/sound_font.h"
+#include "src/sound/fluid/sound_font.h"
 
 namespace orvane {
 namespace {

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <vector>
 
-#include "src/sound/sound_font.h"
+#include "src/sound/fluid/sound_font.h"
 
 namespace orvane {
 namespace {

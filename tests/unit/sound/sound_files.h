@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "src/platform/path_text.h"
+
 namespace orvane::test {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -38,7 +40,7 @@ class Folder {
 
   // Writes a file of the folder "Sound".
   void Write(const std::string& name, const Bytes& bytes) const;
-  std::string Path() const { return path_.string(); }
+  std::string Path() const { return TextOf(path_); }
 
  private:
   std::filesystem::path path_;

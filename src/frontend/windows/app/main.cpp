@@ -13,11 +13,7 @@
 #include "src/game/program.h"
 #include "src/platform/arguments.h"
 #include "src/platform/folder_storage.h"
-#ifdef ORVANE_SOUND
 #include "src/sound/sound_engine.h"
-#else
-#include "src/platform/quiet_services.h"
-#endif
 
 namespace {
 
@@ -43,18 +39,12 @@ int RunGame(const Options& options) {
     return EXIT_FAILURE;
   }
   if (const std::string hint = Fonts::Hint(); !hint.empty()) ShowProblem(hint);
-#ifdef ORVANE_SOUND
   SoundEngine sound;
-#else
-  NoSound sound;
-#endif
   PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);
   Program program({sound, chance, files});
   Front front(program, options.Scale, instance.Name());
-#ifdef ORVANE_SOUND
   front.TellOfPainting([&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
-#endif
   return front.Run();
 }
 

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "src/platform/whole_file.h"
+#include "src/sound/fluid/sound_font.h"
 #include "src/sound/sound_engine.h"
-#include "src/sound/sound_font.h"
 #include "tests/unit/sound/sound_files.h"
 
 namespace orvane {

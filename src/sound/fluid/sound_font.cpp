@@ -1,4 +1,4 @@
-#include "src/sound/sound_font.h"
+#include "src/sound/fluid/sound_font.h"
 
 #include <array>
 #include <filesystem>

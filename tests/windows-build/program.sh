@@ -1,0 +1,30 @@
+#!/bin/bash
+# Looks at the program's file for Windows: that it imports what Windows brings and nothing else, is as hard to abuse as
+# Windows makes it, and does not tell where or when it was built.
+#   program.sh PROGRAM SOURCE-FOLDER
+set -u
+program=$1
+sources=$2
+faults=0
+
+fault() {
+  echo "$1"
+  faults=$((faults + 1))
+}
+
+own=" advapi32 comctl32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 setupapi shell32 user32 uxtheme version winmm "
+headers=$(x86_64-w64-mingw32-objdump -p "$program")
+imports=$(sed -nE 's/^[[:space:]]*DLL Name: (.*)\.(dll|DLL|drv)$/\1/p' <<<"$headers" | tr '[:upper:]' '[:lower:]')
+[ "$(wc -w <<<"$imports")" -ge 5 ] || fault "its imports cannot be read"
+for library in $imports; do
+  [[ $own == *" $library "* ]] || fault "it imports $library"
+done
+for mark in HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT; do
+  grep -q "$mark" <<<"$headers" || fault "it is not marked $mark"
+done
+x86_64-w64-mingw32-objdump -h "$program" | grep -q '\.reloc' || fault "it cannot be moved in memory"
+grep -q 'Time/Date.*1970$' <<<"$headers" || fault "it tells when it was built"
+grep -qF "$sources" "$program" && fault "it tells where it was built"
+grep -qF "${HOME:-/root}/" "$program" && fault "it names the home of who built it"
+[ "$faults" -eq 0 ] && echo "imports: $(tr '\n' ' ' <<<"$imports")"
+[ "$faults" -eq 0 ]

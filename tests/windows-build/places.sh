@@ -86,7 +86,7 @@ see_read_only() {
 }
 
 names_box=警告
-screen_width=1920 screen_height=1200
+screen_width=1920 screen_height=1080
 open_display "${screen_width}x$screen_height"
 make_system
 in_registry 'Software\Microsoft\Windows\CurrentVersion\ThemeManager' ThemeActive REG_SZ 1

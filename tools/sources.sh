@@ -5,6 +5,7 @@
 #   sources.sh FOLDER PACKAGE...
 set -eu
 known="
+zlib       zlib_1.2.13.dfsg.orig.tar.bz2       71feb7947e3c00ef125f83b79a4e529bde31171e5babe48b391f06758d1ab0a1
 libpng1.6  libpng1.6_1.6.39.orig.tar.gz       a00e9d2f2f664186e4202db9299397f851aea71b36a35e74910b8820e380d441
 libsdl2    libsdl2_2.26.5+dfsg.orig.tar.gz    b3f2c822151804125d08db94c65852f711c2e5df2145a59da120748dc32eb9c3
 lua5.4     lua5.4_5.4.4.orig.tar.gz           164c7849653b80ae67bec4b7473b884bf5cc8d2dca05653475ec2ed27b9ebf61

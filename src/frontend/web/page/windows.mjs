@@ -73,7 +73,7 @@ function drag(bar, element, moved) {
     const begin = { left: element.offsetLeft - down.clientX, top: element.offsetTop - down.clientY };
     const move = (event) => {
       put(element, begin.left + event.clientX, begin.top + event.clientY);
-      moved({ x: element.offsetLeft + element.offsetWidth / 2, y: element.offsetTop + element.offsetHeight / 2 });
+      moved(middleOf(element));
     };
     bar.setPointerCapture(down.pointerId);
     bar.addEventListener('pointermove', move);
@@ -90,13 +90,12 @@ function put(element, left, top) {
   element.style.top = `${within(top, room.clientHeight - element.offsetHeight)}px`;
 }
 
+const middleOf = (element) => ({ x: element.offsetLeft + element.offsetWidth / 2, y: element.offsetTop + element.offsetHeight / 2 });
+
 // In the middle of what it came over, or where the player has put it.
 function center(element, place, over) {
-  let middle = place;
-  if (!middle && over?.element && !over.element.hidden && over.element !== element) {
-    middle = { x: over.element.offsetLeft + over.element.offsetWidth / 2, y: over.element.offsetTop + over.element.offsetHeight / 2 };
-  }
-  middle ??= { x: desktop.clientWidth / 2, y: desktop.clientHeight / 2 };
+  const isOver = over?.element && !over.element.hidden && over.element !== element;
+  const middle = place ?? (isOver ? middleOf(over.element) : { x: desktop.clientWidth / 2, y: desktop.clientHeight / 2 });
   put(element, middle.x - element.offsetWidth / 2, middle.y - element.offsetHeight / 2);
 }
 
@@ -108,7 +107,7 @@ function setScreen(screen, values) {
   screen.modal = values.modal;
   screen.title.textContent = values.caption;
   screen.element.hidden = !values.visible;
-  screen.element.setAttribute('aria-modal', values.modal);
+  if (!screen.isScene) screen.element.setAttribute('aria-modal', values.modal);
   screen.element.classList.toggle('active', values.active);
   if (values.active) document.title = values.caption === 'Orvane' ? 'Orvane' : `${values.caption} - Orvane`;
   if (comes) screen.comes = true;
@@ -209,6 +208,7 @@ export function makeDialog(className, title, closed) {
   close.textContent = '×';
   close.addEventListener('click', closed);
   element.addEventListener('cancel', (event) => {
+    if (event.target !== element) return; // a choice of files that was broken off
     event.preventDefault();
     closed();
   });
@@ -265,7 +265,13 @@ export function resize() {
   const scale = ask('ScaleFor', desktop.clientWidth * ratio, desktop.clientHeight * ratio, ratio / firstRatio, bare ? 1 : 0, small ? 1 : 0, titleHeight * ratio);
   if (scale <= 0) return;
   const unit = scale / ratio;
-  if (unit !== shownScale) document.documentElement.style.setProperty('--u', unit);
+  if (unit !== shownScale) {
+    // What stands keeps its middle.
+    const standing = [...screens.values()].filter((screen) => screen.shown && !screen.comes);
+    const middles = standing.map(({ element }) => middleOf(element));
+    document.documentElement.style.setProperty('--u', unit);
+    standing.forEach(({ element }, i) => center(element, middles[i]));
+  }
   shownScale = unit;
   document.documentElement.dataset.scale = scale;
 }

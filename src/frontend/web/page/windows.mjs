@@ -1,6 +1,6 @@
 // The windows of the screens and the message boxes, on the page's desktop.
 import { ask, send } from './game.mjs';
-import { make, paint, setControl, targetOf } from './controls.mjs';
+import { make, makeButton, paint, setControl, targetOf } from './controls.mjs';
 import { makeMenus, setMenuItem } from './menus.mjs';
 
 const desktop = document.getElementById('desktop');
@@ -34,22 +34,23 @@ export function describe(nature) {
   }
 }
 
+// The title bar of a window, with its close control.
+function makeTitle(element, closed, moved) {
+  const bar = make('header', 'title', element);
+  const title = make('h2', '', bar);
+  title.id = `title${++front}`;
+  element.setAttribute('aria-labelledby', title.id);
+  makeButton('close', bar, '×', closed, '閉じる').tabIndex = -1;
+  drag(bar, element, moved);
+  return title;
+}
+
 function makeWindow(screen) {
   const element = make('section', 'window', desktop);
   element.dataset.name = screen.name;
   element.setAttribute('role', screen.isScene ? 'region' : 'dialog');
   element.classList.toggle('scene', screen.isScene);
-  const bar = make('header', 'title', element);
-  screen.title = make('h2', '', bar);
-  screen.title.id = `s${screen.id}-title`;
-  element.setAttribute('aria-labelledby', screen.title.id);
-  const close = make('button', 'close', bar);
-  close.type = 'button';
-  close.tabIndex = -1;
-  close.setAttribute('aria-label', '閉じる');
-  close.textContent = '×';
-  close.addEventListener('click', () => send('Close', screen.id));
-  drag(bar, element, (place) => (screen.place = place));
+  screen.title = makeTitle(element, () => send('Close', screen.id), (place) => (screen.place = place));
   const menus = [...screen.controls.values()].filter((control) => control.kind === 'menu');
   if (menus.length) makeMenus(screen, menus, element);
   screen.client = make('div', 'client', element);
@@ -196,23 +197,12 @@ function followBoxes(standing) {
 // A dialog with a title, as boxes and the page's own dialogs have it.
 export function makeDialog(className, title, closed) {
   const element = make('dialog', className, document.body);
-  const bar = make('header', 'title', element);
-  const heading = make('h2', '', bar);
-  heading.id = `d${++front}`;
-  heading.textContent = title;
-  element.setAttribute('aria-labelledby', heading.id);
-  const close = make('button', 'close', bar);
-  close.type = 'button';
-  close.tabIndex = -1;
-  close.setAttribute('aria-label', '閉じる');
-  close.textContent = '×';
-  close.addEventListener('click', closed);
+  makeTitle(element, closed, () => {}).textContent = title;
   element.addEventListener('cancel', (event) => {
     if (event.target !== element) return; // a choice of files that was broken off
     event.preventDefault();
     closed();
   });
-  drag(bar, element, () => {});
   return element;
 }
 
@@ -239,11 +229,7 @@ function makeBox(box) {
   element.setAttribute('aria-describedby', text.id);
   const choices = make('div', 'choices', element);
   for (const { caption, answer } of box.choices) {
-    const button = make('button', 'push', choices);
-    button.type = 'button';
-    button.textContent = caption;
-    button.dataset.answer = answer;
-    button.addEventListener('click', () => send('Answer', answer));
+    makeButton('push', choices, caption, () => send('Answer', answer)).dataset.answer = answer;
   }
   element.showModal();
   choices.firstChild.focus();

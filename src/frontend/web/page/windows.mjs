@@ -209,6 +209,7 @@ export function makeDialog(className, title, closed) {
   close.textContent = '×';
   close.addEventListener('click', closed);
   element.addEventListener('cancel', (event) => {
+    if (event.target !== element) return; // a choice of files that was broken off
     event.preventDefault();
     closed();
   });

@@ -36,16 +36,15 @@ for (const [device, viewport] of Object.entries(devices)) {
     const game = await open({ viewport, query: '?seed=26' });
     mkdirSync(seen, { recursive: true });
     const shot = (name) => game.page.screenshot({ path: join(seen, `${device.replace(' ', '-')}-${name}.png`) });
-    const tap = async (name) => (await game.find(name)).tap();
     await assertFits(game, 'title');
     await shot('title');
-    await tap('Main.Command1');
-    await tap('InputName.Text1(0)');
+    await game.click('Main.Command1');
+    await game.click('InputName.Text1(0)');
     await game.page.keyboard.type('カイ');
-    await tap('InputName.Text1(1)');
+    await game.click('InputName.Text1(1)');
     await game.page.keyboard.type('リナ');
     await assertFits(game, 'names');
-    await tap('InputName.OKButton');
+    await game.click('InputName.OKButton');
     await until('the end of the scene', async () => {
       const on = await game.page.evaluate(() => document.querySelector('[data-name=m2]')?.disabled === false);
       if (on) return true;

@@ -82,6 +82,7 @@ export async function bring(game, path, into) {
   await openSlots(game);
   const dialog = await game.page.$('dialog[data-name=Slots]');
   const button = into ? await dialog.$(`li[data-name="${into}"] button:last-of-type`) : await pressable(dialog, 'まとめて読み込む');
+  await dialog.$eval('.message', (element) => element.replaceChildren()); // what it said of the file before
   const [chooser] = await Promise.all([game.page.waitForFileChooser(), button.click()]);
   await chooser.accept([path]);
   const message = await until('a word', () => dialog.$eval('.message', (element) => element.textContent));

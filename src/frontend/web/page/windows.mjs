@@ -108,7 +108,7 @@ function setScreen(screen, values) {
   screen.modal = values.modal;
   screen.title.textContent = values.caption;
   screen.element.hidden = !values.visible;
-  screen.element.setAttribute('aria-modal', values.modal);
+  if (!screen.isScene) screen.element.setAttribute('aria-modal', values.modal);
   screen.element.classList.toggle('active', values.active);
   if (values.active) document.title = values.caption === 'Orvane' ? 'Orvane' : `${values.caption} - Orvane`;
   if (comes) screen.comes = true;

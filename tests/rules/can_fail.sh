@@ -23,7 +23,7 @@ passes() {
 tree() {
   rm -rf "$trial/src"
   for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
-    frontend/desktop; do
+    frontend/desktop frontend/web; do
     mkdir -p "$trial/src/$floor"
     printf '#include <string>\n' >"$trial/src/$floor/a.h"
     printf '#include "src/%s/a.h"\n' "$floor" >"$trial/src/$floor/a.cpp"

@@ -28,6 +28,7 @@ may_include() {
     frontend/shared) echo "$plain game" ;;
     frontend/script) echo "$plain field battle screens ending game frontend/shared" ;;
     frontend/desktop) echo "$plain field battle screens ending game sound frontend/shared" ;;
+    frontend/web) echo "$plain game frontend/shared" ;;
   esac
 }
 
@@ -61,6 +62,7 @@ may_name() {
     platform/durable_file.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
+    frontend/web/main.cpp) echo "emscripten.h" ;;
   esac
 }
 
@@ -78,7 +80,7 @@ floor_of() {
 }
 
 for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
-  frontend/desktop; do
+  frontend/desktop frontend/web; do
   [ -d "$floor" ] || continue
   allowed=" $floor $(may_include "$floor") "
   while IFS=: read -r file line include; do

@@ -37,18 +37,18 @@ class Mirror {
   struct ShownControl {
     Control* Model = nullptr;
     int Screen = 0;
-    std::string Values;
-    SurfaceCopy Picture;
-    std::vector<uint32_t> Part;  // what has changed of it, as a canvas takes it
-    std::string Words;           // what screen readers have been told is on it
+    std::string Values{};
+    SurfaceCopy Picture{};
+    std::vector<uint32_t> Part{};  // what has changed of it, as a canvas takes it
+    std::string Words{};           // what screen readers have been told is on it
   };
   struct ShownScreen {
     orvane::Screen* Model = nullptr;
-    std::string Values;
+    std::string Values{};
     bool Visible = false;
-    SurfaceCopy Surface;
-    std::vector<uint32_t> Part;
-    std::string Words;
+    SurfaceCopy Surface{};
+    std::vector<uint32_t> Part{};
+    std::string Words{};
   };
 
   void FollowScreens(std::string& out);

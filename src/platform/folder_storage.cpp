@@ -11,7 +11,8 @@ namespace orvane {
 
 std::string FolderStorage::FolderName() const {
   std::string text = TextOf(path_);
-  while (text.size() > 1 && text.back() == '/') text.pop_back();
+  constexpr auto separator = static_cast<char>(std::filesystem::path::preferred_separator);
+  while (text.size() > 1 && (text.back() == '/' || text.back() == separator)) text.pop_back();
   return text;
 }
 

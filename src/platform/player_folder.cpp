@@ -4,6 +4,7 @@
 
 #include "src/platform/durable_file.h"
 #include "src/platform/path_text.h"
+#include "src/platform/system_message.h"
 #include "src/platform/whole_file.h"
 
 namespace orvane {
@@ -26,14 +27,14 @@ std::string PreparePlayerFolder(const std::filesystem::path& installed,
                                 const std::filesystem::path& own) {
   std::error_code failed;
   std::filesystem::create_directories(own, failed);
-  if (failed) return "cannot make the folder " + TextOf(own) + ": " + failed.message();
+  if (failed) return "cannot make the folder " + TextOf(own) + ": " + SystemMessage(failed);
   auto entries = std::filesystem::recursive_directory_iterator(installed, failed);
   for (; !failed && entries != std::filesystem::recursive_directory_iterator();
        entries.increment(failed)) {
     const auto to = own / entries->path().lexically_relative(installed);
     if (entries->is_directory()) {
       std::filesystem::create_directories(to, failed);
-      if (failed) return "cannot make the folder " + TextOf(to) + ": " + failed.message();
+      if (failed) return "cannot make the folder " + TextOf(to) + ": " + SystemMessage(failed);
       continue;
     }
     const auto bytes = ReadWholeFile(entries->path());
@@ -42,7 +43,7 @@ std::string PreparePlayerFolder(const std::filesystem::path& installed,
     if (const std::string failure = ReplaceFileDurably(to, *bytes); !failure.empty())
       return "cannot write " + TextOf(to) + ": " + failure;
   }
-  if (failed) return "cannot read the folder " + TextOf(installed) + ": " + failed.message();
+  if (failed) return "cannot read the folder " + TextOf(installed) + ": " + SystemMessage(failed);
   return {};
 }
 

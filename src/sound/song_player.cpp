@@ -57,7 +57,7 @@ void SongPlayer::Step(Synth* synth) {
 void SongPlayer::SendDue(Synth& synth) {
   if (fresh_) {
     synth.ReleaseKeys(bank_);
-    synth.Reset(bank_);
+    synth.Begin(bank_, *piece_);
     fresh_ = false;
   }
   const std::vector<SongEvent>& events = piece_->Notes.Events;

@@ -1,19 +1,12 @@
 // Plays a piece of music on its channel.
 #pragma once
 
-#include <atomic>
 #include <memory>
 
-#include "src/sound/song.h"
+#include "src/sound/piece.h"
 #include "src/sound/synth.h"
 
 namespace orvane {
-
-// A piece that is open. It starts when its instruments have been read, or are known to be missing.
-struct Piece {
-  Song Notes;
-  std::atomic<bool> Ready = false;
-};
 
 // Music is kept going by a caller that asks now and then whether the piece has ended and, if so,
 // starts it over, which comes too late for the next bar. So a piece counts as ended shortly before

@@ -14,7 +14,6 @@
 #include "src/sound/output.h"
 #include "src/sound/play_log.h"
 #include "src/sound/recorder.h"
-#include "src/sound/sound_font.h"
 
 namespace orvane {
 namespace {
@@ -55,6 +54,16 @@ std::string FollowerOf(size_t channel, const std::string& path) {
   const char* next = FightMusicAfter(AliasOf(channel));
   if (next == nullptr) return "";
   return TextOf(PathOf(path).replace_filename(PathOf(SoundFile(next))));
+}
+
+// The piece that the bytes of a file are; null if they are none.
+std::shared_ptr<Piece> ReadPiece(const std::vector<std::uint8_t>& file, const std::string& path) {
+  std::optional<Song> song = ReadSong(file);
+  if (!song) return nullptr;
+  auto piece = std::make_shared<Piece>();
+  piece->Notes = *std::move(song);
+  piece->Name = TextOf(PathOf(path).stem());
+  return piece;
 }
 
 }  // namespace
@@ -119,8 +128,7 @@ void SoundEngine::Machine::OpenSynth() {
   // A font that is not heard is not worth its memory.
   if (synth_asked_ || !audible_) return;
   synth_asked_ = true;
-  const std::string font = options_.FontFile.empty() ? FindSoundFont() : options_.FontFile;
-  if (!font.empty()) synth_ = Synth::Load(font, SoundEngine::Rate);
+  synth_ = Synth::Load(options_.FontFile, SoundEngine::Rate);
   mixer_.UseSynth(synth_.get());
 }
 
@@ -129,11 +137,10 @@ void SoundEngine::Machine::Prepare(Piece& piece, const std::string& follower) {
   if (synth_) {
     // Now, as the field's first bar may wait a moment and a battle's may not; and first, as what
     // was kept first is the first to go.
-    if (const std::optional<Song> next =
-            follower.empty() ? std::nullopt : ReadSong(ReadSound(follower))) {
-      for (const Patch& patch : PatchesOf(*next)) synth_->Keep(patch);
+    if (const auto next = follower.empty() ? nullptr : ReadPiece(ReadSound(follower), follower)) {
+      synth_->Prepare(*next);
     }
-    for (const Patch& patch : PatchesOf(piece.Notes)) synth_->Keep(patch);
+    synth_->Prepare(piece);
   }
   piece.Ready.store(true, std::memory_order_release);
 }
@@ -142,9 +149,7 @@ bool SoundEngine::Machine::Open(size_t channel, const std::string& path) {
   const std::vector<std::uint8_t> file = ReadSound(path);
   if (file.empty()) return false;
   const auto number = static_cast<int>(channel);
-  if (std::optional<Song> song = ReadSong(file)) {
-    auto piece = std::make_shared<Piece>();
-    piece->Notes = std::move(*song);
+  if (const auto piece = ReadPiece(file, path)) {
     mixer_.Open(number, std::shared_ptr<const Piece>(piece));
     jobs_.Post([this, piece, next = FollowerOf(channel, path)] { Prepare(*piece, next); });
   } else if (std::shared_ptr<const Clip> clip = ReadClip(file, SoundEngine::Rate)) {

@@ -59,7 +59,8 @@ breaks_order() {
 # Headers of systems and libraries that single files or folders are there for.
 may_name() {
   case "$1" in
-    platform/durable_file.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
+    platform/posix/durable_file.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
+    platform/windows/windows_api.h) echo "windows.h shellapi.h" ;;
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
     frontend/web/main.cpp) echo "emscripten.h" ;;

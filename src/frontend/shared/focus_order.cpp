@@ -107,6 +107,19 @@ Control* FocusOrder::Follow(Control* before) {
   return Choose(before);
 }
 
+Control* FocusOrder::Next(const Control* from, int step) const {
+  const auto count = static_cast<int>(stops_.size());
+  const auto found = std::find(stops_.begin(), stops_.end(), from);
+  int at = step > 0 ? -1 : count;
+  if (found != stops_.end()) at = static_cast<int>(found - stops_.begin());
+  for (int tries = 0; tries < count; ++tries) {
+    at = (at + step + count) % count;
+    Control* stop = stops_[static_cast<size_t>(at)];
+    if (IsUsable(*stop)) return stop;
+  }
+  return nullptr;
+}
+
 Control* FocusOrder::Neighbour(const Control& from, Direction direction) const {
   std::vector<Control*> others;
   std::vector<Rect> boxes;

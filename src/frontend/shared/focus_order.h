@@ -33,6 +33,10 @@ class FocusOrder {
   // again. Null while nothing can be used.
   Control* Follow(Control* before);
 
+  // The control that Tab leads to from another, or with a step of -1 Shift and Tab, round and
+  // round; from null the first or the last one. Null while nothing can be used.
+  Control* Next(const Control* from, int step) const;
+
   // The control that lies next to another in a direction, or null where there is none.
   Control* Neighbour(const Control& from, Direction direction) const;
 

@@ -8,7 +8,7 @@ namespace orvane {
 
 double GameSpeed(const char* text) {
   constexpr double fastest = 1000;
-  const double speed = text == nullptr ? 1 : std::atof(text);
+  const double speed = text == nullptr ? 1 : std::strtod(text, nullptr);
   // What is no number at all does not count either.
   return speed >= 1 ? std::min(speed, fastest) : 1;
 }

@@ -143,8 +143,8 @@ EXPORT int Serve(double most) {
   return Game().Serve(most);
 }
 
-// A tick of a timer that is on, by the names of its screen and its own, whenever it would be due: so a
-// recorded game is repeated. 0 where there is no such tick.
+// A tick of a timer that is on, by the names of its screen and its own, whenever it would be due:
+// so a recorded game is repeated. 0 where there is no such tick.
 EXPORT int Tick(const char* screen_name, const char* name) {
   const Screen* screen = Game().TheProgram().TheStage().Find(screen_name);
   auto* timer = screen == nullptr ? nullptr : dynamic_cast<Timer*>(screen->Find(name));

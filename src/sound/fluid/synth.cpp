@@ -3,24 +3,13 @@
 #include <fluidsynth.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <vector>
+
+#include "src/sound/sound_font.h"
 
 namespace orvane {
-
-struct SynthHandles {
-  fluid_settings_t* Settings = nullptr;
-  fluid_synth_t* Voices = nullptr;
-  int Font = FLUID_FAILED;
-
-  SynthHandles() = default;
-  SynthHandles(const SynthHandles&) = delete;
-  SynthHandles& operator=(const SynthHandles&) = delete;
-  ~SynthHandles() {
-    if (Voices != nullptr) delete_fluid_synth(Voices);
-    if (Settings != nullptr) delete_fluid_settings(Settings);
-  }
-};
-
 namespace {
 
 constexpr int kBankChannels = 16;
@@ -50,11 +39,41 @@ constexpr std::array<Setting, 5> kFresh = {{{kVolume, 100}, {8, 64}, {10, 64}, {
 
 }  // namespace
 
+struct Synth::Parts {
+  struct Bank {
+    PatchReader Patches;
+    std::array<int, 16> Expression{};
+  };
+
+  Parts() = default;
+  Parts(const Parts&) = delete;
+  Parts& operator=(const Parts&) = delete;
+  ~Parts() {
+    if (Voices != nullptr) delete_fluid_synth(Voices);
+    if (Settings != nullptr) delete_fluid_settings(Settings);
+  }
+
+  // The instrument that the font has in a patch's place.
+  Patch Resolve(const Patch& patch) const;
+  void Select(int channel, const Patch& patch) const;
+  // Reads an instrument and keeps it, and the ones last asked for with it, in memory.
+  void Keep(const Patch& patch);
+
+  fluid_settings_t* Settings = nullptr;
+  fluid_synth_t* Voices = nullptr;
+  int Font = FLUID_FAILED;
+  std::array<Bank, Banks> BankStates{};
+  std::vector<Patch> Kept;   // in the order in which they were asked for
+  std::vector<int> Keepers;  // the channel that keeps each
+};
+
 std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
+  const std::string path = font.empty() ? FindSoundFont() : font;
+  if (path.empty()) return nullptr;
   for (int level = 0; level < LAST_LOG_LEVEL; ++level) {
     fluid_set_log_function(level, nullptr, nullptr);  // sound never complains
   }
-  auto fluid = std::make_unique<SynthHandles>();
+  auto fluid = std::make_unique<Parts>();
   fluid->Settings = new_fluid_settings();
   if (fluid->Settings == nullptr) return nullptr;
   fluid_settings_setnum(fluid->Settings, "synth.sample-rate", rate);
@@ -66,23 +85,23 @@ std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
   fluid_settings_setint(fluid->Settings, "synth.lock-memory", 0);
   fluid->Voices = new_fluid_synth(fluid->Settings);
   if (fluid->Voices == nullptr) return nullptr;
-  fluid->Font = fluid_synth_sfload(fluid->Voices, font.c_str(), 0);
+  fluid->Font = fluid_synth_sfload(fluid->Voices, path.c_str(), 0);
   if (fluid->Font == FLUID_FAILED) return nullptr;
   return std::unique_ptr<Synth>(new Synth(std::move(fluid)));
 }
 
-Synth::Synth(std::unique_ptr<SynthHandles> fluid) : handles_(std::move(fluid)) {
+Synth::Synth(std::unique_ptr<Parts> parts) : parts_(std::move(parts)) {
   for (int channel = 0; channel < kPlayChannels; ++channel) {
     const bool drums = channel % kBankChannels == kDrumChannel;
-    fluid_synth_set_channel_type(handles_->Voices, channel,
+    fluid_synth_set_channel_type(parts_->Voices, channel,
                                  drums ? CHANNEL_TYPE_DRUM : CHANNEL_TYPE_MELODIC);
   }
 }
 
 Synth::~Synth() = default;
 
-Patch Synth::Resolve(const Patch& patch) const {
-  fluid_sfont_t* font = fluid_synth_get_sfont_by_id(handles_->Voices, handles_->Font);
+Patch Synth::Parts::Resolve(const Patch& patch) const {
+  fluid_sfont_t* font = fluid_synth_get_sfont_by_id(Voices, Font);
   const int bank = patch.Bank == kDrumBank ? kDrumBank : 0;
   for (const Patch& choice : {patch, Patch{bank, patch.Program}, Patch{bank, 0}}) {
     if (fluid_sfont_get_preset(font, choice.Bank, choice.Program) != nullptr) return choice;
@@ -90,48 +109,54 @@ Patch Synth::Resolve(const Patch& patch) const {
   return patch;
 }
 
-void Synth::Select(int channel, const Patch& patch) {
-  fluid_synth_program_select(handles_->Voices, channel, handles_->Font, patch.Bank, patch.Program);
+void Synth::Parts::Select(int channel, const Patch& patch) const {
+  fluid_synth_program_select(Voices, channel, Font, patch.Bank, patch.Program);
 }
 
-void Synth::Keep(const Patch& patch) {
-  const std::scoped_lock turn(turn_);
+void Synth::Parts::Keep(const Patch& patch) {
   const Patch wanted = Resolve(patch);
-  const auto found = std::find(kept_.begin(), kept_.end(), wanted);
-  if (found != kept_.end()) {
-    const auto keeper = keepers_.begin() + (found - kept_.begin());
-    std::rotate(keeper, keeper + 1, keepers_.end());
-    std::rotate(found, found + 1, kept_.end());
+  const auto found = std::find(Kept.begin(), Kept.end(), wanted);
+  if (found != Kept.end()) {
+    const auto keeper = Keepers.begin() + (found - Kept.begin());
+    std::rotate(keeper, keeper + 1, Keepers.end());
+    std::rotate(found, found + 1, Kept.end());
     return;
   }
-  int channel = kPlayChannels + static_cast<int>(kept_.size());
-  if (kept_.size() == kKeepers) {
-    channel = keepers_.front();
-    keepers_.erase(keepers_.begin());
-    kept_.erase(kept_.begin());
+  int channel = kPlayChannels + static_cast<int>(Kept.size());
+  if (Kept.size() == kKeepers) {
+    channel = Keepers.front();
+    Keepers.erase(Keepers.begin());
+    Kept.erase(Kept.begin());
   }
   Select(channel, wanted);
-  keepers_.push_back(channel);
-  kept_.push_back(wanted);
+  Keepers.push_back(channel);
+  Kept.push_back(wanted);
+}
+
+void Synth::Prepare(const Piece& piece) {
+  for (const Patch& patch : PatchesOf(piece.Notes)) {
+    const std::scoped_lock turn(turn_);
+    parts_->Keep(patch);
+  }
 }
 
 void Synth::Send(int bank, const SongEvent& event) {
   const int channel = bank * kBankChannels + event.Channel();
-  Bank& state = banks_.at(static_cast<size_t>(bank));
+  Parts::Bank& state = parts_->BankStates.at(static_cast<size_t>(bank));
   if (const std::optional<Patch> patch = state.Patches.Read(event)) {
-    Select(channel, Resolve(*patch));
+    parts_->Select(channel, parts_->Resolve(*patch));
     return;
   }
   const int bend = event.First | (event.Second << 7);
   switch (event.Kind()) {
     case 8:
-      fluid_synth_noteoff(handles_->Voices, channel, event.First);
+      fluid_synth_noteoff(parts_->Voices, channel, event.First);
       break;
     case kNoteOn:
-      fluid_synth_noteon(handles_->Voices, channel, event.First, event.Second);
+      fluid_synth_noteon(parts_->Voices, channel, event.First, event.Second);
       break;
     case 10:
-      fluid_synth_key_pressure(handles_->Voices, channel, event.First, event.Second);
+      fluid_synth_key_pressure(parts_->Voices, channel, event.First, event.Second);
       break;
     case kControl:
       // Bank numbers are the patch reader's, and the modes above would join the channels up.
@@ -139,13 +164,13 @@ void Synth::Send(int bank, const SongEvent& event) {
       if (event.First == kExpression) {
         state.Expression.at(static_cast<size_t>(event.Channel())) = event.Second;
       }
-      fluid_synth_cc(handles_->Voices, channel, event.First, event.Second);
+      fluid_synth_cc(parts_->Voices, channel, event.First, event.Second);
       break;
     case 13:
-      fluid_synth_channel_pressure(handles_->Voices, channel, event.First);
+      fluid_synth_channel_pressure(parts_->Voices, channel, event.First);
       break;
     case 14:
-      fluid_synth_pitch_bend(handles_->Voices, channel, bend);
+      fluid_synth_pitch_bend(parts_->Voices, channel, bend);
       break;
     default:
       break;
@@ -155,44 +180,45 @@ void Synth::Send(int bank, const SongEvent& event) {
 void Synth::ReleaseKeys(int bank) {
   for (int i = 0; i < kBankChannels; ++i) {
     const int channel = bank * kBankChannels + i;
-    fluid_synth_cc(handles_->Voices, channel, kSustain, 0);
-    fluid_synth_all_notes_off(handles_->Voices, channel);
+    fluid_synth_cc(parts_->Voices, channel, kSustain, 0);
+    fluid_synth_all_notes_off(parts_->Voices, channel);
   }
 }
 
-void Synth::Reset(int bank) {
-  banks_.at(static_cast<size_t>(bank)).Patches = PatchReader();
-  banks_.at(static_cast<size_t>(bank)).Expression.fill(127);
+void Synth::Begin(int bank, const Piece& /*piece*/) {
+  Parts::Bank& state = parts_->BankStates.at(static_cast<size_t>(bank));
+  state.Patches = PatchReader();
+  state.Expression.fill(127);
   for (int i = 0; i < kBankChannels; ++i) {
     const int channel = bank * kBankChannels + i;
-    fluid_synth_cc(handles_->Voices, channel, kResetControllers, 0);
+    fluid_synth_cc(parts_->Voices, channel, kResetControllers, 0);
     for (const Setting& fresh : kFresh) {
-      fluid_synth_cc(handles_->Voices, channel, fresh.Control, fresh.Value);
+      fluid_synth_cc(parts_->Voices, channel, fresh.Control, fresh.Value);
     }
-    fluid_synth_pitch_wheel_sens(handles_->Voices, channel, kBendSemitones);
-    fluid_synth_pitch_bend(handles_->Voices, channel, kBendMiddle);
+    fluid_synth_pitch_wheel_sens(parts_->Voices, channel, kBendSemitones);
+    fluid_synth_pitch_bend(parts_->Voices, channel, kBendMiddle);
   }
 }
 
 void Synth::Fade(int bank, float level) {
-  const Bank& state = banks_.at(static_cast<size_t>(bank));
+  const Parts::Bank& state = parts_->BankStates.at(static_cast<size_t>(bank));
   for (int i = 0; i < kBankChannels; ++i) {
     const auto full = static_cast<float>(state.Expression.at(static_cast<size_t>(i)));
-    fluid_synth_cc(handles_->Voices, bank * kBankChannels + i, kExpression,
+    fluid_synth_cc(parts_->Voices, bank * kBankChannels + i, kExpression,
                    static_cast<int>(std::lround(full * level)));
   }
 }
 
 void Synth::Clear(int bank) {
   for (int i = 0; i < kBankChannels; ++i) {
-    fluid_synth_all_sounds_off(handles_->Voices, bank * kBankChannels + i);
-    fluid_synth_unset_program(handles_->Voices, bank * kBankChannels + i);
+    fluid_synth_all_sounds_off(parts_->Voices, bank * kBankChannels + i);
+    fluid_synth_unset_program(parts_->Voices, bank * kBankChannels + i);
   }
 }
 
 void Synth::Render(Block& block) {
   Block voices;
-  fluid_synth_write_float(handles_->Voices, kBlockFrames, voices.data(), 0, 2, voices.data(), 1, 2);
+  fluid_synth_write_float(parts_->Voices, kBlockFrames, voices.data(), 0, 2, voices.data(), 1, 2);
   for (size_t i = 0; i < block.size(); ++i) block[i] += voices[i];
 }
 

@@ -1,6 +1,6 @@
 -- The saved record as it lies on the disk, and the dialogs that move it.
 
-local trimmed = require "lib.things".trimmed
+local trimmed = require "lib.steps".trimmed
 
 local records = {}
 

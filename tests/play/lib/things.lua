@@ -1,18 +1,10 @@
 -- An item file of our own, so that no scenario depends on the game's names and values.
+local steps = require "lib.steps"
+
 local things = {}
 
--- A name as wide as the bag's lists and the file hold it.
-function things.padded(name)
-  return name .. (" "):rep(20 - #name)
-end
-
--- A text without the blanks at its end.
-function things.trimmed(text)
-  return (text:gsub(" +$", ""))
-end
-
 local function record(name, kind, value)
-  return string.pack("<i4c20i4i4", 0, things.padded(name), kind, value)
+  return string.pack("<i4c20i4i4", 0, steps.padded(name, 20), kind, value)
 end
 
 -- Writes fifty records: "Thing NN" of kind 0, but for `changes`, number to { name, kind, value }.

@@ -1,6 +1,8 @@
 local steps = require "lib.steps"
 local things = require "lib.things"
-local padded, trimmed = things.padded, things.trimmed
+local trimmed = steps.trimmed
+
+local function padded(name) return steps.padded(name, 20) end
 
 local none = "なし" .. (" "):rep(18)
 

@@ -1,6 +1,8 @@
 local steps = require "lib.steps"
 local things = require "lib.things"
-local padded, trimmed = things.padded, things.trimmed
+local trimmed = steps.trimmed
+
+local function padded(name) return steps.padded(name, 20) end
 
 local sword, mail, staff, robe, book, potion, elixir, sword_too, swords, odd = 0, 1, 2, 3, 4, 5, 6, 7, 8, 9
 

@@ -1,5 +1,5 @@
 local steps = require "lib.steps"
-local trimmed = require "lib.things".trimmed
+local trimmed = steps.trimmed
 
 local function opened()
   steps.plain_world()

@@ -1,10 +1,10 @@
 #include "src/platform/player_folder.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <fstream>
 
+#include "src/platform/temporary_folder.h"
 #include "src/platform/whole_file.h"
 
 namespace orvane {
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 class PlayerFolderTest : public testing::Test {
  protected:
   PlayerFolderTest()
-      : base_(fs::temp_directory_path() / ("orvane-player-" + std::to_string(getpid()))),
+      : base_(MakeTemporaryFolder("orvane-player-")),
         installed_(base_ / "share" / "game"),
         own_(base_ / "home" / "data" / "game") {
     Write(installed_ / "Item.dat", "items");

@@ -9,7 +9,7 @@ TEST(ProgramPath, IsTheFileOfTheRunningProgram) {
   const auto path = ProgramPath();
   EXPECT_TRUE(path.is_absolute());
   EXPECT_TRUE(std::filesystem::is_regular_file(path));
-  EXPECT_EQ(path.filename(), "orvane-unit");
+  EXPECT_EQ(path.stem(), "orvane-unit");
 }
 
 }  // namespace

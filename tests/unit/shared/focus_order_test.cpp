@@ -48,6 +48,17 @@ TEST_F(FocusOrderTest, BeginsWithWhatAsksForAnAnswerOrElseWithTheFirst) {
   EXPECT_EQ(order_.Begin(), nullptr);
 }
 
+TEST_F(FocusOrderTest, TabGoesRoundThroughWhatCanBeUsed) {
+  desk_.Speed.Enabled = false;
+  EXPECT_EQ(order_.Next(&desk_.Things, 1), &desk_.Button);
+  EXPECT_EQ(order_.Next(&desk_.Button, -1), &desk_.Things);
+  EXPECT_EQ(order_.Next(&desk_.First, 1), &desk_.Things) << "the second pane is closed";
+  EXPECT_EQ(order_.Next(nullptr, 1), &desk_.Things);
+  EXPECT_EQ(order_.Next(nullptr, -1), &desk_.First);
+  for (Control* stop : order_.Stops()) stop->Enabled = false;
+  EXPECT_EQ(order_.Next(nullptr, 1), nullptr);
+}
+
 TEST_F(FocusOrderTest, StaysWhereItCan) {
   EXPECT_EQ(order_.Follow(&desk_.Button), &desk_.Button);
 }

@@ -3,14 +3,15 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
+#include "src/platform/path_text.h"
 #include "src/ui/screen.h"
 #include "src/ui/stage.h"
 #include "src/ui/timer.h"
+#include "tests/unit/environment.h"
 
 namespace orvane {
 namespace {
@@ -33,8 +34,8 @@ class TickTimesTest : public testing::Test {
   ~TickTimesTest() override { ClearEnvironment(); }
 
   static void ClearEnvironment() {
-    unsetenv("ORVANE_SPEED");
-    unsetenv("ORVANE_TICKS");
+    test::SetVariable("ORVANE_SPEED", "");
+    test::SetVariable("ORVANE_TICKS", "");
   }
 
   // Serves so many ticks, each as soon as it is due; returns the real ms that they take.
@@ -77,15 +78,15 @@ TEST_F(TickTimesTest, ATickThatIsLateComesAtOnceAndOnce) {
 }
 
 TEST_F(TickTimesTest, HurriesAsManyTimesAsItIsAskedTo) {
-  setenv("ORVANE_SPEED", "100", 1);
+  test::SetVariable("ORVANE_SPEED", "100");
   screen_.Slow.SetEnabled(true);
   EXPECT_EQ(Serve(2), 40);
 }
 
 TEST_F(TickTimesTest, LogsEachTickWithItsPeriodAndTimeOfTheGame) {
   const auto name = std::filesystem::path(testing::TempDir()) / "orvane_ticks.txt";
-  setenv("ORVANE_TICKS", name.c_str(), 1);
-  setenv("ORVANE_SPEED", "100", 1);
+  test::SetVariable("ORVANE_TICKS", TextOf(name));
+  test::SetVariable("ORVANE_SPEED", "100");
   screen_.Slow.SetEnabled(true);
   screen_.Paced.SetEnabled(true);
   Serve(40);
@@ -109,6 +110,7 @@ TEST_F(TickTimesTest, LogsEachTickWithItsPeriodAndTimeOfTheGame) {
       paced_before = time;
     }
   }
+  log.close();
   std::filesystem::remove(name);
   EXPECT_EQ(slow_count + paced_count, 40);
   EXPECT_GE(slow_count, 1);
@@ -116,7 +118,7 @@ TEST_F(TickTimesTest, LogsEachTickWithItsPeriodAndTimeOfTheGame) {
 }
 
 TEST_F(TickTimesTest, GoesOnWithoutALogThatCannotBeWritten) {
-  setenv("ORVANE_TICKS", "/nowhere/at/all/ticks.txt", 1);
+  test::SetVariable("ORVANE_TICKS", "/nowhere/at/all/ticks.txt");
   screen_.Paced.SetEnabled(true);
   EXPECT_EQ(Serve(1), 60);
 }

@@ -1,11 +1,10 @@
 #include "tests/unit/sound/sound_files.h"
 
-#include <unistd.h>
-
-#include <atomic>
 #include <cmath>
 #include <fstream>
 #include <numbers>
+
+#include "src/platform/temporary_folder.h"
 
 namespace orvane::test {
 
@@ -86,10 +85,7 @@ std::vector<std::int16_t> Tone(double hertz, int rate, double seconds, double le
   return samples;
 }
 
-Folder::Folder() {
-  static std::atomic<int> count = 0;
-  path_ = std::filesystem::temp_directory_path() /
-          ("orvane-sound-" + std::to_string(getpid()) + "-" + std::to_string(++count));
+Folder::Folder() : path_(MakeTemporaryFolder("orvane-sound-")) {
   std::filesystem::create_directories(path_ / "Sound");
 }
 

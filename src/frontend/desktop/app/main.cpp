@@ -20,6 +20,7 @@
 #include "src/frontend/shared/options.h"
 #include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
+#include "src/platform/arguments.h"
 #include "src/platform/folder_storage.h"
 #include "src/sound/sound_engine.h"
 
@@ -123,7 +124,7 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
 
 int main(int argument_count, char** arguments) {
   try {
-    const Options options = ReadOptions({arguments + 1, arguments + argument_count});
+    const Options options = ReadOptions(ProgramArguments(argument_count, arguments));
     if (!options.Error.empty()) {
       Complain(options.Error);
       return kBadCommandLine;

@@ -3,19 +3,11 @@
 
 #include <optional>
 
-#include "src/frontend/shared/pad_state.h"
+#include "src/frontend/shared/pad_source.h"
 
 struct _SDL_GameController;  // SDL's own name
 
 namespace orvane {
-
-// Where a pad's state comes from.
-class PadSource {
- public:
-  virtual ~PadSource() = default;
-  // What is held down now; nothing while no pad is plugged in.
-  virtual std::optional<PadState> Read() = 0;
-};
 
 // The first pad that SDL knows how to read; pads may come and go at any time.
 class PadDevice : public PadSource {

@@ -1,14 +1,14 @@
 #include "src/frontend/desktop/views/button_view.h"
 
 #include <QKeyEvent>
-#include <QRegularExpression>
 #include <QStyleOptionButton>
 #include <QStylePainter>
-#include <algorithm>
+#include <string>
 
 #include "src/frontend/desktop/input/keyboard.h"
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/caption_fit.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -20,7 +20,7 @@ class Button : public QPushButton {
   using QPushButton::QPushButton;
 
   void SetCaption(const std::string& caption) {
-    caption_ = ToQtCaption(caption);
+    caption_ = caption;
     Fit();
   }
 
@@ -42,22 +42,16 @@ class Button : public QPushButton {
   // The game has buttons of a text line's height, whose text is made small enough, and narrow ones,
   // whose text is broken where it has a blank.
   void Fit() {
-    constexpr int frame = 2;
     constexpr int margin = 4;
     QFont face = DefaultFont();
-    const int room = std::max(6, height() - 2 * frame + 2);
-    if (room < face.pixelSize()) face.setPixelSize(room);
+    face.setPixelSize(CaptionSize(face.pixelSize(), height()));
     setFont(face);
-    QString text = caption_;
-    static const QRegularExpression blanks("\\s+", QRegularExpression::UseUnicodePropertiesOption);
-    if (fontMetrics().horizontalAdvance(text) > width() - 2 * margin) {
-      const qsizetype at = text.lastIndexOf(blanks);
-      if (at > 0) text = text.left(at).trimmed() + '\n' + text.mid(at).trimmed();
-    }
-    setText(text);
+    const QString text = ToQtCaption(caption_);
+    const bool is_too_wide = fontMetrics().horizontalAdvance(text) > width() - 2 * margin;
+    setText(is_too_wide ? ToQtCaption(InTwoLines(caption_)) : text);
   }
 
-  QString caption_;
+  std::string caption_;
 };
 
 }  // namespace

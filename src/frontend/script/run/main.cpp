@@ -8,6 +8,7 @@
 
 #include "src/frontend/script/run/script_file.h"
 #include "src/frontend/script/run/tally.h"
+#include "src/platform/arguments.h"
 #include "src/platform/path_text.h"
 #include "src/platform/program_path.h"
 
@@ -41,7 +42,7 @@ Arguments Read(const std::vector<std::string>& words) {
 }  // namespace
 
 int main(int count, char** words) {
-  const Arguments arguments = Read({words + 1, words + count});
+  const Arguments arguments = Read(orvane::ProgramArguments(count, words));
   if (arguments.Wrong) {
     std::fputs(kUsage, stderr);
     return kCannotRun;

@@ -1,12 +1,12 @@
 #include "src/frontend/script/run/scratch_folder.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <system_error>
 
 #include "src/frontend/script/names/value.h"
 #include "src/frontend/script/run/script_error.h"
 #include "src/platform/path_text.h"
+#include "src/platform/temporary_folder.h"
 
 namespace orvane {
 namespace {
@@ -16,17 +16,31 @@ namespace files = std::filesystem;
 // Files from this size on are linked to: sounds, of which a start would otherwise copy megabytes.
 constexpr uintmax_t kLinkedSize = 65536;
 
-files::path MakeTemporaryFolder() {
-  std::string path = TextOf(files::temp_directory_path() / "orvane-script-XXXXXX");
-  if (mkdtemp(path.data()) == nullptr) throw ScriptError("a scratch folder", "no way to make one");
-  return files::canonical(PathOf(path));
+files::path MakeFolder() {
+  try {
+    return MakeTemporaryFolder("orvane-script-");
+  } catch (const files::filesystem_error&) {
+    throw ScriptError("a scratch folder", "no way to make one");
+  }
+}
+
+// Links to a file, by the kind of link that the system has to give; false where it has none.
+bool Link(const files::path& from, const files::path& to) {
+  std::error_code failed;
+  files::create_symlink(files::canonical(from), to, failed);
+  if (failed) files::create_hard_link(files::canonical(from), to, failed);
+  return !failed;
+}
+
+bool IsLink(const files::path& path) {
+  std::error_code failed;
+  if (files::is_symlink(path, failed)) return true;
+  const auto names = files::hard_link_count(path, failed);
+  return !failed && names > 1;
 }
 
 void CopyFile(const files::path& from, const files::path& to) {
-  if (files::file_size(from) >= kLinkedSize) {
-    files::create_symlink(files::canonical(from), to);
-    return;
-  }
+  if (files::file_size(from) >= kLinkedSize && Link(from, to)) return;
   files::copy_file(from, to);
   files::permissions(to, files::perms::owner_write, files::perm_options::add);
 }
@@ -49,7 +63,7 @@ ScratchFolder::ScratchFolder(const files::path& original) {
   if (!files::is_directory(original)) {
     throw ScriptError("a game folder", "none at " + Quoted(TextOf(original)));
   }
-  path_ = MakeTemporaryFolder();
+  path_ = MakeFolder();
   files_ = std::make_unique<ScriptStorage>(path_);
   try {
     CopyFolder(original, path_);
@@ -67,7 +81,7 @@ ScratchFolder::~ScratchFolder() {
 
 files::path ScratchFolder::Inside(const std::string& name) const {
   const files::path path = PathOf(name).lexically_normal();
-  const bool leads_out = path.is_absolute() || (!path.empty() && *path.begin() == "..");
+  const bool leads_out = path.has_root_path() || (!path.empty() && *path.begin() == "..");
   if (name.empty() || leads_out) throw ScriptError("a name in the game folder", Quoted(name));
   return path_ / path;
 }
@@ -80,7 +94,7 @@ std::optional<std::string> ScratchFolder::Read(const std::string& name) const {
 void ScratchFolder::Write(const std::string& name, const std::string& bytes) {
   const files::path path = Inside(name);
   std::error_code ignored;
-  if (files::is_symlink(path, ignored)) files::remove(path, ignored);
+  if (IsLink(path)) files::remove(path, ignored);
   files::create_directories(path.parent_path(), ignored);
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -7,7 +7,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <optional>
-#include <system_error>
+
+#include "src/platform/system_message.h"
 
 namespace orvane {
 namespace {
@@ -50,10 +51,6 @@ void FlushFolderOf(const std::string& path) {
   close(handle);
 }
 
-std::string WhatTheSystemSays(int error) {
-  return std::generic_category().message(error);
-}
-
 }  // namespace
 
 std::string ReplaceFileDurably(const std::filesystem::path& path, const std::string& bytes) {
@@ -63,14 +60,14 @@ std::string ReplaceFileDurably(const std::filesystem::path& path, const std::str
   if (stat(name.c_str(), &old) == 0) {
     // A rename would not ask the old file. One that nobody may write is locked for root as well.
     if ((old.st_mode & kAnyWrite) == 0 || faccessat(AT_FDCWD, name.c_str(), W_OK, AT_EACCESS) != 0)
-      return WhatTheSystemSays(EACCES);
+      return SystemMessage(EACCES);
     mode = old.st_mode & kModeBits;
   }
   const std::string fresh = name + ".new";
   if (!WriteAndFlush(fresh, bytes, mode) || std::rename(fresh.c_str(), name.c_str()) != 0) {
     const int reason = errno;
     unlink(fresh.c_str());
-    return WhatTheSystemSays(reason);
+    return SystemMessage(reason);
   }
   FlushFolderOf(name);
   return {};

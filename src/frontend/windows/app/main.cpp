@@ -1,0 +1,85 @@
+// The game on Windows: orvane [options], see --help.
+#include <cstdlib>
+#include <exception>
+#include <string>
+
+#include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/options.h"
+#include "src/frontend/windows/app/boxes.h"
+#include "src/frontend/windows/app/front.h"
+#include "src/frontend/windows/app/home.h"
+#include "src/frontend/windows/app/instance.h"
+#include "src/frontend/windows/paint/fonts.h"
+#include "src/game/program.h"
+#include "src/platform/arguments.h"
+#include "src/platform/folder_storage.h"
+#ifdef ORVANE_SOUND
+#include "src/sound/sound_engine.h"
+#else
+#include "src/platform/quiet_services.h"
+#endif
+
+namespace {
+
+using namespace orvane;
+
+constexpr int kBadCommandLine = 2;
+
+void PrepareControls() {
+  const INITCOMMONCONTROLSEX kinds = {sizeof kinds,
+                                      ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
+  InitCommonControlsEx(&kinds);
+}
+
+int RunGame(const Options& options) {
+  const Home home = options.Folder ? Home{*options.Folder, {}} : FindHome();
+  const Instance instance(home.Folder);
+  if (!instance.IsFirst()) {
+    instance.CallFirst();
+    return EXIT_SUCCESS;
+  }
+  if (const std::string problem = MakeReady(home); !problem.empty()) {
+    ShowProblem(problem);
+    return EXIT_FAILURE;
+  }
+  if (const std::string hint = Fonts::Hint(); !hint.empty()) ShowProblem(hint);
+#ifdef ORVANE_SOUND
+  SoundEngine sound;
+#else
+  NoSound sound;
+#endif
+  PlayersChance chance(options.Seed);
+  FolderStorage files(home.Folder);
+  Program program({sound, chance, files});
+  Front front(program, options.Scale, instance.Name());
+#ifdef ORVANE_SOUND
+  front.TellOfPainting([&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
+#endif
+  return front.Run();
+}
+
+int Run() {
+  const Options options = ReadOptions(ProgramArguments(0, nullptr));
+  // A program with windows has no terminal.
+  if (!options.Error.empty()) {
+    ShowProblem(options.Error);
+    return kBadCommandLine;
+  }
+  if (options.WantsHelp) {
+    ShowProblem(HelpText());
+    return EXIT_SUCCESS;
+  }
+  return RunGame(options);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE /*program*/, HINSTANCE /*before*/, PWSTR /*line*/, int /*show*/) {
+  PrepareControls();
+  try {
+    return Run();
+  } catch (const std::exception& failure) {
+    ShowProblem(failure.what());
+    return EXIT_FAILURE;
+  }
+}

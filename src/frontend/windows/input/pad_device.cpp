@@ -1,0 +1,59 @@
+#include "src/frontend/windows/input/pad_device.h"
+
+// After the system's first header.
+#include <xinput.h>
+
+#include <utility>
+
+namespace orvane {
+namespace {
+
+constexpr std::pair<WORD, PadButton> kMeanings[] = {
+    {XINPUT_GAMEPAD_DPAD_LEFT, PadButton::Left},
+    {XINPUT_GAMEPAD_DPAD_UP, PadButton::Up},
+    {XINPUT_GAMEPAD_DPAD_RIGHT, PadButton::Right},
+    {XINPUT_GAMEPAD_DPAD_DOWN, PadButton::Down},
+    {XINPUT_GAMEPAD_A, PadButton::Accept},
+    {XINPUT_GAMEPAD_B, PadButton::Back},
+    {XINPUT_GAMEPAD_START, PadButton::Menu},
+    {XINPUT_GAMEPAD_LEFT_SHOULDER, PadButton::Previous},
+    {XINPUT_GAMEPAD_RIGHT_SHOULDER, PadButton::Next},
+};
+
+constexpr DWORD kPads = 4;
+
+using GetState = DWORD(WINAPI*)(DWORD, XINPUT_STATE*);
+
+}  // namespace
+
+PadDevice::PadDevice() {
+  for (const wchar_t* name : {L"xinput1_4.dll", L"xinput9_1_0.dll"}) {
+    library_ = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (library_ != nullptr) break;
+  }
+  if (library_ != nullptr) get_state_ = GetProcAddress(library_, "XInputGetState");
+}
+
+PadDevice::~PadDevice() {
+  if (library_ != nullptr) FreeLibrary(library_);
+}
+
+std::optional<PadState> PadDevice::Read() {
+  constexpr double furthest = 32767;
+  if (get_state_ == nullptr) return std::nullopt;
+  const auto get_state = reinterpret_cast<GetState>(reinterpret_cast<void*>(get_state_));
+  XINPUT_STATE seen{};
+  for (DWORD tries = 0; get_state(pad_, &seen) != ERROR_SUCCESS; ++tries) {
+    if (tries == kPads) return std::nullopt;
+    pad_ = (pad_ + 1) % kPads;
+  }
+  PadState state{};
+  for (const auto& [button, meaning] : kMeanings) {
+    if ((seen.Gamepad.wButtons & button) != 0) state[static_cast<size_t>(meaning)] = true;
+  }
+  // Up is positive there.
+  stick_.Add(seen.Gamepad.sThumbLX / furthest, -seen.Gamepad.sThumbLY / furthest, state);
+  return state;
+}
+
+}  // namespace orvane

@@ -1,0 +1,80 @@
+#include "src/frontend/windows/views/menu_view.h"
+
+#include "src/frontend/windows/system/captions.h"
+#include "src/frontend/windows/windows/events.h"
+#include "src/game/program.h"
+
+namespace orvane {
+namespace {
+
+constexpr UINT kFirstNumber = 1000;
+
+}  // namespace
+
+MenuView::MenuView(const Screen& screen, Events& events) : events_(events) {
+  for (Control* control : screen.Controls()) {
+    if (control->Kind() != ControlKind::Menu) continue;
+    auto& item = static_cast<MenuItem&>(*control);
+    if (item.Parent() == nullptr) {
+      AddTop(item);
+    } else {
+      AddItem(item);
+    }
+  }
+}
+
+void MenuView::AddTop(MenuItem& item) {
+  if (bar_ == nullptr) bar_ = CreateMenu();
+  const HMENU menu = CreatePopupMenu();
+  const auto at = static_cast<UINT>(GetMenuItemCount(bar_));
+  AppendMenuW(bar_, MF_POPUP, reinterpret_cast<UINT_PTR>(menu), WideCaption(item.Caption).c_str());
+  entries_.push_back({&item, bar_, at, menu, item, {}});
+}
+
+void MenuView::AddItem(MenuItem& item) {
+  for (const Entry& entry : entries_) {
+    if (entry.Model != item.Parent()) continue;
+    const HMENU menu = entry.Opens;
+    const auto at = static_cast<UINT>(GetMenuItemCount(menu));
+    AppendMenuW(menu, item.IsSeparator() ? MF_SEPARATOR : MF_STRING, kFirstNumber + entries_.size(),
+                WideCaption(item.Caption).c_str());
+    entries_.push_back({&item, menu, at, nullptr, item, {}});
+    return;
+  }
+}
+
+void MenuView::Follow(HWND window) {
+  bool bar_changed = false;
+  for (Entry& entry : entries_) {
+    const MenuItem& item = *entry.Model;
+    if (entry.SeenCommon.Enabled == item.Enabled && entry.Seen.Caption == item.Caption) continue;
+    entry.SeenCommon = item;
+    entry.Seen = item;
+    std::wstring caption = WideCaption(item.Caption);
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_STATE;
+    if (!item.IsSeparator()) info.fMask |= MIIM_STRING;
+    info.fState = item.Enabled ? MFS_ENABLED : MFS_GRAYED;
+    info.dwTypeData = caption.data();
+    SetMenuItemInfoW(entry.In, entry.At, TRUE, &info);
+    bar_changed = bar_changed || entry.Opens != nullptr;
+  }
+  if (bar_changed) DrawMenuBar(window);
+}
+
+void MenuView::Opened(HMENU menu) {
+  for (const Entry& entry : entries_) {
+    if (entry.Opens != menu) continue;
+    events_.Send([&item = *entry.Model](Program& program) { program.Click(item); });
+    return;
+  }
+}
+
+void MenuView::Chosen(UINT number) {
+  const size_t index = number - kFirstNumber;
+  if (number < kFirstNumber || index >= entries_.size()) return;
+  events_.Send([&item = *entries_[index].Model](Program& program) { program.ClickItem(item); });
+}
+
+}  // namespace orvane

@@ -86,4 +86,4 @@ const party = (level, life, force) => `
 // In the second round, with things and skills to use.
 export const travellers = () => makeSave(`set("Round", 2) set("StoryNo", 24) ${party(19, 800, 400)}`);
 // Just below the dragon of the third round, with blows that no enemy withstands.
-export const beforeDragon = () => makeSave(`${party(60, 30000, 9000)} set("Round", 3) set("StoryNo", 28) set("MapA", 4) set("MapB", 1) steps.put(228, 130)`);
+export const beforeDragon = () => makeSave(`${party(60, 30000, 1000)} set("Round", 3) set("StoryNo", 28) set("MapA", 4) set("MapB", 1) steps.put(228, 130)`);

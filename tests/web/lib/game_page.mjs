@@ -24,6 +24,7 @@ export class GamePage {
     self.page = await browser.newPage();
     self.problems = [];
     self.address = address;
+    self.taps = Boolean(viewport?.hasTouch);
     self.page.on('console', (message) => message.type() === 'error' && self.problems.push(`console: ${message.text()}`));
     self.page.on('pageerror', (error) => self.problems.push(`error: ${error.message}`));
     self.page.on('request', (request) => {
@@ -66,8 +67,13 @@ export class GamePage {
     }, path);
   }
 
+  // By a finger where the display takes one, otherwise by the mouse.
+  press(element) {
+    return this.taps ? element.tap() : element.click();
+  }
+
   async click(name) {
-    await (await this.find(name)).click();
+    await this.press(await this.find(name));
   }
 
   async textOf(name) {
@@ -83,9 +89,14 @@ export class GamePage {
   // A row of a list, as with the mouse.
   async choose(name, row) {
     const list = await this.find(name);
+    if (this.taps) {
+      // A list whose rows are small for a finger is enlarged by the first touch, which chooses nothing.
+      if (!(await list.evaluate((element) => element.classList.contains('large')))) await list.tap();
+      await sleep(500);
+    }
     const options = await list.$$('[role=option]');
     assert.ok(options[row], `${name} has no row ${row}`);
-    await options[row].click();
+    await this.press(options[row]);
   }
 
   rowsOf(name) {
@@ -103,7 +114,7 @@ export class GamePage {
     const text = await box.$eval('p', (element) => element.textContent);
     for (const button of await box.$$('.choices button')) {
       if ((await button.evaluate((element) => element.textContent)) === caption) {
-        await button.click();
+        await this.press(button);
         return text;
       }
     }

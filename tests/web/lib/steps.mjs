@@ -82,11 +82,13 @@ export async function bring(game, path, into) {
   await openSlots(game);
   const dialog = await game.page.$('dialog[data-name=Slots]');
   const button = into ? await dialog.$(`li[data-name="${into}"] button:last-of-type`) : await pressable(dialog, 'まとめて読み込む');
-  await button.click();
-  await (await dialog.$('input[type=file]')).uploadFile(path);
+  await dialog.$eval('.message', (element) => element.replaceChildren()); // what it said of the file before
+  const [chooser] = await Promise.all([game.page.waitForFileChooser(), button.click()]);
+  await chooser.accept([path]);
   const message = await until('a word', () => dialog.$eval('.message', (element) => element.textContent));
   if (!message.includes('置きかえますか')) return message;
-  await (await pressable(dialog, '置きかえる')).click();
+  // In one go: a driver may tell the page of the same file twice, and the button comes anew each time.
+  await dialog.$eval('.message button', (button) => button.click());
   return until('the saves', () => dialog.$eval('.message', (element) => (element.textContent.includes('置きかえますか') ? '' : element.textContent)));
 }
 

@@ -1,6 +1,6 @@
 // What belongs to the page rather than to the game: its bar, notices, and pages at the end.
 import { slots, lasts } from './saves.mjs';
-import { make } from './controls.mjs';
+import { make, makeButton } from './controls.mjs';
 import { remember, remembered } from './memory.mjs';
 import { openSlots, saveAll } from './slots.mjs';
 
@@ -10,11 +10,7 @@ const full = document.getElementById('full');
 // Says something quietly, with what the player can do about it.
 export function tell(sentence, caption, act) {
   notice.replaceChildren(sentence);
-  if (!caption) return;
-  const button = make('button', '', notice);
-  button.type = 'button';
-  button.textContent = caption;
-  button.addEventListener('click', act);
+  if (caption) makeButton('', notice, caption, act);
 }
 
 // One tab plays. Others say so, and begin when they may; whether it has come to that.
@@ -53,12 +49,7 @@ function showPage(title, sentence, ...buttons) {
   make('h1', '', page).textContent = title;
   make('p', '', page).textContent = sentence;
   const row = make('div', 'choices', page);
-  for (const [caption, act] of buttons) {
-    const button = make('button', 'push', row);
-    button.type = 'button';
-    button.textContent = caption;
-    button.addEventListener('click', act);
-  }
+  for (const [caption, act] of buttons) makeButton('push', row, caption, act);
   row.firstChild?.focus();
   return page;
 }

@@ -11,6 +11,16 @@ export function make(kind, className, parent) {
   return element;
 }
 
+// A button that does something, by its caption and, where that does not say enough, its name for screen readers.
+export function makeButton(className, parent, caption, act, label) {
+  const element = make('button', className, parent);
+  element.type = 'button';
+  element.textContent = caption;
+  if (label) element.setAttribute('aria-label', label);
+  element.addEventListener('click', act);
+  return element;
+}
+
 // The width of a text in the pixels of the game.
 const pen = document.createElement('canvas').getContext('2d');
 const family = (face) => getComputedStyle(document.documentElement).getPropertyValue(`--${face}`);
@@ -72,9 +82,7 @@ const kinds = {
   },
   button: {
     make(control) {
-      control.element = make('button', 'push');
-      control.element.type = 'button';
-      control.element.addEventListener('click', () => send('Click', control.id));
+      control.element = makeButton('push', null, '', () => send('Click', control.id));
     },
     set(control, { text, height }) {
       control.element.textContent = text;
@@ -152,15 +160,13 @@ const kinds = {
     },
     set(control, { captions, canOpen, open }) {
       captions.forEach((caption, i) => {
-        const tab = control.tabList.children[i] ?? make('button', 'tab', control.tabList);
+        const tab = control.tabList.children[i] ?? makeButton('tab', control.tabList, '', () => send('SelectTab', control.id, i));
         const pane = paneOf(control, i);
         if (!tab.id) {
-          tab.type = 'button';
           tab.id = `c${control.id}-tab${i}`;
           tab.setAttribute('role', 'tab');
           tab.setAttribute('aria-controls', pane.id);
           pane.setAttribute('aria-labelledby', tab.id);
-          tab.addEventListener('click', () => send('SelectTab', control.id, i));
         }
         tab.textContent = caption;
         tab.disabled = !canOpen[i];

@@ -1,6 +1,6 @@
 // The menu bar of a screen and the menus that hang from it.
 import { send } from './game.mjs';
-import { make } from './controls.mjs';
+import { make, makeButton } from './controls.mjs';
 
 let bar = null; // the one menu bar
 let open = null; // the menu that is open
@@ -25,8 +25,7 @@ export function makeMenus(screen, menus, parent) {
 function makeTop(menu, element) {
   menu.holder = make('div', 'menu', element);
   menu.holder.setAttribute('role', 'none');
-  menu.element = make('button', 'menu-top', menu.holder);
-  menu.element.type = 'button';
+  menu.element = makeButton('menu-top', menu.holder, '', () => (open === menu ? closeMenu() : openMenu(menu)));
   menu.element.tabIndex = -1;
   menu.element.setAttribute('role', 'menuitem');
   menu.element.setAttribute('aria-haspopup', 'menu');
@@ -36,23 +35,20 @@ function makeTop(menu, element) {
   menu.list.hidden = true;
   menu.items = [];
   menu.element.dataset.name = menu.name;
-  menu.element.addEventListener('click', () => (open === menu ? closeMenu() : openMenu(menu)));
   menu.element.addEventListener('pointerenter', (event) => {
     if (open && open !== menu && event.pointerType === 'mouse' && !menu.element.disabled) openMenu(menu);
   });
 }
 
 function makeItem(item, menu) {
-  item.element = make('button', 'menu-item', menu.list);
-  item.element.type = 'button';
-  item.element.tabIndex = -1;
-  item.element.setAttribute('role', 'menuitem');
-  item.element.dataset.name = item.name;
-  item.element.addEventListener('click', () => {
+  item.element = makeButton('menu-item', menu.list, '', () => {
     closeMenu();
     document.activeElement?.blur();
     send('ClickItem', item.id);
   });
+  item.element.tabIndex = -1;
+  item.element.setAttribute('role', 'menuitem');
+  item.element.dataset.name = item.name;
   item.element.addEventListener('pointerenter', (event) => {
     if (event.pointerType === 'mouse') item.element.focus();
   });
@@ -71,8 +67,6 @@ export function setMenuItem(item, values) {
   if (item.element.tagName === 'HR' || !values.visible) return;
   item.element.textContent = values.text;
   item.element.disabled = !values.enabled;
-  const list = item.holder?.parentElement;
-  if (list) item.element.setAttribute('aria-label', values.text);
 }
 
 // The menu's own click runs when it opens.

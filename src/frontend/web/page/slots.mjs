@@ -1,6 +1,6 @@
 // Saves on their way out of the page and into it.
 import { checkSave, fileOf, follow, listSaves, putFile } from './game.mjs';
-import { make } from './controls.mjs';
+import { make, makeButton } from './controls.mjs';
 import { makeDialog } from './windows.mjs';
 import { replace } from './saves.mjs';
 import { readZip, writeZip } from './zip.mjs';
@@ -31,15 +31,6 @@ async function read(file) {
   return saves;
 }
 
-function button(parent, caption, label, act) {
-  const element = make('button', 'push', parent);
-  element.type = 'button';
-  element.textContent = caption;
-  if (label) element.setAttribute('aria-label', label);
-  element.addEventListener('click', act);
-  return element;
-}
-
 // The dialog of all slots, for which the game stands still.
 export function openSlots(pauseFor) {
   const close = () => {
@@ -66,8 +57,8 @@ export function openSlots(pauseFor) {
       row.dataset.name = name;
       make('b', '', row).textContent = name.replace(/\.sav$/i, '');
       make('span', '', row).textContent = summary;
-      button(row, '書き出す', `${name}を書き出す`, () => hand(name, fileOf(name)));
-      button(row, '読み込む', `${name}に読み込む`, () => pick(name));
+      makeButton('push', row, '書き出す', () => hand(name, fileOf(name)), `${name}を書き出す`);
+      makeButton('push', row, '読み込む', () => pick(name), `${name}に読み込む`);
     }
   };
   const pick = (name) => {
@@ -99,12 +90,12 @@ export function openSlots(pauseFor) {
     }
     const targets = wanted ? [[wanted, saves[0][1]]] : saves;
     message.textContent = `${targets.map(([name]) => name).join('、')} を置きかえますか？`;
-    button(message, '置きかえる', '', () => take(targets)).focus();
+    makeButton('push', message, '置きかえる', () => take(targets)).focus();
   });
   const choices = make('div', 'choices', dialog);
-  button(choices, 'すべて書き出す', '', () => saveAll(listSaves().map(({ name }) => [name, fileOf(name)])));
-  button(choices, 'まとめて読み込む', '', () => pick(null));
-  const last = button(choices, '閉じる', '', close);
+  makeButton('push', choices, 'すべて書き出す', () => saveAll(listSaves().map(({ name }) => [name, fileOf(name)])));
+  makeButton('push', choices, 'まとめて読み込む', () => pick(null));
+  const last = makeButton('push', choices, '閉じる', close);
   show();
   pauseFor('slots', true);
   dialog.showModal();

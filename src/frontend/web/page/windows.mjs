@@ -1,6 +1,6 @@
 // The windows of the screens and the message boxes, on the page's desktop.
 import { ask, send } from './game.mjs';
-import { make, paint, setControl, targetOf } from './controls.mjs';
+import { make, makeButton, paint, setControl, targetOf } from './controls.mjs';
 import { makeMenus, setMenuItem } from './menus.mjs';
 
 const desktop = document.getElementById('desktop');
@@ -34,22 +34,23 @@ export function describe(nature) {
   }
 }
 
+// The title bar of a window, with its close control.
+function makeTitle(element, closed, moved) {
+  const bar = make('header', 'title', element);
+  const title = make('h2', '', bar);
+  title.id = `title${++front}`;
+  element.setAttribute('aria-labelledby', title.id);
+  makeButton('close', bar, '×', closed, '閉じる').tabIndex = -1;
+  drag(bar, element, moved);
+  return title;
+}
+
 function makeWindow(screen) {
   const element = make('section', 'window', desktop);
   element.dataset.name = screen.name;
   element.setAttribute('role', screen.isScene ? 'region' : 'dialog');
   element.classList.toggle('scene', screen.isScene);
-  const bar = make('header', 'title', element);
-  screen.title = make('h2', '', bar);
-  screen.title.id = `s${screen.id}-title`;
-  element.setAttribute('aria-labelledby', screen.title.id);
-  const close = make('button', 'close', bar);
-  close.type = 'button';
-  close.tabIndex = -1;
-  close.setAttribute('aria-label', '閉じる');
-  close.textContent = '×';
-  close.addEventListener('click', () => send('Close', screen.id));
-  drag(bar, element, (place) => (screen.place = place));
+  screen.title = makeTitle(element, () => send('Close', screen.id), (place) => (screen.place = place));
   const menus = [...screen.controls.values()].filter((control) => control.kind === 'menu');
   if (menus.length) makeMenus(screen, menus, element);
   screen.client = make('div', 'client', element);
@@ -73,7 +74,7 @@ function drag(bar, element, moved) {
     const begin = { left: element.offsetLeft - down.clientX, top: element.offsetTop - down.clientY };
     const move = (event) => {
       put(element, begin.left + event.clientX, begin.top + event.clientY);
-      moved({ x: element.offsetLeft + element.offsetWidth / 2, y: element.offsetTop + element.offsetHeight / 2 });
+      moved(middleOf(element));
     };
     bar.setPointerCapture(down.pointerId);
     bar.addEventListener('pointermove', move);
@@ -90,13 +91,12 @@ function put(element, left, top) {
   element.style.top = `${within(top, room.clientHeight - element.offsetHeight)}px`;
 }
 
+const middleOf = (element) => ({ x: element.offsetLeft + element.offsetWidth / 2, y: element.offsetTop + element.offsetHeight / 2 });
+
 // In the middle of what it came over, or where the player has put it.
 function center(element, place, over) {
-  let middle = place;
-  if (!middle && over?.element && !over.element.hidden && over.element !== element) {
-    middle = { x: over.element.offsetLeft + over.element.offsetWidth / 2, y: over.element.offsetTop + over.element.offsetHeight / 2 };
-  }
-  middle ??= { x: desktop.clientWidth / 2, y: desktop.clientHeight / 2 };
+  const isOver = over?.element && !over.element.hidden && over.element !== element;
+  const middle = place ?? (isOver ? middleOf(over.element) : { x: desktop.clientWidth / 2, y: desktop.clientHeight / 2 });
   put(element, middle.x - element.offsetWidth / 2, middle.y - element.offsetHeight / 2);
 }
 
@@ -108,7 +108,7 @@ function setScreen(screen, values) {
   screen.modal = values.modal;
   screen.title.textContent = values.caption;
   screen.element.hidden = !values.visible;
-  screen.element.setAttribute('aria-modal', values.modal);
+  if (!screen.isScene) screen.element.setAttribute('aria-modal', values.modal);
   screen.element.classList.toggle('active', values.active);
   if (values.active) document.title = values.caption === 'Orvane' ? 'Orvane' : `${values.caption} - Orvane`;
   if (comes) screen.comes = true;
@@ -197,22 +197,12 @@ function followBoxes(standing) {
 // A dialog with a title, as boxes and the page's own dialogs have it.
 export function makeDialog(className, title, closed) {
   const element = make('dialog', className, document.body);
-  const bar = make('header', 'title', element);
-  const heading = make('h2', '', bar);
-  heading.id = `d${++front}`;
-  heading.textContent = title;
-  element.setAttribute('aria-labelledby', heading.id);
-  const close = make('button', 'close', bar);
-  close.type = 'button';
-  close.tabIndex = -1;
-  close.setAttribute('aria-label', '閉じる');
-  close.textContent = '×';
-  close.addEventListener('click', closed);
+  makeTitle(element, closed, () => {}).textContent = title;
   element.addEventListener('cancel', (event) => {
+    if (event.target !== element) return; // a choice of files that was broken off
     event.preventDefault();
     closed();
   });
-  drag(bar, element, () => {});
   return element;
 }
 
@@ -239,11 +229,7 @@ function makeBox(box) {
   element.setAttribute('aria-describedby', text.id);
   const choices = make('div', 'choices', element);
   for (const { caption, answer } of box.choices) {
-    const button = make('button', 'push', choices);
-    button.type = 'button';
-    button.textContent = caption;
-    button.dataset.answer = answer;
-    button.addEventListener('click', () => send('Answer', answer));
+    makeButton('push', choices, caption, () => send('Answer', answer)).dataset.answer = answer;
   }
   element.showModal();
   choices.firstChild.focus();
@@ -265,7 +251,13 @@ export function resize() {
   const scale = ask('ScaleFor', desktop.clientWidth * ratio, desktop.clientHeight * ratio, ratio / firstRatio, bare ? 1 : 0, small ? 1 : 0, titleHeight * ratio);
   if (scale <= 0) return;
   const unit = scale / ratio;
-  if (unit !== shownScale) document.documentElement.style.setProperty('--u', unit);
+  if (unit !== shownScale) {
+    // What stands keeps its middle.
+    const standing = [...screens.values()].filter((screen) => screen.shown && !screen.comes);
+    const middles = standing.map(({ element }) => middleOf(element));
+    document.documentElement.style.setProperty('--u', unit);
+    standing.forEach(({ element }, i) => center(element, middles[i]));
+  }
   shownScale = unit;
   document.documentElement.dataset.scale = scale;
 }

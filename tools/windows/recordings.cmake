@@ -2,7 +2,7 @@
 # (src/sound/vorbis/recordings.cpp).
 set(rendered ${ORVANE_HOST_BUILD}/rendered)
 set(text "  .section .rdata,\"dr\"\n")
-set(table "  .balign 8\n  .globl orvane_recordings\norvane_recordings:\n")
+set(table "  .balign 8\n  .globl kOrvaneRecordings\nkOrvaneRecordings:\n")
 set(recordings)
 file(GLOB scores CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/content/music/*.score)
 foreach(score ${scores})

@@ -36,8 +36,11 @@ bool Decoder::Mix(Block& block, float from, float to) {
   const int frames = stb_vorbis_get_samples_float_interleaved(
       handle_.get(), kChannels, decoded.data(), static_cast<int>(decoded.size()));
   const float step = (to - from) / kBlockFrames;
-  for (size_t i = 0; i < decoded.size(); ++i) {
-    block[i] += decoded[i] * (from + step * static_cast<float>(i / kChannels));
+  float level = from;
+  for (size_t i = 0; i < decoded.size(); i += kChannels) {
+    block[i] += decoded[i] * level;
+    block[i + 1] += decoded[i + 1] * level;
+    level += step;
   }
   return frames == kBlockFrames;
 }

@@ -6,12 +6,12 @@ struct OrvaneRecording {
   const std::uint8_t* Begin;
   const std::uint8_t* End;
 };
-extern "C" const OrvaneRecording orvane_recordings[];
+extern "C" const OrvaneRecording kOrvaneRecordings[];
 
 namespace orvane {
 
 std::span<const std::uint8_t> FindRecording(std::string_view name) {
-  for (const auto* recording = orvane_recordings; recording->Name != nullptr; ++recording) {
+  for (const auto* recording = kOrvaneRecordings; recording->Name != nullptr; ++recording) {
     if (recording->Name == name) return {recording->Begin, recording->End};
   }
   return {};

@@ -10,6 +10,8 @@ play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono
 check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
   xvfb openbox xdotool weston x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
   dpkg-dev file desktop-file-utils appstream)
+web_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libfluidsynth-dev libpng-dev emscripten node-acorn nodejs
+  fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 package_packages=(dpkg-dev file)
 sound_packages=(opus-tools lame vorbis-tools) # for the sounds that are rendered ahead
 windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libstb-dev fluidr3mono-gm-soundfont dpkg-dev zip nsis)

@@ -1,6 +1,7 @@
 // The one window that is always there: the title, the field and the menu bar.
 #pragma once
 
+#include "src/core/map.h"
 #include "src/ui/controls.h"
 #include "src/ui/screen.h"
 #include "src/ui/stage.h"
@@ -9,11 +10,18 @@ namespace orvane {
 
 struct Game;
 
+// The map that a picture shows beneath all that is drawn over it, and the sheet of its tiles.
+struct DrawnMap {
+  MapTiles Tiles;
+  Surface Sheet;
+};
+
 class MainScreen : public Screen {
  public:
   MainScreen(Stage& stage, Game& game);
 
   PictureBox FieldPicture;  // the title picture, then the field
+  DrawnMap OnField;         // what the field's frames have drawn there
   Label TitleShadow;
   Label TitleLabel;
   Label TitleReading;

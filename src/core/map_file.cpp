@@ -1,20 +1,15 @@
 #include "src/core/map_file.h"
 
-#include <charconv>
+#include <algorithm>
+#include <optional>
 
+#include "src/base/decimal.h"
 #include "src/base/error.h"
 
 namespace orvane {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
-
-// Whether a digit or a decimal point comes first, behind a minus sign if one may stand there. The
-// library reads a second sign and words for what is no number as well.
-bool BeginsANumber(std::string_view word, bool may_be_negative) {
-  const size_t first = may_be_negative && !word.empty() && word.front() == '-' ? 1 : 0;
-  return word.find_first_of("0123456789.", first) == first;
-}
 
 // Reads numbers off a text one by one. A comma ends a number, and so do blanks and line ends;
 // nothing between two commas counts as 0.
@@ -39,15 +34,11 @@ class NumberReader {
   }
 
   Int16 Number(std::string_view word) const {
-    const std::string_view digits = word.front() == '+' ? word.substr(1) : word;
-    if (!BeginsANumber(digits, word.front() != '+')) throw RunError(ErrorKind::Type, file_);
-    double value = 0;
-    const auto [end, failed] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (failed == std::errc::result_out_of_range) throw RunError(ErrorKind::Overflow, file_);
-    if (failed != std::errc() || end != digits.data() + digits.size()) {
-      throw RunError(ErrorKind::Type, file_);
-    }
-    return RoundToInt16(value);
+    // A plus sign may stand before a number, but not before a second sign.
+    const bool plus = word.starts_with('+') && !word.starts_with("+-");
+    const std::optional<double> value = ReadDecimal(plus ? word.substr(1) : word);
+    if (!value) throw RunError(ErrorKind::Type, file_);
+    return RoundToInt16(*value);
   }
 
   std::string_view rest_;

@@ -22,10 +22,11 @@ class SheetReader {
     const int colours = Number16();
     Surface::Pixels palette;
     for (int i = 0; i < colours; ++i) palette.push_back(Number24());
-    Surface::Pixels pixels;
-    pixels.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));
-    for (int i = 0; i < width * height; ++i) {
-      pixels.push_back(colours == 0 ? Number24() : palette.at(Byte()));
+    Surface::Pixels pixels(static_cast<size_t>(width) * static_cast<size_t>(height));
+    if (colours == 0) {
+      for (Colour& pixel : pixels) pixel = Number24();
+    } else {
+      for (Colour& pixel : pixels) pixel = palette.at(Byte());
     }
     return {width, height, std::move(pixels)};
   }

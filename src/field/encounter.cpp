@@ -34,7 +34,7 @@ void EnterBattle(Game& game) {
 void EncounterCheck(Game& game) {
   State& state = game.state;
   Randomize(game);
-  state.EncounterRoll = RoundToInt16(Int(Rnd(game) * kRollSize));
+  state.EncounterRoll = Roll(game, kRollSize);
   const bool random_battle =
       state.EncounterRoll == kEncounter && state.InBook == kFalse && state.LastBossFight == kFalse;
   const Party party = PartyOf(state);

@@ -1,5 +1,7 @@
 #include "src/field/field_frame.h"
 
+#include <algorithm>
+
 #include "src/core/game.h"
 #include "src/core/music.h"
 #include "src/field/direction_keys.h"
@@ -29,17 +31,28 @@ void FieldTick(Game& game) {
 }
 
 void DrawMap(Game& game) {
-  Surface& field = game.Main.FieldPicture.Picture;
-  const Surface& sheet = game.Main.TileSheet.Picture;
-  for (int column = 0; column < kMapColumns; ++column) {
-    for (int row = 0; row < kMapRows; ++row) {
-      const int code = game.state.MapTile[column][row];
+  MainScreen& main = game.Main;
+  Surface& field = main.FieldPicture.Picture;
+  const Surface& sheet = main.TileSheet.Picture;
+  const MapTiles& tiles = game.state.MapTile;
+  // Outside what has been drawn over it since, the map of the last frame still stands.
+  Bounds part = field.TakeTouched();
+  if (main.OnField.Tiles != tiles || !main.OnField.Sheet.SharesPixelsWith(sheet)) {
+    main.OnField = {tiles, sheet};
+    part = {0, 0, kMapColumns * kTileSize, kMapRows * kTileSize};
+  }
+  const int columns = std::min(kMapColumns, (part.Right + kTileSize - 1) / kTileSize);
+  const int rows = std::min(kMapRows, (part.Bottom + kTileSize - 1) / kTileSize);
+  for (int column = part.Left / kTileSize; column < columns; ++column) {
+    for (int row = part.Top / kTileSize; row < rows; ++row) {
+      const int code = tiles[column][row];
       if (code < 1 || code > kHighestTile) continue;
       BitBlt(field, column * kTileSize, row * kTileSize, kTileSize, kTileSize, sheet,
              (code - 1) % kTilesPerSheetRow * kTileSize, (code - 1) / kTilesPerSheetRow * kTileSize,
              Blit::Copy);
     }
   }
+  field.TakeTouched();
 }
 
 }  // namespace orvane

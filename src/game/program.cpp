@@ -72,11 +72,11 @@ Stage& Program::TheStage() {
 State& Program::TheState() {
   return parts_->game.state;
 }
-bool Program::HasEnded() {
-  return TheStage().HasEnded();
+bool Program::HasEnded() const {
+  return parts_->game.stage.HasEnded();
 }
-int Program::ExitStatus() {
-  return TheStage().ExitStatus();
+int Program::ExitStatus() const {
+  return parts_->game.stage.ExitStatus();
 }
 
 std::string Program::TextOfError() const {

@@ -32,9 +32,9 @@ class Program {
   State& TheState();
 
   // True after quit, game over, the ending or an error. No event does anything from then on.
-  bool HasEnded();
+  bool HasEnded() const;
   // 0 after quit, game over and the ending, 1 after an error.
-  int ExitStatus();
+  int ExitStatus() const;
   // The error that has stopped the program, if one has, and the text of its box. The box stands on
   // the stage; its answer ends the program.
   const std::optional<RunError>& Error() const { return error_; }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "src/core/bag.h"
+
 namespace orvane {
 namespace {
 
@@ -74,9 +76,7 @@ void ItemScreen::Discard() {
 }
 
 void ItemScreen::ThrowAway() {
-  State& state = game_.state;
-  state.Items[Bag.ListIndex] = kNoItem;
-  state.ItemCount -= 1;
+  TakeOutOfBag(game_.state, Bag.ListIndex);
   FillItemList(game_, Bag);
   DiscardButton.Enabled = false;
 }

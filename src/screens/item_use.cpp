@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "src/core/bag.h"
 #include "src/core/hero_numbers.h"
 #include "src/core/sheets.h"
 
@@ -60,8 +61,7 @@ void ItemUseScreen::Give(int hero) {
   state.MP[hero] = RoundToInt16(state.MP[hero] + MPOf(value));
   CapHP(state, hero);
   CapMP(state, hero);
-  state.Items[item_.Bag.ListIndex] = kNoItem;
-  state.ItemCount -= 1;
+  TakeOutOfBag(state, item_.Bag.ListIndex);
   TheStage().Hide(*this);
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "src/platform/path_text.h"
+
 namespace orvane {
 namespace {
 
@@ -21,7 +23,7 @@ void Put(std::array<char, kHeaderBytes>& header, size_t place, std::uint32_t val
 }  // namespace
 
 Recorder::Recorder(const std::string& path, int rate)
-    : file_(path, std::ios::binary | std::ios::trunc), rate_(rate) {
+    : file_(PathOf(path), std::ios::binary | std::ios::trunc), rate_(rate) {
   WriteHeader();
 }
 

@@ -3,12 +3,12 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string_view>
 
 #include "src/platform/music_places.h"
 #include "src/platform/path_text.h"
 #include "src/platform/sound_channels.h"
+#include "src/platform/whole_file.h"
 #include "src/sound/job_thread.h"
 #include "src/sound/mixer.h"
 #include "src/sound/output.h"
@@ -23,7 +23,7 @@ static_assert(kMusicChannels.size() + kEffectChannels.size() == Mixer::Channels)
 // The sound font is read when the program has settled, unless music is wanted before.
 constexpr std::chrono::milliseconds kSettled(2000);
 // A larger file is no sound of a game.
-constexpr std::streamoff kMostBytes = 16 << 20;
+constexpr std::uintmax_t kMostBytes = 16 << 20;
 
 // The mixer's channels carry the music first, then the effects.
 std::string_view AliasOf(size_t channel) {
@@ -39,17 +39,12 @@ int ChannelOf(std::string_view alias) {
   return -1;
 }
 
-// All bytes of a file; none if it cannot be read.
-std::vector<std::uint8_t> ReadFile(const std::string& name) {
-  const std::filesystem::path path = PathOf(name);
+// All bytes of a file; none if it cannot be read or is no sound of a game.
+std::vector<std::uint8_t> ReadSound(const std::string& path) {
+  const std::filesystem::path file = PathOf(path);
   std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return {};
-  std::ifstream file(path, std::ios::binary | std::ios::ate);
-  const std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : 0;
-  if (size <= 0 || size > kMostBytes) return {};
-  std::vector<char> bytes(static_cast<size_t>(size));
-  file.seekg(0);
-  if (!file.read(bytes.data(), size)) return {};
+  if (std::filesystem::file_size(file, error) > kMostBytes || error) return {};
+  const std::string bytes = ReadWholeFile(file).value_or("");
   return {bytes.begin(), bytes.end()};
 }
 
@@ -58,7 +53,7 @@ std::vector<std::uint8_t> ReadFile(const std::string& name) {
 std::string FollowerOf(size_t channel, const std::string& path) {
   const char* next = FightMusicAfter(AliasOf(channel));
   if (next == nullptr) return "";
-  return TextOf(PathOf(path).replace_filename(SoundFile(next)));
+  return TextOf(PathOf(path).replace_filename(PathOf(SoundFile(next))));
 }
 
 // The piece that the bytes of a file are; null if they are none.
@@ -142,7 +137,7 @@ void SoundEngine::Machine::Prepare(Piece& piece, const std::string& follower) {
   if (synth_) {
     // Now, as the field's first bar may wait a moment and a battle's may not; and first, as what
     // was kept first is the first to go.
-    if (const auto next = follower.empty() ? nullptr : ReadPiece(ReadFile(follower), follower)) {
+    if (const auto next = follower.empty() ? nullptr : ReadPiece(ReadSound(follower), follower)) {
       synth_->Prepare(*next);
     }
     synth_->Prepare(piece);
@@ -151,7 +146,7 @@ void SoundEngine::Machine::Prepare(Piece& piece, const std::string& follower) {
 }
 
 bool SoundEngine::Machine::Open(size_t channel, const std::string& path) {
-  const std::vector<std::uint8_t> file = ReadFile(path);
+  const std::vector<std::uint8_t> file = ReadSound(path);
   if (file.empty()) return false;
   const auto number = static_cast<int>(channel);
   if (const auto piece = ReadPiece(file, path)) {

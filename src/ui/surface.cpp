@@ -1,6 +1,7 @@
 #include "src/ui/surface.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <optional>
 #include <utility>
@@ -9,16 +10,27 @@
 
 namespace orvane {
 
-// Write access to a surface's backing store, which notes the rows that are about to change.
+void Bounds::Include(const Bounds& other) {
+  if (IsEmpty()) {
+    *this = other;
+    return;
+  }
+  Left = std::min(Left, other.Left);
+  Top = std::min(Top, other.Top);
+  Right = std::max(Right, other.Right);
+  Bottom = std::max(Bottom, other.Bottom);
+}
+
+// Write access to a surface's backing store, which notes the part that is about to change.
 class SurfaceWriter {
  public:
-  SurfaceWriter(Surface& surface, int top, int bottom) : surface_(surface) {
+  // `part` lies within the surface and is not empty.
+  SurfaceWriter(Surface& surface, const Bounds& part) : surface_(surface) {
     if (surface.pixels_.use_count() > 1) {
       surface.pixels_ = std::make_shared<Surface::Pixels>(*surface.pixels_);
     }
-    const bool clean = surface.dirty_top_ >= surface.dirty_bottom_;
-    surface.dirty_top_ = clean ? top : std::min(surface.dirty_top_, top);
-    surface.dirty_bottom_ = clean ? bottom : std::max(surface.dirty_bottom_, bottom);
+    surface.unshown_.Include(part);
+    surface.touched_.Include(part);
   }
   Colour* Row(int y) { return surface_.pixels_->data() + surface_.Offset(y); }
 
@@ -36,7 +48,8 @@ Surface::Surface(int width, int height, Pixels pixels)
     : width_(std::max(0, width)),
       height_(std::max(0, height)),
       pixels_(std::make_shared<Pixels>(std::move(pixels))),
-      dirty_bottom_(height_) {
+      unshown_{0, 0, width_, height_},
+      touched_(unshown_) {
   pixels_->resize(static_cast<size_t>(width_) * static_cast<size_t>(height_));
 }
 
@@ -56,32 +69,27 @@ Colour Surface::ShownAt(int x, int y) const {
 void Surface::Refresh() {
   if (shown_.size() != pixels_->size()) {
     shown_.resize(pixels_->size());
-    dirty_top_ = 0;
-    dirty_bottom_ = height_;
+    unshown_ = {0, 0, width_, height_};
   }
-  if (dirty_top_ >= dirty_bottom_) return;
-  std::copy(pixels_->begin() + static_cast<std::ptrdiff_t>(Offset(dirty_top_)),
-            pixels_->begin() + static_cast<std::ptrdiff_t>(Offset(dirty_bottom_)),
-            shown_.begin() + static_cast<std::ptrdiff_t>(Offset(dirty_top_)));
-  dirty_top_ = dirty_bottom_ = 0;
+  if (unshown_.IsEmpty()) return;
+  const int width = unshown_.Right - unshown_.Left;
+  for (int y = unshown_.Top; y < unshown_.Bottom; ++y) {
+    const size_t from = Offset(y) + static_cast<size_t>(unshown_.Left);
+    std::copy_n(pixels_->data() + from, width, shown_.data() + from);
+  }
+  unshown_ = {};
   ++revision_;
 }
 
 namespace {
 
-// One row of a blit at scale 1.
-void BlitRow(Colour* to, const Colour* from, int count, Blit operation) {
-  switch (operation) {
-    case Blit::Copy:
-      std::memmove(to, from, static_cast<size_t>(count) * sizeof(Colour));
-      return;
-    case Blit::Or:
-      for (int i = 0; i < count; ++i) to[i] |= from[i];
-      return;
-    case Blit::And:
-      for (int i = 0; i < count; ++i) to[i] &= from[i];
-      return;
-  }
+// Copies a row of pixels, a tile's row at a time: of a size known to it the compiler makes a few
+// moves.
+void CopyRow(Colour* to, const Colour* from, size_t count) {
+  constexpr size_t run = 16;
+  for (; count >= run; count -= run, to += run, from += run)
+    std::memcpy(to, from, run * sizeof(Colour));
+  std::copy_n(from, count, to);
 }
 
 // One row of a stretch; `columns` names the source column of each pixel.
@@ -106,17 +114,18 @@ struct Axis {
   std::vector<int> Sources;
 };
 
-Axis MapAxis(int target, int target_size, int target_limit, int source, int source_size,
-             int source_limit) {
+Axis MapAxis(std::int64_t target, int target_size, int target_limit, std::int64_t source,
+             int source_size, int source_limit) {
   Axis axis;
-  for (int i = std::max(0, -target); i < target_size && target + i < target_limit; ++i) {
-    const int from = source + static_cast<int>(int64_t{i} * source_size / target_size);
+  const std::int64_t end = std::min<std::int64_t>(target_size, target_limit - target);
+  for (std::int64_t i = std::max<std::int64_t>(0, -target); i < end; ++i) {
+    const std::int64_t from = source + i * source_size / target_size;
     if (from < 0 || from >= source_limit) {
       if (!axis.Sources.empty()) break;
       continue;
     }
-    if (axis.Sources.empty()) axis.First = target + i;
-    axis.Sources.push_back(from);
+    if (axis.Sources.empty()) axis.First = static_cast<int>(target + i);
+    axis.Sources.push_back(static_cast<int>(from));
   }
   return axis;
 }
@@ -128,24 +137,54 @@ std::optional<Surface> CopyIfSame(const Surface& destination, const Surface& sou
   return source;
 }
 
+// What is left of one axis of a blit inside both surfaces.
+struct Cut {
+  int Target = 0;
+  int Source = 0;
+  int Size = 0;  // 0 or less when nothing is left
+};
+
+Cut CutAxis(std::int64_t target, int target_limit, std::int64_t source, int source_limit,
+            std::int64_t size) {
+  const std::int64_t before = std::max({std::int64_t{0}, -target, -source});
+  const std::int64_t left =
+      std::min({size - before, target_limit - target - before, source_limit - source - before});
+  if (left <= 0) return {};
+  return {static_cast<int>(target + before), static_cast<int>(source + before),
+          static_cast<int>(left)};
+}
+
 }  // namespace
 
 void BitBlt(Surface& destination, int x, int y, int width, int height, const Surface& source,
             int source_x, int source_y, Blit operation) {
-  const int cut_left = std::max({0, -x, -source_x});
-  const int cut_top = std::max({0, -y, -source_y});
-  x += cut_left;
-  source_x += cut_left;
-  y += cut_top;
-  source_y += cut_top;
-  width = std::min({width - cut_left, destination.Width() - x, source.Width() - source_x});
-  height = std::min({height - cut_top, destination.Height() - y, source.Height() - source_y});
-  if (width <= 0 || height <= 0) return;
+  const Cut across = CutAxis(x, destination.Width(), source_x, source.Width(), width);
+  const Cut down = CutAxis(y, destination.Height(), source_y, source.Height(), height);
+  if (across.Size <= 0 || down.Size <= 0) return;
   const std::optional<Surface> copy = CopyIfSame(destination, source);
-  const Surface& from = copy ? *copy : source;
-  SurfaceWriter writer(destination, y, y + height);
-  for (int row = 0; row < height; ++row) {
-    BlitRow(writer.Row(y + row) + x, from.Row(source_y + row) + source_x, width, operation);
+  const Surface& origin = copy ? *copy : source;
+  SurfaceWriter writer(destination, {across.Target, down.Target, across.Target + across.Size,
+                                     down.Target + down.Size});
+  const auto row_by_row = [&](auto join) {
+    Colour* to = writer.Row(down.Target) + across.Target;
+    const Colour* from = origin.Row(down.Source) + across.Source;
+    for (int row = 0; row < down.Size; ++row) {
+      join(to, from, static_cast<size_t>(across.Size));
+      to += destination.Width();
+      from += origin.Width();
+    }
+  };
+  switch (operation) {
+    case Blit::Copy:
+      return row_by_row(CopyRow);
+    case Blit::Or:
+      return row_by_row([](Colour* to, const Colour* from, size_t count) {
+        for (size_t i = 0; i < count; ++i) to[i] |= from[i];
+      });
+    case Blit::And:
+      return row_by_row([](Colour* to, const Colour* from, size_t count) {
+        for (size_t i = 0; i < count; ++i) to[i] &= from[i];
+      });
   }
 }
 
@@ -160,7 +199,9 @@ void StretchBlt(Surface& destination, const Rect& target, const Surface& source,
   const std::optional<Surface> copy = CopyIfSame(destination, source);
   const Surface& from = copy ? *copy : source;
   const int rows = static_cast<int>(down.Sources.size());
-  SurfaceWriter writer(destination, down.First, down.First + rows);
+  SurfaceWriter writer(destination,
+                       {across.First, down.First,
+                        across.First + static_cast<int>(across.Sources.size()), down.First + rows});
   for (int row = 0; row < rows; ++row) {
     StretchRow(writer.Row(down.First + row) + across.First,
                from.Row(down.Sources[static_cast<size_t>(row)]), across.Sources, operation);
@@ -173,17 +214,18 @@ void FillBox(Surface& surface, int x1, int y1, int x2, int y2, Colour colour) {
   const int top = std::max(0, std::min(y1, y2));
   const int bottom = std::min(surface.Height() - 1, std::max(y1, y2));
   if (left > right || top > bottom) return;
-  SurfaceWriter writer(surface, top, bottom + 1);
+  SurfaceWriter writer(surface, {left, top, right + 1, bottom + 1});
   for (int y = top; y <= bottom; ++y)
     std::fill(writer.Row(y) + left, writer.Row(y) + right + 1, colour);
 }
 
 void DrawCircle(Surface& surface, int centre_x, int centre_y, int radius, Colour colour) {
   if (radius < 0) return;
-  const int top = std::max(0, centre_y - radius);
-  const int bottom = std::min(surface.Height(), centre_y + radius + 1);
-  if (top >= bottom) return;
-  SurfaceWriter writer(surface, top, bottom);
+  const Bounds part{std::max(0, centre_x - radius), std::max(0, centre_y - radius),
+                    std::min(surface.Width(), centre_x + radius + 1),
+                    std::min(surface.Height(), centre_y + radius + 1)};
+  if (part.IsEmpty()) return;
+  SurfaceWriter writer(surface, part);
   const auto plot = [&](int x, int y) {
     if (surface.Contains(x, y)) writer.Row(y)[x] = colour;
   };

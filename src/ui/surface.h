@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace orvane {
@@ -29,6 +30,18 @@ struct Rect {
   int Y = 0;
   int Width = 0;
   int Height = 0;
+};
+
+// A part of a surface: from Left and Top to before Right and Bottom, in pixels.
+struct Bounds {
+  int Left = 0;
+  int Top = 0;
+  int Right = 0;
+  int Bottom = 0;
+
+  bool IsEmpty() const { return Left >= Right || Top >= Bottom; }
+  // Grows to hold the other one too, which is not empty.
+  void Include(const Bounds& other);
 };
 
 // A width x height picture with a backing store that is drawn on and a published copy that is
@@ -58,6 +71,11 @@ class Surface {
   // Publishes what has been drawn since the last time: from now on it is what the player sees.
   void Refresh();
 
+  // Where the backing store may have changed since this was last asked: at first, all of it.
+  Bounds TakeTouched() { return std::exchange(touched_, {}); }
+  // Whether neither this nor the other has been drawn on since one was made a copy of the other.
+  bool SharesPixelsWith(const Surface& other) const { return pixels_ == other.pixels_; }
+
   // The published pixels; they stay in place while the surface lives, and change only in Refresh.
   const Pixels& Shown() const { return shown_; }
   // Grows with every Refresh that changed something.
@@ -72,8 +90,8 @@ class Surface {
   int height_ = 0;
   std::shared_ptr<Pixels> pixels_;
   Pixels shown_;
-  int dirty_top_ = 0;  // rows from here to before dirty_bottom_ differ from what is shown
-  int dirty_bottom_ = 0;
+  Bounds unshown_;  // outside, nothing differs from what is shown
+  Bounds touched_;
   uint64_t revision_ = 0;
 };
 

@@ -5,11 +5,12 @@
 # Writes the file RECORDING and RECORDING.log beside it; keeps screenshots in the folder "minute" there.
 # COMPILER makes the scores of the folder SCORES into pieces that are cut down to their first and last
 # sections and played faster, so that the minute holds their ends. JUDGE is called with the recording and the game folder.
+# ORVANE_SESSION is the file to source for another system than this machine's.
 # Ends with 77, which counts as skipped, where a tool is missing.
 set -u
 
 # shellcheck source=tests/process/x_session.sh
-. "$(dirname "$(realpath "$0")")/x_session.sh"
+. "${ORVANE_SESSION:-$(dirname "$(realpath "$0")")/x_session.sh}"
 program=$(realpath "$1")
 recording=$(realpath -m "$2")
 player=$(realpath "$3")

@@ -27,7 +27,7 @@ may_include() {
     sound) echo "base platform" ;;
     frontend/shared) echo "$plain game" ;;
     frontend/script) echo "$plain field battle screens ending game frontend/shared" ;;
-    frontend/desktop) echo "$plain field battle screens ending game sound frontend/shared" ;;
+    frontend/desktop | frontend/windows) echo "$plain field battle screens ending game sound frontend/shared" ;;
   esac
 }
 
@@ -69,7 +69,7 @@ may_name() {
 standard=" algorithm array atomic bit bitset cctype cerrno charconv chrono cmath concepts condition_variable cstddef cstdint \
 cstdio cstdlib cstring deque exception filesystem fstream functional future initializer_list iterator limits list map \
 memory mutex numeric optional random set span sstream stdexcept string string_view system_error thread tuple \
-type_traits unordered_map unordered_set utility variant vector ios iosfwd istream ostream iomanip ranges compare "
+type_traits unordered_map unordered_set utility variant vector ios iosfwd istream locale ostream iomanip ranges compare "
 
 # The floor that a path of ours belongs to: its folder, and for front ends the one below it.
 floor_of() {
@@ -80,7 +80,7 @@ floor_of() {
 }
 
 for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
-  frontend/desktop; do
+  frontend/desktop frontend/windows; do
   [ -d "$floor" ] || continue
   allowed=" $floor $(may_include "$floor") "
   while IFS=: read -r file line include; do
@@ -93,9 +93,11 @@ for floor in base platform ui core field battle screens ending game sound fronte
         breaks_order "$file" "$header" && fault "$file:$line: $header is above it"
         ;;
       *\<*)
-        case "$floor" in frontend/desktop | frontend/script) continue ;; esac
         header=${include#*<}
         header=${header%%>*}
+        [[ $header == windows.h && $file != platform/windows/windows_api.h ]] &&
+          fault "$file:$line: <windows.h> comes through platform/windows/windows_api.h alone"
+        case "$floor" in frontend/desktop | frontend/windows | frontend/script) continue ;; esac
         [[ $standard == *" $header "* || " $(may_name "$file") " == *" $header "* ]] ||
           fault "$file:$line: <$header> has no place in $floor"
         ;;

@@ -13,3 +13,18 @@ set_tests_properties(system-ends PROPERTIES FIXTURES_CLEANUP system)
 set_tests_properties(${tests} PROPERTIES FIXTURES_REQUIRED system)
 set_property(TEST ${tests} system-begins system-ends APPEND PROPERTY
              ENVIRONMENT "ORVANE_WINE=${CMAKE_BINARY_DIR}/wine")
+
+# Those in windows, each on a display and in a system of its own.
+file(GLOB windows_test_sources CONFIGURE_DEPENDS unit/windows/*.cpp)
+add_executable(orvane-windows-unit ${windows_test_sources})
+target_link_libraries(orvane-windows-unit PRIVATE orvane-windows GTest::gtest_main)
+orvane_compile_fast(orvane-windows-unit)
+set(shots ${CMAKE_BINARY_DIR}/screenshots)
+set(built ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+set(host_player ${ORVANE_HOST_BUILD}/bin/orvane-script)
+add_test(NAME windows-unit COMMAND ${here}/units.sh $<TARGET_FILE:orvane-windows-unit> ${shots}/units)
+add_test(NAME windows-tour COMMAND ${here}/tour.sh ${built} ${shots}/tour ${host_player})
+add_test(NAME windows-places COMMAND ${here}/places.sh ${built} ${shots}/places)
+add_test(NAME windows-ticks COMMAND ${here}/ticks.sh ${built} ${shots}/ticks ${host_player})
+set_tests_properties(windows-unit windows-tour windows-places windows-ticks PROPERTIES
+                     SKIP_RETURN_CODE 77 TIMEOUT 400 COST 60)

@@ -1,5 +1,7 @@
 #include "tests/windows/game_folder.h"
 
+#include <gtest/gtest.h>
+
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
@@ -55,6 +57,18 @@ int GameFolder::Number(const std::string& name, size_t offset) const {
 
 void GameFolder::Write(const std::string& name, const std::string& bytes) const {
   std::ofstream(path_ / name, std::ios::binary) << bytes;
+}
+
+void HoldsWhatWasDone(const GameFolder& folder) {
+  constexpr auto saved = "Save03.sav";
+  EXPECT_EQ(folder.Number(saved, 82), 19) << "his level";
+  EXPECT_EQ(folder.Number(saved, 88), 521) << "his HP after the fruit";
+  EXPECT_EQ(folder.Number(saved, 450), 8) << "the number of things";
+  EXPECT_EQ(folder.Number(saved, 112), 18) << "his sword";
+  EXPECT_EQ(folder.Number(saved, 114), 14) << "her staff";
+  EXPECT_EQ(folder.Number(saved, 118), 34) << "his armour";
+  EXPECT_EQ(folder.Number(saved, 120), 35) << "her armour";
+  EXPECT_EQ(folder.Bytes(saved).substr(58, 4), "Gou ") << "his new name";
 }
 
 }  // namespace orvane::test

@@ -29,4 +29,8 @@ class GameFolder {
   std::filesystem::path path_;
 };
 
+// Expects in Save03.sav what the traveller's party has when it has worn and used its things and has
+// changed its settings.
+void HoldsWhatWasDone(const GameFolder& folder);
+
 }  // namespace orvane::test

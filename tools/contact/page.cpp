@@ -19,7 +19,7 @@ int WidthOf(const std::string& name, const Surface& picture) {
 
 Surface ReadSheet(const std::string& file) {
   paint::Image image = paint::ReadPng(file);
-  return {image.width, image.height, std::move(image.pixels)};
+  return {image.Width, image.Height, std::move(image.Pixels)};
 }
 
 Surface Enlarged(const Surface& picture, int times) {

@@ -44,9 +44,9 @@ Surface Whole(const PictureBox& box) {
 }  // namespace
 
 struct Windows::Screens {
-  Screens() : game(quiet.All()), battle(game), ending(game) {}
+  Screens() : game(Quiet.All()), battle(game), ending(game) {}
 
-  QuietServices quiet;
+  QuietServices Quiet;
   Game game;
   BattleScreen battle;
   EndingScreen ending;

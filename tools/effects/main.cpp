@@ -20,7 +20,7 @@ int main(int count, char** words) {
   }
   try {
     orvane::effects::Wav wav;
-    wav.samples = orvane::effects::Finish(orvane::effects::Mix(orvane::effects::ReadRecipe(*text)));
+    wav.Samples = orvane::effects::Finish(orvane::effects::Mix(orvane::effects::ReadRecipe(*text)));
     std::ofstream out(words[2], std::ios::binary);
     out << orvane::effects::WriteWav(wav);
     out.close();

@@ -14,7 +14,7 @@ enum class Source { Sine, Triangle, Square, Saw, Noise, Crackle };
 // A value that glides through its points, evenly in time over the layer and by equal ratios where
 // all points are above 0 (so that a glide of pitch sounds even), else by equal steps.
 struct Glide {
-  std::vector<double> points;
+  std::vector<double> Points;
 
   // The value at a share of the layer, 0 to 1.
   double At(double share) const;
@@ -23,52 +23,52 @@ struct Glide {
 enum class FilterKind { Lowpass, Highpass, Bandpass };
 
 struct FilterSetting {
-  FilterKind kind = FilterKind::Lowpass;
-  Glide frequency;  // Hz
-  double q = 0.7;
+  FilterKind Kind = FilterKind::Lowpass;
+  Glide Frequency;  // Hz
+  double Q = 0.7;
 };
 
 // One tone of a layer that plays a tune.
 struct TuneNote {
-  double frequency = 0;  // Hz; 0: a rest
-  double seconds = 0;
+  double Frequency = 0;  // Hz; 0: a rest
+  double Seconds = 0;
 };
 
 // One layer. Seconds, Hz, and levels from 0 to 1 (more is allowed before `drive`).
 struct Layer {
   Source source = Source::Sine;
-  double at = 0;        // when it starts in the effect
-  double length = 0.5;  // how long it lasts
-  double level = 1;
-  double attack = 0.005;  // rises over this time, along a half cosine
-  double hold = 0;        // stays
-  double fall = 3;  // then falls to nothing at the end of the layer, by this power of the rest
-  Glide pitch = {{440}};
-  double detune = 0;  // semitones between a second, equal voice and this one; 0: none
-  double vibrato_rate = 0;
-  double vibrato_depth = 0;  // semitones
-  double tremolo_rate = 0;
-  double tremolo_depth = 0;  // 0 to 1
-  double fm_ratio = 0;       // a sine at this ratio of the pitch bends it
-  Glide fm_depth = {{0}};
-  double density = 60;  // pops in a second, of a crackle
-  double drive = 0;     // above 0: pushed into soft saturation by this factor
-  int repeats = 1;      // how many times the layer sounds
-  double every = 0.1;   // seconds from one time to the next
-  double fade = 1;      // level of one time against the time before
-  double rise = 0;      // semitones from one time to the next
-  std::vector<FilterSetting> filters;
-  std::vector<TuneNote> tune;  // not empty: the layer is played once for each note, with its pitch
+  double At = 0;        // when it starts in the effect
+  double Length = 0.5;  // how long it lasts
+  double Level = 1;
+  double Attack = 0.005;  // rises over this time, along a half cosine
+  double Hold = 0;        // stays
+  double Fall = 3;  // then falls to nothing at the end of the layer, by this power of the rest
+  Glide Pitch = {{440}};
+  double Detune = 0;  // semitones between a second, equal voice and this one; 0: none
+  double VibratoRate = 0;
+  double VibratoDepth = 0;  // semitones
+  double TremoloRate = 0;
+  double TremoloDepth = 0;  // 0 to 1
+  double FmRatio = 0;       // a sine at this ratio of the pitch bends it
+  Glide FmDepth = {{0}};
+  double Density = 60;  // pops in a second, of a crackle
+  double Drive = 0;     // above 0: pushed into soft saturation by this factor
+  int Repeats = 1;      // how many times the layer sounds
+  double Every = 0.1;   // seconds from one time to the next
+  double Fade = 1;      // level of one time against the time before
+  double Rise = 0;      // semitones from one time to the next
+  std::vector<FilterSetting> Filters;
+  std::vector<TuneNote> Tune;  // not empty: the layer is played once for each note, with its pitch
 };
 
 struct Recipe {
-  std::string name;
-  double length = 1;        // seconds of the whole effect
-  double echo_seconds = 0;  // a repeat of the whole after this time ...
-  double echo_level = 0;    // ... at this level, and again at its square, and so on
-  double room = 0;          // level of a small reverberation
-  double room_seconds = 0.5;
-  std::vector<Layer> layers;
+  std::string Name;
+  double Length = 1;       // seconds of the whole effect
+  double EchoSeconds = 0;  // a repeat of the whole after this time ...
+  double EchoLevel = 0;    // ... at this level, and again at its square, and so on
+  double Room = 0;         // level of a small reverberation
+  double RoomSeconds = 0.5;
+  std::vector<Layer> Layers;
 };
 
 // Reads a recipe; docs/music.md describes the words. Throws std::runtime_error with the number of

@@ -22,13 +22,13 @@ class Reader {
       for (std::string word; split >> word;) words_.push_back(word);
       if (words_.empty()) continue;
       if (row.front() == ' ') {
-        if (recipe_.layers.empty()) Fail("an indented line belongs to a layer");
-        LayerLine(recipe_.layers.back());
+        if (recipe_.Layers.empty()) Fail("an indented line belongs to a layer");
+        LayerLine(recipe_.Layers.back());
       } else {
         TopLine();
       }
     }
-    if (recipe_.name.empty() || recipe_.layers.empty()) Fail("a recipe needs a name and a layer");
+    if (recipe_.Name.empty() || recipe_.Layers.empty()) Fail("a recipe needs a name and a layer");
     return recipe_;
   }
 
@@ -60,7 +60,7 @@ class Reader {
     size_t at = 0;
     while (at <= word.size()) {
       const size_t dots = std::min(word.find("..", at), word.size());
-      glide.points.push_back(Number(word.substr(at, dots - at)));
+      glide.Points.push_back(Number(word.substr(at, dots - at)));
       at = dots + 2;
     }
     return glide;
@@ -69,15 +69,15 @@ class Reader {
   void TopLine() {
     const std::string& keyword = words_.front();
     if (keyword == "effect") {
-      recipe_.name = Word(1);
+      recipe_.Name = Word(1);
     } else if (keyword == "length") {
-      recipe_.length = Number(Word(1));
+      recipe_.Length = Number(Word(1));
     } else if (keyword == "echo") {
-      recipe_.echo_seconds = Number(Word(1));
-      recipe_.echo_level = Number(Word(2));
+      recipe_.EchoSeconds = Number(Word(1));
+      recipe_.EchoLevel = Number(Word(2));
     } else if (keyword == "room") {
-      recipe_.room = Number(Word(1));
-      recipe_.room_seconds = Number(Word(2));
+      recipe_.Room = Number(Word(1));
+      recipe_.RoomSeconds = Number(Word(2));
     } else if (keyword == "layer") {
       AddLayer();
     } else {
@@ -93,14 +93,14 @@ class Reader {
     if (source == sources.end()) Fail("unknown source " + words_[1]);
     Layer layer;
     layer.source = source->second;
-    recipe_.layers.push_back(layer);
+    recipe_.Layers.push_back(layer);
   }
 
   void LayerLine(Layer& layer) {
     static const std::map<std::string, double Layer::*> numbers = {
-        {"at", &Layer::at},         {"for", &Layer::length},      {"level", &Layer::level},
-        {"attack", &Layer::attack}, {"hold", &Layer::hold},       {"fall", &Layer::fall},
-        {"detune", &Layer::detune}, {"density", &Layer::density}, {"drive", &Layer::drive}};
+        {"at", &Layer::At},         {"for", &Layer::Length},      {"level", &Layer::Level},
+        {"attack", &Layer::Attack}, {"hold", &Layer::Hold},       {"fall", &Layer::Fall},
+        {"detune", &Layer::Detune}, {"density", &Layer::Density}, {"drive", &Layer::Drive}};
     static const std::map<std::string, FilterKind> filters = {{"lowpass", FilterKind::Lowpass},
                                                               {"highpass", FilterKind::Highpass},
                                                               {"bandpass", FilterKind::Bandpass}};
@@ -108,27 +108,27 @@ class Reader {
     if (const auto number = numbers.find(keyword); number != numbers.end()) {
       layer.*(number->second) = Number(Word(1));
     } else if (const auto filter = filters.find(keyword); filter != filters.end()) {
-      layer.filters.push_back(
+      layer.Filters.push_back(
           {filter->second, GlideOf(Word(1)), words_.size() > 2 ? Number(words_[2]) : 0.7});
     } else if (keyword == "pitch") {
-      layer.pitch = GlideOf(Word(1));
+      layer.Pitch = GlideOf(Word(1));
     } else if (keyword == "vibrato") {
-      layer.vibrato_rate = Number(Word(1));
-      layer.vibrato_depth = Number(Word(2));
+      layer.VibratoRate = Number(Word(1));
+      layer.VibratoDepth = Number(Word(2));
     } else if (keyword == "tremolo") {
-      layer.tremolo_rate = Number(Word(1));
-      layer.tremolo_depth = Number(Word(2));
+      layer.TremoloRate = Number(Word(1));
+      layer.TremoloDepth = Number(Word(2));
     } else if (keyword == "fm") {
-      layer.fm_ratio = Number(Word(1));
-      layer.fm_depth = GlideOf(Word(2));
+      layer.FmRatio = Number(Word(1));
+      layer.FmDepth = GlideOf(Word(2));
     } else if (keyword == "repeat") {
-      layer.repeats = static_cast<int>(Number(Word(1)));
-      layer.every = Number(Word(2));
-      layer.fade = Number(Word(3));
-      if (words_.size() > 4) layer.rise = Number(words_[4]);
-      if (layer.repeats < 1 || layer.repeats > 200) Fail("1 to 200 repeats");
+      layer.Repeats = static_cast<int>(Number(Word(1)));
+      layer.Every = Number(Word(2));
+      layer.Fade = Number(Word(3));
+      if (words_.size() > 4) layer.Rise = Number(words_[4]);
+      if (layer.Repeats < 1 || layer.Repeats > 200) Fail("1 to 200 repeats");
     } else if (keyword == "tune") {
-      for (size_t i = 1; i < words_.size(); ++i) layer.tune.push_back(NoteOf(words_[i]));
+      for (size_t i = 1; i < words_.size(); ++i) layer.Tune.push_back(NoteOf(words_[i]));
     } else {
       Fail("unknown word " + keyword);
     }
@@ -139,11 +139,11 @@ class Reader {
     const size_t colon = word.find(':');
     if (colon == std::string::npos) Fail("a note of a tune is written as c5:0.12");
     TuneNote note;
-    note.seconds = Number(word.substr(colon + 1));
+    note.Seconds = Number(word.substr(colon + 1));
     if (word.substr(0, colon) == "r") return note;
     try {
       const int pitch = music::ReadPitch(word.substr(0, colon));
-      note.frequency = 440 * std::pow(2.0, (pitch - 69) / 12.0);
+      note.Frequency = 440 * std::pow(2.0, (pitch - 69) / 12.0);
     } catch (const std::invalid_argument& problem) {
       Fail(problem.what());
     }
@@ -158,15 +158,15 @@ class Reader {
 }  // namespace
 
 double Glide::At(double share) const {
-  if (points.size() < 2) return points.empty() ? 0 : points.front();
-  const double place = share * static_cast<double>(points.size() - 1);
+  if (Points.size() < 2) return Points.empty() ? 0 : Points.front();
+  const double place = share * static_cast<double>(Points.size() - 1);
   auto index = static_cast<size_t>(place < 0 ? 0 : place);
-  if (index > points.size() - 2) index = points.size() - 2;
-  const double from = points[index];
-  const double to = points[index + 1];
+  if (index > Points.size() - 2) index = Points.size() - 2;
+  const double from = Points[index];
+  const double to = Points[index + 1];
   const double rest = place - static_cast<double>(index);
   bool ratios = true;
-  for (const double point : points) ratios = ratios && point > 0;
+  for (const double point : Points) ratios = ratios && point > 0;
   return ratios ? from * std::pow(to / from, rest) : from + (to - from) * rest;
 }
 

@@ -47,90 +47,89 @@ double Wave(Source source, double phase) {
 }
 
 double Envelope(const Layer& layer, double time, double length) {
-  if (time < layer.attack) return 0.5 - 0.5 * std::cos(kPi * time / layer.attack);
-  const double falling = time - layer.attack - layer.hold;
+  if (time < layer.Attack) return 0.5 - 0.5 * std::cos(kPi * time / layer.Attack);
+  const double falling = time - layer.Attack - layer.Hold;
   if (falling < 0) return 1;
-  const double whole = length - layer.attack - layer.hold;
-  return whole <= 0 ? 0 : std::pow(std::max(0.0, 1 - falling / whole), layer.fall);
+  const double whole = length - layer.Attack - layer.Hold;
+  return whole <= 0 ? 0 : std::pow(std::max(0.0, 1 - falling / whole), layer.Fall);
 }
 
 // One sounding of a layer: from a moment, over a time, at a level, its pitch multiplied.
 struct Sounding {
-  double at;
-  double length;
-  double level;
-  double pitch;
+  double At;
+  double Length;
+  double Level;
+  double Pitch;
 };
 
 void Render(const Layer& layer, const Sounding& sounding, uint32_t seed, std::vector<double>& mix) {
   Noise noise(seed);
-  std::vector<Biquad> filters(layer.filters.size());
+  std::vector<Biquad> filters(layer.Filters.size());
   double phase = 0;
   double second = 0.37;
   double modulator = 0;
   double pop = 0;
-  const auto start = static_cast<size_t>(sounding.at * kRate);
-  const auto count = static_cast<size_t>(sounding.length * kRate);
-  const double ratio = std::pow(2.0, layer.detune / 12);
+  const auto start = static_cast<size_t>(sounding.At * kRate);
+  const auto count = static_cast<size_t>(sounding.Length * kRate);
+  const double ratio = std::pow(2.0, layer.Detune / 12);
   for (size_t i = 0; i < count && start + i < mix.size(); ++i) {
     const double time = static_cast<double>(i) / kRate;
-    const double share = time / sounding.length;
-    double pitch = layer.pitch.At(share) * sounding.pitch;
-    pitch *=
-        std::pow(2.0, layer.vibrato_depth / 12 * std::sin(2 * kPi * layer.vibrato_rate * time));
+    const double share = time / sounding.Length;
+    double pitch = layer.Pitch.At(share) * sounding.Pitch;
+    pitch *= std::pow(2.0, layer.VibratoDepth / 12 * std::sin(2 * kPi * layer.VibratoRate * time));
     double bend = 0;
-    if (layer.fm_ratio > 0) {
-      modulator += pitch * layer.fm_ratio / kRate;
-      bend = layer.fm_depth.At(share) * std::sin(2 * kPi * modulator);
+    if (layer.FmRatio > 0) {
+      modulator += pitch * layer.FmRatio / kRate;
+      bend = layer.FmDepth.At(share) * std::sin(2 * kPi * modulator);
     }
     double sample = 0;
     if (layer.source == Source::Noise) {
       sample = noise.Next();
     } else if (layer.source == Source::Crackle) {
       // A pop is a burst of noise that dies within a millisecond or two.
-      if (noise.Next() * 0.5 + 0.5 < layer.density / kRate)
+      if (noise.Next() * 0.5 + 0.5 < layer.Density / kRate)
         pop = 0.4 + 0.6 * std::abs(noise.Next());
       sample = pop * noise.Next();
       pop *= 0.985;
     } else {
       phase += pitch / kRate;
       sample = Wave(layer.source, phase + bend);
-      if (layer.detune != 0) {
+      if (layer.Detune != 0) {
         second += pitch * ratio / kRate;
         sample = 0.5 * (sample + Wave(layer.source, second + bend));
       }
     }
     for (size_t f = 0; f < filters.size(); ++f) {
-      const FilterSetting& setting = layer.filters[f];
-      if (i % 16 == 0) filters[f].Set(setting.kind, setting.frequency.At(share), setting.q);
+      const FilterSetting& setting = layer.Filters[f];
+      if (i % 16 == 0) filters[f].Set(setting.Kind, setting.Frequency.At(share), setting.Q);
       sample = filters[f].Next(sample);
     }
-    if (layer.drive > 0) sample = std::tanh(sample * layer.drive);
+    if (layer.Drive > 0) sample = std::tanh(sample * layer.Drive);
     const double tremolo =
-        1 - layer.tremolo_depth * (0.5 - 0.5 * std::cos(2 * kPi * layer.tremolo_rate * time));
-    mix[start + i] += sample * Envelope(layer, time, sounding.length) * tremolo * sounding.level;
+        1 - layer.TremoloDepth * (0.5 - 0.5 * std::cos(2 * kPi * layer.TremoloRate * time));
+    mix[start + i] += sample * Envelope(layer, time, sounding.Length) * tremolo * sounding.Level;
   }
 }
 
 void RenderAll(const Layer& layer, uint32_t seed, std::vector<double>& mix) {
-  double level = layer.level;
-  for (int n = 0; n < layer.repeats; ++n) {
-    const double at = layer.at + n * layer.every;
-    const double pitch = std::pow(2.0, n * layer.rise / 12);
+  double level = layer.Level;
+  for (int n = 0; n < layer.Repeats; ++n) {
+    const double at = layer.At + n * layer.Every;
+    const double pitch = std::pow(2.0, n * layer.Rise / 12);
     const uint32_t own_seed = seed * 1000 + static_cast<uint32_t>(n) + 1;
-    if (layer.tune.empty()) {
-      Render(layer, {at, layer.length, level, pitch}, own_seed, mix);
+    if (layer.Tune.empty()) {
+      Render(layer, {at, layer.Length, level, pitch}, own_seed, mix);
     }
     double moment = at;
-    for (const TuneNote& note : layer.tune) {
+    for (const TuneNote& note : layer.Tune) {
       // The notes ring over into each other by the length of the layer, which counts from each.
-      const double ring = std::max(note.seconds, layer.length);
-      if (note.frequency > 0) {
-        Render(layer, {moment, ring, level, note.frequency / 440 * pitch}, own_seed, mix);
+      const double ring = std::max(note.Seconds, layer.Length);
+      if (note.Frequency > 0) {
+        Render(layer, {moment, ring, level, note.Frequency / 440 * pitch}, own_seed, mix);
       }
-      moment += note.seconds;
+      moment += note.Seconds;
     }
-    level *= layer.fade;
+    level *= layer.Fade;
   }
 }
 
@@ -172,16 +171,16 @@ double Bend(double sample) {
 }  // namespace
 
 std::vector<float> Mix(const Recipe& recipe) {
-  std::vector<double> mix(static_cast<size_t>(recipe.length * kRate), 0);
+  std::vector<double> mix(static_cast<size_t>(recipe.Length * kRate), 0);
   uint32_t seed = 1;
-  for (const Layer& layer : recipe.layers) RenderAll(layer, seed++, mix);
-  if (recipe.echo_seconds > 0) {
-    const auto delay = static_cast<size_t>(recipe.echo_seconds * kRate);
-    for (size_t i = delay; i < mix.size(); ++i) mix[i] += recipe.echo_level * mix[i - delay];
+  for (const Layer& layer : recipe.Layers) RenderAll(layer, seed++, mix);
+  if (recipe.EchoSeconds > 0) {
+    const auto delay = static_cast<size_t>(recipe.EchoSeconds * kRate);
+    for (size_t i = delay; i < mix.size(); ++i) mix[i] += recipe.EchoLevel * mix[i - delay];
   }
-  if (recipe.room > 0) {
-    const std::vector<double> wet = Room(mix, recipe.room_seconds);
-    for (size_t i = 0; i < mix.size(); ++i) mix[i] += recipe.room * wet[i];
+  if (recipe.Room > 0) {
+    const std::vector<double> wet = Room(mix, recipe.RoomSeconds);
+    for (size_t i = 0; i < mix.size(); ++i) mix[i] += recipe.Room * wet[i];
   }
   Biquad rumble;  // what no loudspeaker gives back only eats the headroom
   rumble.Set(FilterKind::Highpass, 28, 0.7);

@@ -24,9 +24,9 @@ uint32_t Get(const std::string& bytes, size_t at, size_t count) {
 }  // namespace
 
 std::string WriteWav(const Wav& wav) {
-  const auto channels = static_cast<uint32_t>(wav.channels);
-  const auto rate = static_cast<uint32_t>(wav.rate);
-  const auto size = static_cast<uint32_t>(wav.samples.size() * 2);
+  const auto channels = static_cast<uint32_t>(wav.Channels);
+  const auto rate = static_cast<uint32_t>(wav.Rate);
+  const auto size = static_cast<uint32_t>(wav.Samples.size() * 2);
   std::string out = "RIFF";
   Put(out, 36 + size, 4);
   out += "WAVEfmt ";
@@ -39,7 +39,7 @@ std::string WriteWav(const Wav& wav) {
   Put(out, 16, 2);
   out += "data";
   Put(out, size, 4);
-  for (const float sample : wav.samples) {
+  for (const float sample : wav.Samples) {
     const auto value =
         static_cast<int16_t>(std::lround(std::clamp(sample, -1.0F, 1.0F) * 32767.0F));
     Put(out, static_cast<uint16_t>(value), 2);
@@ -61,16 +61,16 @@ Wav ReadWav(const std::string& bytes) {
     if (size > bytes.size() - at) throw std::runtime_error("the file is cut off");
     if (kind == "fmt ") {
       if (Get(bytes, at, 2) != 1) throw std::runtime_error("not plain PCM");
-      wav.channels = static_cast<int>(Get(bytes, at + 2, 2));
-      wav.rate = static_cast<int>(Get(bytes, at + 4, 4));
-      wav.bits = static_cast<int>(Get(bytes, at + 14, 2));
-      if (wav.bits != 16) throw std::runtime_error("not 16 bits");
+      wav.Channels = static_cast<int>(Get(bytes, at + 2, 2));
+      wav.Rate = static_cast<int>(Get(bytes, at + 4, 4));
+      wav.Bits = static_cast<int>(Get(bytes, at + 14, 2));
+      if (wav.Bits != 16) throw std::runtime_error("not 16 bits");
       described = true;
     } else if (kind == "data") {
       if (!described) throw std::runtime_error("data before its description");
       for (size_t i = 0; i + 2 <= size; i += 2) {
         const auto value = static_cast<int16_t>(Get(bytes, at + i, 2));
-        wav.samples.push_back(static_cast<float>(value) / 32767.0F);
+        wav.Samples.push_back(static_cast<float>(value) / 32767.0F);
       }
       return wav;
     }

@@ -8,10 +8,10 @@ namespace orvane::effects {
 
 // What a WAV file holds; samples of several channels follow one another.
 struct Wav {
-  int channels = 1;
-  int rate = 44100;
-  int bits = 16;
-  std::vector<float> samples;  // -1 to 1
+  int Channels = 1;
+  int Rate = 44100;
+  int Bits = 16;
+  std::vector<float> Samples;  // -1 to 1
 };
 
 // The file's bytes; samples beyond -1 and 1 are cut.

@@ -1,10 +1,12 @@
 // orvane-embed OUT.cpp SHEET.png ...: turns picture sheets into a source file. Each becomes one
 // string literal - octal escapes compile far faster than arrays of numbers - in the form that
 // SheetReader reads.
+// orvane-embed --files FOLDER OUT.cpp: does so with a game folder, but for its sounds, as it is.
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -29,18 +31,18 @@ void Append24(std::string& bytes, uint32_t colour) {
 
 std::string Pack(const paint::Image& image) {
   std::map<uint32_t, size_t> palette;
-  for (const uint32_t pixel : image.pixels) palette.try_emplace(pixel, palette.size());
+  for (const uint32_t pixel : image.Pixels) palette.try_emplace(pixel, palette.size());
   const bool indexed = palette.size() <= kMostColours;
   std::string bytes;
-  Append16(bytes, static_cast<size_t>(image.width));
-  Append16(bytes, static_cast<size_t>(image.height));
+  Append16(bytes, static_cast<size_t>(image.Width));
+  Append16(bytes, static_cast<size_t>(image.Height));
   Append16(bytes, indexed ? palette.size() : 0);
   if (indexed) {
     std::vector<uint32_t> colours(palette.size());
     for (const auto& [colour, index] : palette) colours[index] = colour;
     for (const uint32_t colour : colours) Append24(bytes, colour);
   }
-  for (const uint32_t pixel : image.pixels) {
+  for (const uint32_t pixel : image.Pixels) {
     if (indexed) {
       bytes += static_cast<char>(palette.at(pixel));
     } else {
@@ -61,6 +63,30 @@ void WriteLiteral(std::ostream& out, const std::string& bytes) {
     }
     out << '"';
   }
+}
+
+void RunFiles(const std::filesystem::path& folder, const std::string& target) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+    const auto name = entry.path().lexically_relative(folder);
+    if (!entry.is_regular_file() || name.begin()->string() == "Sound") continue;
+    std::ifstream in(entry.path(), std::ios::binary);
+    files[name.generic_string()] = {std::istreambuf_iterator<char>(in), {}};
+    if (!in) throw std::runtime_error(entry.path().string() + ": cannot read");
+  }
+  std::filesystem::create_directories(std::filesystem::path(target).parent_path());
+  std::ofstream out(target);
+  out << "// Made by orvane-embed from the game folder.\n#include "
+         "\"src/frontend/web/content.h\"\n\n"
+         "namespace orvane {\n\nstd::vector<ContentFile> AllContentFiles() {\n  return {\n";
+  for (const auto& [name, bytes] : files) {
+    out << "      {\"" << name << "\", ";
+    WriteLiteral(out, bytes);
+    out << ", " << bytes.size() << "},\n";
+  }
+  out << "  };\n}\n\n}  // namespace orvane\n";
+  out.close();
+  if (!out) throw std::runtime_error(target + ": cannot write");
 }
 
 void Run(const std::string& target, const std::vector<std::string>& files) {
@@ -85,6 +111,10 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
 int main(int count, char** words) {
   try {
     if (count < 2) throw std::runtime_error("usage: orvane-embed OUT.cpp SHEET.png ...");
+    if (count == 4 && std::string(words[1]) == "--files") {
+      orvane::RunFiles(words[2], words[3]);
+      return 0;
+    }
     orvane::Run(words[1], std::vector<std::string>(words + 2, words + count));
   } catch (const std::exception& error) {
     std::fprintf(stderr, "orvane-embed: %s\n", error.what());

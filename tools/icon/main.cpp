@@ -24,8 +24,8 @@ void Append(std::string& bytes, size_t value, int count) {
 // mask that leaves nothing out.
 std::string Pixels(const paint::Image& image) {
   constexpr size_t header_size = 40;
-  const auto width = static_cast<size_t>(image.width);
-  const auto height = static_cast<size_t>(image.height);
+  const auto width = static_cast<size_t>(image.Width);
+  const auto height = static_cast<size_t>(image.Height);
   std::string bytes;
   Append(bytes, header_size, 4);
   Append(bytes, width, 4);
@@ -35,7 +35,7 @@ std::string Pixels(const paint::Image& image) {
   Append(bytes, 0, 24);          // no compression, and no more to say
   for (size_t row = height; row-- > 0;) {
     for (size_t column = 0; column < width; ++column) {
-      Append(bytes, 0xFF000000 | image.pixels[row * width + column], 4);
+      Append(bytes, 0xFF000000 | image.Pixels[row * width + column], 4);
     }
   }
   const size_t mask_row = (width + 31) / 32 * 4;
@@ -58,12 +58,12 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
   Append(head, files.size(), 2);
   for (const std::string& file : files) {
     const paint::Image image = paint::ReadPng(file);
-    if (image.width != image.height || image.width > kLargest) {
+    if (image.Width != image.Height || image.Width > kLargest) {
       throw std::runtime_error(file + ": not a square of up to 256 pixels");
     }
-    const std::string bytes = image.width == kLargest ? WholeFile(file) : Pixels(image);
-    Append(head, static_cast<size_t>(image.width % kLargest), 1);
-    Append(head, static_cast<size_t>(image.height % kLargest), 1);
+    const std::string bytes = image.Width == kLargest ? WholeFile(file) : Pixels(image);
+    Append(head, static_cast<size_t>(image.Width % kLargest), 1);
+    Append(head, static_cast<size_t>(image.Height % kLargest), 1);
     Append(head, 0, 2);  // no palette
     Append(head, 1, 2);  // plane
     Append(head, 32, 2);

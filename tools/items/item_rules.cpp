@@ -11,10 +11,10 @@ namespace orvane::items {
 namespace {
 
 struct Line {
-  int first;
-  int last;
-  ItemKind kind;
-  const char* what;
+  int First;
+  int Last;
+  ItemKind Kind;
+  const char* What;
 };
 
 constexpr Line kLines[] = {
@@ -44,39 +44,39 @@ std::string FirstCharacters(const std::string& utf8, size_t wanted) {
 }
 
 std::string Named(int number, const Item& item) {
-  return "item " + std::to_string(number) + " \"" + item.name + "\"";
+  return "item " + std::to_string(number) + " \"" + item.Name + "\"";
 }
 
 void CheckLine(const Line& line, const std::vector<Item>& items, std::vector<std::string>& faults) {
-  for (int number = line.first; number <= line.last; ++number) {
+  for (int number = line.First; number <= line.Last; ++number) {
     const Item& item = items[static_cast<size_t>(number - 1)];
-    if (item.kind != line.kind) faults.push_back(Named(number, item) + " must be a " + line.what);
-    const int place = number - line.first;
-    if (line.kind == ItemKind::Book) {
-      if (item.value != place + 1) {
+    if (item.Kind != line.Kind) faults.push_back(Named(number, item) + " must be a " + line.What);
+    const int place = number - line.First;
+    if (line.Kind == ItemKind::Book) {
+      if (item.Value != place + 1) {
         faults.push_back(Named(number, item) + " must train skill " + std::to_string(place + 1));
       }
-    } else if (line.kind == ItemKind::Recovery) {
+    } else if (line.Kind == ItemKind::Recovery) {
       // What it gives out of the bag must agree with what it gives in a battle.
       const int given = kBattleItems[place].HP;
-      if (item.value != given) {
+      if (item.Value != given) {
         faults.push_back(Named(number, item) + " must give " + std::to_string(given));
       }
-    } else if (item.value < 1 || item.value > 999) {
+    } else if (item.Value < 1 || item.Value > 999) {
       faults.push_back(Named(number, item) + " has a strength outside of 1 to 999");
-    } else if (place > 0 && item.value <= items[static_cast<size_t>(number - 2)].value) {
+    } else if (place > 0 && item.Value <= items[static_cast<size_t>(number - 2)].Value) {
       faults.push_back(Named(number, item) + " is no stronger than the one before");
     }
   }
 }
 
 void CheckName(int number, const Item& item, std::vector<std::string>& faults) {
-  if (item.name.empty() || item.name == "なし") {
+  if (item.Name.empty() || item.Name == "なし") {
     faults.push_back(Named(number, item) + " needs a name of its own");
   }
-  const size_t characters = Characters(item.name);
+  const size_t characters = Characters(item.Name);
   if (characters > 10) faults.push_back(Named(number, item) + " has more than 10 characters");
-  if (Cp932Of(item.name).size() != characters * 2) {
+  if (Cp932Of(item.Name).size() != characters * 2) {
     faults.push_back(Named(number, item) + " has characters that are not full-width");
   }
 }
@@ -91,7 +91,7 @@ std::vector<std::string> Faults(const std::vector<Item>& items) {
   for (int number = 1; number <= kItems; ++number) {
     const Item& item = items[static_cast<size_t>(number - 1)];
     CheckName(number, item, faults);
-    const auto [found, is_new] = seen.emplace(FirstCharacters(item.name, kCompared), number);
+    const auto [found, is_new] = seen.emplace(FirstCharacters(item.Name, kCompared), number);
     if (is_new) continue;
     const Item& other = items[static_cast<size_t>(found->second - 1)];
     faults.push_back(Named(number, item) + " begins like " + Named(found->second, other));

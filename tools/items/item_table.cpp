@@ -81,15 +81,15 @@ std::vector<Item> ReadTable(std::string_view text) {
 std::string WriteRecords(const std::vector<Item>& items) {
   std::string bytes;
   for (const Item& item : items) {
-    std::string name = Cp932Of(item.name);
+    std::string name = Cp932Of(item.Name);
     if (name.size() > kNameBytes) {
-      throw std::runtime_error("\"" + item.name + "\" is longer than 20 bytes");
+      throw std::runtime_error("\"" + item.Name + "\" is longer than 20 bytes");
     }
     name.resize(kNameBytes, ' ');
     bytes.append(4, '\0');
     bytes += name;
-    AddInt32(static_cast<int32_t>(item.kind), bytes);
-    AddInt32(item.value, bytes);
+    AddInt32(static_cast<int32_t>(item.Kind), bytes);
+    AddInt32(item.Value, bytes);
   }
   return bytes;
 }

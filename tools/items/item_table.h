@@ -13,9 +13,9 @@ namespace orvane::items {
 constexpr int kItems = 50;
 
 struct Item {
-  std::string name;  // UTF-8, at most 10 full-width characters
-  ItemKind kind = ItemKind::Other;
-  int32_t value = 0;  // by kind: attack, defence, number of the skill from 1, or HP given
+  std::string Name;  // UTF-8, at most 10 full-width characters
+  ItemKind Kind = ItemKind::Other;
+  int32_t Value = 0;  // by kind: attack, defence, number of the skill from 1, or HP given
 };
 
 // Reads the table from text: a head line "number,name,kind,value", then one line for each of the 50

@@ -27,8 +27,8 @@ enum class FaultKind {
 const char* KindName(FaultKind kind);
 
 struct Fault {
-  FaultKind kind;
-  std::string what;
+  FaultKind Kind;
+  std::string What;
 };
 
 // The rules that can be read off the maps: codes, borders, furniture.

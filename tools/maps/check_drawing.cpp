@@ -26,7 +26,7 @@ class DrawingCheck {
   explicit DrawingCheck(const World& world) : world_(world) {}
 
   std::vector<Fault> Run() {
-    for (const auto& [place, map] : world_.maps) {
+    for (const auto& [place, map] : world_.Maps) {
       CheckCodes(place, map);
       CheckChests(place, map);
       CheckOpenSides(place, map);
@@ -93,7 +93,7 @@ class DrawingCheck {
   void CheckDoors() {
     int last_doors = 0;
     int book_maps = 0;
-    for (const auto& [place, map] : world_.maps) {
+    for (const auto& [place, map] : world_.Maps) {
       const int doors = Count(map, IsDoor);
       const int room_doors = Count(map, IsRoomDoor);
       last_doors += doors - room_doors;

@@ -25,22 +25,22 @@ MapId GridOf(const Party& party) {
 }
 
 struct Cell {
-  MapId place;
-  int column;
-  int row;
+  MapId Place;
+  int Column;
+  int Row;
   bool operator==(const Cell&) const = default;
   bool operator<(const Cell& other) const {
-    return std::tie(place, column, row) < std::tie(other.place, other.column, other.row);
+    return std::tie(Place, Column, Row) < std::tie(other.Place, other.Column, other.Row);
   }
 };
 
 class JourneyCheck {
  public:
   JourneyCheck(const World& world, const Exploration& exploration)
-      : world_(world), exploration_(exploration), rules_(exploration.journey.rules) {}
+      : world_(world), exploration_(exploration), rules_(exploration.journey.Rules) {}
 
   std::vector<Fault> Run() {
-    for (const Stand& stand : exploration_.stands) Visit(stand);
+    for (const Stand& stand : exploration_.Stands) Visit(stand);
     CheckGoals();
     CheckTraps();
     CheckRecovery();
@@ -51,11 +51,11 @@ class JourneyCheck {
   // One fault of a kind for each ground is enough to find the place; more would bury the rest.
   void Add(FaultKind kind, const MapId& place, const std::string& what) {
     if (!named_.emplace(kind, place).second) return;
-    faults_.push_back({kind, exploration_.journey.name + ": " + what});
+    faults_.push_back({kind, exploration_.journey.Name + ": " + what});
   }
 
   const Party& At(int32_t number) const {
-    return exploration_.stands[static_cast<size_t>(number)].party;
+    return exploration_.Stands[static_cast<size_t>(number)].party;
   }
 
   void Visit(const Stand& stand) {
@@ -84,7 +84,7 @@ class JourneyCheck {
     int ways = 0;
     int turning = 0;
     for (size_t way = 0; way < 4; ++way) {
-      const int32_t next = stand.next[way];
+      const int32_t next = stand.Next[way];
       if (next == kToDragon) dragon_ = true;
       if (next == kToNowhere) {
         Add(rules_.LastStage ? FaultKind::WrongExit : FaultKind::NoSuchMap, party.Map(),
@@ -128,12 +128,12 @@ class JourneyCheck {
 
   void Demand(bool reached, const MapId& place, const std::string& what) {
     if (reached) return;
-    faults_.push_back({FaultKind::Unreachable, exploration_.journey.name + ": cannot reach " +
+    faults_.push_back({FaultKind::Unreachable, exploration_.journey.Name + ": cannot reach " +
                                                    what + " of " + PlaceName(place)});
   }
 
   void CheckGoals() {
-    for (const auto& [place, map] : world_.maps) {
+    for (const auto& [place, map] : world_.Maps) {
       if (place.Inside == kNoRoom && !OutOfJourney(place)) CheckGoalsOn(place, map);
     }
     for (const auto& [room, place] : rooms_) {
@@ -150,7 +150,7 @@ class JourneyCheck {
 
   void CheckGoalsOn(const MapId& place, const TileMap& map) {
     const bool any = std::any_of(cells_.begin(), cells_.end(),
-                                 [&](const Cell& cell) { return cell.place == place; });
+                                 [&](const Cell& cell) { return cell.Place == place; });
     Demand(any, place, "any spot");
     CheckCells(place, map);
     bool book = false;
@@ -182,7 +182,7 @@ class JourneyCheck {
   void CheckTraps() {
     const std::vector<bool> can = CanReturn(exploration_);
     for (size_t number = 0; number < can.size(); ++number) {
-      const Party& party = exploration_.stands[number].party;
+      const Party& party = exploration_.Stands[number].party;
       if (can[number] || AtDragon(rules_, party)) continue;
       Add(FaultKind::Trap, party.Map(), "no way back to the start: " + Where(party));
     }
@@ -198,9 +198,9 @@ class JourneyCheck {
       near = nearer;
     }
     for (const Cell& cell : cells_) {
-      if (cell.place.Inside != kNoRoom || near.count(cell.place) > 0) continue;
-      Add(FaultKind::FarFromRecovery, cell.place,
-          "more than two maps to a recovery point from " + PlaceName(cell.place));
+      if (cell.Place.Inside != kNoRoom || near.count(cell.Place) > 0) continue;
+      Add(FaultKind::FarFromRecovery, cell.Place,
+          "more than two maps to a recovery point from " + PlaceName(cell.Place));
     }
   }
 

@@ -24,18 +24,18 @@ std::string NameOf(const World& world, const Party& party) {
 // Chests before books before recovery points, each in the order of their maps.
 bool Before(const Goal& one, const Goal& other) {
   const auto rank = [](const Goal& goal) {
-    return goal.name[0] == 'c' ? 0 : goal.name[0] == 'b' ? 1 : 2;
+    return goal.Name[0] == 'c' ? 0 : goal.Name[0] == 'b' ? 1 : 2;
   };
-  return rank(one) != rank(other) ? rank(one) < rank(other) : one.name < other.name;
+  return rank(one) != rank(other) ? rank(one) < rank(other) : one.Name < other.Name;
 }
 
 bool MeetsDragon(const Stand& stand) {
-  return std::find(stand.next.begin(), stand.next.end(), kToDragon) != stand.next.end();
+  return std::find(stand.Next.begin(), stand.Next.end(), kToDragon) != stand.Next.end();
 }
 
 int32_t Least(const std::vector<int32_t>& steps, const Goal& goal) {
   int32_t least = -1;
-  for (const int32_t stand : goal.stands) {
+  for (const int32_t stand : goal.Stands) {
     const int32_t here = steps[static_cast<size_t>(stand)];
     if (here >= 0 && (least < 0 || here < least)) least = here;
   }
@@ -57,13 +57,13 @@ std::string Padded(const std::string& text, size_t width) {
 std::vector<Goal> GoalsOf(const World& world, const Exploration& exploration) {
   std::map<std::string, Goal> found;
   Goal dragon{"dragon", {}};
-  for (size_t number = 0; number < exploration.stands.size(); ++number) {
-    const Stand& stand = exploration.stands[number];
-    if (MeetsDragon(stand)) dragon.stands.push_back(static_cast<int32_t>(number));
+  for (size_t number = 0; number < exploration.Stands.size(); ++number) {
+    const Stand& stand = exploration.Stands[number];
+    if (MeetsDragon(stand)) dragon.Stands.push_back(static_cast<int32_t>(number));
     const std::string name = NameOf(world, stand.party);
     if (name.empty()) continue;
-    found[name].name = name;
-    found[name].stands.push_back(static_cast<int32_t>(number));
+    found[name].Name = name;
+    found[name].Stands.push_back(static_cast<int32_t>(number));
   }
   std::vector<Goal> goals;
   goals.reserve(found.size() + 2);
@@ -79,8 +79,8 @@ std::vector<std::vector<int32_t>> StepsBetween(const Exploration& exploration,
   std::vector<std::vector<int32_t>> table;
   for (const Goal& from : goals) {
     std::vector<int32_t> row(goals.size(), -1);
-    if (!from.stands.empty()) {
-      const std::vector<int32_t> steps = StepsFrom(exploration, from.stands.front());
+    if (!from.Stands.empty()) {
+      const std::vector<int32_t> steps = StepsFrom(exploration, from.Stands.front());
       for (size_t to = 0; to < goals.size(); ++to) row[to] = Least(steps, goals[to]);
     }
     table.push_back(row);
@@ -92,7 +92,7 @@ int32_t StepsOfATour(const std::vector<Goal>& goals,
                      const std::vector<std::vector<int32_t>>& steps_between) {
   std::vector<size_t> left;
   for (size_t goal = 0; goal < goals.size(); ++goal) {
-    if (goals[goal].name[0] == 'c' || goals[goal].name[0] == 'b') left.push_back(goal);
+    if (goals[goal].Name[0] == 'c' || goals[goal].Name[0] == 'b') left.push_back(goal);
   }
   size_t here = 0;
   int32_t steps = 0;
@@ -112,11 +112,11 @@ int32_t StepsOfATour(const std::vector<Goal>& goals,
 std::string DistanceTable(const World& world, const Exploration& exploration) {
   const std::vector<Goal> goals = GoalsOf(world, exploration);
   const std::vector<std::vector<int32_t>> table = StepsBetween(exploration, goals);
-  std::string text = exploration.journey.name + ", steps of 4 pixels\n" + Padded("", 10);
-  for (const Goal& goal : goals) text += Padded(ShortName(goal.name), 7);
+  std::string text = exploration.journey.Name + ", steps of 4 pixels\n" + Padded("", 10);
+  for (const Goal& goal : goals) text += Padded(ShortName(goal.Name), 7);
   text += '\n';
   for (size_t from = 0; from < goals.size(); ++from) {
-    text += goals[from].name + std::string(10 - std::min<size_t>(10, goals[from].name.size()), ' ');
+    text += goals[from].Name + std::string(10 - std::min<size_t>(10, goals[from].Name.size()), ' ');
     for (const int32_t steps : table[from]) text += Padded(std::to_string(steps), 7);
     text += '\n';
   }

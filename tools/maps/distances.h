@@ -9,8 +9,8 @@
 namespace orvane::maps {
 
 struct Goal {
-  std::string name;
-  std::vector<int32_t> stands;  // the places of an exploration that reach it
+  std::string Name;
+  std::vector<int32_t> Stands;  // the places of an exploration that reach it
 };
 
 // The start, the chests, the book chests, the recovery points and the dragon, in that order.

@@ -24,24 +24,24 @@ int NumberOf(const Room& room) {
 // which tell it from any other that one step can lead to.
 uint64_t KeyOf(const Party& party) {
   struct Part {
-    int value;
-    int bits;
+    int Value;
+    int Bits;
   };
   const Part parts[] = {{party.MapA, 5},     {party.MapB, 5},    {NumberOf(party.Inside), 3},
                         {party.InBook, 1},   {party.X, 12},      {party.Y, 12},
                         {party.ReturnX, 12}, {party.ReturnY, 11}};
   uint64_t key = 0;
   for (const Part& part : parts) {
-    const uint64_t mask = (uint64_t{1} << part.bits) - 1;
-    key = key << part.bits | (static_cast<uint64_t>(part.value) & mask);
+    const uint64_t mask = (uint64_t{1} << part.Bits) - 1;
+    key = key << part.Bits | (static_cast<uint64_t>(part.Value) & mask);
   }
   return key;
 }
 
 int32_t NumberOf(Exploration& exploration, const Party& party) {
   const auto [found, is_new] =
-      exploration.numbers.emplace(KeyOf(party), static_cast<int32_t>(exploration.stands.size()));
-  if (is_new) exploration.stands.push_back({party});
+      exploration.Numbers.emplace(KeyOf(party), static_cast<int32_t>(exploration.Stands.size()));
+  if (is_new) exploration.Stands.push_back({party});
   return found->second;
 }
 
@@ -71,7 +71,7 @@ bool SameCell(const Party& one, const Party& other) {
 
 template <typename Visit>
 void ForEachWay(const Stand& stand, Visit visit) {
-  for (const int32_t next : stand.next) {
+  for (const int32_t next : stand.Next) {
     if (next >= 0) visit(next);
   }
   if (stand.loaded >= 0) visit(stand.loaded);
@@ -80,15 +80,15 @@ void ForEachWay(const Stand& stand, Visit visit) {
 // All ways, backwards: for every place the places that lead to it, packed one after the other.
 class BackWays {
  public:
-  explicit BackWays(const Exploration& exploration) : first_(exploration.stands.size() + 1, 0) {
-    for (const Stand& stand : exploration.stands) {
+  explicit BackWays(const Exploration& exploration) : first_(exploration.Stands.size() + 1, 0) {
+    for (const Stand& stand : exploration.Stands) {
       ForEachWay(stand, [&](int32_t to) { ++first_[static_cast<size_t>(to) + 1]; });
     }
     for (size_t at = 1; at < first_.size(); ++at) first_[at] += first_[at - 1];
     from_.resize(first_.back());
     std::vector<size_t> end(first_.begin(), first_.end() - 1);
-    for (size_t from = 0; from < exploration.stands.size(); ++from) {
-      ForEachWay(exploration.stands[from], [&](int32_t to) {
+    for (size_t from = 0; from < exploration.Stands.size(); ++from) {
+      ForEachWay(exploration.Stands[from], [&](int32_t to) {
         from_[end[static_cast<size_t>(to)]++] = static_cast<int32_t>(from);
       });
     }
@@ -118,37 +118,37 @@ std::vector<Journey> AllJourneys() {
 }
 
 int32_t Exploration::Find(const Party& party) const {
-  const auto found = numbers.find(KeyOf(party));
-  return found == numbers.end() ? kNoWay : found->second;
+  const auto found = Numbers.find(KeyOf(party));
+  return found == Numbers.end() ? kNoWay : found->second;
 }
 
 Exploration Explore(const World& world, const Journey& journey) {
   Exploration exploration{journey, {}, {}};
-  exploration.stands.reserve(kManyStands);
-  exploration.numbers.reserve(kManyStands);
-  NumberOf(exploration, journey.start);
-  for (size_t at = 0; at < exploration.stands.size(); ++at) {
-    const Party party = exploration.stands[at].party;
+  exploration.Stands.reserve(kManyStands);
+  exploration.Numbers.reserve(kManyStands);
+  NumberOf(exploration, journey.Start);
+  for (size_t at = 0; at < exploration.Stands.size(); ++at) {
+    const Party party = exploration.Stands[at].party;
     for (size_t way = 0; way < 4; ++way) {
-      const Outcome outcome = Step(world, journey.rules, party, kDirections[way]);
+      const Outcome outcome = Step(world, journey.Rules, party, kDirections[way]);
       const int32_t next = Reached(exploration, outcome);
-      exploration.stands[at].next[way] = next;
+      exploration.Stands[at].Next[way] = next;
     }
     if (party.Inside == kLastBookRoom) {
       const int32_t loaded = NumberOf(exploration, AfterLoading(party));
-      exploration.stands[at].loaded = loaded;
+      exploration.Stands[at].loaded = loaded;
     }
   }
   return exploration;
 }
 
 std::vector<int32_t> StepsFrom(const Exploration& exploration, int32_t from) {
-  std::vector<int32_t> steps(exploration.stands.size(), -1);
+  std::vector<int32_t> steps(exploration.Stands.size(), -1);
   std::vector<int32_t> queue{from};
   steps[static_cast<size_t>(from)] = 0;
   for (size_t at = 0; at < queue.size(); ++at) {
     const auto here = static_cast<size_t>(queue[at]);
-    for (const int32_t next : exploration.stands[here].next) {
+    for (const int32_t next : exploration.Stands[here].Next) {
       if (next < 0 || steps[static_cast<size_t>(next)] >= 0) continue;
       steps[static_cast<size_t>(next)] = steps[here] + 1;
       queue.push_back(next);
@@ -159,10 +159,10 @@ std::vector<int32_t> StepsFrom(const Exploration& exploration, int32_t from) {
 
 std::vector<bool> CanReturn(const Exploration& exploration) {
   const BackWays back(exploration);
-  std::vector<bool> can(exploration.stands.size(), false);
+  std::vector<bool> can(exploration.Stands.size(), false);
   std::vector<int32_t> queue;
-  for (size_t number = 0; number < exploration.stands.size(); ++number) {
-    if (!SameCell(exploration.stands[number].party, exploration.journey.start)) continue;
+  for (size_t number = 0; number < exploration.Stands.size(); ++number) {
+    if (!SameCell(exploration.Stands[number].party, exploration.journey.Start)) continue;
     can[number] = true;
     queue.push_back(static_cast<int32_t>(number));
   }

@@ -13,9 +13,9 @@ namespace orvane::maps {
 
 // A start and what the party can do: the world as one round shows it.
 struct Journey {
-  std::string name;
-  WalkRules rules;
-  Party start;
+  std::string Name;
+  WalkRules Rules;
+  Party Start;
 };
 
 // The journeys that together cover the game: the three rounds, the third with nine techniques
@@ -30,14 +30,14 @@ constexpr int32_t kToNowhere = -3;  // the step asks for a map that does not exi
 // where a game saved here goes on (kNoWay where saving is not possible or changes nothing).
 struct Stand {
   Party party;
-  std::array<int32_t, 4> next{kNoWay, kNoWay, kNoWay, kNoWay};
+  std::array<int32_t, 4> Next{kNoWay, kNoWay, kNoWay, kNoWay};
   int32_t loaded = kNoWay;
 };
 
 struct Exploration {
   Journey journey;
-  std::vector<Stand> stands;                      // the start is the first
-  std::unordered_map<uint64_t, int32_t> numbers;  // a place's number in `stands`, by its key
+  std::vector<Stand> Stands;                      // the start is the first
+  std::unordered_map<uint64_t, int32_t> Numbers;  // a place's number in `stands`, by its key
 
   // The number of a place, or kNoWay when the party cannot get there.
   int32_t Find(const Party& party) const;

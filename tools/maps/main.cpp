@@ -30,7 +30,7 @@ constexpr const char* kUsage =
 
 int Build(const Words& words) {
   const World world = ReadTiledWorld(words[1]);
-  for (const auto& [place, map] : world.maps) {
+  for (const auto& [place, map] : world.Maps) {
     WriteFile(words[2] + "/" + MapName(place) + ".dat", WriteDat(map));
   }
   return 0;
@@ -47,11 +47,11 @@ int Check(const Words& words) {
   std::vector<Fault> found = CheckDrawing(world);
   for (const Journey& journey : AllJourneys()) {
     const Exploration exploration = Explore(world, journey);
-    std::printf("%s: %zu places explored\n", journey.name.c_str(), exploration.stands.size());
+    std::printf("%s: %zu places explored\n", journey.Name.c_str(), exploration.Stands.size());
     for (const Fault& fault : CheckJourney(world, exploration)) found.push_back(fault);
   }
   for (const Fault& fault : found) {
-    std::printf("%s: %s\n", KindName(fault.kind), fault.what.c_str());
+    std::printf("%s: %s\n", KindName(fault.Kind), fault.What.c_str());
     ++faults;
   }
   std::printf(faults == 0 ? "the maps keep every rule\n" : "%d faults\n", faults);

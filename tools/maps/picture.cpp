@@ -16,8 +16,8 @@ uint32_t Darkened(uint32_t colour) {
 
 paint::Image Picture(const TileMap& map, const paint::Image& sheet, int scale, bool marked) {
   paint::Image picture(kMapColumns * kTile * scale, kMapRows * kTile * scale, 0);
-  for (int y = 0; y < picture.height; ++y) {
-    for (int x = 0; x < picture.width; ++x) {
+  for (int y = 0; y < picture.Height; ++y) {
+    for (int x = 0; x < picture.Width; ++x) {
       const int pixel_x = x / scale;
       const int pixel_y = y / scale;
       const int code = map.At(pixel_x / kTile, pixel_y / kTile);

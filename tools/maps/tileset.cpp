@@ -26,7 +26,7 @@ TileEntry ReadEntry(std::string_view line, int code) {
     throw std::runtime_error("expected tile " + std::to_string(code) + " in \"" + whole + "\"");
   }
   TileEntry entry{code, walkable == "1", NextField(line), NextField(line), std::string(line)};
-  if (entry.name.empty()) throw std::runtime_error("tile " + number + " has no name");
+  if (entry.Name.empty()) throw std::runtime_error("tile " + number + " has no name");
   return entry;
 }
 
@@ -43,9 +43,9 @@ std::string EventOf(int code) {
 // Tiled draws these shapes over the map with "Show Tile Collision Shapes": a square where one
 // cannot walk, a circle where something happens.
 std::string Shape(const TileEntry& tile, bool event) {
-  if (tile.walkable && !event) return {};
+  if (tile.Walkable && !event) return {};
   const std::string place =
-      tile.walkable ? "x=\"3\" y=\"3\" width=\"10\" height=\"10\">\n    <ellipse/>\n   </object>\n"
+      tile.Walkable ? "x=\"3\" y=\"3\" width=\"10\" height=\"10\">\n    <ellipse/>\n   </object>\n"
                     : "x=\"1\" y=\"1\" width=\"14\" height=\"14\"/>\n";
   return "  <objectgroup draworder=\"index\" id=\"2\">\n   <object id=\"1\" " + place +
          "  </objectgroup>\n";
@@ -86,12 +86,12 @@ std::string WriteTileset(const std::vector<TileEntry>& tiles, const std::string&
       " <image source=\"" +
       image + "\" width=\"480\" height=\"128\"/>\n";
   for (const TileEntry& tile : tiles) {
-    const std::string event = EventOf(tile.code);
-    text += " <tile id=\"" + std::to_string(tile.code - 1) + "\">\n  <properties>\n";
-    text += Property("code", " type=\"int\"", std::to_string(tile.code));
+    const std::string event = EventOf(tile.Code);
+    text += " <tile id=\"" + std::to_string(tile.Code - 1) + "\">\n  <properties>\n";
+    text += Property("code", " type=\"int\"", std::to_string(tile.Code));
     if (!event.empty()) text += Property("event", "", event);
-    text += Property("name", "", tile.name);
-    text += Property("walkable", " type=\"bool\"", tile.walkable ? "true" : "false");
+    text += Property("name", "", tile.Name);
+    text += Property("walkable", " type=\"bool\"", tile.Walkable ? "true" : "false");
     text += "  </properties>\n" + Shape(tile, !event.empty()) + " </tile>\n";
   }
   return text + "</tileset>\n";
@@ -100,9 +100,9 @@ std::string WriteTileset(const std::vector<TileEntry>& tiles, const std::string&
 std::vector<std::string> CatalogueFaults(const std::vector<TileEntry>& tiles) {
   std::vector<std::string> faults;
   for (const TileEntry& tile : tiles) {
-    if (tile.walkable == IsWalkable(tile.code)) continue;
-    faults.push_back("tile " + std::to_string(tile.code) + " \"" + tile.name +
-                     (tile.walkable ? "\" blocks in the game" : "\" can be walked on in the game"));
+    if (tile.Walkable == IsWalkable(tile.Code)) continue;
+    faults.push_back("tile " + std::to_string(tile.Code) + " \"" + tile.Name +
+                     (tile.Walkable ? "\" blocks in the game" : "\" can be walked on in the game"));
   }
   return faults;
 }

@@ -8,11 +8,11 @@
 namespace orvane::maps {
 
 struct TileEntry {
-  int code = 0;
-  bool walkable = false;
-  std::string group;
-  std::string name;
-  std::string note;
+  int Code = 0;
+  bool Walkable = false;
+  std::string Group;
+  std::string Name;
+  std::string Note;
 };
 
 // Reads the catalogue: a head line "code,walkable,group,name,note", then the 240 codes in order.

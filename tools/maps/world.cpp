@@ -25,8 +25,8 @@ std::vector<MapId> AllPlaces() {
 }
 
 const TileMap* World::Find(const MapId& place) const {
-  const auto found = maps.find(place);
-  return found == maps.end() ? nullptr : &found->second;
+  const auto found = Maps.find(place);
+  return found == Maps.end() ? nullptr : &found->second;
 }
 
 World ReadTiledWorld(const std::string& folder) {
@@ -35,7 +35,7 @@ World ReadTiledWorld(const std::string& folder) {
     const std::string file = folder + "/" + MapName(place) + ".tmx";
     const std::string text = ReadFile(file);
     try {
-      world.maps[place] = ReadTmx(text);
+      world.Maps[place] = ReadTmx(text);
     } catch (const std::runtime_error& error) {
       throw std::runtime_error(file + ": " + error.what());
     }

@@ -24,7 +24,7 @@ std::vector<MapId> AllPlaces();
 
 // The maps of the game by place.
 struct World {
-  std::map<MapId, TileMap> maps;
+  std::map<MapId, TileMap> Maps;
 
   // The tiles of a place, or null when there is no such map.
   const TileMap* Find(const MapId& place) const;

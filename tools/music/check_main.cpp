@@ -20,16 +20,16 @@ namespace {
 using orvane::music::Rendering;
 
 struct Options {
-  std::string pictures;  // a folder for piano rolls and WAV files, or empty
-  bool frictions = false;
-  bool stems = false;   // the loudness of each part by itself
-  bool silent = false;  // no rendering
-  std::vector<std::string> files;
+  std::string Pictures;  // a folder for piano rolls and WAV files, or empty
+  bool Frictions = false;
+  bool Stems = false;   // the loudness of each part by itself
+  bool Silent = false;  // no rendering
+  std::vector<std::string> Files;
 };
 
 struct Loudness {
-  std::string name;
-  double value;
+  std::string Name;
+  double Value;
 };
 
 std::string ReadAll(const std::string& file) {
@@ -44,49 +44,49 @@ void WriteAll(const std::filesystem::path& file, const std::string& bytes) {
 
 void SaveRendering(const std::filesystem::path& file, const Rendering& rendering) {
   orvane::effects::Wav wav;
-  wav.channels = 2;
-  for (size_t i = 0; i < rendering.left.size(); ++i) {
-    wav.samples.push_back(rendering.left[i]);
-    wav.samples.push_back(rendering.right[i]);
+  wav.Channels = 2;
+  for (size_t i = 0; i < rendering.Left.size(); ++i) {
+    wav.Samples.push_back(rendering.Left[i]);
+    wav.Samples.push_back(rendering.Right[i]);
   }
   WriteAll(file, orvane::effects::WriteWav(wav));
 }
 
 float Peak(const Rendering& rendering) {
   float peak = 0;
-  for (const auto* side : {&rendering.left, &rendering.right}) {
+  for (const auto* side : {&rendering.Left, &rendering.Right}) {
     for (const float sample : *side) peak = std::max(peak, std::abs(sample));
   }
   return peak;
 }
 
 double LoudnessOf(const Rendering& rendering) {
-  return orvane::effects::WholeLoudness(rendering.left, rendering.right);
+  return orvane::effects::WholeLoudness(rendering.Left, rendering.Right);
 }
 
 // The loudness of each section: the shape of the piece.
 void PrintSections(const orvane::music::PieceNotes& piece, const Rendering& rendering) {
   std::cout << "  sections";
   for (size_t i = 0; i < piece.sections.size(); ++i) {
-    const int end = i + 1 < piece.sections.size() ? piece.sections[i + 1].tick : piece.end;
-    const auto from = static_cast<std::ptrdiff_t>(piece.Seconds(piece.sections[i].tick) * 44100);
+    const int end = i + 1 < piece.sections.size() ? piece.sections[i + 1].Tick : piece.End;
+    const auto from = static_cast<std::ptrdiff_t>(piece.Seconds(piece.sections[i].Tick) * 44100);
     const auto to = std::min(static_cast<std::ptrdiff_t>(piece.Seconds(end) * 44100),
-                             static_cast<std::ptrdiff_t>(rendering.left.size()));
+                             static_cast<std::ptrdiff_t>(rendering.Left.size()));
     Rendering slice;
-    slice.left.assign(rendering.left.begin() + from, rendering.left.begin() + to);
-    slice.right.assign(rendering.right.begin() + from, rendering.right.begin() + to);
-    std::cout << " " << piece.sections[i].text << " " << std::round(LoudnessOf(slice) * 10) / 10;
+    slice.Left.assign(rendering.Left.begin() + from, rendering.Left.begin() + to);
+    slice.Right.assign(rendering.Right.begin() + from, rendering.Right.begin() + to);
+    std::cout << " " << piece.sections[i].Text << " " << std::round(LoudnessOf(slice) * 10) / 10;
   }
   std::cout << "\n";
 }
 
 void PrintStems(const orvane::music::MidiFile& midi, const orvane::music::PieceNotes& piece) {
-  for (size_t track = 1; track < midi.tracks.size(); ++track) {
+  for (size_t track = 1; track < midi.Tracks.size(); ++track) {
     orvane::music::MidiFile stem = midi;
-    stem.tracks = {midi.tracks.front(), midi.tracks[track]};
+    stem.Tracks = {midi.Tracks.front(), midi.Tracks[track]};
     const Rendering rendering =
         orvane::music::Render(orvane::music::WriteMidi(stem), orvane::music::FindSoundFont(), 0.5);
-    std::cout << "  part " << piece.names[track] << " " << LoudnessOf(rendering) << " LUFS\n";
+    std::cout << "  part " << piece.Names[track] << " " << LoudnessOf(rendering) << " LUFS\n";
   }
 }
 
@@ -98,24 +98,24 @@ int CheckFile(const std::string& file, const Options& options, std::vector<Loudn
   const orvane::music::PieceNotes piece = orvane::music::CollectNotes(midi);
   std::vector<std::string> faults = orvane::music::CheckPiece(name, midi);
   std::cout << orvane::music::Describe(name, piece);
-  const std::filesystem::path folder(options.pictures);
-  if (!options.pictures.empty()) WriteAll(folder / (name + ".png"), orvane::music::DrawRoll(piece));
-  if (options.frictions) {
+  const std::filesystem::path folder(options.Pictures);
+  if (!options.Pictures.empty()) WriteAll(folder / (name + ".png"), orvane::music::DrawRoll(piece));
+  if (options.Frictions) {
     for (const std::string& friction : orvane::music::Frictions(piece)) {
       std::cout << "  friction " << friction << "\n";
     }
   }
-  if (!options.silent) {
+  if (!options.Silent) {
     const Rendering rendering = orvane::music::Render(bytes, orvane::music::FindSoundFont(), 0.5);
     const double loudness = LoudnessOf(rendering);
     const float peak = Peak(rendering);
-    std::cout << "  loudness " << loudness << " LUFS, peak " << peak << ", " << rendering.voices
+    std::cout << "  loudness " << loudness << " LUFS, peak " << peak << ", " << rendering.Voices
               << " voices of the synthesizer\n";
     PrintSections(piece, rendering);
-    if (options.stems) PrintStems(midi, piece);
+    if (options.Stems) PrintStems(midi, piece);
     if (peak >= 1) faults.emplace_back("clips");
     all.push_back({name, loudness});
-    if (!options.pictures.empty()) SaveRendering(folder / (name + ".wav"), rendering);
+    if (!options.Pictures.empty()) SaveRendering(folder / (name + ".wav"), rendering);
   }
   for (const std::string& fault : faults) std::cout << "  FAULT " << fault << "\n";
   return static_cast<int>(faults.size());
@@ -124,7 +124,7 @@ int CheckFile(const std::string& file, const Options& options, std::vector<Loudn
 int Run(const Options& options) {
   int faults = 0;
   std::vector<Loudness> all;
-  for (const std::string& file : options.files) {
+  for (const std::string& file : options.Files) {
     try {
       faults += CheckFile(file, options, all);
     } catch (const std::exception& problem) {
@@ -135,10 +135,10 @@ int Run(const Options& options) {
   if (all.size() > 1) {
     const auto [quiet, loud] =
         std::minmax_element(all.begin(), all.end(),
-                            [](const Loudness& a, const Loudness& b) { return a.value < b.value; });
-    const double spread = loud->value - quiet->value;
-    std::cout << "loudness from " << quiet->value << " (" << quiet->name << ") to " << loud->value
-              << " (" << loud->name << ")\n";
+                            [](const Loudness& a, const Loudness& b) { return a.Value < b.Value; });
+    const double spread = loud->Value - quiet->Value;
+    std::cout << "loudness from " << quiet->Value << " (" << quiet->Name << ") to " << loud->Value
+              << " (" << loud->Name << ")\n";
     if (spread > 3) {
       std::cout << "FAULT the pieces differ by " << spread << " dB\n";
       ++faults;
@@ -155,18 +155,18 @@ int main(int count, char** words) {
   for (int i = 1; i < count; ++i) {
     const std::string word = words[i];
     if (word == "--frictions") {
-      options.frictions = true;
+      options.Frictions = true;
     } else if (word == "--stems") {
-      options.stems = true;
+      options.Stems = true;
     } else if (word == "--silent") {
-      options.silent = true;
+      options.Silent = true;
     } else if (word == "--pictures" && i + 1 < count) {
-      options.pictures = words[++i];
+      options.Pictures = words[++i];
     } else {
-      options.files.push_back(word);
+      options.Files.push_back(word);
     }
   }
-  if (options.files.empty()) {
+  if (options.Files.empty()) {
     std::cerr << "usage: orvane-check-music [--silent] [--frictions] [--stems] [--pictures FOLDER] "
                  "MIDI...\n";
     return 2;

@@ -15,43 +15,43 @@ namespace {
 constexpr int kDrumChannel = 9;
 
 void CheckEnds(const MidiFile& file, const PieceNotes& piece, std::vector<std::string>& faults) {
-  const int sixteenth = piece.ticks_per_quarter / 4;
+  const int sixteenth = piece.TicksPerQuarter / 4;
   int last = 0;
-  for (const FileNote& note : piece.notes) last = std::max(last, note.end);
-  if (piece.notes.front().start > sixteenth) faults.emplace_back("silence at the start");
-  if (piece.end - last > sixteenth) faults.emplace_back("silence at the end");
-  if (last > piece.end) faults.emplace_back("a note beyond the end");
-  for (const MidiTrack& track : file.tracks) {
-    if (track.end != piece.end) faults.emplace_back("tracks of different lengths");
+  for (const FileNote& note : piece.Notes) last = std::max(last, note.End);
+  if (piece.Notes.front().Start > sixteenth) faults.emplace_back("silence at the start");
+  if (piece.End - last > sixteenth) faults.emplace_back("silence at the end");
+  if (last > piece.End) faults.emplace_back("a note beyond the end");
+  for (const MidiTrack& track : file.Tracks) {
+    if (track.End != piece.End) faults.emplace_back("tracks of different lengths");
   }
-  if (piece.keys.empty() || piece.keys.front().text != piece.keys.back().text) {
+  if (piece.keys.empty() || piece.keys.front().Text != piece.keys.back().Text) {
     faults.emplace_back("the key at the end is not that of the start");
   }
-  const double ratio = piece.tempos.back().tempo / piece.tempos.front().tempo;
+  const double ratio = piece.Tempos.back().Tempo / piece.Tempos.front().Tempo;
   if (ratio < 0.6 || ratio > 1.4) faults.emplace_back("the tempo at the end does not lead back");
 }
 
 void CheckRanges(const PieceNotes& piece, std::vector<std::string>& faults) {
-  for (size_t track = 1; track < piece.names.size(); ++track) {
+  for (size_t track = 1; track < piece.Names.size(); ++track) {
     int low = 128;
     int high = -1;
     bool drums = false;
-    for (const FileNote& note : piece.notes) {
-      if (note.track != track) continue;
-      low = std::min(low, note.pitch);
-      high = std::max(high, note.pitch);
-      drums = note.channel == kDrumChannel;
+    for (const FileNote& note : piece.Notes) {
+      if (note.Track != track) continue;
+      low = std::min(low, note.Pitch);
+      high = std::max(high, note.Pitch);
+      drums = note.Channel == kDrumChannel;
     }
     if (high < 0) {
-      faults.push_back(piece.names[track] + " plays nothing");
+      faults.push_back(piece.Names[track] + " plays nothing");
       continue;
     }
-    const Instrument* instrument = FindProgram(piece.programs[track], drums);
+    const Instrument* instrument = FindProgram(piece.Programs[track], drums);
     if (instrument == nullptr) {
-      faults.push_back(piece.names[track] + ": unknown instrument");
-    } else if (low < instrument->low || high > instrument->high) {
-      faults.push_back(piece.names[track] + ": " + PitchName(low) + " to " + PitchName(high) +
-                       " leaves the range of " + std::string(instrument->name));
+      faults.push_back(piece.Names[track] + ": unknown instrument");
+    } else if (low < instrument->Low || high > instrument->High) {
+      faults.push_back(piece.Names[track] + ": " + PitchName(low) + " to " + PitchName(high) +
+                       " leaves the range of " + std::string(instrument->Name));
     }
   }
 }
@@ -65,7 +65,7 @@ std::string Fixed(double value) {
 
 Span SpanOf(const std::string& name) {
   struct Row {
-    const char* name = nullptr;
+    const char* Name = nullptr;
     Span span;
   };
   static constexpr std::array<Row, 8> table = {{{"Round1", {60, 120}},
@@ -77,16 +77,16 @@ Span SpanOf(const std::string& name) {
                                                 {"Doukutu", {60, 180}},
                                                 {"Ending", {90, 240}}}};
   for (const Row& row : table) {
-    if (name == row.name) return row.span;
+    if (name == row.Name) return row.span;
   }
   return {0, 3600};
 }
 
 int Voices(const PieceNotes& piece) {
   std::map<int, int> changes;
-  for (const FileNote& note : piece.notes) {
-    ++changes[note.start];
-    --changes[note.end];
+  for (const FileNote& note : piece.Notes) {
+    ++changes[note.Start];
+    --changes[note.End];
   }
   int now = 0;
   int most = 0;
@@ -96,18 +96,18 @@ int Voices(const PieceNotes& piece) {
 
 std::vector<std::string> CheckPiece(const std::string& name, const MidiFile& file) {
   const PieceNotes piece = CollectNotes(file);
-  std::vector<std::string> faults = piece.faults;
-  if (file.format != 1) faults.emplace_back("not of format 1");
-  if (piece.notes.empty() || piece.tempos.empty()) {
+  std::vector<std::string> faults = piece.Faults;
+  if (file.Format != 1) faults.emplace_back("not of format 1");
+  if (piece.Notes.empty() || piece.Tempos.empty()) {
     faults.emplace_back("no notes or no tempo");
     return faults;
   }
-  if (piece.tempos.front().tick != 0) faults.emplace_back("no tempo at the start");
-  const double seconds = piece.Seconds(piece.end);
+  if (piece.Tempos.front().Tick != 0) faults.emplace_back("no tempo at the start");
+  const double seconds = piece.Seconds(piece.End);
   const Span span = SpanOf(name);
-  if (seconds < span.least || seconds > span.most) {
-    faults.push_back("lasts " + Fixed(seconds) + " s and not " + Fixed(span.least) + " to " +
-                     Fixed(span.most));
+  if (seconds < span.Least || seconds > span.Most) {
+    faults.push_back("lasts " + Fixed(seconds) + " s and not " + Fixed(span.Least) + " to " +
+                     Fixed(span.Most));
   }
   CheckEnds(file, piece, faults);
   CheckRanges(piece, faults);
@@ -118,66 +118,66 @@ std::vector<std::string> CheckPiece(const std::string& name, const MidiFile& fil
 
 std::vector<std::string> Frictions(const PieceNotes& piece) {
   std::vector<std::string> found;
-  const int eighth = piece.ticks_per_quarter / 2;
-  for (size_t i = 0; i < piece.notes.size(); ++i) {
-    const FileNote& a = piece.notes[i];
-    if (a.channel == kDrumChannel) continue;
-    for (size_t j = i + 1; j < piece.notes.size() && piece.notes[j].start < a.end; ++j) {
-      const FileNote& b = piece.notes[j];
-      const int interval = std::abs(a.pitch - b.pitch);
-      const int together = std::min(a.end, b.end) - b.start;
-      if (b.channel == kDrumChannel || (interval != 1 && interval != 13) ||
+  const int eighth = piece.TicksPerQuarter / 2;
+  for (size_t i = 0; i < piece.Notes.size(); ++i) {
+    const FileNote& a = piece.Notes[i];
+    if (a.Channel == kDrumChannel) continue;
+    for (size_t j = i + 1; j < piece.Notes.size() && piece.Notes[j].Start < a.End; ++j) {
+      const FileNote& b = piece.Notes[j];
+      const int interval = std::abs(a.Pitch - b.Pitch);
+      const int together = std::min(a.End, b.End) - b.Start;
+      if (b.Channel == kDrumChannel || (interval != 1 && interval != 13) ||
           together < eighth - 20) {
         continue;
       }
       found.push_back(
-          "bar " + std::to_string(b.start / piece.bar_ticks + 1) + " beat " +
-          Fixed(b.start % piece.bar_ticks / static_cast<double>(piece.ticks_per_quarter) + 1) +
-          ": " + piece.names[a.track] + " " + PitchName(a.pitch) + " against " +
-          piece.names[b.track] + " " + PitchName(b.pitch) + " for " +
-          Fixed(together / static_cast<double>(piece.ticks_per_quarter)) + " beats");
+          "bar " + std::to_string(b.Start / piece.BarTicks + 1) + " beat " +
+          Fixed(b.Start % piece.BarTicks / static_cast<double>(piece.TicksPerQuarter) + 1) + ": " +
+          piece.Names[a.Track] + " " + PitchName(a.Pitch) + " against " + piece.Names[b.Track] +
+          " " + PitchName(b.Pitch) + " for " +
+          Fixed(together / static_cast<double>(piece.TicksPerQuarter)) + " beats");
     }
   }
   return found;
 }
 
 std::string Describe(const std::string& name, const PieceNotes& piece) {
-  std::string out = name + ": " + Fixed(piece.Seconds(piece.end)) + " s";
+  std::string out = name + ": " + Fixed(piece.Seconds(piece.End)) + " s";
   double slow = 1000;
   double fast = 0;
-  for (const TempoMark& mark : piece.tempos) {
-    slow = std::min(slow, mark.tempo);
-    fast = std::max(fast, mark.tempo);
+  for (const TempoMark& mark : piece.Tempos) {
+    slow = std::min(slow, mark.Tempo);
+    fast = std::max(fast, mark.Tempo);
   }
-  out += "\n  tempo " + Fixed(piece.tempos.front().tempo);
+  out += "\n  tempo " + Fixed(piece.Tempos.front().Tempo);
   if (fast - slow > 0.5) out += " (" + Fixed(slow) + " to " + Fixed(fast) + ")";
   out += "\n  key";
   for (const Mark& key : piece.keys) {
-    out += " " + key.text + " (bar " + std::to_string(key.tick / piece.bar_ticks + 1) + ")";
+    out += " " + key.Text + " (bar " + std::to_string(key.Tick / piece.BarTicks + 1) + ")";
   }
   out += "\n  form";
   for (size_t i = 0; i < piece.sections.size(); ++i) {
-    const int end = i + 1 < piece.sections.size() ? piece.sections[i + 1].tick : piece.end;
-    const int start = piece.sections[i].tick;
+    const int end = i + 1 < piece.sections.size() ? piece.sections[i + 1].Tick : piece.End;
+    const int start = piece.sections[i].Tick;
     double notes = 0;
-    for (const FileNote& note : piece.notes)
-      notes += note.start >= start && note.start < end ? 1 : 0;
-    out += " " + piece.sections[i].text + "(" +
-           std::to_string((end - start + piece.bar_ticks - 1) / piece.bar_ticks) + " bars, " +
+    for (const FileNote& note : piece.Notes)
+      notes += note.Start >= start && note.Start < end ? 1 : 0;
+    out += " " + piece.sections[i].Text + "(" +
+           std::to_string((end - start + piece.BarTicks - 1) / piece.BarTicks) + " bars, " +
            Fixed(notes / (piece.Seconds(end) - piece.Seconds(start))) + "/s)";
   }
   out += "\n  instruments";
-  for (size_t track = 1; track < piece.names.size(); ++track) {
+  for (size_t track = 1; track < piece.Names.size(); ++track) {
     bool drums = false;
     int count = 0;
-    for (const FileNote& note : piece.notes) {
-      if (note.track != track) continue;
-      drums = note.channel == kDrumChannel;
+    for (const FileNote& note : piece.Notes) {
+      if (note.Track != track) continue;
+      drums = note.Channel == kDrumChannel;
       ++count;
     }
-    const Instrument* instrument = FindProgram(piece.programs[track], drums);
-    out += " " + piece.names[track] + "=" +
-           std::string(instrument == nullptr ? "?" : instrument->name) + "(" +
+    const Instrument* instrument = FindProgram(piece.Programs[track], drums);
+    out += " " + piece.Names[track] + "=" +
+           std::string(instrument == nullptr ? "?" : instrument->Name) + "(" +
            std::to_string(count) + ")";
   }
   return out + "\n  at most " + std::to_string(Voices(piece)) + " notes at once\n";

@@ -13,8 +13,8 @@ constexpr int kMostVoices = 24;
 
 // How long a piece may last before it repeats, in seconds.
 struct Span {
-  double least = 0;
-  double most = 0;
+  double Least = 0;
+  double Most = 0;
 };
 
 // The span of a piece by its name, such as "Round1"; a piece that is not one of the game's:

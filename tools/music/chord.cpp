@@ -12,8 +12,8 @@ namespace orvane::music {
 namespace {
 
 struct Quality {
-  std::string_view name;
-  std::vector<int> steps;
+  std::string_view Name;
+  std::vector<int> Steps;
 };
 
 const std::vector<Quality>& Qualities() {
@@ -48,14 +48,14 @@ const std::vector<Quality>& Qualities() {
 
 // The tones of the chord that a part with `voices` voices plays, as pitch classes.
 std::vector<int> Tones(const Chord& chord, int voices) {
-  std::vector<int> steps = chord.steps;
+  std::vector<int> steps = chord.Steps;
   const auto cap = static_cast<size_t>(std::max(voices, 2));
   if (steps.size() > cap && steps.size() > 3) steps.erase(steps.begin() + 2);
   if (steps.size() > cap && steps.size() > 3) steps.erase(steps.begin());
   while (steps.size() > cap) steps.pop_back();
   std::vector<int> classes;
   for (const int step : steps) {
-    const int tone = (chord.root + step) % 12;
+    const int tone = (chord.Root + step) % 12;
     if (std::find(classes.begin(), classes.end(), tone) == classes.end()) classes.push_back(tone);
   }
   std::sort(classes.begin(), classes.end());
@@ -81,34 +81,34 @@ int Movement(const std::vector<int>& from, const std::vector<int>& to) {
 }  // namespace
 
 int Chord::Third() const {
-  return steps.at(1);
+  return Steps.at(1);
 }
 int Chord::Fifth() const {
-  return steps.size() > 2 ? steps.at(2) : 7;
+  return Steps.size() > 2 ? Steps.at(2) : 7;
 }
 int Chord::Seventh() const {
-  return steps.size() > 3 ? steps.at(3) : 12;
+  return Steps.size() > 3 ? Steps.at(3) : 12;
 }
 
 Chord ReadChord(std::string_view symbol) {
   Chord chord;
   size_t at = 0;
-  chord.root = ReadPitchClass(symbol, at);
+  chord.Root = ReadPitchClass(symbol, at);
   const std::string whole(symbol);
-  if (chord.root < 0) throw std::invalid_argument("no chord: " + whole);
-  chord.bass = chord.root;
+  if (chord.Root < 0) throw std::invalid_argument("no chord: " + whole);
+  chord.Bass = chord.Root;
   std::string_view quality = symbol.substr(at);
   const size_t slash = quality.find('/');
   if (slash != std::string_view::npos) {
     const std::string_view bass = quality.substr(slash + 1);
     size_t bass_at = 0;
-    chord.bass = ReadPitchClass(bass, bass_at);
-    if (chord.bass < 0 || bass_at != bass.size()) throw std::invalid_argument("no bass: " + whole);
+    chord.Bass = ReadPitchClass(bass, bass_at);
+    if (chord.Bass < 0 || bass_at != bass.size()) throw std::invalid_argument("no bass: " + whole);
     quality = quality.substr(0, slash);
   }
   for (const Quality& known : Qualities()) {
-    if (known.name == quality) {
-      chord.steps = known.steps;
+    if (known.Name == quality) {
+      chord.Steps = known.Steps;
       return chord;
     }
   }
@@ -116,8 +116,8 @@ Chord ReadChord(std::string_view symbol) {
 }
 
 Chord Transposed(Chord chord, int semitones) {
-  chord.root = ((chord.root + semitones) % 12 + 12) % 12;
-  chord.bass = ((chord.bass + semitones) % 12 + 12) % 12;
+  chord.Root = ((chord.Root + semitones) % 12 + 12) % 12;
+  chord.Bass = ((chord.Bass + semitones) % 12 + 12) % 12;
   return chord;
 }
 

@@ -8,9 +8,9 @@ namespace orvane::music {
 
 // A chord as its pitch classes, from the root upward, and the bass below it.
 struct Chord {
-  int root = 0;            // 0 (c) to 11 (b)
-  int bass = 0;            // the root, or the note behind the slash
-  std::vector<int> steps;  // semitones above the root, from 0: root, third, fifth, more
+  int Root = 0;            // 0 (c) to 11 (b)
+  int Bass = 0;            // the root, or the note behind the slash
+  std::vector<int> Steps;  // semitones above the root, from 0: root, third, fifth, more
 
   // Semitones above the root of the third (or what is suspended in its place), the fifth, and the
   // fourth tone; without a fourth tone Seventh() is 12.

@@ -80,21 +80,21 @@ const std::vector<Instrument>& Instruments() {
 const Instrument* FindInstrument(std::string_view name) {
   const auto& all = Instruments();
   const auto found = std::find_if(all.begin(), all.end(),
-                                  [&](const Instrument& known) { return known.name == name; });
+                                  [&](const Instrument& known) { return known.Name == name; });
   return found == all.end() ? nullptr : &*found;
 }
 
 const Instrument* FindProgram(int program, bool drums) {
   const auto& all = Instruments();
   const auto found = std::find_if(all.begin(), all.end(), [&](const Instrument& known) {
-    return known.program == program && known.drums == drums;
+    return known.Program == program && known.Drums == drums;
   });
   return found == all.end() ? nullptr : &*found;
 }
 
 int FindDrum(std::string_view name) {
   struct Drum {
-    std::string_view name;
+    std::string_view Name;
     int key;
   };
   static const std::vector<Drum> table = {
@@ -109,7 +109,7 @@ int FindDrum(std::string_view name) {
       {"jingle", 83},
   };
   const auto found =
-      std::find_if(table.begin(), table.end(), [&](const Drum& drum) { return drum.name == name; });
+      std::find_if(table.begin(), table.end(), [&](const Drum& drum) { return drum.Name == name; });
   return found == table.end() ? -1 : found->key;
 }
 

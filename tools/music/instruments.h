@@ -8,11 +8,11 @@ namespace orvane::music {
 
 // A General MIDI instrument; `program` counts from 0, `low` and `high` are sounding MIDI pitches.
 struct Instrument {
-  std::string_view name;
-  int program;
-  int low;
-  int high;
-  bool drums = false;
+  std::string_view Name;
+  int Program;
+  int Low;
+  int High;
+  bool Drums = false;
 };
 
 // Every instrument of the table, in the order of its programs; the drum kits come last.

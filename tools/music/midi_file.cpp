@@ -18,8 +18,8 @@ void PutVariable(std::string& out, uint32_t value) {
 }
 
 int Rank(const MidiEvent& event) {
-  if (event.status == 0xFF) return 0;
-  const int kind = event.status & 0xF0;
+  if (event.Status == 0xFF) return 0;
+  const int kind = event.Status & 0xF0;
   if (kind == 0x80) return 1;
   return kind == 0x90 ? 3 : 2;
 }
@@ -32,23 +32,23 @@ int DataBytes(int status) {
 std::string WriteTrack(const MidiTrack& track) {
   std::vector<MidiEvent> events = track.events;
   std::stable_sort(events.begin(), events.end(), [](const MidiEvent& a, const MidiEvent& b) {
-    return a.tick != b.tick ? a.tick < b.tick : Rank(a) < Rank(b);
+    return a.Tick != b.Tick ? a.Tick < b.Tick : Rank(a) < Rank(b);
   });
   std::string out;
   int now = 0;
   for (const MidiEvent& event : events) {
-    PutVariable(out, static_cast<uint32_t>(event.tick - now));
-    now = event.tick;
-    out += static_cast<char>(event.status);
-    out += static_cast<char>(event.data1);
-    if (event.status == 0xFF) {
-      PutVariable(out, static_cast<uint32_t>(event.text.size()));
-      out += event.text;
-    } else if (DataBytes(event.status) == 2) {
-      out += static_cast<char>(event.data2);
+    PutVariable(out, static_cast<uint32_t>(event.Tick - now));
+    now = event.Tick;
+    out += static_cast<char>(event.Status);
+    out += static_cast<char>(event.Data1);
+    if (event.Status == 0xFF) {
+      PutVariable(out, static_cast<uint32_t>(event.Text.size()));
+      out += event.Text;
+    } else if (DataBytes(event.Status) == 2) {
+      out += static_cast<char>(event.Data2);
     }
   }
-  PutVariable(out, static_cast<uint32_t>(std::max(track.end - now, 0)));
+  PutVariable(out, static_cast<uint32_t>(std::max(track.End - now, 0)));
   out += std::string("\xFF\x2F\x00", 3);
   return out;
 }
@@ -102,15 +102,15 @@ MidiTrack ReadTrack(Bytes in) {
   while (!in.Done()) {
     now += static_cast<int>(in.Variable());
     MidiEvent event;
-    event.tick = now;
+    event.Tick = now;
     uint8_t first = in.Byte();
     if (first == 0xFF) {
-      event.status = first;
-      event.data1 = in.Byte();
-      event.text = in.Text(in.Variable());
-      if (event.data1 == kMetaEnd) {
+      event.Status = first;
+      event.Data1 = in.Byte();
+      event.Text = in.Text(in.Variable());
+      if (event.Data1 == kMetaEnd) {
         if (!in.Done()) throw std::runtime_error("events behind the end of a track");
-        track.end = now;
+        track.End = now;
         return track;
       }
     } else if (first >= 0xF0) {
@@ -121,9 +121,9 @@ MidiTrack ReadTrack(Bytes in) {
         first = in.Byte();
       }
       if (running == 0 || first >= 0x80) throw std::runtime_error("a data byte out of place");
-      event.status = running;
-      event.data1 = first;
-      if (DataBytes(running) == 2) event.data2 = in.Byte();
+      event.Status = running;
+      event.Data1 = first;
+      if (DataBytes(running) == 2) event.Data2 = in.Byte();
     }
     track.events.push_back(event);
   }
@@ -135,10 +135,10 @@ MidiTrack ReadTrack(Bytes in) {
 std::string WriteMidi(const MidiFile& file) {
   std::string out = "MThd";
   PutNumber(out, 6, 4);
-  PutNumber(out, static_cast<uint32_t>(file.format), 2);
-  PutNumber(out, static_cast<uint32_t>(file.tracks.size()), 2);
-  PutNumber(out, static_cast<uint32_t>(file.ticks_per_quarter), 2);
-  for (const MidiTrack& track : file.tracks) {
+  PutNumber(out, static_cast<uint32_t>(file.Format), 2);
+  PutNumber(out, static_cast<uint32_t>(file.Tracks.size()), 2);
+  PutNumber(out, static_cast<uint32_t>(file.TicksPerQuarter), 2);
+  for (const MidiTrack& track : file.Tracks) {
     const std::string body = WriteTrack(track);
     out += "MTrk";
     PutNumber(out, static_cast<uint32_t>(body.size()), 4);
@@ -151,13 +151,13 @@ MidiFile ReadMidi(const std::string& bytes) {
   Bytes in(bytes, 0, bytes.size());
   if (in.Text(4) != "MThd" || in.Number(4) != 6) throw std::runtime_error("no MIDI header");
   MidiFile file;
-  file.format = static_cast<int>(in.Number(2));
+  file.Format = static_cast<int>(in.Number(2));
   const uint32_t tracks = in.Number(2);
-  file.ticks_per_quarter = static_cast<int>(in.Number(2));
+  file.TicksPerQuarter = static_cast<int>(in.Number(2));
   for (uint32_t i = 0; i < tracks; ++i) {
     if (in.Text(4) != "MTrk") throw std::runtime_error("no track where one must be");
     const size_t size = in.Number(4);
-    file.tracks.push_back(ReadTrack(Bytes(bytes, in.At(), in.At() + size)));
+    file.Tracks.push_back(ReadTrack(Bytes(bytes, in.At(), in.At() + size)));
     in.Text(size);
   }
   if (!in.Done()) throw std::runtime_error("bytes behind the last track");

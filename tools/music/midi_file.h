@@ -10,23 +10,23 @@ namespace orvane::music {
 // One event at a tick: a channel message (`status` 0x80 to 0xEF with its data bytes), or a meta
 // event (`status` 0xFF with its `type` and `text` as the bytes).
 struct MidiEvent {
-  int tick = 0;
-  uint8_t status = 0;
-  uint8_t data1 = 0;  // of a meta event: its type
-  uint8_t data2 = 0;
-  std::string text;
+  int Tick = 0;
+  uint8_t Status = 0;
+  uint8_t Data1 = 0;  // of a meta event: its type
+  uint8_t Data2 = 0;
+  std::string Text;
 };
 
 // A track; the end-of-track event is not among the events but stands at `end`.
 struct MidiTrack {
   std::vector<MidiEvent> events;
-  int end = 0;
+  int End = 0;
 };
 
 struct MidiFile {
-  int format = 1;
-  int ticks_per_quarter = 480;
-  std::vector<MidiTrack> tracks;
+  int Format = 1;
+  int TicksPerQuarter = 480;
+  std::vector<MidiTrack> Tracks;
 };
 
 // Types of the meta events that we use.

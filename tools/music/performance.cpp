@@ -53,39 +53,39 @@ char Log2(int unit) {
 
 // What the end loses so that a player who notices it late still repeats in time, on average.
 int CutAtEnd(const Sheet& sheet) {
-  const double beats = sheet.score->poll / 2.0 / 60000.0 * sheet.sections.back().section->tempo_end;
+  const double beats = sheet.score->Poll / 2.0 / 60000.0 * sheet.sections.back().section->TempoEnd;
   return static_cast<int>(beats * kQuarter);
 }
 
 MidiTrack Conductor(const Sheet& sheet, int end) {
   MidiTrack track;
-  track.end = end;
-  track.events.push_back(Meta(0, kMetaName, sheet.score->name));
-  track.events.push_back(Meta(0, kMetaText, sheet.score->title));
+  track.End = end;
+  track.events.push_back(Meta(0, kMetaName, sheet.score->Name));
+  track.events.push_back(Meta(0, kMetaText, sheet.score->Title));
   const Section* before = nullptr;
   for (const PlacedSection& placed : sheet.sections) {
     const Section& now = *placed.section;
-    track.events.push_back(Meta(placed.start, kMetaMarker, now.name));
-    if (before == nullptr || before->key.name != now.key.name) {
+    track.events.push_back(Meta(placed.Start, kMetaMarker, now.Name));
+    if (before == nullptr || before->key.Name != now.key.Name) {
       track.events.push_back(
-          Meta(placed.start, kMetaKey,
-               {static_cast<char>(now.key.sharps), static_cast<char>(now.key.minor ? 1 : 0)}));
+          Meta(placed.Start, kMetaKey,
+               {static_cast<char>(now.key.Sharps), static_cast<char>(now.key.Minor ? 1 : 0)}));
     }
-    if (before == nullptr || before->meter.beats != now.meter.beats ||
-        before->meter.unit != now.meter.unit) {
+    if (before == nullptr || before->meter.Beats != now.meter.Beats ||
+        before->meter.Unit != now.meter.Unit) {
       track.events.push_back(
-          Meta(placed.start, kMetaMeter,
-               {static_cast<char>(now.meter.beats), Log2(now.meter.unit), 24, 8}));
+          Meta(placed.Start, kMetaMeter,
+               {static_cast<char>(now.meter.Beats), Log2(now.meter.Unit), 24, 8}));
     }
-    if (before == nullptr || before->tempo_end != now.tempo) {
-      track.events.push_back(TempoEvent(placed.start, now.tempo));
+    if (before == nullptr || before->TempoEnd != now.Tempo) {
+      track.events.push_back(TempoEvent(placed.Start, now.Tempo));
     }
-    if (now.tempo != now.tempo_end) {
+    if (now.Tempo != now.TempoEnd) {
       const int step = kQuarter / 2;
-      for (int tick = placed.start + step; tick < std::min(placed.end, end); tick += step) {
-        const double share = static_cast<double>(tick - placed.start) /
-                             static_cast<double>(placed.end - placed.start);
-        track.events.push_back(TempoEvent(tick, now.tempo + (now.tempo_end - now.tempo) * share));
+      for (int tick = placed.Start + step; tick < std::min(placed.End, end); tick += step) {
+        const double share = static_cast<double>(tick - placed.Start) /
+                             static_cast<double>(placed.End - placed.Start);
+        track.events.push_back(TempoEvent(tick, now.Tempo + (now.TempoEnd - now.Tempo) * share));
       }
     }
     before = &now;
@@ -95,61 +95,61 @@ MidiTrack Conductor(const Sheet& sheet, int end) {
 
 // A note as it will sound.
 struct Sounding {
-  int start = 0;
-  int end = 0;
-  int pitch = 0;
-  int velocity = 64;
+  int Start = 0;
+  int End = 0;
+  int Pitch = 0;
+  int Velocity = 64;
 };
 
 class Player {
  public:
   Player(const Sheet& sheet, size_t index, int end)
       : sheet_(sheet),
-        part_(sheet.score->parts[index]),
-        own_(sheet.parts[index]),
+        part_(sheet.score->Parts[index]),
+        own_(sheet.Parts[index]),
         index_(static_cast<uint32_t>(index)),
         end_(end) {}
 
   MidiTrack Play() {
-    track_.end = end_;
+    track_.End = end_;
     SetUp();
     std::vector<Sounding> notes = Soundings();
     PartSamePitches(notes);
     for (const Sounding& note : notes) {
-      Send(note.start, 0x90, static_cast<uint8_t>(note.pitch), static_cast<uint8_t>(note.velocity));
-      Send(note.end, 0x80, static_cast<uint8_t>(note.pitch), 0);
+      Send(note.Start, 0x90, static_cast<uint8_t>(note.Pitch), static_cast<uint8_t>(note.Velocity));
+      Send(note.End, 0x80, static_cast<uint8_t>(note.Pitch), 0);
     }
     Breathe();
-    if (part_.vibrato > 0) Vibrate();
+    if (part_.Vibrato > 0) Vibrate();
     return track_;
   }
 
  private:
   void Send(int tick, int kind, uint8_t data1, uint8_t data2) {
-    track_.events.push_back({tick, static_cast<uint8_t>(kind | part_.channel), data1, data2, {}});
+    track_.events.push_back({tick, static_cast<uint8_t>(kind | part_.Channel), data1, data2, {}});
   }
 
   void SetUp() {
-    track_.events.push_back(Meta(0, kMetaName, part_.name));
-    Send(0, 0xC0, static_cast<uint8_t>(part_.instrument->program), 0);
+    track_.events.push_back(Meta(0, kMetaName, part_.Name));
+    Send(0, 0xC0, static_cast<uint8_t>(part_.instrument->Program), 0);
     // A synthesizer makes 40 dB of each tenfold volume.
-    Send(0, 0xB0, kVolume, Seven(part_.volume * std::pow(10.0, sheet_.score->level / 40)));
-    Send(0, 0xB0, kPan, Seven(64 + part_.pan));
+    Send(0, 0xB0, kVolume, Seven(part_.Volume * std::pow(10.0, sheet_.score->Level / 40)));
+    Send(0, 0xB0, kPan, Seven(64 + part_.Pan));
     Send(0, 0xB0, kExpression, Seven(kRestingExpression));
-    Send(0, 0xB0, kReverb, Seven(part_.reverb));
-    Send(0, 0xB0, kChorus, Seven(part_.chorus));
+    Send(0, 0xB0, kReverb, Seven(part_.Reverb));
+    Send(0, 0xB0, kChorus, Seven(part_.Chorus));
     Send(0, 0xB0, kModulation, 0);
   }
 
   // How much the place in the bar weighs: the first beat leads, off-beats are lighter.
   int Weight(int tick) const {
     for (const PlacedSection& placed : sheet_.sections) {
-      if (tick < placed.start || tick >= placed.end) continue;
+      if (tick < placed.Start || tick >= placed.End) continue;
       const Meter& meter = placed.section->meter;
-      const int in_bar = (tick - placed.start) % meter.BarTicks();
+      const int in_bar = (tick - placed.Start) % meter.BarTicks();
       if (in_bar == 0) return 4;
       if (in_bar % meter.BeatTicks() != 0) return -3;
-      return meter.beats % 2 == 0 && in_bar == meter.BarTicks() / 2 ? 2 : 0;
+      return meter.Beats % 2 == 0 && in_bar == meter.BarTicks() / 2 ? 2 : 0;
     }
     return 0;
   }
@@ -157,37 +157,37 @@ class Player {
   static double Sounds(const Note& note, int gate) {
     switch (note.touch) {
       case Touch::Staccato:
-        return 0.5 * note.length;
+        return 0.5 * note.Length;
       case Touch::Tenuto:
       case Touch::Slurred:
-        return note.length;
+        return note.Length;
       case Touch::Plain:
         break;
     }
-    return note.length * gate / 100.0;
+    return note.Length * gate / 100.0;
   }
 
   std::vector<Sounding> Soundings() const {
     std::vector<Sounding> notes;
     int in_chord = 0;
-    for (size_t i = 0; i < own_.notes.size(); ++i) {
-      const Note& written = own_.notes[i];
-      in_chord = i > 0 && own_.notes[i - 1].start == written.start ? in_chord + 1 : 0;
+    for (size_t i = 0; i < own_.Notes.size(); ++i) {
+      const Note& written = own_.Notes[i];
+      in_chord = i > 0 && own_.Notes[i - 1].Start == written.Start ? in_chord + 1 : 0;
       // The tones of a chord are struck together, so their freedom hangs on the place, not the
       // tone.
-      const auto place = static_cast<uint32_t>(written.start);
+      const auto place = static_cast<uint32_t>(written.Start);
       const auto number = static_cast<uint32_t>(i);
-      const double early = Freedom(index_, place, 1) * part_.feel;
+      const double early = Freedom(index_, place, 1) * part_.Feel;
       Sounding note;
-      note.pitch = written.pitch;
-      note.start = written.start + static_cast<int>(early) + in_chord * part_.roll;
-      note.start = std::clamp(note.start, written.start == 0 ? 0 : 1, end_ - 2);
-      note.end = written.start + static_cast<int>(Sounds(written, part_.gate));
-      note.end = std::clamp(note.end, note.start + 1, end_ - 1);
-      const double velocity = written.loudness + written.stress + part_.touch +
-                              Weight(written.start) + Freedom(index_, number, 2) * 3;
-      note.velocity = std::max<int>(1, Seven(velocity));
-      if (written.start < end_ - 2) notes.push_back(note);
+      note.Pitch = written.Pitch;
+      note.Start = written.Start + static_cast<int>(early) + in_chord * part_.Roll;
+      note.Start = std::clamp(note.Start, written.Start == 0 ? 0 : 1, end_ - 2);
+      note.End = written.Start + static_cast<int>(Sounds(written, part_.Gate));
+      note.End = std::clamp(note.End, note.Start + 1, end_ - 1);
+      const double velocity = written.Loudness + written.Stress + part_.touch +
+                              Weight(written.Start) + Freedom(index_, number, 2) * 3;
+      note.Velocity = std::max<int>(1, Seven(velocity));
+      if (written.Start < end_ - 2) notes.push_back(note);
     }
     return notes;
   }
@@ -195,34 +195,34 @@ class Player {
   // A pitch that is struck again ends first; one struck twice at once sounds once.
   static void PartSamePitches(std::vector<Sounding>& notes) {
     std::stable_sort(notes.begin(), notes.end(), [](const Sounding& a, const Sounding& b) {
-      return a.pitch != b.pitch ? a.pitch < b.pitch : a.start < b.start;
+      return a.Pitch != b.Pitch ? a.Pitch < b.Pitch : a.Start < b.Start;
     });
     const auto twice = [](const Sounding& a, const Sounding& b) {
-      return a.pitch == b.pitch && b.start - a.start < 2;
+      return a.Pitch == b.Pitch && b.Start - a.Start < 2;
     };
     notes.erase(std::unique(notes.begin(), notes.end(), twice), notes.end());
     for (size_t i = 0; i + 1 < notes.size(); ++i) {
-      if (notes[i].pitch == notes[i + 1].pitch) {
-        notes[i].end = std::min(notes[i].end, notes[i + 1].start - 1);
+      if (notes[i].Pitch == notes[i + 1].Pitch) {
+        notes[i].End = std::min(notes[i].End, notes[i + 1].Start - 1);
       }
     }
   }
 
   double LoudnessAt(int tick) const {
-    for (const Dynamic& dynamic : own_.dynamics) {
-      if (tick < dynamic.start || tick >= dynamic.end) continue;
-      return dynamic.from +
-             (dynamic.to - dynamic.from) * (tick - dynamic.start) / (dynamic.end - dynamic.start);
+    for (const Dynamic& dynamic : own_.Dynamics) {
+      if (tick < dynamic.Start || tick >= dynamic.End) continue;
+      return dynamic.From +
+             (dynamic.To - dynamic.From) * (tick - dynamic.Start) / (dynamic.End - dynamic.Start);
     }
     return 75;
   }
 
   // A slur swells a little to its middle and falls to its end.
   double Arc(int tick) const {
-    for (const Phrase& phrase : own_.phrases) {
-      if (tick < phrase.start || tick >= phrase.end) continue;
+    for (const Phrase& phrase : own_.Phrases) {
+      if (tick < phrase.Start || tick >= phrase.End) continue;
       const double share =
-          static_cast<double>(tick - phrase.start) / static_cast<double>(phrase.end - phrase.start);
+          static_cast<double>(tick - phrase.Start) / static_cast<double>(phrase.End - phrase.Start);
       return 0.92 + 0.14 * std::sin(3.14159265 * std::pow(share, 0.8));
     }
     return 1;
@@ -230,16 +230,16 @@ class Player {
 
   // Expression follows slurs, and carries a growing dynamic on inside of held notes.
   void Breathe() {
-    if (part_.instrument->drums) return;
+    if (part_.instrument->Drums) return;
     size_t next = 0;
     const Note* held = nullptr;
     int last = static_cast<int>(kRestingExpression);
     for (int tick = 0; tick < end_ - 1; tick += kStep) {
-      while (next < own_.notes.size() && own_.notes[next].start <= tick) held = &own_.notes[next++];
+      while (next < own_.Notes.size() && own_.Notes[next].Start <= tick) held = &own_.Notes[next++];
       if (held == nullptr) continue;
       double ratio = 1;
-      if (held->length >= kQuarter && tick < held->start + held->length) {
-        ratio = LoudnessAt(tick) / std::max(1.0, held->loudness);
+      if (held->Length >= kQuarter && tick < held->Start + held->Length) {
+        ratio = LoudnessAt(tick) / std::max(1.0, held->Loudness);
       }
       const int value = Seven(kRestingExpression * Arc(tick) * ratio);
       if (std::abs(value - last) < 2) continue;
@@ -250,14 +250,14 @@ class Player {
 
   // Long notes begin straight and grow a vibrato.
   void Vibrate() {
-    for (const Note& note : own_.notes) {
-      if (note.length < kQuarter * 3 / 2) continue;
-      const int from = note.start + note.length / 3;
+    for (const Note& note : own_.Notes) {
+      if (note.Length < kQuarter * 3 / 2) continue;
+      const int from = note.Start + note.Length / 3;
       for (int i = 1; i <= 4; ++i) {
         const int tick = from + (i - 1) * kStep / 2;
-        if (tick < end_ - 1) Send(tick, 0xB0, kModulation, Seven(part_.vibrato * i / 4.0));
+        if (tick < end_ - 1) Send(tick, 0xB0, kModulation, Seven(part_.Vibrato * i / 4.0));
       }
-      const int stop = note.start + note.length - 8;
+      const int stop = note.Start + note.Length - 8;
       if (stop < end_ - 1) Send(stop, 0xB0, kModulation, 0);
     }
   }
@@ -274,11 +274,11 @@ class Player {
 
 MidiFile Perform(const Sheet& sheet) {
   MidiFile file;
-  file.ticks_per_quarter = kQuarter;
-  const int end = sheet.end - CutAtEnd(sheet);
-  file.tracks.push_back(Conductor(sheet, end));
-  for (size_t i = 0; i < sheet.parts.size(); ++i) {
-    file.tracks.push_back(Player(sheet, i, end).Play());
+  file.TicksPerQuarter = kQuarter;
+  const int end = sheet.End - CutAtEnd(sheet);
+  file.Tracks.push_back(Conductor(sheet, end));
+  for (size_t i = 0; i < sheet.Parts.size(); ++i) {
+    file.Tracks.push_back(Player(sheet, i, end).Play());
   }
   return file;
 }

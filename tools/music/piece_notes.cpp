@@ -30,47 +30,47 @@ std::string KeyText(const std::string& bytes) {
 }
 
 void ReadMeta(const MidiEvent& event, PieceNotes& piece, size_t track) {
-  if (event.data1 == kMetaName) piece.names[track] = event.text;
-  if (event.data1 == kMetaMarker) piece.sections.push_back({event.tick, event.text});
-  if (event.data1 == kMetaKey) piece.keys.push_back({event.tick, KeyText(event.text)});
-  if (event.data1 == kMetaTempo && event.text.size() == 3) {
+  if (event.Data1 == kMetaName) piece.Names[track] = event.Text;
+  if (event.Data1 == kMetaMarker) piece.sections.push_back({event.Tick, event.Text});
+  if (event.Data1 == kMetaKey) piece.keys.push_back({event.Tick, KeyText(event.Text)});
+  if (event.Data1 == kMetaTempo && event.Text.size() == 3) {
     const int micros =
-        Unsigned(event.text[0]) << 16 | Unsigned(event.text[1]) << 8 | Unsigned(event.text[2]);
-    if (micros > 0) piece.tempos.push_back({event.tick, 60000000.0 / micros});
+        Unsigned(event.Text[0]) << 16 | Unsigned(event.Text[1]) << 8 | Unsigned(event.Text[2]);
+    if (micros > 0) piece.Tempos.push_back({event.Tick, 60000000.0 / micros});
   }
-  if (event.data1 == kMetaMeter && event.text.size() == 4 && event.tick == 0) {
-    piece.bar_ticks = piece.ticks_per_quarter * 4 / (1 << event.text[1]) * event.text[0];
+  if (event.Data1 == kMetaMeter && event.Text.size() == 4 && event.Tick == 0) {
+    piece.BarTicks = piece.TicksPerQuarter * 4 / (1 << event.Text[1]) * event.Text[0];
   }
 }
 
 void ReadTrackNotes(const MidiTrack& track, size_t index, PieceNotes& piece) {
   std::map<std::pair<int, int>, size_t> open;  // channel and pitch to the note
   for (const MidiEvent& event : track.events) {
-    if (event.status == 0xFF) {
+    if (event.Status == 0xFF) {
       ReadMeta(event, piece, index);
       continue;
     }
-    const int kind = event.status & 0xF0;
-    const int channel = event.status & 0x0F;
-    if (kind == 0xC0) piece.programs[index] = event.data1;
+    const int kind = event.Status & 0xF0;
+    const int channel = event.Status & 0x0F;
+    if (kind == 0xC0) piece.Programs[index] = event.Data1;
     if (kind != 0x90 && kind != 0x80) continue;
-    const std::pair<int, int> key(channel, event.data1);
+    const std::pair<int, int> key(channel, event.Data1);
     const auto sounding = open.find(key);
-    const std::string place = piece.names[index] + " " + PitchName(event.data1) + " in bar " +
-                              std::to_string(event.tick / piece.bar_ticks + 1);
-    if (kind == 0x90 && event.data2 > 0) {
-      if (sounding != open.end()) piece.faults.push_back("struck while it sounds: " + place);
-      open[key] = piece.notes.size();
-      piece.notes.push_back({event.tick, -1, event.data1, event.data2, channel, index});
+    const std::string place = piece.Names[index] + " " + PitchName(event.Data1) + " in bar " +
+                              std::to_string(event.Tick / piece.BarTicks + 1);
+    if (kind == 0x90 && event.Data2 > 0) {
+      if (sounding != open.end()) piece.Faults.push_back("struck while it sounds: " + place);
+      open[key] = piece.Notes.size();
+      piece.Notes.push_back({event.Tick, -1, event.Data1, event.Data2, channel, index});
     } else if (sounding == open.end()) {
-      piece.faults.push_back("ended but not struck: " + place);
+      piece.Faults.push_back("ended but not struck: " + place);
     } else {
-      piece.notes[sounding->second].end = event.tick;
+      piece.Notes[sounding->second].End = event.Tick;
       open.erase(sounding);
     }
   }
   for (const auto& [key, note] : open) {
-    piece.faults.push_back("never ended: " + piece.names[index] + " " + PitchName(key.second));
+    piece.Faults.push_back("never ended: " + piece.Names[index] + " " + PitchName(key.second));
   }
 }
 
@@ -78,24 +78,24 @@ void ReadTrackNotes(const MidiTrack& track, size_t index, PieceNotes& piece) {
 
 double PieceNotes::Seconds(int tick) const {
   double seconds = 0;
-  for (size_t i = 0; i < tempos.size() && tempos[i].tick < tick; ++i) {
-    const int until = i + 1 < tempos.size() ? std::min(tempos[i + 1].tick, tick) : tick;
-    seconds += 60.0 / tempos[i].tempo * (until - tempos[i].tick) / ticks_per_quarter;
+  for (size_t i = 0; i < Tempos.size() && Tempos[i].Tick < tick; ++i) {
+    const int until = i + 1 < Tempos.size() ? std::min(Tempos[i + 1].Tick, tick) : tick;
+    seconds += 60.0 / Tempos[i].Tempo * (until - Tempos[i].Tick) / TicksPerQuarter;
   }
   return seconds;
 }
 
 PieceNotes CollectNotes(const MidiFile& file) {
   PieceNotes piece;
-  piece.ticks_per_quarter = file.ticks_per_quarter;
-  piece.names.resize(file.tracks.size());
-  piece.programs.resize(file.tracks.size(), -1);
-  for (size_t i = 0; i < file.tracks.size(); ++i) {
-    ReadTrackNotes(file.tracks[i], i, piece);
-    piece.end = std::max(piece.end, file.tracks[i].end);
+  piece.TicksPerQuarter = file.TicksPerQuarter;
+  piece.Names.resize(file.Tracks.size());
+  piece.Programs.resize(file.Tracks.size(), -1);
+  for (size_t i = 0; i < file.Tracks.size(); ++i) {
+    ReadTrackNotes(file.Tracks[i], i, piece);
+    piece.End = std::max(piece.End, file.Tracks[i].End);
   }
-  std::stable_sort(piece.notes.begin(), piece.notes.end(),
-                   [](const FileNote& a, const FileNote& b) { return a.start < b.start; });
+  std::stable_sort(piece.Notes.begin(), piece.Notes.end(),
+                   [](const FileNote& a, const FileNote& b) { return a.Start < b.Start; });
   return piece;
 }
 

@@ -65,14 +65,14 @@ Key ReadKey(std::string_view tonic, std::string_view mode) {
     throw std::invalid_argument("no key: " + std::string(tonic) + " " + std::string(mode));
   }
   Key key;
-  key.name = std::string(tonic) + " " + std::string(mode);
-  key.minor = mode == "minor";
-  key.tonic = pitch_class;
-  key.sharps = major_sharps[static_cast<size_t>(key.minor ? (pitch_class + 3) % 12 : pitch_class)];
+  key.Name = std::string(tonic) + " " + std::string(mode);
+  key.Minor = mode == "minor";
+  key.Tonic = pitch_class;
+  key.Sharps = major_sharps[static_cast<size_t>(key.Minor ? (pitch_class + 3) % 12 : pitch_class)];
   const bool sharp_name = tonic.size() > 1 && tonic[1] == '#';
-  if (sharp_name && key.sharps < -4) key.sharps += 12;
+  if (sharp_name && key.Sharps < -4) key.Sharps += 12;
   const bool flat_name = tonic.size() > 1 && tonic[1] == 'b';
-  if (flat_name && key.sharps > 5) key.sharps -= 12;
+  if (flat_name && key.Sharps > 5) key.Sharps -= 12;
   return key;
 }
 

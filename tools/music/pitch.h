@@ -33,10 +33,10 @@ std::string PitchName(int pitch);
 
 // A key as the MIDI file's key signature wants it: sharps above 0, flats below, -7 to 7.
 struct Key {
-  std::string name = "C major";
-  int sharps = 0;
-  bool minor = false;
-  int tonic = 0;  // 0 (c) to 11 (b)
+  std::string Name = "C major";
+  int Sharps = 0;
+  bool Minor = false;
+  int Tonic = 0;  // 0 (c) to 11 (b)
 };
 
 // Reads "D major" or "F# minor"; throws std::invalid_argument for anything else.

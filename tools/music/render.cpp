@@ -56,10 +56,10 @@ Rendering Render(const std::string& midi, const std::string& sound_font, double 
   auto rest = static_cast<int>(tail * 44100);
   while (rest > 0) {
     if (fluid_player_get_status(player.get()) != FLUID_PLAYER_PLAYING) rest -= kBlock;
-    out.voices = std::max(out.voices, fluid_synth_get_active_voice_count(synth.get()));
+    out.Voices = std::max(out.Voices, fluid_synth_get_active_voice_count(synth.get()));
     fluid_synth_write_float(synth.get(), kBlock, left.data(), 0, 1, right.data(), 0, 1);
-    out.left.insert(out.left.end(), left.begin(), left.end());
-    out.right.insert(out.right.end(), right.begin(), right.end());
+    out.Left.insert(out.Left.end(), left.begin(), left.end());
+    out.Right.insert(out.Right.end(), right.begin(), right.end());
   }
   return out;
 }

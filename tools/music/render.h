@@ -8,9 +8,9 @@ namespace orvane::music {
 
 // Stereo samples at 44100 Hz.
 struct Rendering {
-  std::vector<float> left;
-  std::vector<float> right;
-  int voices = 0;  // the most voices that the synthesizer played at once
+  std::vector<float> Left;
+  std::vector<float> Right;
+  int Voices = 0;  // the most voices that the synthesizer played at once
 };
 
 // The gain that the pieces are balanced for.

@@ -16,14 +16,14 @@ constexpr int kPitchHeight = 3;
 constexpr int kRowHeight = (kHighPitch - kLowPitch + 1) * kPitchHeight + 12;
 
 struct Canvas {
-  int width;
-  int height;
-  std::vector<uint32_t> pixels;
+  int Width;
+  int Height;
+  std::vector<uint32_t> Pixels;
 
   void Box(int x, int y, int wide, int high, uint32_t colour) {
-    for (int row = std::max(y, 0); row < std::min(y + high, height); ++row) {
-      for (int column = std::max(x, 0); column < std::min(x + wide, width); ++column) {
-        pixels[static_cast<size_t>(row) * static_cast<size_t>(width) +
+    for (int row = std::max(y, 0); row < std::min(y + high, Height); ++row) {
+      for (int column = std::max(x, 0); column < std::min(x + wide, Width); ++column) {
+        Pixels[static_cast<size_t>(row) * static_cast<size_t>(Width) +
                static_cast<size_t>(column)] = colour;
       }
     }
@@ -59,11 +59,11 @@ void PutChunk(std::string& out, const std::string& kind, const std::string& body
 // Stored without compression: these pictures are looked at and thrown away.
 std::string Png(const Canvas& canvas) {
   std::string raw;
-  for (int y = 0; y < canvas.height; ++y) {
+  for (int y = 0; y < canvas.Height; ++y) {
     raw += '\0';
-    for (int x = 0; x < canvas.width; ++x) {
+    for (int x = 0; x < canvas.Width; ++x) {
       const uint32_t pixel =
-          canvas.pixels[static_cast<size_t>(y) * static_cast<size_t>(canvas.width) +
+          canvas.Pixels[static_cast<size_t>(y) * static_cast<size_t>(canvas.Width) +
                         static_cast<size_t>(x)];
       for (const int shift : {16, 8, 0}) raw += static_cast<char>((pixel >> shift) & 0xFF);
     }
@@ -86,8 +86,8 @@ std::string Png(const Canvas& canvas) {
   }
   PutBig(packed, b << 16 | a);
   std::string head;
-  PutBig(head, static_cast<uint32_t>(canvas.width));
-  PutBig(head, static_cast<uint32_t>(canvas.height));
+  PutBig(head, static_cast<uint32_t>(canvas.Width));
+  PutBig(head, static_cast<uint32_t>(canvas.Height));
   head += std::string("\x08\x02\x00\x00\x00", 5);
   std::string out("\x89PNG\r\n\x1A\n");
   PutChunk(out, "IHDR", head);
@@ -102,28 +102,28 @@ std::string DrawRoll(const PieceNotes& piece) {
   static constexpr std::array<uint32_t, 12> colours = {0xFF5050, 0x50C8FF, 0x60E060, 0xFFC040,
                                                        0xC080FF, 0xFF80C0, 0x40E0D0, 0xA0A0FF,
                                                        0xE0E060, 0xFF9060, 0x90D090, 0xC0C0C0};
-  const int bars = (piece.end + piece.bar_ticks - 1) / piece.bar_ticks;
+  const int bars = (piece.End + piece.BarTicks - 1) / piece.BarTicks;
   const int rows = (bars + kBarsInRow - 1) / kBarsInRow;
   Canvas canvas{kBarsInRow * kBarWidth, rows * kRowHeight, {}};
-  canvas.pixels.assign(static_cast<size_t>(canvas.width) * static_cast<size_t>(canvas.height),
+  canvas.Pixels.assign(static_cast<size_t>(canvas.Width) * static_cast<size_t>(canvas.Height),
                        0x101018);
-  const int row_ticks = kBarsInRow * piece.bar_ticks;
-  const auto x_of = [&](int tick) { return tick % row_ticks * kBarWidth / piece.bar_ticks; };
+  const int row_ticks = kBarsInRow * piece.BarTicks;
+  const auto x_of = [&](int tick) { return tick % row_ticks * kBarWidth / piece.BarTicks; };
   for (int bar = 0; bar < bars; ++bar) {
     canvas.Box(bar % kBarsInRow * kBarWidth, bar / kBarsInRow * kRowHeight, 1, kRowHeight - 4,
                0x303040);
   }
   for (const Mark& section : piece.sections) {
-    canvas.Box(x_of(section.tick), section.tick / row_ticks * kRowHeight, 2, kRowHeight - 4,
+    canvas.Box(x_of(section.Tick), section.Tick / row_ticks * kRowHeight, 2, kRowHeight - 4,
                0xFFFFFF);
   }
-  for (const FileNote& note : piece.notes) {
-    const int top = note.start / row_ticks * kRowHeight;
-    const int x = x_of(note.start);
-    const int wide = std::max(2, (note.end - note.start) * kBarWidth / piece.bar_ticks - 1);
-    const int y = top + (kHighPitch - std::clamp(note.pitch, kLowPitch, kHighPitch)) * kPitchHeight;
+  for (const FileNote& note : piece.Notes) {
+    const int top = note.Start / row_ticks * kRowHeight;
+    const int x = x_of(note.Start);
+    const int wide = std::max(2, (note.End - note.Start) * kBarWidth / piece.BarTicks - 1);
+    const int y = top + (kHighPitch - std::clamp(note.Pitch, kLowPitch, kHighPitch)) * kPitchHeight;
     canvas.Box(x, y, wide, kPitchHeight,
-               Shade(colours[note.track % colours.size()], note.velocity));
+               Shade(colours[note.Track % colours.size()], note.Velocity));
   }
   return Png(canvas);
 }

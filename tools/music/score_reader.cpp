@@ -91,9 +91,9 @@ class Reader {
     const size_t slash = word.find('/');
     if (slash == std::string::npos || slash == 0) Fail("a meter is written as 4/4");
     Meter meter;
-    meter.beats = Number(word.substr(0, slash), 1, 16);
-    meter.unit = Number(word.substr(slash + 1), 2, 16);
-    if (kWhole % meter.unit != 0) Fail("no such note value in the meter");
+    meter.Beats = Number(word.substr(0, slash), 1, 16);
+    meter.Unit = Number(word.substr(slash + 1), 2, 16);
+    if (kWhole % meter.Unit != 0) Fail("no such note value in the meter");
     return meter;
   }
 
@@ -102,28 +102,28 @@ class Reader {
     section_ = nullptr;
     const std::string& keyword = words.front();
     if (keyword == "piece") {
-      score_.name = Word(words, 1);
+      score_.Name = Word(words, 1);
       const size_t open = row.find('"');
       const size_t close = row.rfind('"');
       if (open != std::string::npos && close > open) {
-        score_.title = row.substr(open + 1, close - open - 1);
+        score_.Title = row.substr(open + 1, close - open - 1);
       }
     } else if (keyword == "key") {
       score_.key = KeyOf(words);
     } else if (keyword == "tempo") {
-      score_.tempo = Number(Word(words, 1), 20, 300);
+      score_.Tempo = Number(Word(words, 1), 20, 300);
     } else if (keyword == "meter") {
       score_.meter = MeterOf(Word(words, 1));
     } else if (keyword == "level") {
-      score_.level = Number(Word(words, 1), -200, 60) / 10.0;
+      score_.Level = Number(Word(words, 1), -200, 60) / 10.0;
     } else if (keyword == "poll") {
-      score_.poll = Number(Word(words, 1), 0, 200);
+      score_.Poll = Number(Word(words, 1), 0, 200);
     } else if (keyword == "form") {
-      score_.form.insert(score_.form.end(), words.begin() + 1, words.end());
+      score_.Form.insert(score_.Form.end(), words.begin() + 1, words.end());
     } else if (keyword == "part") {
       AddPart(words);
     } else if (keyword == "pattern") {
-      pattern_ = &score_.patterns[Word(words, 1)];
+      pattern_ = &score_.Patterns[Word(words, 1)];
       if (!pattern_->empty()) Fail("a second pattern " + words[1]);
     } else if (keyword == "section") {
       AddSection(words);
@@ -134,52 +134,52 @@ class Reader {
 
   void AddPart(const std::vector<std::string>& words) {
     Part part;
-    part.name = Word(words, 1);
+    part.Name = Word(words, 1);
     part.instrument = FindInstrument(Word(words, 2));
     if (part.instrument == nullptr) Fail("unknown instrument " + words[2]);
     struct Option {
-      std::string_view name;
-      int Part::*field;
-      int low;
-      int high;
+      std::string_view Name;
+      int Part::*Field;
+      int Low;
+      int High;
     };
-    static const std::array<Option, 11> options = {{{"home", &Part::home, 0, 8},
-                                                    {"volume", &Part::volume, 0, 127},
-                                                    {"pan", &Part::pan, -63, 63},
-                                                    {"reverb", &Part::reverb, 0, 127},
-                                                    {"chorus", &Part::chorus, 0, 127},
-                                                    {"feel", &Part::feel, 0, 30},
-                                                    {"vibrato", &Part::vibrato, 0, 127},
-                                                    {"gate", &Part::gate, 10, 100},
-                                                    {"roll", &Part::roll, 0, 120},
+    static const std::array<Option, 11> options = {{{"home", &Part::Home, 0, 8},
+                                                    {"volume", &Part::Volume, 0, 127},
+                                                    {"pan", &Part::Pan, -63, 63},
+                                                    {"reverb", &Part::Reverb, 0, 127},
+                                                    {"chorus", &Part::Chorus, 0, 127},
+                                                    {"feel", &Part::Feel, 0, 30},
+                                                    {"vibrato", &Part::Vibrato, 0, 127},
+                                                    {"gate", &Part::Gate, 10, 100},
+                                                    {"roll", &Part::Roll, 0, 120},
                                                     {"touch", &Part::touch, -40, 40},
-                                                    {"voices", &Part::voices, 2, 5}}};
+                                                    {"voices", &Part::Voices, 2, 5}}};
     for (size_t i = 3; i < words.size(); i += 2) {
       const std::string& value = Word(words, i + 1);
       if (words[i] == "floor") {
         try {
-          part.floor = ReadPitch(value);
+          part.Floor = ReadPitch(value);
         } catch (const std::invalid_argument& problem) {
           Fail(problem.what());
         }
         continue;
       }
       const auto* option = std::find_if(options.begin(), options.end(), [&](const Option& known) {
-        return known.name == words[i];
+        return known.Name == words[i];
       });
       if (option == options.end()) Fail("unknown option " + words[i]);
-      part.*(option->field) = Number(value, option->low, option->high);
+      part.*(option->Field) = Number(value, option->Low, option->High);
     }
-    part.channel = part.instrument->drums ? 9 : next_channel_;
-    if (!part.instrument->drums && ++next_channel_ == 9) ++next_channel_;
-    if (part.channel > 15) Fail("more parts than channels");
-    score_.parts.push_back(part);
+    part.Channel = part.instrument->Drums ? 9 : next_channel_;
+    if (!part.instrument->Drums && ++next_channel_ == 9) ++next_channel_;
+    if (part.Channel > 15) Fail("more parts than channels");
+    score_.Parts.push_back(part);
   }
 
   void AddSection(const std::vector<std::string>& words) {
     Section section;
     section.key = score_.key;
-    section.tempo = section.tempo_end = score_.tempo;
+    section.Tempo = section.TempoEnd = score_.Tempo;
     section.meter = score_.meter;
     const std::string& name = Word(words, 1);
     for (size_t i = 2; i < words.size(); ++i) {
@@ -188,14 +188,14 @@ class Reader {
         if (model == score_.sections.end()) Fail("no section " + words[i] + " before this one");
         section = model->second;
       } else if (words[i].front() == '+' || words[i].front() == '-') {
-        section.transpose += Number(words[i], -24, 24);
+        section.Transpose += Number(words[i], -24, 24);
       } else {
-        section.bars = Number(words[i], 1, 64);
+        section.Bars = Number(words[i], 1, 64);
       }
     }
-    section.name = name;
+    section.Name = name;
     section.line = line_;
-    if (section.bars == 0) Fail("a section needs its number of bars");
+    if (section.Bars == 0) Fail("a section needs its number of bars");
     if (!score_.sections.emplace(name, section).second) Fail("a second section " + name);
     section_ = &score_.sections[name];
     fresh_.clear();
@@ -205,11 +205,11 @@ class Reader {
     DrumRow row;
     row.key = FindDrum(words.front());
     if (row.key < 0) Fail("unknown drum " + words.front());
-    for (size_t i = 1; i < words.size(); ++i) row.cells += words[i];
-    if (row.cells.empty() || row.cells.find_first_not_of(".oxX") != std::string::npos) {
+    for (size_t i = 1; i < words.size(); ++i) row.Cells += words[i];
+    if (row.Cells.empty() || row.Cells.find_first_not_of(".oxX") != std::string::npos) {
       Fail("drum cells are . o x and X");
     }
-    std::replace(row.cells.begin(), row.cells.end(), '.', ' ');
+    std::replace(row.Cells.begin(), row.Cells.end(), '.', ' ');
     pattern_->push_back(row);
   }
 
@@ -222,9 +222,9 @@ class Reader {
     } else if (keyword == "tempo") {
       const std::string& value = Word(words, 1);
       const size_t dots = value.find("..");
-      section_->tempo = Number(value.substr(0, dots), 20, 300);
-      section_->tempo_end =
-          dots == std::string::npos ? section_->tempo : Number(value.substr(dots + 2), 20, 300);
+      section_->Tempo = Number(value.substr(0, dots), 20, 300);
+      section_->TempoEnd =
+          dots == std::string::npos ? section_->Tempo : Number(value.substr(dots + 2), 20, 300);
     } else if (keyword == "silent") {
       for (size_t i = 1; i < words.size(); ++i) section_->lines.erase(words[i]);
     } else {
@@ -234,8 +234,8 @@ class Reader {
 
   void AddBars(const std::string& name, const std::string& text) {
     const bool known =
-        name == "chords" || std::any_of(score_.parts.begin(), score_.parts.end(),
-                                        [&](const Part& p) { return p.name == name; });
+        name == "chords" || std::any_of(score_.Parts.begin(), score_.Parts.end(),
+                                        [&](const Part& p) { return p.Name == name; });
     if (!known) Fail("no part " + name);
     // The first line of a part in a section replaces what the section took from its model.
     if (std::find(fresh_.begin(), fresh_.end(), name) == fresh_.end()) {
@@ -248,34 +248,34 @@ class Reader {
       std::vector<std::string> tokens = Tokens(bar);
       if (tokens.empty()) continue;
       if (tokens.size() == 1 && tokens.front() == "...") {
-        line.repeats = true;
+        line.Repeats = true;
         continue;
       }
       if (tokens.size() == 1 && tokens.front() == "%") {
-        if (line.bars.empty()) Fail("nothing to repeat");
-        tokens = line.bars.back().tokens;
+        if (line.Bars.empty()) Fail("nothing to repeat");
+        tokens = line.Bars.back().Tokens;
       }
-      line.bars.push_back({tokens, line_});
+      line.Bars.push_back({tokens, line_});
     }
   }
 
   void Finish() {
     ++line_;
-    if (score_.name.empty()) Fail("no piece line");
-    if (score_.form.empty()) Fail("no form line");
-    for (const std::string& name : score_.form) {
+    if (score_.Name.empty()) Fail("no piece line");
+    if (score_.Form.empty()) Fail("no form line");
+    for (const std::string& name : score_.Form) {
       if (score_.sections.count(name) == 0) Fail("the form names no section: " + name);
     }
     for (auto& [name, section] : score_.sections) {
       for (auto& [part, line] : section.lines) {
-        const auto bars = static_cast<size_t>(section.bars);
-        const size_t given = line.bars.size();
-        if (line.repeats && given > 0) {
-          for (size_t i = given; i < bars; ++i) line.bars.push_back(line.bars[i - given]);
+        const auto bars = static_cast<size_t>(section.Bars);
+        const size_t given = line.Bars.size();
+        if (line.Repeats && given > 0) {
+          for (size_t i = given; i < bars; ++i) line.Bars.push_back(line.Bars[i - given]);
         }
-        if (line.bars.size() != bars) {
+        if (line.Bars.size() != bars) {
           std::ostringstream what;
-          what << "section " << name << ": " << part << " has " << line.bars.size()
+          what << "section " << name << ": " << part << " has " << line.Bars.size()
                << " bars and not " << bars;
           throw ScoreError(section.line, what.str());
         }

@@ -13,15 +13,15 @@ class TokenReader {
   explicit TokenReader(std::string_view text) : text_(text) {}
 
   Token Read() {
-    while (Take('(')) token_.opens_slur = true;
+    while (Take('(')) token_.OpensSlur = true;
     if (Take('[')) {
       while (!Take(']')) {
-        if (!Take(' ')) token_.tones.push_back(ReadTone());
+        if (!Take(' ')) token_.Tones.push_back(ReadTone());
       }
     } else if (Take('*')) {
       token_.whole_chord = true;
     } else if (!Take('r')) {
-      token_.tones.push_back(ReadTone());
+      token_.Tones.push_back(ReadTone());
     }
     ReadLength();
     while (at_ < text_.size()) ReadMark();
@@ -56,22 +56,22 @@ class TokenReader {
     if (Take('@')) {
       // One digit only, so that a length can follow after a colon-free "@1" in a chord: @1:8.
       if (!Digit()) Fail();
-      tone.kind = ToneKind::Voice;
-      tone.voice = text_[at_++] - '0';
-      if (tone.voice < 1) Fail();
+      tone.Kind = ToneKind::Voice;
+      tone.Voice = text_[at_++] - '0';
+      if (tone.Voice < 1) Fail();
       Take(':');
     } else if (Take('R') || Take('T') || Take('F') || Take('S')) {
-      tone.kind = ToneKind::Bass;
-      tone.degree = text_[at_ - 1];
+      tone.Kind = ToneKind::Bass;
+      tone.Degree = text_[at_ - 1];
     } else {
       if (at_ >= text_.size() || std::islower(static_cast<unsigned char>(text_[at_])) == 0) Fail();
-      tone.semitone = ReadSemitone(text_, at_);
+      tone.Semitone = ReadSemitone(text_, at_);
     }
     for (;;) {
       if (Take('\'')) {
-        ++tone.octaves;
+        ++tone.Octaves;
       } else if (Take(',')) {
-        --tone.octaves;
+        --tone.Octaves;
       } else {
         return tone;
       }
@@ -82,8 +82,8 @@ class TokenReader {
     if (!Digit()) return;
     const int divisor = ReadDigits();
     if (divisor == 0 || kWhole % divisor != 0) Fail();
-    token_.length = kWhole / divisor;
-    if (Take('.')) token_.length += token_.length / 2;
+    token_.Length = kWhole / divisor;
+    if (Take('.')) token_.Length += token_.Length / 2;
   }
 
   void ReadMark() {
@@ -92,15 +92,15 @@ class TokenReader {
     } else if (Take('_')) {
       token_.touch = Touch::Tenuto;
     } else if (Take('>')) {
-      token_.stress += 10;
+      token_.Stress += 10;
     } else if (Take('^')) {
-      token_.stress += 20;
+      token_.Stress += 20;
     } else if (Take('?')) {
-      token_.stress -= 14;
+      token_.Stress -= 14;
     } else if (Take(')')) {
-      token_.closes_slur = true;
+      token_.ClosesSlur = true;
     } else if (Take('~')) {
-      token_.tied = true;
+      token_.Tied = true;
     } else {
       Fail();
     }
@@ -119,8 +119,8 @@ Token ReadToken(std::string_view text) {
 
 double ReadDynamic(std::string_view name) {
   struct Level {
-    std::string_view name;
-    double velocity;
+    std::string_view Name;
+    double Velocity;
   };
   static constexpr std::array<Level, 8> levels = {{{"ppp", 26},
                                                    {"pp", 38},
@@ -131,7 +131,7 @@ double ReadDynamic(std::string_view name) {
                                                    {"ff", 101},
                                                    {"fff", 114}}};
   for (const Level& level : levels) {
-    if (level.name == name) return level.velocity;
+    if (level.Name == name) return level.Velocity;
   }
   throw std::invalid_argument("no dynamic: " + std::string(name));
 }

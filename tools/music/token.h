@@ -14,21 +14,21 @@ enum class ToneKind { Pitch, Voice, Bass };
 // A tone as written: a pitch of the scale, the n-th voice of the chord (@n), or a tone of the
 // chord for a bass (R, T, F or S).
 struct Tone {
-  ToneKind kind = ToneKind::Pitch;
-  int semitone = 0;  // of a pitch, above the c of its octave
-  int voice = 0;     // of a voice, from 1
-  char degree = 0;   // of a bass tone
-  int octaves = 0;   // up, by the marks
+  ToneKind Kind = ToneKind::Pitch;
+  int Semitone = 0;  // of a pitch, above the c of its octave
+  int Voice = 0;     // of a voice, from 1
+  char Degree = 0;   // of a bass tone
+  int Octaves = 0;   // up, by the marks
 };
 
 struct Token {
-  std::vector<Tone> tones;   // none: a rest
+  std::vector<Tone> Tones;   // none: a rest
   bool whole_chord = false;  // *: every voice of the chord
-  int length = 0;            // ticks; 0: as the token before
-  bool opens_slur = false;
-  bool closes_slur = false;
-  bool tied = false;
-  int stress = 0;
+  int Length = 0;            // ticks; 0: as the token before
+  bool OpensSlur = false;
+  bool ClosesSlur = false;
+  bool Tied = false;
+  int Stress = 0;
   Touch touch = Touch::Plain;
 };
 

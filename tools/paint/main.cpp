@@ -17,11 +17,11 @@ namespace {
 
 // One grey level of difference is allowed, for renderers that round in their own way.
 bool SameWithinOneLevel(const Image& one, const Image& other) {
-  if (one.width != other.width || one.height != other.height) return false;
-  for (size_t i = 0; i < one.pixels.size(); ++i) {
+  if (one.Width != other.Width || one.Height != other.Height) return false;
+  for (size_t i = 0; i < one.Pixels.size(); ++i) {
     for (int shift = 0; shift <= 16; shift += 8) {
-      const int a = static_cast<int>(one.pixels[i] >> shift & 0xFF);
-      const int b = static_cast<int>(other.pixels[i] >> shift & 0xFF);
+      const int a = static_cast<int>(one.Pixels[i] >> shift & 0xFF);
+      const int b = static_cast<int>(other.Pixels[i] >> shift & 0xFF);
       if (std::abs(a - b) > 1) return false;
     }
   }
@@ -44,7 +44,7 @@ int Run(std::vector<std::string> words) {
   AddTileRecipes(recipes);
   AddEffectRecipes(recipes);
   if (!words.empty() && words[0] == "--list") {
-    for (const Recipe& recipe : recipes) std::printf("%s\n", recipe.name.c_str());
+    for (const Recipe& recipe : recipes) std::printf("%s\n", recipe.Name.c_str());
     return 0;
   }
   bool check = false;
@@ -60,9 +60,9 @@ int Run(std::vector<std::string> words) {
   words.erase(words.begin());
   int differing = 0;
   for (const Recipe& recipe : recipes) {
-    if (!Wanted(recipe.name, words)) continue;
-    const std::string file = folder + "/" + recipe.name + ".png";
-    const Image image = recipe.paint();
+    if (!Wanted(recipe.Name, words)) continue;
+    const std::string file = folder + "/" + recipe.Name + ".png";
+    const Image image = recipe.Paint();
     if (!check) {
       WritePng(image, file);
       std::printf("painted %s\n", file.c_str());

@@ -10,8 +10,8 @@ namespace {
 png_image Header(const Image& image) {
   png_image header{};
   header.version = PNG_IMAGE_VERSION;
-  header.width = static_cast<png_uint_32>(image.width);
-  header.height = static_cast<png_uint_32>(image.height);
+  header.width = static_cast<png_uint_32>(image.Width);
+  header.height = static_cast<png_uint_32>(image.Height);
   header.format = PNG_FORMAT_RGB;
   return header;
 }
@@ -20,8 +20,8 @@ png_image Header(const Image& image) {
 
 void WritePng(const Image& image, const std::string& file) {
   std::vector<uint8_t> bytes;
-  bytes.reserve(image.pixels.size() * 3);
-  for (const uint32_t pixel : image.pixels) {
+  bytes.reserve(image.Pixels.size() * 3);
+  for (const uint32_t pixel : image.Pixels) {
     bytes.push_back(static_cast<uint8_t>(pixel >> 16));
     bytes.push_back(static_cast<uint8_t>(pixel >> 8));
     bytes.push_back(static_cast<uint8_t>(pixel));
@@ -44,8 +44,8 @@ Image ReadPng(const std::string& file) {
     throw std::runtime_error(file + ": cannot read: " + header.message);
   }
   Image image(static_cast<int>(header.width), static_cast<int>(header.height));
-  for (size_t i = 0; i < image.pixels.size(); ++i) {
-    image.pixels[i] = static_cast<uint32_t>(bytes[i * 4]) << 16 |
+  for (size_t i = 0; i < image.Pixels.size(); ++i) {
+    image.Pixels[i] = static_cast<uint32_t>(bytes[i * 4]) << 16 |
                       static_cast<uint32_t>(bytes[i * 4 + 1]) << 8 | bytes[i * 4 + 2];
   }
   return image;

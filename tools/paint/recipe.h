@@ -13,28 +13,28 @@ namespace orvane::paint {
 struct Image {
   Image() = default;
   Image(int wide, int high, uint32_t colour = 0xFFFFFF)
-      : width(wide),
-        height(high),
-        pixels(static_cast<size_t>(wide) * static_cast<size_t>(high), colour) {}
+      : Width(wide),
+        Height(high),
+        Pixels(static_cast<size_t>(wide) * static_cast<size_t>(high), colour) {}
 
   // The pixel at (x, y), which must lie inside.
   uint32_t& At(int x, int y) {
-    return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    return Pixels[static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x)];
   }
   uint32_t At(int x, int y) const {
-    return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    return Pixels[static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x)];
   }
 
-  int width = 0;
-  int height = 0;
-  std::vector<uint32_t> pixels;
+  int Width = 0;
+  int Height = 0;
+  std::vector<uint32_t> Pixels;
 };
 
 // One sheet of the game: its file below content/pictures/sheets, without the ".png", and its
 // painter. A painter is deterministic: the same pixels on every run and machine.
 struct Recipe {
-  std::string name;
-  std::function<Image()> paint;
+  std::string Name;
+  std::function<Image()> Paint;
 };
 
 // Each family of pictures adds its recipes; the definitions stand in content/pictures/<family>/.

@@ -17,9 +17,9 @@ double Scatter(int streak) {
 
 // From how far along the crescent to how far a frame shows it, and how thick it is.
 struct Sweep {
-  double from;
-  double to;
-  double thick;
+  double From;
+  double To;
+  double Thick;
 };
 
 }  // namespace
@@ -33,10 +33,10 @@ Shape Slash(int frame) {
     // white-hot at the outer edge; inward it cools and tears into streaks.
     const double distance = std::hypot(x + 8.5, y + 8.5);
     const double turn = std::atan2(y + 8.5, x + 8.5) / (pi / 2);
-    const double along = (turn - sweep.from) / (sweep.to - sweep.from);
+    const double along = (turn - sweep.From) / (sweep.To - sweep.From);
     const double inward = 19.6 - distance;
     if (along <= 0 || along >= 1 || inward < 0) return std::nullopt;
-    const double thick = sweep.thick * std::pow(std::sin(pi * std::pow(along, 0.86)), 0.8);
+    const double thick = sweep.Thick * std::pow(std::sin(pi * std::pow(along, 0.86)), 0.8);
     if (thick < 1.5 || inward > thick) return std::nullopt;
     const double share = inward / thick;
     const int streak = static_cast<int>(inward / 1.15);

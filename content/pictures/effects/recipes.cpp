@@ -10,8 +10,8 @@ constexpr int kColumns = 8;
 constexpr int kRows = 6;
 
 struct Entry {
-  int column;
-  int row;
+  int Column;
+  int Row;
   Shape shape;
 };
 
@@ -34,10 +34,10 @@ Image PaintEffects() {
       {2, 5, IceGrowing(2)},  {3, 5, IceGrowing(3)},  {4, 5, IceCrystal()},
       {5, 5, IceBreaking(0)}, {6, 5, IceBreaking(1)}, {7, 5, IceBreaking(2)}};
   Image sheet(2 * kColumns * kCellSize, kRows * kCellSize, 0x000000);
-  for (int y = 0; y < sheet.height; ++y) {
+  for (int y = 0; y < sheet.Height; ++y) {
     for (int x = 0; x < kColumns * kCellSize; ++x) sheet.At(x, y) = 0xFFFFFF;
   }
-  for (const Entry& entry : entries) PaintCell(sheet, entry.column, entry.row, entry.shape);
+  for (const Entry& entry : entries) PaintCell(sheet, entry.Column, entry.Row, entry.shape);
   return sheet;
 }
 

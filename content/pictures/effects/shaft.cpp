@@ -7,12 +7,12 @@ namespace orvane::paint::effects {
 namespace {
 
 std::optional<double> ToneIn(const Shaft& shaft, double x, double y, double shoulder) {
-  const double up_x = std::sin(shaft.turn);
-  const double up_y = -std::cos(shaft.turn);
-  const double along = ((x - shaft.root_x) * up_x + (y - shaft.root_y) * up_y) / shaft.length;
-  const double across = -(x - shaft.root_x) * up_y + (y - shaft.root_y) * up_x;
+  const double up_x = std::sin(shaft.Turn);
+  const double up_y = -std::cos(shaft.Turn);
+  const double along = ((x - shaft.RootX) * up_x + (y - shaft.RootY) * up_y) / shaft.Length;
+  const double across = -(x - shaft.RootX) * up_y + (y - shaft.RootY) * up_x;
   if (along < 0 || along > 1) return std::nullopt;
-  const double width = shaft.width * (along < shoulder ? 0.72 + 0.28 * along / shoulder
+  const double width = shaft.Width * (along < shoulder ? 0.72 + 0.28 * along / shoulder
                                                        : (1 - along) / (1 - shoulder));
   const double side = across / std::max(0.3, width);
   if (std::abs(side) > 1) return std::nullopt;

@@ -9,11 +9,11 @@ namespace orvane::paint::effects {
 
 // A shaft, lit on its left face.
 struct Shaft {
-  double root_x;
-  double root_y;
-  double turn;  // radians, 0 straight up, positive to the right
-  double length;
-  double width;  // half
+  double RootX;
+  double RootY;
+  double Turn;  // radians, 0 straight up, positive to the right
+  double Length;
+  double Width;  // half
 };
 
 // Several shafts, the later ones in front. `shoulder` is where they begin to narrow, 0 to 1.

@@ -11,10 +11,10 @@ using std::numbers::pi;
 
 // A ball of smoke: its place, its radius, and how far the embers in it still glow, 0 to 1.
 struct Puff {
-  double x;
-  double y;
-  double radius;
-  double glow;
+  double X;
+  double Y;
+  double Radius;
+  double Glow;
 };
 
 std::vector<Puff> Ring(int count, double reach, double radius, double glow, double turned) {
@@ -39,14 +39,14 @@ Shape BlastSmoke(int frame) {
     double light = 0;
     double ember = 0;
     for (const Puff& puff : puffs) {
-      const double dx = x - puff.x;
-      const double dy = y - puff.y;
-      const double here = 1 - std::hypot(dx, dy) / puff.radius;
+      const double dx = x - puff.X;
+      const double dy = y - puff.Y;
+      const double here = 1 - std::hypot(dx, dy) / puff.Radius;
       if (here <= depth) continue;
       depth = here;
-      light = -(0.55 * dx + 0.83 * dy) / puff.radius;
+      light = -(0.55 * dx + 0.83 * dy) / puff.Radius;
       // Embers glow on the side that is turned to the middle.
-      ember = -(dx * puff.x + dy * puff.y) / std::hypot(puff.x, puff.y) / puff.radius * puff.glow;
+      ember = -(dx * puff.X + dy * puff.Y) / std::hypot(puff.X, puff.Y) / puff.Radius * puff.Glow;
     }
     if (depth <= 0) return std::nullopt;
     const double wisp = Wander(x * 0.5 + 30 + 7 * frame, y * 0.5 + 30, 12);

@@ -92,7 +92,7 @@ Sprite Render(const Model& model, const std::vector<Material>& materials, const 
   }
   // A small hole is filled with the outline that runs around it.
   for (const HolePixel& hole : SmallHoles(sprite.Solid, view.Width, kLargestHole)) {
-    sprite.Picture.pixels[hole.At] = sprite.Picture.pixels[hole.Beside];
+    sprite.Picture.Pixels[hole.At] = sprite.Picture.Pixels[hole.Beside];
     sprite.Solid[hole.At] = true;
   }
   return sprite;

@@ -23,8 +23,8 @@ Span Covered(const Sprite& sprite, float from) {
   Span span;
   for (size_t i = 0; i < sprite.Solid.size(); ++i) {
     if (!sprite.Solid[i]) continue;
-    const float x = static_cast<float>(static_cast<int>(i) % sprite.Picture.width);
-    const float y = static_cast<float>(static_cast<int>(i) / sprite.Picture.width);
+    const float x = static_cast<float>(static_cast<int>(i) % sprite.Picture.Width);
+    const float y = static_cast<float>(static_cast<int>(i) / sprite.Picture.Width);
     if (y < from) continue;
     span.Left = std::min(span.Left, x);
     span.Right = std::max(span.Right, x + 1);
@@ -58,18 +58,18 @@ int Darkness(const GroundShadow& shadow, float distance) {
 GroundShadow ShadowUnder(const Sprite& sprite, float wider) {
   const Span all = Covered(sprite, 0);
   const Span feet = Covered(sprite, all.Bottom - (all.Bottom - all.Top) * 0.14F);
-  return OnLine(feet, wider, all.Bottom + kShadowRoom, sprite.Picture.width);
+  return OnLine(feet, wider, all.Bottom + kShadowRoom, sprite.Picture.Width);
 }
 
 GroundShadow ShadowBelow(const Sprite& sprite, float share, int above) {
-  return OnLine(Covered(sprite, 0), share, static_cast<float>(sprite.Picture.height - above),
-                sprite.Picture.width);
+  return OnLine(Covered(sprite, 0), share, static_cast<float>(sprite.Picture.Height - above),
+                sprite.Picture.Width);
 }
 
 void CastShadow(Sprite& sprite, const GroundShadow& shadow) {
-  for (int y = 1; y + 1 < sprite.Picture.height; ++y) {
-    for (int x = 1; x + 1 < sprite.Picture.width; ++x) {
-      const size_t place = static_cast<size_t>(y) * static_cast<size_t>(sprite.Picture.width) +
+  for (int y = 1; y + 1 < sprite.Picture.Height; ++y) {
+    for (int x = 1; x + 1 < sprite.Picture.Width; ++x) {
+      const size_t place = static_cast<size_t>(y) * static_cast<size_t>(sprite.Picture.Width) +
                            static_cast<size_t>(x);
       if (sprite.Solid[place]) continue;
       const float u = (static_cast<float>(x) + 0.5F - shadow.X) / shadow.HalfWidth;

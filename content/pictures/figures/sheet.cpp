@@ -18,10 +18,10 @@ Image EmptySheet(int width, int height, int mask_from) {
 void PutPair(Image& sheet, const Sprite& sprite, int x, int y, int mask_from) {
   for (size_t i = 0; i < sprite.Solid.size(); ++i) {
     if (!sprite.Solid[i]) continue;
-    const int px = x + static_cast<int>(i) % sprite.Picture.width;
-    const int py = y + static_cast<int>(i) / sprite.Picture.width;
-    if (px + mask_from >= sheet.width || py >= sheet.height) continue;
-    sheet.At(px, py) = sprite.Picture.pixels[i];
+    const int px = x + static_cast<int>(i) % sprite.Picture.Width;
+    const int py = y + static_cast<int>(i) / sprite.Picture.Width;
+    if (px + mask_from >= sheet.Width || py >= sheet.Height) continue;
+    sheet.At(px, py) = sprite.Picture.Pixels[i];
     sheet.At(px + mask_from, py) = kWhite;
   }
 }
@@ -40,9 +40,9 @@ void Stamp(Sprite& sprite, int x, int y, const std::vector<std::string>& rows,
       const int px = x + static_cast<int>(column);
       const int py = y + static_cast<int>(row);
       if (letter == std::string::npos || px < 0 || py < 0) continue;
-      if (px >= sprite.Picture.width || py >= sprite.Picture.height) continue;
+      if (px >= sprite.Picture.Width || py >= sprite.Picture.Height) continue;
       sprite.Picture.At(px, py) = colours[letter];
-      sprite.Solid[static_cast<size_t>(py) * static_cast<size_t>(sprite.Picture.width) +
+      sprite.Solid[static_cast<size_t>(py) * static_cast<size_t>(sprite.Picture.Width) +
                    static_cast<size_t>(px)] = true;
     }
   }

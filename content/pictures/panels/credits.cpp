@@ -16,14 +16,14 @@ using scene::Drawing;
 using scene::Fill;
 
 struct Strip {
-  int x = 0;
-  int y = 0;
-  int width = 0;
-  int height = 0;
-  const char* text = "";
-  double size = 0;
-  double spacing = 0;
-  double rim = 4.2;  // of coloured letters: twice how far the dark goes beyond them
+  int X = 0;
+  int Y = 0;
+  int Width = 0;
+  int Height = 0;
+  const char* Text = "";
+  double Size = 0;
+  double Spacing = 0;
+  double Rim = 4.2;  // of coloured letters: twice how far the dark goes beyond them
 };
 
 // Strips with an image of their own; the mask lies right below the image.
@@ -47,8 +47,8 @@ bool Covered(const Cover& cover, int x, int y) {
 }
 
 void Trace(Drawing& drawing, const Strip& strip, const char* face) {
-  TraceText(drawing, {strip.text, face, strip.size, strip.spacing}, strip.width / 2.0,
-            strip.height / 2.0);
+  TraceText(drawing, {strip.Text, face, strip.Size, strip.Spacing}, strip.Width / 2.0,
+            strip.Height / 2.0);
 }
 
 void StrokeText(Drawing& drawing, const Strip& strip, const char* face, uint32_t colour,
@@ -61,7 +61,7 @@ void StrokeText(Drawing& drawing, const Strip& strip, const char* face, uint32_t
 void PutPair(Image& sheet, const Drawing& drawing, int x, int y, int width, int height) {
   const Cover cover = drawing.Coverage();
   Canvas canvas(width, height);
-  for (scene::Colour& colour : canvas.pixels) colour = scene::Hex(0x240818);
+  for (scene::Colour& colour : canvas.Pixels) colour = scene::Hex(0x240818);
   drawing.LayOn(canvas);
   const Image image = scene::ToSheet(canvas);
   for (int row = 0; row < height; ++row) {
@@ -74,25 +74,25 @@ void PutPair(Image& sheet, const Drawing& drawing, int x, int y, int width, int 
 }
 
 void PaintColoured(Image& sheet, const Strip& strip) {
-  Drawing drawing(strip.width, strip.height);
-  StrokeText(drawing, strip, kSerif, 0x240818, strip.rim);
-  StrokeText(drawing, strip, kSerif, 0x6C1820, strip.rim - 2);
+  Drawing drawing(strip.Width, strip.Height);
+  StrokeText(drawing, strip, kSerif, 0x240818, strip.Rim);
+  StrokeText(drawing, strip, kSerif, 0x6C1820, strip.Rim - 2);
   StrokeText(drawing, strip, kSerif, 0xF0C868, 0.7);
   Trace(drawing, strip, kSerif);
   drawing.FillTraced(
       Fill(0, 5, 0, 27, {{0, 0xFFFCE8}, {0.45, 0xFCE898}, {0.55, 0xF0BC58}, {1, 0xFFF0B0}}));
-  PutPair(sheet, drawing, strip.x, strip.y, strip.width, strip.height);
+  PutPair(sheet, drawing, strip.X, strip.Y, strip.Width, strip.Height);
 }
 
 void PaintPlain(Image& sheet, const Strip& strip) {
-  Drawing drawing(strip.width, strip.height);
+  Drawing drawing(strip.Width, strip.Height);
   StrokeText(drawing, strip, kPlainFace, kWhite, 0.8);
   Trace(drawing, strip, kPlainFace);
   drawing.FillTraced(kWhite);
   const Cover body = drawing.Coverage();
-  for (int y = 0; y < strip.height; ++y) {
-    for (int x = 0; x < strip.width; ++x) {
-      if (Covered(body, x, y)) sheet.At(strip.x + x, strip.y + y) = kWhite;
+  for (int y = 0; y < strip.Height; ++y) {
+    for (int x = 0; x < strip.Width; ++x) {
+      if (Covered(body, x, y)) sheet.At(strip.X + x, strip.Y + y) = kWhite;
     }
   }
 }

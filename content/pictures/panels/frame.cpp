@@ -23,13 +23,13 @@ Colour Paper(const Style& style, const Area& area, int x, int y) {
   const auto fy = static_cast<float>(y);
   const float cloud = scene::Fbm(fx * 0.035F, fy * 0.05F, 4, 21) - 0.5F;
   const float fibre = scene::Noise(fx * 0.22F, fy * 0.9F, 22) - 0.5F;
-  const int edge = std::min(std::min(x - area.left, area.left + area.width - 1 - x),
-                            std::min(y - area.top, area.top + area.height - 1 - y));
+  const int edge = std::min(std::min(x - area.Left, area.Left + area.Width - 1 - x),
+                            std::min(y - area.Top, area.Top + area.Height - 1 - y));
   // Paper browns from its rim inwards, unevenly.
   const float browned = std::exp(-(static_cast<float>(edge) - 5 + cloud * 12) * 0.28F);
   const Colour sheet =
-      Mix(Hex(style.paper), Hex(style.stain), 0.18F + cloud * 1.5F + fibre * 0.22F);
-  return Mix(sheet, Hex(style.rim), Clamp(browned) * 0.8F);
+      Mix(Hex(style.Paper), Hex(style.Stain), 0.18F + cloud * 1.5F + fibre * 0.22F);
+  return Mix(sheet, Hex(style.Rim), Clamp(browned) * 0.8F);
 }
 
 void DrawCorners(Canvas& canvas, const Style& style, const Area& area) {
@@ -37,15 +37,15 @@ void DrawCorners(Canvas& canvas, const Style& style, const Area& area) {
     for (size_t column = 0; column < kCorner[row].size(); ++column) {
       const char letter = kCorner[row][column];
       if (letter == '.') continue;
-      const Colour colour = Hex(style.corner[static_cast<size_t>(letter - 'a')]);
+      const Colour colour = Hex(style.Corner[static_cast<size_t>(letter - 'a')]);
       const int in_x = static_cast<int>(column);
       const int in_y = static_cast<int>(row);
-      for (const int x : {area.left + in_x, area.left + area.width - 1 - in_x}) {
-        for (const int y : {area.top + in_y, area.top + area.height - 1 - in_y}) {
+      for (const int x : {area.Left + in_x, area.Left + area.Width - 1 - in_x}) {
+        for (const int y : {area.Top + in_y, area.Top + area.Height - 1 - in_y}) {
           // Pieces away from the light are a shade darker.
-          const float dark = (x > area.left + area.width / 2 ? 0.12F : 0) +
-                             (y > area.top + area.height / 2 ? 0.14F : 0);
-          canvas.Blend(x, y, Mix(colour, Hex(style.corner[0]), dark));
+          const float dark = (x > area.Left + area.Width / 2 ? 0.12F : 0) +
+                             (y > area.Top + area.Height / 2 ? 0.14F : 0);
+          canvas.Blend(x, y, Mix(colour, Hex(style.Corner[0]), dark));
         }
       }
     }
@@ -55,20 +55,20 @@ void DrawCorners(Canvas& canvas, const Style& style, const Area& area) {
 }  // namespace
 
 void DrawWindow(Canvas& canvas, const Style& style, const Area& area) {
-  for (int y = area.top; y < area.top + area.height; ++y) {
-    for (int x = area.left; x < area.left + area.width; ++x) {
-      const int upper_left = std::min(x - area.left, y - area.top);
+  for (int y = area.Top; y < area.Top + area.Height; ++y) {
+    for (int x = area.Left; x < area.Left + area.Width; ++x) {
+      const int upper_left = std::min(x - area.Left, y - area.Top);
       const int lower_right =
-          std::min(area.left + area.width - 1 - x, area.top + area.height - 1 - y);
+          std::min(area.Left + area.Width - 1 - x, area.Top + area.Height - 1 - y);
       const int edge = std::min(upper_left, lower_right);
       if (edge < 5) {
-        const auto& lines = upper_left <= lower_right ? style.lit : style.shaded;
+        const auto& lines = upper_left <= lower_right ? style.Lit : style.Shaded;
         canvas.At(x, y) = Hex(lines[static_cast<size_t>(edge)]);
         continue;
       }
       // The frame throws a short shadow on the paper.
       const float shadow = upper_left < 8 ? 0.34F - 0.1F * static_cast<float>(upper_left - 5) : 0;
-      canvas.At(x, y) = Mix(Paper(style, area, x, y), Hex(style.lit[4]), shadow);
+      canvas.At(x, y) = Mix(Paper(style, area, x, y), Hex(style.Lit[4]), shadow);
     }
   }
   DrawCorners(canvas, style, area);
@@ -78,8 +78,8 @@ void DrawGem(Canvas& canvas, const Style& style, int x, int y, std::array<uint32
   for (int down = -4; down <= 4; ++down) {
     for (int right = std::abs(down) - 4; right <= 4 - std::abs(down); ++right) {
       const bool border = std::abs(right) + std::abs(down) == 4;
-      const uint32_t inside = right + down < -1 ? style.lit[2] : faces[right + down > 1 ? 1 : 0];
-      canvas.Blend(x + right, y + down, Hex(border ? style.lit[4] : inside));
+      const uint32_t inside = right + down < -1 ? style.Lit[2] : faces[right + down > 1 ? 1 : 0];
+      canvas.Blend(x + right, y + down, Hex(border ? style.Lit[4] : inside));
     }
   }
 }

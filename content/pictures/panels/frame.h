@@ -9,21 +9,21 @@
 namespace orvane::paint::panel {
 
 struct Area {
-  int left;
-  int top;
-  int width;
-  int height;
+  int Left;
+  int Top;
+  int Width;
+  int Height;
 };
 
 // The frame's lines from the outermost inwards where light falls on them and where it does not, the
 // paper with its stains, and the corner pieces' colours for the letters a to e.
 struct Style {
-  std::array<uint32_t, 5> lit;
-  std::array<uint32_t, 5> shaded;
-  uint32_t paper;
-  uint32_t stain;
-  uint32_t rim;
-  std::array<uint32_t, 5> corner;
+  std::array<uint32_t, 5> Lit;
+  std::array<uint32_t, 5> Shaded;
+  uint32_t Paper;
+  uint32_t Stain;
+  uint32_t Rim;
+  std::array<uint32_t, 5> Corner;
 };
 
 constexpr Style kParchment{{0x24120C, 0xF0C860, 0xFFF4B8, 0xB47830, 0x4C2A16},

@@ -40,9 +40,9 @@ constexpr std::array<uint32_t, 7> kIris{0x5C1C08, 0x9C4408, 0xD07C10, 0xF0AC20,
 // A place seen from the eye: how far along its axis, how far outside its rim (negative inside), and
 // on which side.
 struct AboutEye {
-  float along;
-  float out;
-  bool above;
+  float Along;
+  float Out;
+  bool Above;
 };
 
 AboutEye SeenFromEye(float x, float y) {
@@ -62,14 +62,14 @@ AboutEye SeenFromEye(float x, float y) {
 // The scales beyond the lids: rows that follow the eye's rim, each half a scale off from the last,
 // growing outward, with a keel, the free edge turned away from the eye.
 struct Scale {
-  float height;
-  float chance;  // one number for the whole scale
-  float tip;     // 0 at its root, 1 at its free edge
+  float Height;
+  float Chance;  // one number for the whole scale
+  float Tip;     // 0 at its root, 1 at its free edge
 };
 
 Scale ScaleAt(const AboutEye& at) {
-  const float from = at.above ? kLid : kLowerLid;
-  const float root = std::sqrt(std::max(0.0F, at.out - from) * 0.34F + 0.9F) * 2.6F;
+  const float from = at.Above ? kLid : kLowerLid;
+  const float root = std::sqrt(std::max(0.0F, at.Out - from) * 0.34F + 0.9F) * 2.6F;
   const int row = static_cast<int>(root);
   float best = -1;
   Scale result{0, 0.5F, 0};
@@ -77,7 +77,7 @@ Scale ScaleAt(const AboutEye& at) {
   for (const int each : {row, row - 1}) {
     const float tip = (root - static_cast<float>(each)) / 1.45F;
     const float wide = 5.2F + 0.55F * static_cast<float>(each);
-    const float along = at.along * kAxisLength / wide + (each % 2 == 0 ? 0 : 0.5F);
+    const float along = at.Along * kAxisLength / wide + (each % 2 == 0 ? 0 : 0.5F);
     const float cell = std::floor(along);
     const float side = 2 * (along - cell) - 1;
     const float shape = 1 - side * side - std::pow(std::max(0.0F, tip), 3.0F) * 0.98F;
@@ -86,7 +86,7 @@ Scale ScaleAt(const AboutEye& at) {
     const float height = 0.7F + 1.5F * tip + 0.95F * std::sqrt(shape) + keel;
     if (height <= best) continue;
     best = height;
-    result = {height, Hash(static_cast<int>(cell), each, at.above ? 61 : 62), tip};
+    result = {height, Hash(static_cast<int>(cell), each, at.Above ? 61 : 62), tip};
   }
   return result;
 }
@@ -94,18 +94,18 @@ Scale ScaleAt(const AboutEye& at) {
 // How far the skin stands out towards the viewer.
 float SkinHeight(float x, float y) {
   const AboutEye at = SeenFromEye(x, y);
-  const float from = at.above ? kLid : kLowerLid;
-  const float share = Clamp(at.out / from);
+  const float from = at.Above ? kLid : kLowerLid;
+  const float share = Clamp(at.Out / from);
   // A lid is a roll about the eye, its wet edge a smaller one.
-  const float roll = (at.above ? 8.0F : 5.0F) * std::sqrt(std::max(0.0F, share * (1 - share) * 4));
-  const float edge = at.out < 2 ? 1.5F * std::sqrt(std::max(0.0F, at.out * (2 - at.out))) : 0;
+  const float roll = (at.Above ? 8.0F : 5.0F) * std::sqrt(std::max(0.0F, share * (1 - share) * 4));
+  const float edge = at.Out < 2 ? 1.5F * std::sqrt(std::max(0.0F, at.Out * (2 - at.Out))) : 0;
   const float fold =
-      at.above ? 0.30F * std::sin(at.out * 1.9F + 3 * Noise(at.along * 7, 0.3F, 65)) : 0;
+      at.Above ? 0.30F * std::sin(at.Out * 1.9F + 3 * Noise(at.Along * 7, 0.3F, 65)) : 0;
   const float leather = 0.42F * (Fbm(x * 0.7F, y * 0.7F, 2, 66) - 0.5F);
   const float lids = std::max(roll, edge) + (fold + leather) * share * (1 - share) * 4;
-  if (at.out < from) return lids;
-  const float settled = SmoothStep(0, 2.5F, at.out - from);
-  return Mix(0.6F, ScaleAt(at).height, settled) + 2.0F * SmoothStep(0, 16, at.out - from);
+  if (at.Out < from) return lids;
+  const float settled = SmoothStep(0, 2.5F, at.Out - from);
+  return Mix(0.6F, ScaleAt(at).Height, settled) + 2.0F * SmoothStep(0, 16, at.Out - from);
 }
 
 Vec SkinNormal(float x, float y) {
@@ -117,19 +117,19 @@ Vec SkinNormal(float x, float y) {
 
 Colour Skin(float x, float y) {
   const AboutEye at = SeenFromEye(x, y);
-  const float from = at.above ? kLid : kLowerLid;
+  const float from = at.Above ? kLid : kLowerLid;
   const Vec normal = SkinNormal(x, y);
   const float facing = Dot(normal, kKey);
   float light = 0.16F + 0.62F * Clamp(0.5F + 0.5F * facing) * Clamp(0.5F + 0.5F * facing);
   light += 0.24F * std::pow(Clamp(facing), 14.0F);
   // Light lies on the upper left of the whole head and fails towards the lower right.
   light += 0.10F * (1 - (x + 1.4F * y) / 76);
-  light *= 0.66F + 0.34F * SmoothStep(0, 2.6F, at.out);  // the eye lies in a hollow
-  if (at.out > from) {
+  light *= 0.66F + 0.34F * SmoothStep(0, 2.6F, at.Out);  // the eye lies in a hollow
+  if (at.Out > from) {
     const Scale scale = ScaleAt(at);
-    light *= 0.62F + 0.38F * SmoothStep(0.0F, 0.42F, scale.tip);
-    light += 0.10F * (scale.chance - 0.5F);
-    light *= 0.80F + 0.20F * SmoothStep(0, 3, at.out - from);
+    light *= 0.62F + 0.38F * SmoothStep(0.0F, 0.42F, scale.Tip);
+    light += 0.10F * (scale.Chance - 0.5F);
+    light *= 0.80F + 0.20F * SmoothStep(0, 3, at.Out - from);
   } else {
     light += 0.05F * (Fbm(x * 0.5F, y * 0.5F, 3, 67) - 0.5F);
   }
@@ -137,7 +137,7 @@ Colour Skin(float x, float y) {
   // A cool rim from behind on what turns away to the lower right.
   const float rim = std::pow(Clamp(Dot(normal, Unit({0.7F, 0.5F, 0.25F}))), 4.0F);
   colour = colour + Hex(0x5A3C9C) * (0.30F * rim);
-  return Mix(colour, Hex(0x180414), 0.9F * (1 - SmoothStep(0.0F, 0.7F, at.out)));
+  return Mix(colour, Hex(0x180414), 0.9F * (1 - SmoothStep(0.0F, 0.7F, at.Out)));
 }
 
 Colour Eye(float x, float y, float depth, bool fine) {
@@ -158,7 +158,7 @@ Colour Eye(float x, float y, float depth, bool fine) {
   // The upper lid throws its shadow on the ball.
   const AboutEye shaded = SeenFromEye(x + 0.9F, y - 1.2F);
   const float lid_shadow =
-      SmoothStep(7.0F, 0.5F, -shaded.out) * SmoothStep(kPupilY + 5, kPupilY - 4, y);
+      SmoothStep(7.0F, 0.5F, -shaded.Out) * SmoothStep(kPupilY + 5, kPupilY - 4, y);
   light = Mix(light, 0.16F, 0.62F * lid_shadow);
   Colour colour = OnRamp(kIris, light);
   // The slit, a little aslant, with a burnt border and a pale one.
@@ -188,12 +188,12 @@ Colour Eye(float x, float y, float depth, bool fine) {
 scene::Canvas DrawIconRelief(int size) {
   const int fine = size >= 128 ? 3 : 4;
   scene::Canvas canvas(size * fine, size * fine);
-  const float unit = 64.0F / static_cast<float>(canvas.width);
-  for (int row = 0; row < canvas.height; ++row) {
-    for (int column = 0; column < canvas.width; ++column) {
+  const float unit = 64.0F / static_cast<float>(canvas.Width);
+  for (int row = 0; row < canvas.Height; ++row) {
+    for (int column = 0; column < canvas.Width; ++column) {
       const float x = (static_cast<float>(column) + 0.5F) * unit;
       const float y = (static_cast<float>(row) + 0.5F) * unit;
-      const float out = SeenFromEye(x, y).out;
+      const float out = SeenFromEye(x, y).Out;
       const Colour inside = out < 0 ? Eye(x, y, -out, size >= 128) : Skin(x, y);
       canvas.At(column, row) = IconFramed(inside, x, y);
     }

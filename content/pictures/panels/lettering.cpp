@@ -24,13 +24,13 @@ void TraceText(scene::Drawing& drawing, const Lettering& lettering, double x, do
   cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
   pango_cairo_context_set_font_options(pango_layout_get_context(layout.get()), options.get());
   const std::unique_ptr<PangoFontDescription, Free> font(pango_font_description_new());
-  pango_font_description_set_family(font.get(), lettering.face.c_str());
-  pango_font_description_set_absolute_size(font.get(), lettering.size * PANGO_SCALE);
+  pango_font_description_set_family(font.get(), lettering.Face.c_str());
+  pango_font_description_set_absolute_size(font.get(), lettering.Size * PANGO_SCALE);
   pango_layout_set_font_description(layout.get(), font.get());
-  pango_layout_set_text(layout.get(), lettering.text.c_str(), -1);
+  pango_layout_set_text(layout.get(), lettering.Text.c_str(), -1);
   const std::unique_ptr<PangoAttrList, Free> attributes(pango_attr_list_new());
   pango_attr_list_insert(attributes.get(), pango_attr_letter_spacing_new(
-                                               static_cast<int>(lettering.spacing * PANGO_SCALE)));
+                                               static_cast<int>(lettering.Spacing * PANGO_SCALE)));
   pango_layout_set_attributes(layout.get(), attributes.get());
   pango_layout_context_changed(layout.get());
   PangoRectangle ink{};

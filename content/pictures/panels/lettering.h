@@ -10,10 +10,10 @@ namespace orvane::paint::panel {
 
 // A line of text: UTF-8, its face as fontconfig knows it, its size in pixels (the height of an em).
 struct Lettering {
-  std::string text;
-  std::string face;
-  double size = 0;
-  double spacing = 0;  // between letters, in pixels
+  std::string Text;
+  std::string Face;
+  double Size = 0;
+  double Spacing = 0;  // between letters, in pixels
 };
 
 // Lays the text's outline as the current path of the drawing's context, centred on (x, y); the

@@ -8,10 +8,10 @@ Image PaintPortrait(std::span<const Mark> marks) {
   constexpr int size = 48;
   scene::Drawing drawing(size, size);
   for (const Mark& mark : marks) {
-    if (mark.within != nullptr) drawing.Clip(mark.within);
-    if (mark.fill != kNone) drawing.Shape(mark.path, mark.fill, mark.opacity);
-    if (mark.line != kNone) drawing.Line(mark.path, mark.line, mark.width, mark.opacity);
-    if (mark.within != nullptr) drawing.Unclip();
+    if (mark.Within != nullptr) drawing.Clip(mark.Within);
+    if (mark.Fill != kNone) drawing.Shape(mark.Path, mark.Fill, mark.Opacity);
+    if (mark.line != kNone) drawing.Line(mark.Path, mark.line, mark.Width, mark.Opacity);
+    if (mark.Within != nullptr) drawing.Unclip();
   }
   scene::Canvas canvas(size, size);
   drawing.LayOn(canvas);

@@ -13,12 +13,12 @@ constexpr uint32_t kNone = 0xFFFFFFFF;
 // One shape of a face: its path, its fill and border colour (or none), how wide the border is, how
 // much it covers, and the shape that it is cut to (or null).
 struct Mark {
-  const char* path;
-  uint32_t fill = kNone;
+  const char* Path;
+  uint32_t Fill = kNone;
   uint32_t line = kNone;
-  double width = 0;
-  double opacity = 1;
-  const char* within = nullptr;
+  double Width = 0;
+  double Opacity = 1;
+  const char* Within = nullptr;
 };
 
 // The marks from the first to the last over each other, as a sheet of 48 by 48 in few colours.

@@ -10,8 +10,8 @@ using scene::Fill;
 
 // Capitals 44 units high from y = 10 to y = 54; the first one is larger. `x` is where it stands.
 struct Letter {
-  double x;
-  const char* path;
+  double X;
+  const char* Path;
 };
 
 constexpr std::array<Letter, 6> kLetters{{
@@ -46,8 +46,8 @@ constexpr const char* kFlourish =
 
 void ForEachLetter(Drawing& drawing, const auto& draw) {
   for (const Letter& letter : kLetters) {
-    drawing.Place(letter.x, 0, 1, 1);
-    draw(letter.path);
+    drawing.Place(letter.X, 0, 1, 1);
+    draw(letter.Path);
     drawing.Replace();
   }
   for (const bool right : {false, true}) {

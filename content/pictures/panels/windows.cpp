@@ -29,16 +29,16 @@ Image NameWindow(const Style& style, std::array<uint32_t, 2> faces) {
     // A line leads up and down from the stone and fades.
     for (int off = 6; off < 15; ++off) {
       const float cover = 0.75F - 0.06F * static_cast<float>(off - 6);
-      canvas.Blend(x, 24 - off, Hex(style.shaded[2]), cover);
-      canvas.Blend(x, 24 + off, Hex(style.shaded[2]), cover);
+      canvas.Blend(x, 24 - off, Hex(style.Shaded[2]), cover);
+      canvas.Blend(x, 24 + off, Hex(style.Shaded[2]), cover);
     }
   }
   return scene::ToSheet(canvas);
 }
 
 struct Sign {
-  std::array<std::string_view, 9> rows;
-  std::array<uint32_t, 4> colours{};  // for the letters a to d
+  std::array<std::string_view, 9> Rows;
+  std::array<uint32_t, 4> Colours{};  // for the letters a to d
 };
 
 constexpr int kSignWidth = 7;
@@ -53,11 +53,11 @@ constexpr Sign kDrop{{"...a...", "..aba..", "..aba..", ".abcba.", ".abcba.", "ab
 
 void DrawSign(Canvas& canvas, const Sign& sign, int left, int top) {
   int y = top;
-  for (const std::string_view row : sign.rows) {
+  for (const std::string_view row : sign.Rows) {
     for (int x = 0; x < kSignWidth; ++x) {
       const char letter = row[static_cast<size_t>(x)];
       if (letter != '.') {
-        canvas.Blend(left + x, y, Hex(sign.colours[static_cast<size_t>(letter - 'a')]));
+        canvas.Blend(left + x, y, Hex(sign.Colours[static_cast<size_t>(letter - 'a')]));
       }
     }
     ++y;
@@ -71,7 +71,7 @@ void DrawNiche(Canvas& canvas, int left) {
   for (int y = 7; y < 41; ++y) {
     for (int x = 7; x < 43; ++x) {
       const bool thread = (x + y) % 8 == 0 || (x - y + 48) % 8 == 0;
-      if (thread) canvas.Blend(left + x, y, Hex(kCloth.rim), 0.5F);
+      if (thread) canvas.Blend(left + x, y, Hex(kCloth.Rim), 0.5F);
     }
   }
   DrawGem(canvas, kParchment, left + 25, 24, {0xE8B840, 0xA86C20});
@@ -97,12 +97,12 @@ Image PaintVictoryPanel() {
   constexpr int middle = 167;
   for (int off = -150; off <= 150; ++off) {
     const float cover = 0.9F - 0.0055F * static_cast<float>(std::abs(off));
-    canvas.Blend(middle + off, rule, Hex(kParchment.shaded[1]), cover);
-    canvas.Blend(middle + off, rule + 1, Hex(kParchment.lit[1]), cover);
+    canvas.Blend(middle + off, rule, Hex(kParchment.Shaded[1]), cover);
+    canvas.Blend(middle + off, rule + 1, Hex(kParchment.Lit[1]), cover);
   }
   for (int y = rule + 6; y < 84; ++y) {
-    canvas.Blend(middle, y, Hex(kParchment.shaded[1]), 0.45F);
-    canvas.Blend(middle + 1, y, Hex(kParchment.lit[2]), 0.45F);
+    canvas.Blend(middle, y, Hex(kParchment.Shaded[1]), 0.45F);
+    canvas.Blend(middle + 1, y, Hex(kParchment.Lit[2]), 0.45F);
   }
   DrawGem(canvas, kParchment, middle, rule, {0xE85858, 0xB02838});
   return scene::ToSheet(canvas);

@@ -16,8 +16,8 @@ float Threshold(int x, int y) {
 }
 
 struct Patch {
-  Colour mean;
-  float unrest = 0;
+  Colour Mean;
+  float Unrest = 0;
 };
 
 // The square of radius + 1 pixels with its upper left corner at (left, top), cut at the borders.
@@ -27,23 +27,23 @@ Patch Measure(const Canvas& canvas, int left, int top, int radius) {
   for (int y = top; y <= top + radius; ++y) {
     for (int x = left; x <= left + radius; ++x) {
       const Colour& c =
-          canvas.At(std::clamp(x, 0, canvas.width - 1), std::clamp(y, 0, canvas.height - 1));
+          canvas.At(std::clamp(x, 0, canvas.Width - 1), std::clamp(y, 0, canvas.Height - 1));
       sum = sum + c;
-      squares += c.r * c.r + c.g * c.g + c.b * c.b;
+      squares += c.R * c.R + c.G * c.G + c.B * c.B;
     }
   }
   const float count = static_cast<float>((radius + 1) * (radius + 1));
   const Colour mean = sum * (1 / count);
-  return {mean, squares / count - (mean.r * mean.r + mean.g * mean.g + mean.b * mean.b)};
+  return {mean, squares / count - (mean.R * mean.R + mean.G * mean.G + mean.B * mean.B)};
 }
 
 }  // namespace
 
 Canvas Shrink(const Canvas& canvas, int across, int down) {
-  Canvas small(canvas.width / across, canvas.height / down);
+  Canvas small(canvas.Width / across, canvas.Height / down);
   const float share = 1 / static_cast<float>(across * down);
-  for (int y = 0; y < canvas.height; ++y) {
-    for (int x = 0; x < canvas.width; ++x) {
+  for (int y = 0; y < canvas.Height; ++y) {
+    for (int x = 0; x < canvas.Width; ++x) {
       Colour& target = small.At(x / across, y / down);
       target = target + canvas.At(x, y) * share;
     }
@@ -52,37 +52,37 @@ Canvas Shrink(const Canvas& canvas, int across, int down) {
 }
 
 Canvas Painted(const Canvas& canvas, int radius, float share) {
-  Canvas result(canvas.width, canvas.height);
-  for (int y = 0; y < canvas.height; ++y) {
-    for (int x = 0; x < canvas.width; ++x) {
+  Canvas result(canvas.Width, canvas.Height);
+  for (int y = 0; y < canvas.Height; ++y) {
+    for (int x = 0; x < canvas.Width; ++x) {
       Patch calmest = Measure(canvas, x - radius, y - radius, radius);
       for (int corner = 1; corner < 4; ++corner) {
         const Patch patch = Measure(canvas, x - (corner % 2 == 0 ? radius : 0),
                                     y - (corner / 2 == 0 ? radius : 0), radius);
-        if (patch.unrest < calmest.unrest) calmest = patch;
+        if (patch.Unrest < calmest.Unrest) calmest = patch;
       }
-      result.At(x, y) = Mix(canvas.At(x, y), calmest.mean, share);
+      result.At(x, y) = Mix(canvas.At(x, y), calmest.Mean, share);
     }
   }
   return result;
 }
 
 Image ToSheet(const Canvas& canvas, int colours, float dither) {
-  Image image(canvas.width, canvas.height);
-  for (int y = 0; y < canvas.height; ++y) {
-    for (int x = 0; x < canvas.width; ++x) {
+  Image image(canvas.Width, canvas.Height);
+  for (int y = 0; y < canvas.Height; ++y) {
+    for (int x = 0; x < canvas.Width; ++x) {
       const float shift = Threshold(x, y) * dither / 255;
       image.At(x, y) = ToPixel(canvas.At(x, y) + Colour{shift, shift, shift});
     }
   }
   const std::vector<uint32_t> palette = MakePalette(image, colours);
-  for (uint32_t& pixel : image.pixels) pixel = Nearest(palette, pixel);
+  for (uint32_t& pixel : image.Pixels) pixel = Nearest(palette, pixel);
   return image;
 }
 
 Image ToSheet(const Canvas& canvas) {
-  Image image(canvas.width, canvas.height);
-  for (size_t i = 0; i < canvas.pixels.size(); ++i) image.pixels[i] = ToPixel(canvas.pixels[i]);
+  Image image(canvas.Width, canvas.Height);
+  for (size_t i = 0; i < canvas.Pixels.size(); ++i) image.Pixels[i] = ToPixel(canvas.Pixels[i]);
   return image;
 }
 

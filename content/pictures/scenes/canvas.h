@@ -11,25 +11,25 @@ namespace orvane::paint::scene {
 // A row of colours after the other from the top.
 struct Canvas {
   Canvas(int wide, int high)
-      : width(wide), height(high), pixels(static_cast<size_t>(wide) * static_cast<size_t>(high)) {}
+      : Width(wide), Height(high), Pixels(static_cast<size_t>(wide) * static_cast<size_t>(high)) {}
 
   // The colour at (x, y), which must lie inside.
   Colour& At(int x, int y) {
-    return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    return Pixels[static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x)];
   }
   const Colour& At(int x, int y) const {
-    return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    return Pixels[static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x)];
   }
 
   // Lays the colour over (x, y) with the given cover, 0 to 1; outside the canvas nothing happens.
   void Blend(int x, int y, Colour colour, float cover = 1) {
-    if (x < 0 || y < 0 || x >= width || y >= height) return;
+    if (x < 0 || y < 0 || x >= Width || y >= Height) return;
     At(x, y) = Mix(At(x, y), colour, cover);
   }
 
-  int width;
-  int height;
-  std::vector<Colour> pixels;
+  int Width;
+  int Height;
+  std::vector<Colour> Pixels;
 };
 
 // The mean of each block of `across` by `down` colours; the size must be a multiple of the block.

@@ -15,7 +15,7 @@ uint32_t ToPixel(Colour colour) {
   const auto level = [](float value) {
     return static_cast<uint32_t>(std::lround(Clamp(value) * 255));
   };
-  return level(colour.r) << 16 | level(colour.g) << 8 | level(colour.b);
+  return level(colour.R) << 16 | level(colour.G) << 8 | level(colour.B);
 }
 
 }  // namespace orvane::paint::scene

@@ -10,19 +10,19 @@ namespace orvane::paint::scene {
 
 // Red, green and blue, 0 to 1 each; values outside are cut when the colour becomes a pixel.
 struct Colour {
-  float r = 0;
-  float g = 0;
-  float b = 0;
+  float R = 0;
+  float G = 0;
+  float B = 0;
 };
 
 constexpr Colour operator+(Colour a, Colour b) {
-  return {a.r + b.r, a.g + b.g, a.b + b.b};
+  return {a.R + b.R, a.G + b.G, a.B + b.B};
 }
 constexpr Colour operator-(Colour a, Colour b) {
-  return {a.r - b.r, a.g - b.g, a.b - b.b};
+  return {a.R - b.R, a.G - b.G, a.B - b.B};
 }
 constexpr Colour operator*(Colour a, float k) {
-  return {a.r * k, a.g * k, a.b * k};
+  return {a.R * k, a.G * k, a.B * k};
 }
 
 // A run of colours from dark to light, each 0xRRGGBB; never empty.

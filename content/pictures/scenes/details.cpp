@@ -12,20 +12,20 @@ int Cells(float length) {
 }
 
 float Chance(const Standing& at, int number) {
-  return Hash(number, at.seed, 91);
+  return Hash(number, at.Seed, 91);
 }
 
 }  // namespace
 
 Dresser::Foot Dresser::FootOf(const Standing& at) const {
   const float ground = terrain_.Height(at.X, at.Z, 6);
-  return {view_.ColumnOf(at.X, at.Z), view_.RowOf(ground, at.Z), view_.focal / at.Z};
+  return {view_.ColumnOf(at.X, at.Z), view_.RowOf(ground, at.Z), view_.Focal / at.Z};
 }
 
 void Dresser::Put(float column, float row, float z, Colour colour, float cover) {
   const int x = static_cast<int>(std::floor(column));
   const int y = static_cast<int>(std::floor(row));
-  if (x < 0 || y < 0 || x >= view_.width || y >= view_.height) return;
+  if (x < 0 || y < 0 || x >= view_.Width || y >= view_.Height) return;
   // The ground under a thing's foot counts as being behind it.
   if (painting_.Depth(x, y) < z * 0.96F - 2) return;
   const Colour air = terrain_.Haze(Unit(view_.Through(x, y)));
@@ -34,7 +34,7 @@ void Dresser::Put(float column, float row, float z, Colour colour, float cover) 
 
 void Dresser::Stone(const Standing& at, RampView rock, Colour shadow) {
   const Foot foot = FootOf(at);
-  const float radius = at.size * foot.scale;
+  const float radius = at.Size * foot.Scale;
   if (radius < 0.8F) return;
   const float side = terrain_.Light().X < 0 ? 1.0F : -1.0F;
   const float wide = radius * 1.4F;
@@ -50,14 +50,14 @@ void Dresser::Stone(const Standing& at, RampView rock, Colour shadow) {
         // Three facets instead of a ball: a stone is broken, not turned.
         const float facet = fy < -radius * 0.25F ? 0.30F : side * fx < -wide * 0.1F ? 0.08F : -0.2F;
         const float light = 0.5F + facet - 0.15F * fy / radius +
-                            0.22F * (Noise(fx * 0.4F, fy * 0.4F, at.seed) - 0.5F);
-        Put(foot.column + fx, foot.row + fy, at.Z, OnRamp(rock, light));
+                            0.22F * (Noise(fx * 0.4F, fy * 0.4F, at.Seed) - 0.5F);
+        Put(foot.Column + fx, foot.Row + fy, at.Z, OnRamp(rock, light));
         continue;
       }
       const float shade_x = (fx - side * radius * 0.7F) / (wide * 1.15F);
       const float shade_y = (fy - radius * 0.35F) / (radius * 0.36F);
       if (fy > -radius * 0.2F && shade_x * shade_x + shade_y * shade_y < 1) {
-        Put(foot.column + fx, foot.row + fy, at.Z, shadow, 0.55F);
+        Put(foot.Column + fx, foot.Row + fy, at.Z, shadow, 0.55F);
       }
     }
   }
@@ -87,12 +87,12 @@ void Dresser::Limb(std::span<const Joint> joints, RampView tones) {
   for (size_t k = 0; k + 1 < joints.size(); ++k) {
     const Joint& from = joints[k];
     const Joint& to = joints[k + 1];
-    const float x0 = view_.ColumnOf(from.place.X, from.place.Z);
-    const float y0 = view_.RowOf(from.place.Y, from.place.Z);
-    const float x1 = view_.ColumnOf(to.place.X, to.place.Z);
-    const float y1 = view_.RowOf(to.place.Y, to.place.Z);
-    const float r0 = from.radius / from.place.Z * view_.focal;
-    const float r1 = to.radius / to.place.Z * view_.focal;
+    const float x0 = view_.ColumnOf(from.Place.X, from.Place.Z);
+    const float y0 = view_.RowOf(from.Place.Y, from.Place.Z);
+    const float x1 = view_.ColumnOf(to.Place.X, to.Place.Z);
+    const float y1 = view_.RowOf(to.Place.Y, to.Place.Z);
+    const float r0 = from.Radius / from.Place.Z * view_.Focal;
+    const float r1 = to.Radius / to.Place.Z * view_.Focal;
     const float length = (x1 - x0) * (x1 - x0) + (y1 - y0) * (y1 - y0) + 1e-4F;
     const float wide = std::max(r0, r1) + 1;
     for (int row = Cells(std::min(y0, y1) - wide); row <= Cells(std::max(y0, y1) + wide); ++row) {
@@ -106,7 +106,7 @@ void Dresser::Limb(std::span<const Joint> joints, RampView tones) {
         const float radius = Mix(r0, r1, along);
         if (off_x * off_x + off_y * off_y > radius * radius) continue;
         const float light = 0.48F - (0.42F * side * off_x + 0.36F * off_y) / (radius + 0.3F);
-        Put(x, y, Mix(from.place.Z, to.place.Z, along), OnRamp(tones, light));
+        Put(x, y, Mix(from.Place.Z, to.Place.Z, along), OnRamp(tones, light));
       }
     }
   }

@@ -11,14 +11,14 @@ namespace orvane::paint::scene {
 struct Standing {
   float X = 0;
   float Z = 0;
-  float size = 1;  // in units of the scene
-  int seed = 0;
+  float Size = 1;  // in units of the scene
+  int Seed = 0;
 };
 
 // One joint of a limb: a place in the scene and how thick the limb is there.
 struct Joint {
-  Vec place;
-  float radius = 1;
+  Vec Place;
+  float Radius = 1;
 };
 
 // Draws things on a painted landscape, hidden by what is nearer and veiled by the same air.
@@ -46,9 +46,9 @@ class Dresser {
 
  private:
   struct Foot {
-    float column;
-    float row;
-    float scale;
+    float Column;
+    float Row;
+    float Scale;
   };
   Foot FootOf(const Standing& at) const;
   void Put(float column, float row, float z, Colour colour, float cover = 1);

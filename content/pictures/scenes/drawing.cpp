@@ -28,16 +28,16 @@ Drawing::Drawing(int width, int height, int fine)
 }
 
 void Drawing::Use(const Fill& fill, double opacity) {
-  if (fill.stops.size() == 1) {
-    const uint32_t colour = fill.stops.front().colour;
+  if (fill.Stops.size() == 1) {
+    const uint32_t colour = fill.Stops.front().Colour;
     cairo_set_source_rgba(context_.get(), Level(colour, 16), Level(colour, 8), Level(colour, 0),
                           opacity);
     return;
   }
-  cairo_pattern_t* const gradient = cairo_pattern_create_linear(fill.x0, fill.y0, fill.x1, fill.y1);
-  for (const Stop& stop : fill.stops) {
-    cairo_pattern_add_color_stop_rgba(gradient, stop.at, Level(stop.colour, 16),
-                                      Level(stop.colour, 8), Level(stop.colour, 0), opacity);
+  cairo_pattern_t* const gradient = cairo_pattern_create_linear(fill.X0, fill.Y0, fill.X1, fill.Y1);
+  for (const Stop& stop : fill.Stops) {
+    cairo_pattern_add_color_stop_rgba(gradient, stop.At, Level(stop.Colour, 16),
+                                      Level(stop.Colour, 8), Level(stop.Colour, 0), opacity);
   }
   cairo_set_source(context_.get(), gradient);
   cairo_pattern_destroy(gradient);
@@ -136,7 +136,7 @@ void Drawing::LayOn(Canvas& canvas, int left, int top) const {
   for (int y = 0; y < height_; ++y) {
     for (int x = 0; x < width_; ++x) {
       const Mean mean = PixelMean(x, y);
-      canvas.Blend(left + x, top + y, mean.colour, mean.cover);
+      canvas.Blend(left + x, top + y, mean.colour, mean.Cover);
     }
   }
 }
@@ -145,7 +145,7 @@ Cover Drawing::Coverage() const {
   cairo_surface_flush(surface_.get());
   Cover cover(width_, height_);
   for (int y = 0; y < height_; ++y) {
-    for (int x = 0; x < width_; ++x) cover.At(x, y) = PixelMean(x, y).cover;
+    for (int x = 0; x < width_; ++x) cover.At(x, y) = PixelMean(x, y).Cover;
   }
   return cover;
 }

@@ -14,37 +14,37 @@ namespace orvane::paint::scene {
 
 // One colour stop of a gradient: its place, 0 to 1, and its colour 0xRRGGBB.
 struct Stop {
-  double at;
-  uint32_t colour;
+  double At;
+  uint32_t Colour;
 };
 
 // What fills a shape: one colour, or stops along the line from (x0, y0) to (x1, y1).
 struct Fill {
-  Fill(uint32_t colour) : stops{{0, colour}} {}  // NOLINT(google-explicit-constructor)
+  Fill(uint32_t colour) : Stops{{0, colour}} {}  // NOLINT(google-explicit-constructor)
   Fill(double from_x, double from_y, double to_x, double to_y, std::vector<Stop> colours)
-      : x0(from_x), y0(from_y), x1(to_x), y1(to_y), stops(std::move(colours)) {}
+      : X0(from_x), Y0(from_y), X1(to_x), Y1(to_y), Stops(std::move(colours)) {}
 
-  double x0 = 0;
-  double y0 = 0;
-  double x1 = 0;
-  double y1 = 0;
-  std::vector<Stop> stops;
+  double X0 = 0;
+  double Y0 = 0;
+  double X1 = 0;
+  double Y1 = 0;
+  std::vector<Stop> Stops;
 };
 
 // The cover of every pixel, 0 to 1.
 struct Cover {
   Cover(int wide, int high)
-      : width(wide), height(high), values(static_cast<size_t>(wide) * static_cast<size_t>(high)) {}
+      : Width(wide), Height(high), Values(static_cast<size_t>(wide) * static_cast<size_t>(high)) {}
   float& At(int x, int y) {
-    return values[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    return Values[static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x)];
   }
   float At(int x, int y) const {
-    return values[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    return Values[static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x)];
   }
 
-  int width;
-  int height;
-  std::vector<float> values;
+  int Width;
+  int Height;
+  std::vector<float> Values;
 };
 
 // A transparent sheet to draw on in units that are pixels of the result; inside it is kept `fine`
@@ -87,7 +87,7 @@ class Drawing {
   };
   struct Mean {
     Colour colour;
-    float cover;
+    float Cover;
   };
 
   void Use(const Fill& fill, double opacity);

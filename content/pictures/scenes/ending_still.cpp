@@ -37,18 +37,18 @@ class Dawn : public Terrain {
   }
 
   Colour Ground(const Spot& spot) const override {
-    const Vec p = spot.place;
+    const Vec p = spot.Place;
     const float fine = Fbm(p.X * 0.3F, p.Z * 0.3F, 4, 8) - 0.5F;
     if (p.Y < kWaterLevel) {
       const float ripple = Noise(p.X * 0.2F, p.Z * 0.05F, 12) - 0.5F;
-      const Vec way = Unit({p.X, kView.eye - p.Y, p.Z});
+      const Vec way = Unit({p.X, kView.Eye - p.Y, p.Z});
       const Vec mirrored = Unit({way.X + 0.03F * ripple, way.Y * (1 + 0.5F * ripple), way.Z});
       return Sky(mirrored) * 0.86F;
     }
-    const float light = 0.16F + 0.14F * spot.normal.Y + 0.74F * spot.sun;
+    const float light = 0.16F + 0.14F * spot.Normal.Y + 0.74F * spot.Sun;
     const float big = Fbm(p.X * 0.02F, p.Z * 0.02F, 4, 7) - 0.5F;
     const Colour ground = OnRamp(kGrass, light * 0.8F + 0.4F * big + 0.2F * fine);
-    const float steep = SmoothStep(0.22F, 0.42F, 1 - spot.normal.Y) + SmoothStep(460, 520, p.Z);
+    const float steep = SmoothStep(0.22F, 0.42F, 1 - spot.Normal.Y) + SmoothStep(460, 520, p.Z);
     return Mix(ground, OnRamp(kRock, light + 0.2F * fine), steep);
   }
 
@@ -95,8 +95,8 @@ void PlantTrees(Dresser& dresser, const Dawn& land) {
   std::sort(trees.begin(), trees.end(),
             [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : trees) {
-    if (Hash(at.seed, 3, 40) < 0.4F)
-      dresser.Fir({at.X, at.Z, at.size * 1.3F, at.seed}, kLeaves);
+    if (Hash(at.Seed, 3, 40) < 0.4F)
+      dresser.Fir({at.X, at.Z, at.Size * 1.3F, at.Seed}, kLeaves);
     else
       dresser.Tree(at, kLeaves);
   }
@@ -109,10 +109,10 @@ float HillTop(float x) {
 
 // The near hill: dark below, where the last lines of text stand, lit along its rim.
 void DrawHill(Canvas& canvas) {
-  for (int x = 0; x < canvas.width; ++x) {
+  for (int x = 0; x < canvas.Width; ++x) {
     const auto column = static_cast<float>(x);
     const float top = HillTop(column);
-    for (int y = static_cast<int>(top); y < canvas.height; ++y) {
+    for (int y = static_cast<int>(top); y < canvas.Height; ++y) {
       const auto row = static_cast<float>(y);
       const float below = row - top;
       const float patch = Fbm(column * 0.012F, row * 0.03F, 5, 91) - 0.5F;
@@ -121,7 +121,7 @@ void DrawHill(Canvas& canvas) {
     }
   }
   for (int k = 0; k < 2600; ++k) {
-    const float x = Hash(k, 1, 92) * static_cast<float>(canvas.width);
+    const float x = Hash(k, 1, 92) * static_cast<float>(canvas.Width);
     const float depth = Hash(k, 2, 92) * Hash(k, 2, 92);
     const float foot = HillTop(x) + depth * 150;
     const float length = 5 + 9 * Hash(k, 3, 92) + 10 * depth;
@@ -156,7 +156,7 @@ void DrawHero(Canvas& canvas, const Model& model, const std::vector<Material>& m
       const uint32_t pixel = sprite.Picture.At(column, y);
       if (pixel == 0xFFFFFF) continue;
       const Colour day = Hex(pixel);
-      const Colour dawn{day.r * 0.82F, day.g * 0.64F, day.b * 0.70F};
+      const Colour dawn{day.R * 0.82F, day.G * 0.64F, day.B * 0.70F};
       canvas.Blend(left + column, top + y, Mix(day, dawn, 0.9F));
     }
   }

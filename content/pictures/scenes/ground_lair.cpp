@@ -72,18 +72,18 @@ float SignLight(Vec p) {
 }
 
 Colour Surface(const Hit& hit, Vec direction) {
-  if (hit.stuff == Stuff::Disc) return DiscColour(hit.place);
-  const Vec normal = NormalAt(hit.place, 0.05F + hit.distance * 0.001F);
+  if (hit.stuff == Stuff::Disc) return DiscColour(hit.Place);
+  const Vec normal = NormalAt(hit.Place, 0.05F + hit.Distance * 0.001F);
   const Vec lamp = Unit(kKey);
   const float facing = Clamp(Dot(normal, lamp) * 0.75F + 0.25F);
-  const float shadow = facing > 0 ? Shadow(hit.place + normal * 0.2F, lamp) : 0;
-  const float open = Openness(hit.place, normal);
-  const float gate = Glow(hit.place, normal, kDiscCentre + Vec{0, 0, -22}, 2600);
+  const float shadow = facing > 0 ? Shadow(hit.Place + normal * 0.2F, lamp) : 0;
+  const float open = Openness(hit.Place, normal);
+  const float gate = Glow(hit.Place, normal, kDiscCentre + Vec{0, 0, -22}, 2600);
   const float rim = std::pow(Clamp(1 + Dot(normal, direction)), 3.0F) * 0.18F;
   float light =
       0.02F + 0.10F * open + 0.62F * facing * facing * (0.3F + 0.7F * shadow) * open + rim;
   Colour colour;
-  const Vec p = hit.place;
+  const Vec p = hit.Place;
   switch (hit.stuff) {
     case Stuff::Floor:
       light = 0.05F + 0.18F * open + 0.20F * shadow + SlabTone(p) + 0.16F * Pool(p);
@@ -132,23 +132,23 @@ Colour Look(Vec from, Vec direction) {
   if (hit.stuff == Stuff::Floor) {
     // Polished stone mirrors the hall, more so at a flat angle.
     const Vec up{0, 1, 0};
-    const float ripple = 0.035F * (Noise(hit.place.X * 0.5F, hit.place.Z * 0.5F, 15) - 0.5F);
+    const float ripple = 0.035F * (Noise(hit.Place.X * 0.5F, hit.Place.Z * 0.5F, 15) - 0.5F);
     const float lengthened = 1 + 0.9F * ripple * std::fabs(direction.Y) * 20;
     const Vec mirrored =
         Unit({direction.X + ripple, -direction.Y * lengthened, direction.Z + ripple});
-    const Hit other = March(hit.place + up * 0.05F, mirrored, 80);
+    const Hit other = March(hit.Place + up * 0.05F, mirrored, 80);
     const float flat = std::pow(Clamp(1 + direction.Y), 5.0F);
     const Colour seen = Surface(other, mirrored);
     if (other.stuff == Stuff::Disc) {
       // The disc's own light is added, with the stone's seams and wear in it.
-      const float polish = 0.30F + 0.9F * SlabTone(hit.place);
-      const Colour warm{seen.r, seen.g * 0.94F, seen.b * 0.72F};
+      const float polish = 0.30F + 0.9F * SlabTone(hit.Place);
+      const Colour warm{seen.R, seen.G * 0.94F, seen.B * 0.72F};
       colour = Mix(colour, seen, 0.18F) + warm * (Clamp(polish, 0.06F, 0.5F) * 0.5F);
     } else {
-      colour = Mix(colour, Veiled(seen, other.distance), 0.06F + 0.34F * flat);
+      colour = Mix(colour, Veiled(seen, other.Distance), 0.06F + 0.34F * flat);
     }
   }
-  if (hit.stuff != Stuff::Disc) colour = Veiled(colour, hit.distance);
+  if (hit.stuff != Stuff::Disc) colour = Veiled(colour, hit.Distance);
   return colour;
 }
 
@@ -158,11 +158,11 @@ Colour Air(const View& view, int x, int y) {
   const float row = static_cast<float>(y);
   const float off_x = column - view.ColumnOf(kDiscCentre.X, kDiscCentre.Z);
   const float off_y = row - view.RowOf(kDiscCentre.Y, kDiscCentre.Z);
-  const float size = kDiscRadius / kDiscCentre.Z * view.focal;
+  const float size = kDiscRadius / kDiscCentre.Z * view.Focal;
   const float near = std::exp(-(off_x * off_x + off_y * off_y) / (size * size * 6));
-  const float slanted = (column + row * 0.55F) / static_cast<float>(view.width);
+  const float slanted = (column + row * 0.55F) / static_cast<float>(view.Width);
   const float beam = SmoothStep(0.56F, 0.78F, Fbm(slanted * 7, 0.5F, 3, 17));
-  const float fade = SmoothStep(0.62F, 0.05F, row / static_cast<float>(view.height));
+  const float fade = SmoothStep(0.62F, 0.05F, row / static_cast<float>(view.Height));
   return Hex(0x98B8B0) * (near * 0.2F) + Hex(0xB8B0D8) * (beam * fade * 0.3F);
 }
 
@@ -170,10 +170,10 @@ Colour Air(const View& view, int x, int y) {
 
 Image PaintGroundLair() {
   const View view{960, 576, 220, 660};
-  Canvas canvas(view.width, view.height);
-  for (int y = 0; y < view.height; ++y) {
-    for (int x = 0; x < view.width; ++x) {
-      canvas.At(x, y) = Look({0, view.eye, 0}, Unit(view.Through(x, y))) + Air(view, x, y);
+  Canvas canvas(view.Width, view.Height);
+  for (int y = 0; y < view.Height; ++y) {
+    for (int x = 0; x < view.Width; ++x) {
+      canvas.At(x, y) = Look({0, view.Eye, 0}, Unit(view.Through(x, y))) + Air(view, x, y);
     }
   }
   return ToSheet(Painted(Shrink(canvas, 2, 2), 2, 0.7F), 240, 5);

@@ -40,11 +40,11 @@ class OpenLand : public Terrain {
   }
 
   Colour Ground(const Spot& spot) const override {
-    const Vec p = spot.place;
+    const Vec p = spot.Place;
     const float big = Fbm(p.X * 0.035F + 11, p.Z * 0.035F, 4, 7);
     float fine = Fbm(p.X * 0.7F, p.Z * 0.7F, 4, 8);
-    fine = Mix(fine, 0.5F, SmoothStep(60, 170, spot.distance));
-    const float light = 0.30F + 0.16F * spot.normal.Y + 0.72F * spot.sun;
+    fine = Mix(fine, 0.5F, SmoothStep(60, 170, spot.Distance));
+    const float light = 0.30F + 0.16F * spot.Normal.Y + 0.72F * spot.Sun;
     if (p.Z > 90 && p.Z < 420 && p.Y < kWaterLevel) {
       const float ripple = Noise(p.X * 0.3F, p.Z * 0.05F, 12);
       return OnRamp(kWater, 0.35F + 0.5F * (ripple - 0.3F));
@@ -57,10 +57,10 @@ class OpenLand : public Terrain {
     const float bare = SmoothStep(2.9F, 1.7F, track) * SmoothStep(360, 240, p.Z);
     ground = Mix(ground, OnRamp(kEarth, lit * 0.62F + (fine - 0.5F) * 0.4F), bare * 0.85F);
     if (p.Z > 420) ground = Mix(ground, OnRamp(kForest, light), 0.75F);
-    const float steep = SmoothStep(0.30F, 0.5F, 1 - spot.normal.Y);
+    const float steep = SmoothStep(0.30F, 0.5F, 1 - spot.Normal.Y);
     Colour result = Mix(ground, OnRamp(kRock, light * 0.9F + (fine - 0.5F) * 0.2F), steep);
-    const float snow_line = SmoothStep(76, 112, p.Y + 40 * (big - 0.5F) + 30 * (spot.sun - 0.4F));
-    const float holds = 1 - SmoothStep(0.5F, 0.75F, 1 - spot.normal.Y);
+    const float snow_line = SmoothStep(76, 112, p.Y + 40 * (big - 0.5F) + 30 * (spot.Sun - 0.4F));
+    const float holds = 1 - SmoothStep(0.5F, 0.75F, 1 - spot.Normal.Y);
     return Mix(result, OnRamp(kSnow, light * 1.05F), snow_line * holds);
   }
 
@@ -99,10 +99,10 @@ void Dress(Dresser& dresser, const OpenLand& land) {
   std::sort(things.begin(), things.end(),
             [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : things) {
-    if (Hash(at.seed, 3, 40) < 0.3F)
-      dresser.Fir({at.X, at.Z, at.size * 1.4F, at.seed}, kLeaves);
+    if (Hash(at.Seed, 3, 40) < 0.3F)
+      dresser.Fir({at.X, at.Z, at.Size * 1.4F, at.Seed}, kLeaves);
     else
-      dresser.Tree(at, Hash(at.seed, 4, 40) < 0.22F ? RampView(kWarmLeaves) : RampView(kLeaves));
+      dresser.Tree(at, Hash(at.Seed, 4, 40) < 0.22F ? RampView(kWarmLeaves) : RampView(kLeaves));
   }
   things.clear();
   for (int k = 0; k < 1500; ++k) {
@@ -114,10 +114,10 @@ void Dress(Dresser& dresser, const OpenLand& land) {
   std::sort(things.begin(), things.end(),
             [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : things) {
-    const int kind = static_cast<int>(Hash(at.seed, 11, 50) * 100);
+    const int kind = static_cast<int>(Hash(at.Seed, 11, 50) * 100);
     if (land.Height(at.X, at.Z, 6) > 4) continue;
     if (kind < 4) {
-      dresser.Stone({at.X, at.Z, at.size * 0.5F, at.seed}, kStone, Hex(0x143C30));
+      dresser.Stone({at.X, at.Z, at.Size * 0.5F, at.Seed}, kStone, Hex(0x143C30));
     } else if (kind < 10) {
       dresser.Flowers(at,
                       kind < 6   ? Hex(0xFFF4A0)

@@ -39,24 +39,24 @@ class Waste : public Terrain {
   }
 
   Colour Ground(const Spot& spot) const override {
-    const Vec p = spot.place;
+    const Vec p = spot.Place;
     const float big = Fbm(p.X * 0.035F + 11, p.Z * 0.035F, 4, 8);
     float fine = Fbm(p.X * 0.7F, p.Z * 0.7F, 4, 9);
-    fine = Mix(fine, 0.5F, SmoothStep(60, 170, spot.distance));
-    const float light = 0.26F + 0.16F * spot.normal.Y + 0.72F * spot.sun;
+    fine = Mix(fine, 0.5F, SmoothStep(60, 170, spot.Distance));
+    const float light = 0.26F + 0.16F * spot.Normal.Y + 0.72F * spot.Sun;
     const float cloud = SmoothStep(0.50F, 0.62F, Fbm(p.X * 0.007F + 5, p.Z * 0.013F, 3, 10));
     const float lit = light * (1 - 0.2F * cloud);
     Colour ground = OnRamp(kSoil, lit * 0.66F + (big - 0.5F) * 0.4F + (fine - 0.5F) * 0.28F);
     // Mud plates: dark gaps that fade with the distance and lie in patches.
     const float gap = CellBorder(p.X * 0.22F + 0.35F * fine, p.Z * 0.22F + 0.3F * fine, 11);
-    const float patch = SmoothStep(0.36F, 0.5F, big) * SmoothStep(110, 30, spot.distance);
+    const float patch = SmoothStep(0.36F, 0.5F, big) * SmoothStep(110, 30, spot.Distance);
     ground = Mix(ground, OnRamp(kSoil, 0.12F), SmoothStep(0.075F, 0.02F, gap) * patch * 0.62F);
     const float green = SmoothStep(0.54F, 0.62F, Fbm(p.X * 0.03F + 31, p.Z * 0.03F, 4, 12));
     ground = Mix(ground, OnRamp(kScrub, lit * 0.75F + (fine - 0.5F) * 0.5F), green * 0.6F);
     // Strata follow the height, a little warped.
     const float strata = Fbm(p.Y * 0.34F + p.X * 0.01F, p.Y * 0.02F + 3, 3, 13);
     const float tone = light * 0.84F + (strata - 0.5F) * 0.4F + (fine - 0.5F) * 0.2F;
-    return Mix(ground, OnRamp(kRock, tone), SmoothStep(0.10F, 0.26F, 1 - spot.normal.Y));
+    return Mix(ground, OnRamp(kRock, tone), SmoothStep(0.10F, 0.26F, 1 - spot.Normal.Y));
   }
 
   Colour Sky(Vec direction) const override {
@@ -97,9 +97,9 @@ void Dress(Dresser& dresser, const Waste& land) {
             [](const Standing& a, const Standing& b) { return a.Z > b.Z; });
   for (const Standing& at : things) {
     if (land.Height(at.X, at.Z, 6) > 4) continue;
-    if (Hash(at.seed, 11, 60) < 0.3F) {
-      const float size = Hash(at.seed, 12, 60) * Hash(at.seed, 13, 60);
-      dresser.Stone({at.X, at.Z, 0.1F + 0.42F * size, at.seed}, kStone, Hex(0x4C3440));
+    if (Hash(at.Seed, 11, 60) < 0.3F) {
+      const float size = Hash(at.Seed, 12, 60) * Hash(at.Seed, 13, 60);
+      dresser.Stone({at.X, at.Z, 0.1F + 0.42F * size, at.Seed}, kStone, Hex(0x4C3440));
     } else if (Fbm(at.X * 0.03F + 31, at.Z * 0.03F, 4, 12) > 0.53F) {
       dresser.Tuft(at, kBlades);
     }

@@ -85,7 +85,7 @@ float Crystal(Vec p) {
 Solid HallAt(Vec place) {
   Solid best{place.Y, Stuff::Floor};
   const auto offer = [&](float distance, Stuff stuff) {
-    if (distance < best.distance) best = {distance, stuff};
+    if (distance < best.Distance) best = {distance, stuff};
   };
   offer(Pillar(place), Stuff::Pillar);
   offer(Rock(place), Stuff::Rock);

@@ -15,7 +15,7 @@ constexpr float kCrystalSide = 34;
 constexpr float kCrystalDepths[] = {84, 158};
 
 struct Solid {
-  float distance = 0;  // to the nearest stone, a lower bound
+  float Distance = 0;  // to the nearest stone, a lower bound
   Stuff stuff = Stuff::Floor;
 };
 

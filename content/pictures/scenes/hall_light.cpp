@@ -16,14 +16,14 @@ Hit March(Vec from, Vec direction, int steps) {
   Solid solid;
   for (int step = 0; step < steps && reach < kSight; ++step) {
     solid = HallAt(from + direction * reach);
-    if (solid.distance < 0.01F + reach * 0.0006F) break;
-    reach += solid.distance;
+    if (solid.Distance < 0.01F + reach * 0.0006F) break;
+    reach += solid.Distance;
   }
   return {from + direction * reach, reach, solid.stuff};
 }
 
 Vec NormalAt(Vec p, float gap) {
-  const auto at = [&](Vec offset) { return HallAt(p + offset * gap).distance; };
+  const auto at = [&](Vec offset) { return HallAt(p + offset * gap).Distance; };
   const Vec a{1, -1, -1};
   const Vec b{-1, -1, 1};
   const Vec c{-1, 1, -1};
@@ -36,7 +36,7 @@ float Shadow(Vec from, Vec towards) {
   float open = 1;
   float reach = 1;
   for (int step = 0; step < 24 && reach < 60; ++step) {
-    const float distance = HallAt(from + towards * reach).distance;
+    const float distance = HallAt(from + towards * reach).Distance;
     open = std::min(open, 7 * distance / reach);
     if (open < 0.02F) return 0;
     reach += std::max(distance, 0.6F);
@@ -49,7 +49,7 @@ float Openness(Vec p, Vec normal) {
   float weight = 0.5F;
   for (int step = 1; step <= 4; ++step) {
     const float reach = 1.6F * static_cast<float>(step);
-    closed += weight * Clamp((reach - HallAt(p + normal * reach).distance) / reach);
+    closed += weight * Clamp((reach - HallAt(p + normal * reach).Distance) / reach);
     weight *= 0.72F;
   }
   return Clamp(1 - closed * 0.75F);

@@ -7,8 +7,8 @@ namespace orvane::paint::scene {
 
 // Where a line of sight ends.
 struct Hit {
-  Vec place;
-  float distance = 0;
+  Vec Place;
+  float Distance = 0;
   Stuff stuff = Stuff::Disc;
 };
 

@@ -49,26 +49,26 @@ float NightRift::Height(float x, float z, int octaves) const {
 }
 
 Colour NightRift::Ground(const Spot& spot) const {
-  const Vec p = spot.place;
+  const Vec p = spot.Place;
   const float fine = Fbm(p.X * 0.16F, p.Z * 0.16F + p.Y * 0.2F, 4, 5) - 0.5F;
   if (p.Y < kWaterLevel) {
     // Still water: the sky once more, shaken a little by ripples that flatten with the distance.
-    const float shake = 0.09F * std::exp(-spot.distance / 260);
+    const float shake = 0.09F * std::exp(-spot.Distance / 260);
     const float ripple_x = Noise(p.X * 0.35F, p.Z * 0.09F, 6) - 0.5F;
     const float ripple_y = Noise(p.X * 0.22F, p.Z * 0.16F, 7) - 0.5F;
-    const Vec way = Unit({p.X, view_.eye - p.Y, p.Z});
+    const Vec way = Unit({p.X, view_.Eye - p.Y, p.Z});
     const Vec mirrored =
         Unit({way.X + shake * ripple_x, std::fabs(way.Y + shake * 2.6F * ripple_y), way.Z});
     const Colour still = Mix(Sky(mirrored), Hex(0x181444), 0.42F);
     // The moon's road: glints that widen towards the eye.
-    const float aside = (way.X / way.Z - kMoon.X) / (0.055F + 0.9F / spot.distance);
+    const float aside = (way.X / way.Z - kMoon.X) / (0.055F + 0.9F / spot.Distance);
     const float glint =
         SmoothStep(0.52F, 0.62F, Noise(p.X * 0.5F, p.Z * 0.16F, 8)) * std::exp(-aside * aside);
     return Mix(still, Hex(0xE8DCEC), glint * 0.6F);
   }
-  const float light = 0.10F + 0.12F * spot.normal.Y + 0.86F * spot.sun + 0.2F * fine;
+  const float light = 0.10F + 0.12F * spot.Normal.Y + 0.86F * spot.Sun + 0.2F * fine;
   const float high = SmoothStep(70, 105, p.Y + 60 * fine);
-  const float flat = 1 - SmoothStep(0.45F, 0.7F, 1 - spot.normal.Y);
+  const float flat = 1 - SmoothStep(0.45F, 0.7F, 1 - spot.Normal.Y);
   return Mix(OnRamp(kRock, light), OnRamp(kSnow, light), high * flat);
 }
 

@@ -14,8 +14,8 @@ constexpr std::array<int, 3> kWeight{3, 5, 2};
 constexpr int kSettlingRounds = 8;
 
 struct Bin {
-  uint32_t colour;
-  int64_t count;
+  uint32_t Colour;
+  int64_t Count;
 };
 
 int Channel(uint32_t colour, int channel) {
@@ -46,11 +46,11 @@ size_t NearestIndex(const std::vector<uint32_t>& palette, uint32_t pixel) {
 
 // A run of bins, its spread along its widest channel, and its mean.
 struct Box {
-  size_t begin;
-  size_t end;
-  int channel = 0;
-  double spread = 0;
-  uint32_t mean = 0;
+  size_t Begin;
+  size_t End;
+  int Channel = 0;
+  double Spread = 0;
+  uint32_t Mean = 0;
 };
 
 Box MeasureBox(const std::vector<Bin>& bins, size_t begin, size_t end) {
@@ -61,38 +61,38 @@ Box MeasureBox(const std::vector<Bin>& bins, size_t begin, size_t end) {
     double sum = 0;
     double squares = 0;
     for (size_t i = begin; i < end; ++i) {
-      const double value = Channel(bins[i].colour, channel);
-      const double times = static_cast<double>(bins[i].count);
+      const double value = Channel(bins[i].Colour, channel);
+      const double times = static_cast<double>(bins[i].Count);
       count += times;
       sum += times * value;
       squares += times * value * value;
     }
     const double spread = (squares - sum * sum / count) * kWeight[static_cast<size_t>(channel)];
-    if (spread > box.spread) {
-      box.spread = spread;
-      box.channel = channel;
+    if (spread > box.Spread) {
+      box.Spread = spread;
+      box.Channel = channel;
     }
     mean = mean << 8 | static_cast<uint32_t>(std::lround(sum / count));
   }
-  box.mean = mean;
+  box.Mean = mean;
   return box;
 }
 
 // Cuts the box at its mean; both parts hold at least one bin.
 std::array<Box, 2> Split(std::vector<Bin>& bins, const Box& box) {
-  const auto first = bins.begin() + static_cast<std::ptrdiff_t>(box.begin);
-  const auto last = bins.begin() + static_cast<std::ptrdiff_t>(box.end);
-  const int level = Channel(box.mean, box.channel);
+  const auto first = bins.begin() + static_cast<std::ptrdiff_t>(box.Begin);
+  const auto last = bins.begin() + static_cast<std::ptrdiff_t>(box.End);
+  const int level = Channel(box.Mean, box.Channel);
   const auto middle = std::stable_partition(
-      first, last, [&](const Bin& bin) { return Channel(bin.colour, box.channel) <= level; });
+      first, last, [&](const Bin& bin) { return Channel(bin.Colour, box.Channel) <= level; });
   const size_t cut =
-      std::clamp(static_cast<size_t>(middle - bins.begin()), box.begin + 1, box.end - 1);
-  return {MeasureBox(bins, box.begin, cut), MeasureBox(bins, cut, box.end)};
+      std::clamp(static_cast<size_t>(middle - bins.begin()), box.Begin + 1, box.End - 1);
+  return {MeasureBox(bins, box.Begin, cut), MeasureBox(bins, cut, box.End)};
 }
 
 std::vector<Bin> Count(const Image& image) {
   std::map<uint32_t, int64_t> counts;
-  for (const uint32_t pixel : image.pixels) ++counts[pixel];
+  for (const uint32_t pixel : image.Pixels) ++counts[pixel];
   std::vector<Bin> bins;
   bins.reserve(counts.size());
   for (const auto& [colour, count] : counts) bins.push_back({colour, count});
@@ -101,22 +101,22 @@ std::vector<Bin> Count(const Image& image) {
 
 void Settle(const std::vector<Bin>& bins, std::vector<uint32_t>& palette) {
   struct Sum {
-    std::array<int64_t, 3> channels{};
-    int64_t count = 0;
+    std::array<int64_t, 3> Channels{};
+    int64_t Count = 0;
   };
   std::vector<Sum> sums(palette.size());
   for (const Bin& bin : bins) {
-    Sum& sum = sums[NearestIndex(palette, bin.colour)];
+    Sum& sum = sums[NearestIndex(palette, bin.Colour)];
     for (int channel = 0; channel < 3; ++channel) {
-      sum.channels[static_cast<size_t>(channel)] += bin.count * Channel(bin.colour, channel);
+      sum.Channels[static_cast<size_t>(channel)] += bin.Count * Channel(bin.Colour, channel);
     }
-    sum.count += bin.count;
+    sum.Count += bin.Count;
   }
   for (size_t i = 0; i < palette.size(); ++i) {
-    if (sums[i].count == 0) continue;
+    if (sums[i].Count == 0) continue;
     uint32_t mean = 0;
-    for (const int64_t sum : sums[i].channels) {
-      mean = mean << 8 | static_cast<uint32_t>((sum + sums[i].count / 2) / sums[i].count);
+    for (const int64_t sum : sums[i].Channels) {
+      mean = mean << 8 | static_cast<uint32_t>((sum + sums[i].Count / 2) / sums[i].Count);
     }
     palette[i] = mean;
   }
@@ -129,15 +129,15 @@ std::vector<uint32_t> MakePalette(const Image& image, int colours) {
   std::vector<Box> boxes{MeasureBox(bins, 0, bins.size())};
   while (boxes.size() < static_cast<size_t>(colours)) {
     const auto widest = std::max_element(
-        boxes.begin(), boxes.end(), [](const Box& a, const Box& b) { return a.spread < b.spread; });
-    if (widest->end - widest->begin < 2) break;
+        boxes.begin(), boxes.end(), [](const Box& a, const Box& b) { return a.Spread < b.Spread; });
+    if (widest->End - widest->Begin < 2) break;
     const std::array<Box, 2> halves = Split(bins, *widest);
     *widest = halves[0];
     boxes.push_back(halves[1]);
   }
   std::vector<uint32_t> palette;
   palette.reserve(boxes.size());
-  for (const Box& box : boxes) palette.push_back(box.mean);
+  for (const Box& box : boxes) palette.push_back(box.Mean);
   for (int round = 0; round < kSettlingRounds; ++round) Settle(bins, palette);
   return palette;
 }

@@ -92,7 +92,7 @@ void DrawDeadTree(Dresser& dresser, float x, float z, float size, int seed) {
                         radius * (1 - 0.8F * t)});
     }
     dresser.Limb(joints, kWood);
-    return joints[4].place;
+    return joints[4].Place;
   };
   const Vec fork = bough({x, -0.5F, z}, 0.15F, 6 * size, 0.55F * size, 1);
   bough(fork, -0.9F, 3.6F * size, 0.28F * size, 2);

@@ -19,13 +19,13 @@ Colour GradientSky(Vec direction, Colour high, Colour low) {
 
 Colour Clouds(Colour sky, Vec direction, const CloudLayer& layer, Vec light) {
   const float lift = 1 / (std::max(direction.Y, 0.0F) + 0.09F);
-  const float x = direction.X * lift * layer.fineness + 3.7F;
-  const float y = direction.Z * lift * layer.fineness;
-  const float here = Density(x, y, layer.seed);
-  const float there = Density(x + light.X * 0.14F, y - 0.12F, layer.seed);
-  const float cover = SmoothStep(layer.free, layer.free + layer.border, here);
+  const float x = direction.X * lift * layer.Fineness + 3.7F;
+  const float y = direction.Z * lift * layer.Fineness;
+  const float here = Density(x, y, layer.Seed);
+  const float there = Density(x + light.X * 0.14F, y - 0.12F, layer.Seed);
+  const float cover = SmoothStep(layer.Free, layer.Free + layer.Border, here);
   const float bright = Clamp(0.6F + (here - there) * 5.5F);
-  return Mix(sky, Mix(layer.shade, layer.lit, bright),
+  return Mix(sky, Mix(layer.Shade, layer.Lit, bright),
              cover * SmoothStep(-0.02F, 0.10F, direction.Y) * 0.94F);
 }
 

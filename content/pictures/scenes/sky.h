@@ -9,12 +9,12 @@ namespace orvane::paint::scene {
 // A layer of clouds: its colours in shade and in light, how much sky is free of it (0 to 1), how
 // wide its soft border is, how fine it is, and its chance.
 struct CloudLayer {
-  Colour shade;
-  Colour lit;
-  float free = 0.5F;
-  float border = 0.18F;
-  float fineness = 1;
-  int seed = 0;
+  Colour Shade;
+  Colour Lit;
+  float Free = 0.5F;
+  float Border = 0.18F;
+  float Fineness = 1;
+  int Seed = 0;
 };
 
 // From `low` at the horizon to `high` overhead; the direction has length 1.

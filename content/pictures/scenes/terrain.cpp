@@ -41,17 +41,17 @@ float SunAt(const Terrain& terrain, Vec place, float distance) {
 // Walks away from the eye under one column and finds, from the bottom row up, what each row shows.
 void FindDepths(const Terrain& terrain, const View& view, int column, Painting& painting) {
   const float side = view.Through(column, 0).X;
-  int row = view.height - 1;
+  int row = view.Height - 1;
   float z = kNearest;
   float height = terrain.Height(side * z, z, 8);
-  while (row >= 0 && z < view.far) {
+  while (row >= 0 && z < view.Far) {
     const float next_z = z * 1.004F + 0.04F;
     const float next_height = terrain.Height(side * next_z, next_z, OctavesAt(next_z));
     while (row >= 0 && view.RowOf(next_height, next_z) <= static_cast<float>(row) + 0.5F) {
       // Where the line of sight crosses the ground between the two steps.
       const float rise = view.Through(column, row).Y;
-      const float before = view.eye + rise * z - height;
-      const float after = view.eye + rise * next_z - next_height;
+      const float before = view.Eye + rise * z - height;
+      const float after = view.Eye + rise * next_z - next_height;
       const float share = before <= 0 ? 0 : before / (before - after);
       painting.Depth(column, row) = Mix(z, next_z, Clamp(share));
       --row;
@@ -65,7 +65,7 @@ Colour PixelColour(const Terrain& terrain, const View& view, int x, int y, float
   const Vec through = view.Through(x, y);
   const Vec direction = Unit(through);
   if (depth == std::numeric_limits<float>::infinity()) return terrain.Sky(direction);
-  Vec place = Vec{0, view.eye, 0} + through * depth;
+  Vec place = Vec{0, view.Eye, 0} + through * depth;
   place.Y = terrain.Height(place.X, place.Z, OctavesAt(depth));
   const Vec normal = NormalAt(terrain, place, depth);
   const float facing = Clamp(Dot(normal, terrain.Light()));
@@ -77,11 +77,11 @@ Colour PixelColour(const Terrain& terrain, const View& view, int x, int y, float
 }  // namespace
 
 Painting PaintTerrain(const Terrain& terrain, const View& view) {
-  Painting painting(view.width, view.height);
-  painting.depths.assign(painting.canvas.pixels.size(), std::numeric_limits<float>::infinity());
-  for (int x = 0; x < view.width; ++x) FindDepths(terrain, view, x, painting);
-  for (int y = 0; y < view.height; ++y) {
-    for (int x = 0; x < view.width; ++x) {
+  Painting painting(view.Width, view.Height);
+  painting.Depths.assign(painting.canvas.Pixels.size(), std::numeric_limits<float>::infinity());
+  for (int x = 0; x < view.Width; ++x) FindDepths(terrain, view, x, painting);
+  for (int y = 0; y < view.Height; ++y) {
+    for (int x = 0; x < view.Width; ++x) {
       painting.canvas.At(x, y) = PixelColour(terrain, view, x, y, painting.Depth(x, y));
     }
   }

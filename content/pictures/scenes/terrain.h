@@ -10,28 +10,28 @@ namespace orvane::paint::scene {
 
 // The eye looks straight along z from (0, eye, 0). Sizes are in pixels of the canvas.
 struct View {
-  int width = 0;
-  int height = 0;
-  float horizon = 0;  // the row of the eye's height
-  float focal = 0;    // how many pixels a unit is wide at distance 1
-  float eye = 9;      // height above the level ground
-  float far = 1100;   // nothing is seen beyond
+  int Width = 0;
+  int Height = 0;
+  float Horizon = 0;  // the row of the eye's height
+  float Focal = 0;    // how many pixels a unit is wide at distance 1
+  float Eye = 9;      // height above the level ground
+  float Far = 1100;   // nothing is seen beyond
 
-  float ColumnOf(float x, float z) const { return static_cast<float>(width) / 2 + x / z * focal; }
-  float RowOf(float y, float z) const { return horizon - (y - eye) / z * focal; }
+  float ColumnOf(float x, float z) const { return static_cast<float>(Width) / 2 + x / z * Focal; }
+  float RowOf(float y, float z) const { return Horizon - (y - Eye) / z * Focal; }
   // The direction through the middle of a pixel, one unit deep.
   Vec Through(int column, int row) const {
-    return {(static_cast<float>(column) + 0.5F - static_cast<float>(width) / 2) / focal,
-            (horizon - static_cast<float>(row) - 0.5F) / focal, 1};
+    return {(static_cast<float>(column) + 0.5F - static_cast<float>(Width) / 2) / Focal,
+            (Horizon - static_cast<float>(row) - 0.5F) / Focal, 1};
   }
 };
 
 // A place on the ground with all that its colour may depend on.
 struct Spot {
-  Vec place;
-  Vec normal;
-  float sun = 0;       // sunlight that arrives, 0 to 1
-  float distance = 0;  // along z
+  Vec Place;
+  Vec Normal;
+  float Sun = 0;       // sunlight that arrives, 0 to 1
+  float Distance = 0;  // along z
 };
 
 // What a landscape is made of.
@@ -58,12 +58,12 @@ class Terrain {
 struct Painting {
   Painting(int wide, int high) : canvas(wide, high) {}
   float& Depth(int x, int y) {
-    return depths[static_cast<size_t>(y) * static_cast<size_t>(canvas.width) +
+    return Depths[static_cast<size_t>(y) * static_cast<size_t>(canvas.Width) +
                   static_cast<size_t>(x)];
   }
 
   Canvas canvas;
-  std::vector<float> depths;
+  std::vector<float> Depths;
 };
 
 Painting PaintTerrain(const Terrain& terrain, const View& view);

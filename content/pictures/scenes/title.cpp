@@ -14,8 +14,8 @@ constexpr int kDown = 4;
 
 // The middle is darkened, so that pale letters stand on it well.
 void Quieten(Canvas& canvas) {
-  for (int y = 0; y < canvas.height; ++y) {
-    for (int x = 0; x < canvas.width; ++x) {
+  for (int y = 0; y < canvas.Height; ++y) {
+    for (int x = 0; x < canvas.Width; ++x) {
       const float off_x = (static_cast<float>(x) - 520) / 430;
       const float off_y = (static_cast<float>(y) - 290) / 210;
       const float shade = 0.44F * std::exp(-(off_x * off_x + off_y * off_y) * 1.4F);

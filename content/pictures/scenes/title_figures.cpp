@@ -15,18 +15,18 @@ constexpr std::array<uint32_t, 5> kRock{0x08061C, 0x141030, 0x28204C, 0x483C70, 
 constexpr Colour kNight{0.52F, 0.46F, 0.78F};  // what the night leaves of a colour
 
 Colour AtNight(Colour day) {
-  return {day.r * kNight.r, day.g * kNight.g, day.b * kNight.b};
+  return {day.R * kNight.R, day.G * kNight.G, day.B * kNight.B};
 }
 
 void LaySprite(Canvas& canvas, const Sprite& sprite, int left, int top, float dark, float deeper) {
-  for (int y = 0; y < sprite.Picture.height; ++y) {
-    for (int x = 0; x < sprite.Picture.width; ++x) {
+  for (int y = 0; y < sprite.Picture.Height; ++y) {
+    for (int x = 0; x < sprite.Picture.Width; ++x) {
       const uint32_t pixel = sprite.Picture.At(x, y);
       if (pixel == 0xFFFFFF) continue;
       // What is low lies deeper in the night.
       const float depth = dark + deeper * SmoothStep(0.3F, 1,
                                                      static_cast<float>(y) /
-                                                         static_cast<float>(sprite.Picture.height));
+                                                         static_cast<float>(sprite.Picture.Height));
       canvas.Blend(left + x, top + y, Mix(Hex(pixel), AtNight(Hex(pixel)), depth));
     }
   }
@@ -43,7 +43,7 @@ void DrawLedge(Canvas& canvas) {
   for (int x = 0; x < 470; ++x) {
     const auto column = static_cast<float>(x);
     const float top = LedgeTop(column);
-    for (int y = static_cast<int>(top); y < canvas.height; ++y) {
+    for (int y = static_cast<int>(top); y < canvas.Height; ++y) {
       const auto row = static_cast<float>(y);
       const float below = row - top;
       const float here = Fbm(column * 0.02F + row * 0.008F, row * 0.035F, 5, 72);

@@ -51,10 +51,10 @@ constexpr int kRimWidth = 6;
 std::optional<Colour> Rim(int out, int along, bool lit) {
   if (out == 0) return kRock[0];
   const Facet stone = FacetAt((along + 0.5) * 3 / kTileSize, (out + 0.2) / 7.0, 3, 1, 641);
-  const double reach = kRimWidth - 0.5 + 1.6 * (stone.chance - 0.5) - 2.2 * stone.dx * stone.dx * 4;
+  const double reach = kRimWidth - 0.5 + 1.6 * (stone.Chance - 0.5) - 2.2 * stone.Dx * stone.Dx * 4;
   if (out > reach + 1) return std::nullopt;
-  if (out > reach || stone.edge < 0.16) return kRock[lit ? 1 : 0];
-  const double tone = (lit ? 5.4 : 3.2) - 2.6 * stone.dx - 2.4 * stone.dy;
+  if (out > reach || stone.Edge < 0.16) return kRock[lit ? 1 : 0];
+  const double tone = (lit ? 5.4 : 3.2) - 2.6 * stone.Dx - 2.4 * stone.Dy;
   return kRock[static_cast<int>(std::floor(tone))];
 }
 
@@ -98,30 +98,30 @@ struct Massif {
 
 // A massif in its own scree: its top, and a face toward the viewer in the lowest row.
 Colour InMassif(const PatchSpot& spot, const Massif& massif) {
-  if (spot.depth < 0) {
-    const Colour scree = Repeated(massif.Scree, spot.x, spot.y);
-    return Shaded(scree, spot.depth > -1.2 ? std::max(0.55, massif.ScreeShade) : massif.ScreeShade);
+  if (spot.Depth < 0) {
+    const Colour scree = Repeated(massif.Scree, spot.X, spot.Y);
+    return Shaded(scree, spot.Depth > -1.2 ? std::max(0.55, massif.ScreeShade) : massif.ScreeShade);
   }
-  const bool to_light = spot.facing_x + spot.facing_y < -0.3;
-  if (spot.depth < 1) return massif.Tones[to_light ? 2 : 0];
-  const int brow = 34 + static_cast<int>(2.4 * Noise(spot.x / 4.0, 0.5, 4, massif.Stratum));
+  const bool to_light = spot.FacingX + spot.FacingY < -0.3;
+  if (spot.Depth < 1) return massif.Tones[to_light ? 2 : 0];
+  const int brow = 34 + static_cast<int>(2.4 * Noise(spot.X / 4.0, 0.5, 4, massif.Stratum));
   double tone = 0;
-  if (spot.y < brow) {
+  if (spot.Y < brow) {
     // The rims catch the light; only between them lies the calm top.
-    if (spot.y >= brow - 2) {
-      tone = spot.y == brow - 1 ? 6.6 : 5.2;
-    } else if (to_light && spot.depth < 2.4) {
+    if (spot.Y >= brow - 2) {
+      tone = spot.Y == brow - 1 ? 6.6 : 5.2;
+    } else if (to_light && spot.Depth < 2.4) {
       tone = 6;
     } else {
-      const double top = massif.TopTone(spot.x, spot.y) + (to_light && spot.depth < 4 ? 1.5 : 0) -
-                         (spot.facing_x > 0.6 && spot.depth < 4 ? 1.5 : 0);
+      const double top = massif.TopTone(spot.X, spot.Y) + (to_light && spot.Depth < 4 ? 1.5 : 0) -
+                         (spot.FacingX > 0.6 && spot.Depth < 4 ? 1.5 : 0);
       return massif.TopTones[static_cast<int>(std::floor(std::clamp(top, 0.0, 7.0)))];
     }
   } else {
-    tone = FaceTone(spot.x, spot.y, massif.Stratum) + massif.Lift;
-    if (spot.y < brow + 2) tone -= 1.4;
-    if (spot.y > 43) tone -= 1.6;
-    if (spot.facing_x > 0.6 && spot.depth < 4) tone -= 1.0;
+    tone = FaceTone(spot.X, spot.Y, massif.Stratum) + massif.Lift;
+    if (spot.Y < brow + 2) tone -= 1.4;
+    if (spot.Y > 43) tone -= 1.6;
+    if (spot.FacingX > 0.6 && spot.Depth < 4) tone -= 1.0;
   }
   return massif.Tones[static_cast<int>(std::floor(std::clamp(tone, 0.0, 7.0)))];
 }
@@ -151,8 +151,8 @@ void PaintCliffs(Sheet& sheet) {
     sheet.Put(157 + column, plateau, column * kTileSize, 32);
   sheet.PutBlock(187, FaceRow(false));
   sheet.PutBlock(217, FaceRow(true));
-  PaintPatch(sheet, {.first = 163, .inset = 0.7, .radius = 4, .waver = 0.9, .seed = 231}, Mountain);
-  PaintPatch(sheet, {.first = 166, .inset = 0.9, .radius = 4, .waver = 1.0, .seed = 233}, DarkRock);
+  PaintPatch(sheet, {.First = 163, .Inset = 0.7, .Radius = 4, .Waver = 0.9, .Seed = 231}, Mountain);
+  PaintPatch(sheet, {.First = 166, .Inset = 0.9, .Radius = 4, .Waver = 1.0, .Seed = 233}, DarkRock);
 }
 
 }  // namespace orvane::paint::tiles

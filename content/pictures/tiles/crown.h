@@ -8,19 +8,19 @@
 namespace orvane::paint::tiles {
 
 struct LeafDisc {
-  double x = 0;  // from the crown's middle
-  double y = 0;
-  double radius = 0;
+  double X = 0;  // from the crown's middle
+  double Y = 0;
+  double Radius = 0;
 };
 
 // Where a crown stands and how large it is as a whole.
 struct Crown {
-  double x = 0;
-  double y = 0;
-  double wide = 0;  // half
-  double high = 0;  // half
-  int seed = 0;
-  double lift = 0;  // added to every tone
+  double X = 0;
+  double Y = 0;
+  double Wide = 0;  // half
+  double High = 0;  // half
+  int Seed = 0;
+  double Lift = 0;  // added to every tone
 };
 
 // The usual heap of discs for a crown of that size.

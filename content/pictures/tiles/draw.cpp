@@ -17,11 +17,11 @@ int Wrapped(int value, int size) {
 }  // namespace
 
 void Set(Image& image, int x, int y, Colour colour) {
-  if (x >= 0 && y >= 0 && x < image.width && y < image.height) image.At(x, y) = colour;
+  if (x >= 0 && y >= 0 && x < image.Width && y < image.Height) image.At(x, y) = colour;
 }
 
 Colour Repeated(const Image& image, int x, int y) {
-  return image.At(Wrapped(x, image.width), Wrapped(y, image.height));
+  return image.At(Wrapped(x, image.Width), Wrapped(y, image.Height));
 }
 
 void Box(Image& image, int x, int y, int width, int height, Colour colour) {
@@ -31,8 +31,8 @@ void Box(Image& image, int x, int y, int width, int height, Colour colour) {
 }
 
 void Copy(Image& image, const Image& from, int x, int y) {
-  for (int j = 0; j < from.height; ++j) {
-    for (int i = 0; i < from.width; ++i) Set(image, x + i, y + j, from.At(i, j));
+  for (int j = 0; j < from.Height; ++j) {
+    for (int i = 0; i < from.Width; ++i) Set(image, x + i, y + j, from.At(i, j));
   }
 }
 
@@ -55,8 +55,8 @@ Colour Shaded(Colour colour, double strength) {
 
 void CastShadow(Image& image, double x, double y, double radius_x, double radius_y,
                 double strength) {
-  for (int j = 0; j < image.height; ++j) {
-    for (int i = 0; i < image.width; ++i) {
+  for (int j = 0; j < image.Height; ++j) {
+    for (int i = 0; i < image.Width; ++i) {
       const double distance = std::hypot((i - x) / radius_x, (j - y) / radius_y);
       if (distance < 1) {
         image.At(i, j) = Shaded(image.At(i, j), distance < 0.8 ? strength : strength * 0.6);
@@ -89,8 +89,8 @@ void Sheet::Put(int code, const Image& from, int x, int y) {
 }
 
 void Sheet::PutBlock(int code, const Image& from) {
-  for (int y = 0; y + kTileSize <= from.height; y += kTileSize) {
-    for (int x = 0; x + kTileSize <= from.width; x += kTileSize) {
+  for (int y = 0; y + kTileSize <= from.Height; y += kTileSize) {
+    for (int x = 0; x + kTileSize <= from.Width; x += kTileSize) {
       Put(code + y / kTileSize * kTilesInRow + x / kTileSize, from, x, y);
     }
   }

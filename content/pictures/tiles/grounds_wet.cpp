@@ -54,11 +54,11 @@ Image LavaTile() {
   Image tile = Fill(kTileSize, kTileSize, [](int x, int y) {
     const double bend = 2.6 * (Noise(x / 2.0, y / 2.0, 8, 93) - 0.5);
     const Facet facet = FacetAt((x + 0.5 + bend) / 8, (y + 0.5 - bend) / 8, 2, 2, 99);
-    if (facet.edge < 0.06) return kLava[4];
-    if (facet.edge < 0.13) return kLava[3];
-    if (facet.edge < (facet.chance < 0.4 ? 0.36 : 0.20)) return kLava[2];
-    const bool lit = facet.dx + facet.dy < -0.1;
-    return facet.edge < 0.32 || lit ? kLava[1] : kLava[0];
+    if (facet.Edge < 0.06) return kLava[4];
+    if (facet.Edge < 0.13) return kLava[3];
+    if (facet.Edge < (facet.Chance < 0.4 ? 0.36 : 0.20)) return kLava[2];
+    const bool lit = facet.Dx + facet.Dy < -0.1;
+    return facet.Edge < 0.32 || lit ? kLava[1] : kLava[0];
   });
   return tile;
 }

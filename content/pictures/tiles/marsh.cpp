@@ -15,29 +15,29 @@ namespace {
 // the others within, so that no two joints meet. Across a walk the same joints are sawn ends.
 Image MarshPlanks() {
   struct Board {
-    int top;
-    int height;
-    int joint;  // the last pixel of a board
-    int tone;
+    int Top;
+    int Height;
+    int Joint;  // the last pixel of a board
+    int Tone;
   };
   constexpr std::array<Board, 3> boards{{{0, 5, 10, 4}, {5, 5, 15, 3}, {10, 6, 4, 4}}};
   Image tile(kTileSize, kTileSize);
   for (const Board& board : boards) {
     for (int x = 0; x < kTileSize; ++x) {
-      const int into = (x - board.joint + 2 * kTileSize - 1) % kTileSize;  // from the board's start
-      for (int row = 0; row < board.height; ++row) {
-        const int y = board.top + row;
-        const bool seam = row == board.height - 1;
+      const int into = (x - board.Joint + 2 * kTileSize - 1) % kTileSize;  // from the board's start
+      for (int row = 0; row < board.Height; ++row) {
+        const int y = board.Top + row;
+        const bool seam = row == board.Height - 1;
         const double grain = Noise(x / 4.0, y * 1.3, 4, 351);
-        int tone = row == 0 ? board.tone + 1 : grain > 0.7 ? board.tone - 1 : board.tone;
-        if (row == board.height - 2) tone = board.tone - 1;
-        if (into == 0 && !seam) tone = board.tone + 1;
+        int tone = row == 0 ? board.Tone + 1 : grain > 0.7 ? board.Tone - 1 : board.Tone;
+        if (row == board.Height - 2) tone = board.Tone - 1;
+        if (into == 0 && !seam) tone = board.Tone + 1;
         if (into == kTileSize - 1) tone = 2;
         Set(tile, x, y, seam ? (y == kTileSize - 1 ? kWood[1] : kWood[2]) : kWood[tone]);
       }
     }
     for (const int nail : {2, kTileSize - 4}) {
-      Set(tile, (board.joint + 1 + nail) % kTileSize, board.top + 2, kWood[1]);
+      Set(tile, (board.Joint + 1 + nail) % kTileSize, board.Top + 2, kWood[1]);
     }
   }
   return tile;

@@ -55,15 +55,15 @@ Facet FacetAt(double x, double y, int period_x, int period_y, int seed) {
       if (distance < first) {
         second = first;
         first = distance;
-        facet.dx = dx;
-        facet.dy = dy;
-        facet.chance = Hash(wrapped_column, wrapped_row, seed + 2);
+        facet.Dx = dx;
+        facet.Dy = dy;
+        facet.Chance = Hash(wrapped_column, wrapped_row, seed + 2);
       } else if (distance < second) {
         second = distance;
       }
     }
   }
-  facet.edge = second - first;
+  facet.Edge = second - first;
   return facet;
 }
 

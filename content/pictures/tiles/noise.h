@@ -12,10 +12,10 @@ double Noise(double x, double y, int period, int seed);
 
 // The nearest sites of a jittered lattice: what cracks, cobbles and cliff facets are made of.
 struct Facet {
-  double edge = 0;  // 0 on the border to the next facet, growing inward
-  double dx = 0;    // place within the facet, from its site, in lattice cells
-  double dy = 0;
-  double chance = 0;  // one number per facet, [0, 1)
+  double Edge = 0;  // 0 on the border to the next facet, growing inward
+  double Dx = 0;    // place within the facet, from its site, in lattice cells
+  double Dy = 0;
+  double Chance = 0;  // one number per facet, [0, 1)
 };
 
 // The facet at (x, y) in lattice cells; the lattice repeats after `period_x` and `period_y` cells.

@@ -13,16 +13,16 @@ namespace {
 template <size_t Count>
 Colour InGrass(const PatchSpot& spot, const Image& ground, const Ramp<Count>& ramp) {
   static const Image grass = GrassTile(0);
-  const bool shaded_side = spot.facing_x + spot.facing_y < -0.2;
-  if (spot.depth > 0) {
-    if (shaded_side && spot.depth < 1.0) return ramp[0];
-    if (shaded_side && spot.depth < 2.2) return ramp[1];
-    if (!shaded_side && spot.depth < 1.2) return ramp[4];
-    return Repeated(ground, spot.x, spot.y);
+  const bool shaded_side = spot.FacingX + spot.FacingY < -0.2;
+  if (spot.Depth > 0) {
+    if (shaded_side && spot.Depth < 1.0) return ramp[0];
+    if (shaded_side && spot.Depth < 2.2) return ramp[1];
+    if (!shaded_side && spot.Depth < 1.2) return ramp[4];
+    return Repeated(ground, spot.X, spot.Y);
   }
-  if (spot.depth > -1.2) return shaded_side ? kGrass[6] : kGrass[2];
-  if (spot.depth > -2.2) return shaded_side ? kGrass[5] : kGrass[3];
-  return Repeated(grass, spot.x, spot.y);
+  if (spot.Depth > -1.2) return shaded_side ? kGrass[6] : kGrass[2];
+  if (spot.Depth > -2.2) return shaded_side ? kGrass[5] : kGrass[3];
+  return Repeated(grass, spot.X, spot.Y);
 }
 
 Colour PathInGrass(const PatchSpot& spot) {
@@ -56,12 +56,12 @@ Image Trail(bool across) {
     const int place = across ? y : x;
     const double waver = 1.6 * Noise((across ? x : y) / 3.2, 0.5, 5, 213);
     PatchSpot spot;
-    spot.x = x;
-    spot.y = y;
+    spot.X = x;
+    spot.Y = y;
     const double near_side = place + 0.5 - 2.5 - waver;
     const double far_side = 13.5 - (place + 0.5) + waver - 1;
-    spot.depth = near_side < far_side ? near_side : far_side;
-    (across ? spot.facing_y : spot.facing_x) = near_side < far_side ? -1 : 1;
+    spot.Depth = near_side < far_side ? near_side : far_side;
+    (across ? spot.FacingY : spot.FacingX) = near_side < far_side ? -1 : 1;
     return PathInGrass(spot);
   });
 }
@@ -69,17 +69,17 @@ Image Trail(bool across) {
 }  // namespace
 
 void PaintPatches(Sheet& sheet) {
-  PaintPatch(sheet, {.first = 64, .inner = {70, 71, 100, 101}, .inset = 4, .seed = 201},
+  PaintPatch(sheet, {.First = 64, .Inner = {70, 71, 100, 101}, .Inset = 4, .Seed = 201},
              PathInGrass);
   sheet.Put(72, Trail(true));
   sheet.Put(102, Trail(false));
   PaintPatch(sheet,
-             {.first = 67, .inner = {75, 105, 133, 134}, .inset = 5, .waver = 1.8, .seed = 203},
+             {.First = 67, .Inner = {75, 105, 133, 134}, .Inset = 5, .Waver = 1.8, .Seed = 203},
              SandInGrass);
-  PaintPatch(sheet, {.first = 76, .inset = 4, .waver = 2.2, .seed = 205}, LitterInGrass);
-  PaintPatch(sheet, {.first = 79, .inset = 4, .radius = 3, .waver = 1.0, .seed = 207},
+  PaintPatch(sheet, {.First = 76, .Inset = 4, .Waver = 2.2, .Seed = 205}, LitterInGrass);
+  PaintPatch(sheet, {.First = 79, .Inset = 4, .Radius = 3, .Waver = 1.0, .Seed = 207},
              PavingInGrass);
-  PaintPatch(sheet, {.first = 160, .inset = 5, .waver = 2.0, .seed = 209}, WasteInGrass);
+  PaintPatch(sheet, {.First = 160, .Inset = 5, .Waver = 2.0, .Seed = 209}, WasteInGrass);
 }
 
 }  // namespace orvane::paint::tiles

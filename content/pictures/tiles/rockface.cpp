@@ -59,18 +59,18 @@ double SummitTone(int x, int y) {
   const double bent_x = x + 0.5 + 3 * (Noise(x / 4.0, y / 4.0, 4, 10) - 0.5);
   const double bent_y = y + 0.5 + 3 * (Noise(x / 4.0, y / 4.0, 4, 11) - 0.5);
   const Facet block = FacetAt(bent_x * 3 / kTileSize, bent_y * 2 / kTileSize, 3, 2, 749);
-  const double slant = block.dx + block.dy;
-  if (block.edge < 0.08) return 0.8;
-  if (block.edge < 0.20 && slant < -0.05) return 5.8;
+  const double slant = block.Dx + block.Dy;
+  if (block.Edge < 0.08) return 0.8;
+  if (block.Edge < 0.20 && slant < -0.05) return 5.8;
   const double grain = Noise(x / 2.0, y / 2.0, 8, 668) - 0.5;
-  return 3.2 - 2.4 * slant + 1.8 * (block.chance - 0.5) + 1.2 * grain;
+  return 3.2 - 2.4 * slant + 1.8 * (block.Chance - 0.5) + 1.2 * grain;
 }
 
 double CaveTopTone(int x, int y) {
   const Facet facet = FacetAt((x + 0.5) * 2 / kTileSize, (y + 0.5) * 2 / kTileSize, 2, 2, 613);
-  if (facet.edge < 0.10) return 0.4;
-  const double slant = facet.dx + facet.dy;
-  if (facet.edge < 0.24 && slant < -0.1) return 2.4;
+  if (facet.Edge < 0.10) return 0.4;
+  const double slant = facet.Dx + facet.Dy;
+  if (facet.Edge < 0.24 && slant < -0.1) return 2.4;
   return slant < -0.25 ? 1.9 : slant < 0.3 ? 1.4 : 0.8;
 }
 

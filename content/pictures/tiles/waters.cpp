@@ -16,59 +16,59 @@ namespace {
 Colour Lake(const PatchSpot& spot) {
   static const Image grass = GrassTile(0);
   static const Image water = WaterTile(0);
-  const bool far_shore = spot.facing_y < -0.4;
+  const bool far_shore = spot.FacingY < -0.4;
   const double bank = far_shore ? 3.5 : 1.0;
-  if (spot.depth > bank) {
-    const double in = spot.depth - bank;
+  if (spot.Depth > bank) {
+    const double in = spot.Depth - bank;
     if (in < 1.0) return kWater[6];
     if (in < 2.2) return far_shore ? kWater[1] : kWater[4];
     if (in < 4.0 && far_shore) return kWater[1];
     if (in < 3.4 && !far_shore) return kWater[3];
-    return Repeated(water, spot.x, spot.y);
+    return Repeated(water, spot.X, spot.Y);
   }
-  if (spot.depth > 0) {
+  if (spot.Depth > 0) {
     if (!far_shore) return kRock[2];
-    const double grain = Noise(spot.x / 2.0, spot.y / 2.0, 8, 301);
-    return kRock[spot.depth > 2.5 ? 1 : grain < 0.4 ? 2 : grain < 0.7 ? 3 : 4];
+    const double grain = Noise(spot.X / 2.0, spot.Y / 2.0, 8, 301);
+    return kRock[spot.Depth > 2.5 ? 1 : grain < 0.4 ? 2 : grain < 0.7 ? 3 : 4];
   }
-  if (spot.depth > -1.2) return far_shore ? kGrass[6] : kGrass[2];
-  if (spot.depth > -2.2) return far_shore ? kGrass[5] : kGrass[3];
-  return Repeated(grass, spot.x, spot.y);
+  if (spot.Depth > -1.2) return far_shore ? kGrass[6] : kGrass[2];
+  if (spot.Depth > -2.2) return far_shore ? kGrass[5] : kGrass[3];
+  return Repeated(grass, spot.X, spot.Y);
 }
 
 // The sea runs out on sand: wet sand, foam, pale shallow, deep.
 Colour Sea(const PatchSpot& spot) {
   static const Image sand = SandTile(0);
   static const Image water = WaterTile(0);
-  if (spot.depth > 6.5) return Repeated(water, spot.x, spot.y);
-  if (spot.depth > 4.4) return kWater[3];
-  if (spot.depth > 2.4) return kWater[4];
-  if (spot.depth > 1.4) return kWater[5];
-  if (spot.depth > 0) return kWater[6];
-  if (spot.depth > -2.0) return kSand[1];
-  if (spot.depth > -3.2) return kSand[2];
-  return Repeated(sand, spot.x, spot.y);
+  if (spot.Depth > 6.5) return Repeated(water, spot.X, spot.Y);
+  if (spot.Depth > 4.4) return kWater[3];
+  if (spot.Depth > 2.4) return kWater[4];
+  if (spot.Depth > 1.4) return kWater[5];
+  if (spot.Depth > 0) return kWater[6];
+  if (spot.Depth > -2.0) return kSand[1];
+  if (spot.Depth > -3.2) return kSand[2];
+  return Repeated(sand, spot.X, spot.Y);
 }
 
 // Lava lies deep between crusts of dark rock that glow at the rim.
 Colour MoltenRock(const PatchSpot& spot) {
   static const Image waste = WasteTile(0);
   static const Image lava = LavaTile();
-  const bool far_shore = spot.facing_y < -0.4;
+  const bool far_shore = spot.FacingY < -0.4;
   const double bank = far_shore ? 4.0 : 1.6;
-  if (spot.depth > bank) {
-    const double in = spot.depth - bank;
+  if (spot.Depth > bank) {
+    const double in = spot.Depth - bank;
     if (in < 1.0) return kLava[5];
     if (in < 2.0) return kLava[4];
-    return Repeated(lava, spot.x, spot.y);
+    return Repeated(lava, spot.X, spot.Y);
   }
-  if (spot.depth > 0) {
-    const double grain = Noise(spot.x / 2.0, spot.y / 2.0, 8, 311);
-    return kDark[spot.depth > bank - 1 ? 1 : grain < 0.4 ? 2 : 3];
+  if (spot.Depth > 0) {
+    const double grain = Noise(spot.X / 2.0, spot.Y / 2.0, 8, 311);
+    return kDark[spot.Depth > bank - 1 ? 1 : grain < 0.4 ? 2 : 3];
   }
-  if (spot.depth > -1.2) return far_shore ? kWaste[5] : kWaste[0];
-  if (spot.depth > -2.2) return far_shore ? kWaste[4] : kWaste[1];
-  return Repeated(waste, spot.x, spot.y);
+  if (spot.Depth > -1.2) return far_shore ? kWaste[5] : kWaste[0];
+  if (spot.Depth > -2.2) return far_shore ? kWaste[4] : kWaste[1];
+  return Repeated(waste, spot.X, spot.Y);
 }
 
 // Flat stones on a shoal, near enough to each other to step across in any direction. None reaches
@@ -112,13 +112,13 @@ Image Waterfall() {
 void PaintWaters(Sheet& sheet) {
   PaintPatch(
       sheet,
-      {.first = 151, .inner = {3, 4, 5, 6}, .inset = 3, .radius = 8, .waver = 1.5, .seed = 221},
+      {.First = 151, .Inner = {3, 4, 5, 6}, .Inset = 3, .Radius = 8, .Waver = 1.5, .Seed = 221},
       Lake);
   PaintPatch(
       sheet,
-      {.first = 154, .inner = {37, 38, 39, 40}, .inset = 4, .radius = 8, .waver = 1.6, .seed = 223},
+      {.First = 154, .Inner = {37, 38, 39, 40}, .Inset = 4, .Radius = 8, .Waver = 1.6, .Seed = 223},
       Sea);
-  PaintPatch(sheet, {.first = 171, .inset = 3, .radius = 7, .waver = 1.6, .seed = 225}, MoltenRock);
+  PaintPatch(sheet, {.First = 171, .Inset = 3, .Radius = 7, .Waver = 1.6, .Seed = 225}, MoltenRock);
   sheet.Put(1, WaterTile(1));
   sheet.Put(2, WaterTile(2));
   sheet.Put(30, SteppingStones());

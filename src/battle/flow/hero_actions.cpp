@@ -12,6 +12,7 @@
 #include "src/battle/scene/spell_animation.h"
 #include "src/battle/scene/status_panes.h"
 #include "src/battle/scene/technique_animation.h"
+#include "src/core/bag.h"
 
 namespace orvane {
 namespace {
@@ -184,8 +185,7 @@ void PlayItem(BattleScreen& battle, const ActionRow& row) {
   if (frame == row.LastFrame) {
     EndSkill(battle);
     battle.HeroNumbers[receiver].ForeColor = kWhite;
-    state.Items[battle.ChosenBagSlot()] = kNoItem;
-    state.ItemCount -= 1;
+    TakeOutOfBag(state, battle.ChosenBagSlot());
     DrawHeroes(battle);
   }
   battle.Scene.Picture.Refresh();

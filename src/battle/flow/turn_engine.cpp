@@ -35,7 +35,7 @@ void PassOn(BattleScreen& battle) {
     battle.HeroTabs.SetTabEnabled(other ^ 1, true);
     battle.HeroTabs.SetTabEnabled(other, false);
   }
-  if (state.HeroesActed == 2) {
+  if (state.HeroesActed >= 2) {
     PassToEnemies(battle);
   } else {
     AskNextHero(battle);

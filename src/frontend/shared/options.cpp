@@ -1,16 +1,17 @@
 #include "src/frontend/shared/options.h"
 
 #include <charconv>
+#include <cstdint>
 #include <system_error>
 
+#include "src/base/decimal.h"
 #include "src/platform/path_text.h"
 
 namespace orvane {
 namespace {
 
-template <class Number>
-std::optional<Number> ReadNumber(const std::string& text) {
-  Number number{};
+std::optional<std::uint32_t> ReadSeed(const std::string& text) {
+  std::uint32_t number = 0;
   const char* end = text.data() + text.size();
   const auto read = std::from_chars(text.data(), end, number);
   if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
@@ -35,13 +36,13 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       const std::string& value = arguments[++i];
       if (name == "--folder") options.Folder = PathOf(value);
       if (name == "--scale") {
-        options.Scale = ReadNumber<double>(value);
+        options.Scale = ReadDecimal(value);
         if (!options.Scale || !(*options.Scale >= 0.5 && *options.Scale <= 8)) {
           options.Error = "--scale needs a number from 0.5 to 8";
         }
       }
       if (name == "--seed") {
-        options.Seed = ReadNumber<uint32_t>(value);
+        options.Seed = ReadSeed(value);
         if (!options.Seed) options.Error = "--seed needs a whole number";
       }
     }

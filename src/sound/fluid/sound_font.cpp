@@ -2,6 +2,9 @@
 
 #include <array>
 #include <filesystem>
+#include <string_view>
+
+#include "src/platform/path_text.h"
 
 namespace orvane {
 namespace {
@@ -22,11 +25,11 @@ constexpr std::array kFolders = {
 }  // namespace
 
 std::string FindSoundFont() {
-  for (const std::string font : kFonts) {
-    for (const std::string folder : kFolders) {
+  for (const std::string_view font : kFonts) {
+    for (const std::string_view folder : kFolders) {
       std::error_code error;
-      const std::filesystem::path path = std::filesystem::path(folder) / font;
-      if (std::filesystem::is_regular_file(path, error)) return path.string();
+      const std::filesystem::path path = PathOf(folder) / PathOf(font);
+      if (std::filesystem::is_regular_file(path, error)) return TextOf(path);
     }
   }
   return "";

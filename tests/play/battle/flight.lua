@@ -65,6 +65,19 @@ test("a flight after one hero's action makes the next battle's first action brin
   steps.state { ActionKind = 5, EnemyTurns = 3, HeroesActed = 0, ["Battle.Timer1.Enabled"] = true }
 end)
 
+test("heroes who have acted before count on, and do not keep the enemies from their turn", function()
+  for acted = 1, 3 do
+    steps.arena()
+    steps.battle_with(6, 3)
+    steps.strengthen()
+    set("HeroesActed", acted)
+    click("Battle.Command1")
+    choose("Battle.List2", 1)
+    tick("Battle.Timer1", 15)
+    steps.state { ActionKind = 5, HeroesActed = 0, ["Battle.Timer1.Enabled"] = true }
+  end
+end)
+
 test("no command does anything while an action plays, flight included", function()
   steps.arena()
   steps.bone_dragon()

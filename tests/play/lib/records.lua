@@ -1,5 +1,7 @@
 -- The saved record as it lies on the disk, and the dialogs that move it.
 
+local trimmed = require "lib.steps".trimmed
+
 local records = {}
 
 -- The record on the disk, by offset: name, first index, count, and how each entry is packed.
@@ -106,10 +108,6 @@ local function load(name)
   click("Main.m11")
   pick("Load", name)
   click("Load.OKButton")
-end
-
-local function trimmed(text)
-  return (text:gsub(" +$", ""))
 end
 
 records.texts = texts

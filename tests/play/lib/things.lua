@@ -1,8 +1,10 @@
 -- An item file of our own, so that no scenario depends on the game's names and values.
+local steps = require "lib.steps"
+
 local things = {}
 
 local function record(name, kind, value)
-  return string.pack("<i4c20i4i4", 0, name .. (" "):rep(20 - #name), kind, value)
+  return string.pack("<i4c20i4i4", 0, steps.padded(name, 20), kind, value)
 end
 
 -- Writes fifty records: "Thing NN" of kind 0, but for `changes`, number to { name, kind, value }.

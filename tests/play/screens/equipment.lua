@@ -1,15 +1,10 @@
 local steps = require "lib.steps"
 local things = require "lib.things"
+local trimmed = steps.trimmed
+
+local function padded(name) return steps.padded(name, 20) end
 
 local none = "なし" .. (" "):rep(18)
-
-local function padded(name)
-  return name .. (" "):rep(20 - #name)
-end
-
-local function trimmed(text)
-  return (text:gsub(" +$", ""))
-end
 
 -- The bag, by row: what each thing is stands beside it.
 local bag = { 1, 2, 3, 4, 5, 6, 7, 6, 8, 9, 10, 11 }

@@ -1,13 +1,8 @@
 local steps = require "lib.steps"
 local things = require "lib.things"
+local trimmed = steps.trimmed
 
-local function padded(name)
-  return name .. (" "):rep(20 - #name)
-end
-
-local function trimmed(text)
-  return (text:gsub(" +$", ""))
-end
+local function padded(name) return steps.padded(name, 20) end
 
 local sword, mail, staff, robe, book, potion, elixir, sword_too, swords, odd = 0, 1, 2, 3, 4, 5, 6, 7, 8, 9
 

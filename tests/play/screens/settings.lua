@@ -1,13 +1,10 @@
 local steps = require "lib.steps"
+local trimmed = steps.trimmed
 
 local function opened()
   steps.plain_world()
   click("Main.m33")
   expect(active(), "Custom")
-end
-
-local function trimmed(text)
-  return (text:gsub(" +$", ""))
 end
 
 test("the settings show both names and the speed 15", function()

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "src/core/save_file.h"
+#include "src/core/sheets.h"
 #include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
 
@@ -164,6 +167,48 @@ TEST_F(ProgramTest, AnEmptyRowOfTheBagCannotBeUsedWhateverItsRecordSays) {
   program_->Choose(On("Item", "List1"), 19);
   EXPECT_EQ(program_->TheState().ItemRec.Kind, 6) << "the record is read all the same";
   EXPECT_FALSE(On("Item", "Command1").Enabled);
+}
+
+// The pixels of the field that are not as its tiles paint them, at most this far from the party.
+int StrangePixels(const Surface& field, const State& state, int reach) {
+  const Surface& sheet = Sheet("tiles");
+  int strange = 0;
+  for (int y = 0; y < kMapRows * kTileSize; ++y) {
+    for (int x = 0; x < kMapColumns * kTileSize; ++x) {
+      if (std::abs(x - state.HeroX) <= reach && std::abs(y - state.HeroY) <= reach) continue;
+      const int code = state.MapTile[x / kTileSize][y / kTileSize] - 1;
+      const int column = code % 30 * kTileSize + x % kTileSize;
+      const int row = code / 30 * kTileSize + y % kTileSize;
+      strange += field.ShownAt(x, y) == sheet.At(column, row) ? 0 : 1;
+    }
+  }
+  return strange;
+}
+
+TEST_F(ProgramTest, TheMapStandsWhereThePartyHasWalked) {
+  Begin();
+  const State& state = program_->TheState();
+  const Surface& field = static_cast<PictureBox&>(On("Main", "Picture1")).Picture;
+  for (const Direction way : {Direction::Left, Direction::Down, Direction::Up, Direction::Right}) {
+    const std::pair before{state.HeroX, state.HeroY};
+    program_->KeyDown(way);
+    for (int tick = 0; tick < 12; ++tick) program_->Tick(Walk());
+    program_->KeyUp(way);
+    EXPECT_NE(before, (std::pair{state.HeroX, state.HeroY})) << "the party has walked";
+    EXPECT_EQ(StrangePixels(field, state, 40), 0);
+    EXPECT_GT(StrangePixels(field, state, -1), 0) << "the party is drawn";
+  }
+}
+
+TEST_F(ProgramTest, ATileThatChangesIsDrawn) {
+  Begin();
+  program_->Tick(Walk());
+  State& state = program_->TheState();
+  const Surface& field = static_cast<PictureBox&>(On("Main", "Picture1")).Picture;
+  state.MapTile[2][2] = state.MapTile[2][2] == 1 ? 2 : 1;
+  EXPECT_GT(StrangePixels(field, state, 40), 0);
+  program_->Tick(Walk());
+  EXPECT_EQ(StrangePixels(field, state, 40), 0);
 }
 
 }  // namespace

@@ -37,11 +37,11 @@ TEST(ItemTable, RecordsAreThirtyTwoBytes) {
   for (size_t number = 0; number < items.size(); ++number) {
     const size_t at = number * 32;
     EXPECT_EQ(Int32At(bytes, at), 0);
-    std::string name = Cp932Of(items[number].name);
+    std::string name = Cp932Of(items[number].Name);
     name.resize(20, ' ');
     EXPECT_EQ(bytes.substr(at + 4, 20), name);
-    EXPECT_EQ(Int32At(bytes, at + 24), static_cast<int32_t>(items[number].kind));
-    EXPECT_EQ(Int32At(bytes, at + 28), items[number].value);
+    EXPECT_EQ(Int32At(bytes, at + 24), static_cast<int32_t>(items[number].Kind));
+    EXPECT_EQ(Int32At(bytes, at + 28), items[number].Value);
   }
 }
 
@@ -54,13 +54,13 @@ TEST(ItemTable, NamesAreCp932) {
 
 TEST(ItemTable, NegativeValuesKeepTheirBytes) {
   std::vector<Item> items = GameItems();
-  items[49].value = -2;
+  items[49].Value = -2;
   EXPECT_EQ(Int32At(WriteRecords(items), 49 * 32 + 28), -2);
 }
 
 TEST(ItemTable, RefusesNamesThatDoNotFit) {
   std::vector<Item> items = GameItems();
-  items[0].name = "一二三四五六七八九十百";
+  items[0].Name = "一二三四五六七八九十百";
   EXPECT_THROW(WriteRecords(items), std::runtime_error);
 }
 
@@ -82,29 +82,29 @@ TEST(ItemTable, LineEndsOfEitherKindAreRead) {
 }
 
 struct Plant {
-  const char* what;
-  size_t index;
+  const char* What;
+  size_t Index;
   Item item;
 };
 
 TEST(ItemTable, FindsEachPlantedFault) {
   const std::vector<Item> good = GameItems();
   const Plant plants[] = {
-      {"a kind out of its range", 0, {"別の剣", ItemKind::HerWeapon, good[0].value}},
+      {"a kind out of its range", 0, {"別の剣", ItemKind::HerWeapon, good[0].Value}},
       {"a weapon weaker than the one before", 5, {"弱い剣", ItemKind::HisWeapon, 1}},
       {"a strength out of range", 11, {"強すぎる剣", ItemKind::HisWeapon, 1000}},
       {"a book of another skill", 38, {"別の書", ItemKind::Book, 9}},
       {"a draught of another strength", 47, {"別の雫", ItemKind::Recovery, 501}},
-      {"a name too long", 2, {"一二三四五六七八九十百", ItemKind::HisWeapon, good[2].value}},
-      {"a name with narrow characters", 2, {"剣 x", ItemKind::HisWeapon, good[2].value}},
-      {"the name of an empty slot", 2, {"なし", ItemKind::HisWeapon, good[2].value}},
-      {"no name", 2, {"", ItemKind::HisWeapon, good[2].value}},
-      {"a beginning like another's", 49, {good[0].name, ItemKind::Other, 0}},
+      {"a name too long", 2, {"一二三四五六七八九十百", ItemKind::HisWeapon, good[2].Value}},
+      {"a name with narrow characters", 2, {"剣 x", ItemKind::HisWeapon, good[2].Value}},
+      {"the name of an empty slot", 2, {"なし", ItemKind::HisWeapon, good[2].Value}},
+      {"no name", 2, {"", ItemKind::HisWeapon, good[2].Value}},
+      {"a beginning like another's", 49, {good[0].Name, ItemKind::Other, 0}},
   };
   for (const Plant& plant : plants) {
     std::vector<Item> items = good;
-    items[plant.index] = plant.item;
-    EXPECT_FALSE(Faults(items).empty()) << plant.what;
+    items[plant.Index] = plant.item;
+    EXPECT_FALSE(Faults(items).empty()) << plant.What;
   }
   std::vector<Item> short_table = good;
   short_table.pop_back();

@@ -21,7 +21,7 @@ const World& GameWorld() {
 
 Journey JourneyNamed(const std::string& name) {
   for (const Journey& journey : AllJourneys()) {
-    if (journey.name == name) return journey;
+    if (journey.Name == name) return journey;
   }
   ADD_FAILURE() << "no journey " << name;
   return {};
@@ -29,7 +29,7 @@ Journey JourneyNamed(const std::string& name) {
 
 bool Has(const std::vector<Fault>& faults, FaultKind kind) {
   return std::any_of(faults.begin(), faults.end(),
-                     [&](const Fault& fault) { return fault.kind == kind; });
+                     [&](const Fault& fault) { return fault.Kind == kind; });
 }
 
 bool DrawingFault(const World& world, FaultKind kind) {
@@ -41,8 +41,8 @@ bool WalkingFault(const World& world, FaultKind kind, const std::string& journey
 }
 
 struct Spot {
-  int column;
-  int row;
+  int Column;
+  int Row;
 };
 
 // The first cell of a code on a map; the test fails when there is none.
@@ -58,46 +58,46 @@ Spot Find(const World& world, const MapId& place, int code) {
 
 // Puts trees on all cells around a cell.
 void Enclose(World& world, const MapId& place, const Spot& spot, int reach = 1) {
-  for (int column = spot.column - 1; column <= spot.column + reach; ++column) {
-    for (int row = spot.row - 1; row <= spot.row + reach; ++row) {
-      const bool inside = column >= spot.column && column < spot.column + reach &&
-                          row >= spot.row && row < spot.row + reach;
-      if (!inside) world.maps[place].Set(column, row, kTree);
+  for (int column = spot.Column - 1; column <= spot.Column + reach; ++column) {
+    for (int row = spot.Row - 1; row <= spot.Row + reach; ++row) {
+      const bool inside = column >= spot.Column && column < spot.Column + reach &&
+                          row >= spot.Row && row < spot.Row + reach;
+      if (!inside) world.Maps[place].Set(column, row, kTree);
     }
   }
 }
 
 TEST(MapCheck, TheMapsOfTheGameKeepEveryRule) {
   for (const Fault& fault : CheckWorld(GameWorld())) {
-    ADD_FAILURE() << KindName(fault.kind) << ": " << fault.what;
+    ADD_FAILURE() << KindName(fault.Kind) << ": " << fault.What;
   }
 }
 
 TEST(MapCheck, FindsCodesThatAreNotDrawn) {
   for (const int code : {0, -1, 241}) {
     World world = GameWorld();
-    world.maps[kStartMap].Set(5, 5, code);
+    world.Maps[kStartMap].Set(5, 5, code);
     EXPECT_TRUE(DrawingFault(world, FaultKind::BadCode)) << code;
   }
 }
 
 TEST(MapCheck, FindsBordersThatDoNotMatch) {
   World beside = GameWorld();
-  beside.maps[kStartMap].Set(29, 9, kTree);
+  beside.Maps[kStartMap].Set(29, 9, kTree);
   EXPECT_TRUE(DrawingFault(beside, FaultKind::Border));
   World below = GameWorld();
-  below.maps[kStartMap].Set(20, 15, kGrass);
+  below.Maps[kStartMap].Set(20, 15, kGrass);
   EXPECT_TRUE(DrawingFault(below, FaultKind::Border));
   World hidden = GameWorld();
-  hidden.maps[kHiddenMap].Set(0, 3, kGrass);
+  hidden.Maps[kHiddenMap].Set(0, 3, kGrass);
   EXPECT_TRUE(DrawingFault(hidden, FaultKind::Border));
 }
 
 TEST(MapCheck, FindsOpenBorders) {
   struct Hole {
-    MapId place;
-    int column;
-    int row;
+    MapId Place;
+    int Column;
+    int Row;
   };
   const Hole holes[] = {
       {{1, 1}, 12, 0},
@@ -113,18 +113,18 @@ TEST(MapCheck, FindsOpenBorders) {
   };
   for (const Hole& hole : holes) {
     World world = GameWorld();
-    world.maps[hole.place].Set(hole.column, hole.row, kGrass);
+    world.Maps[hole.Place].Set(hole.Column, hole.Row, kGrass);
     EXPECT_TRUE(DrawingFault(world, FaultKind::OpenBorder))
-        << PlaceName(hole.place) << " " << hole.column << "," << hole.row;
+        << PlaceName(hole.Place) << " " << hole.Column << "," << hole.Row;
   }
 }
 
 TEST(MapCheck, FindsMisplacedFurniture) {
   struct Piece {
-    MapId place;
-    int column;
-    int row;
-    int code;
+    MapId Place;
+    int Column;
+    int Row;
+    int Code;
   };
   const Piece pieces[] = {
       {{5, 4}, 10, 5, kChest},
@@ -137,8 +137,8 @@ TEST(MapCheck, FindsMisplacedFurniture) {
   };
   for (const Piece& piece : pieces) {
     World world = GameWorld();
-    world.maps[piece.place].Set(piece.column, piece.row, piece.code);
-    EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture)) << piece.code;
+    world.Maps[piece.Place].Set(piece.Column, piece.Row, piece.Code);
+    EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture)) << piece.Code;
   }
 }
 
@@ -149,7 +149,7 @@ TEST(MapCheck, FindsMissingFurniture) {
   for (const auto& [place, code] : pieces) {
     World world = GameWorld();
     const Spot spot = Find(world, place, code);
-    world.maps[place].Set(spot.column, spot.row, kGrass);
+    world.Maps[place].Set(spot.Column, spot.Row, kGrass);
     EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture)) << PlaceName(place) << " " << code;
   }
 }
@@ -157,8 +157,8 @@ TEST(MapCheck, FindsMissingFurniture) {
 TEST(MapCheck, FindsABookChestInPieces) {
   World world = GameWorld();
   const Spot spot = Find(world, {3, 4}, kBookTopLeft);
-  world.maps[MapId{3, 4}].Set(spot.column, spot.row, kBookTopRight);
-  world.maps[MapId{3, 4}].Set(spot.column + 1, spot.row, kBookTopLeft);
+  world.Maps[MapId{3, 4}].Set(spot.Column, spot.Row, kBookTopRight);
+  world.Maps[MapId{3, 4}].Set(spot.Column + 1, spot.Row, kBookTopLeft);
   EXPECT_TRUE(DrawingFault(world, FaultKind::Furniture));
 }
 
@@ -188,17 +188,17 @@ TEST(MapCheck, FindsBookChestsOutOfReach) {
 
 TEST(MapCheck, FindsDragonsOutOfReach) {
   World world = GameWorld();
-  for (int column = 0; column < kMapColumns; ++column) world.maps[kDragonMap].Set(column, 8, kTree);
+  for (int column = 0; column < kMapColumns; ++column) world.Maps[kDragonMap].Set(column, 8, kTree);
   EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
   World last = GameWorld();
-  last.maps[kLastStage].Set(14, 4, kTree);
+  last.Maps[kLastStage].Set(14, 4, kTree);
   EXPECT_TRUE(WalkingFault(last, FaultKind::Unreachable, "last stage"));
 }
 
 TEST(MapCheck, FindsARoomWithoutAWayOut) {
   World world = GameWorld();
   for (int column = 0; column < kMapColumns; ++column) {
-    world.maps[MapId{0, 0, kSpringRoom}].Set(column, 15, 204);
+    world.Maps[MapId{0, 0, kSpringRoom}].Set(column, 15, 204);
   }
   EXPECT_TRUE(DrawingFault(world, FaultKind::Unreachable));
   EXPECT_TRUE(WalkingFault(world, FaultKind::Unreachable));
@@ -207,61 +207,61 @@ TEST(MapCheck, FindsARoomWithoutAWayOut) {
 
 TEST(MapCheck, FindsALandingOnATileThatBlocks) {
   World world = GameWorld();
-  world.maps[kStartMap].Set(16, 14, kTree);
+  world.Maps[kStartMap].Set(16, 14, kTree);
   EXPECT_TRUE(WalkingFault(world, FaultKind::DeadEnd));
 }
 
 TEST(MapCheck, FindsASavedGameThatCannotGoOn) {
   World world = GameWorld();
-  world.maps[MapId{5, 5}].Set(14, 13, kTree);
+  world.Maps[MapId{5, 5}].Set(14, 13, kTree);
   EXPECT_TRUE(WalkingFault(world, FaultKind::DeadEnd));
 }
 
 TEST(MapCheck, FindsTraps) {
   World world = GameWorld();
-  world.maps[kStartMap].Set(16, 13, kTree);
-  world.maps[kStartMap].Set(15, 14, kTree);
-  world.maps[kStartMap].Set(17, 14, kTree);
-  world.maps[kStartMap].Set(16, 15, kTree);
+  world.Maps[kStartMap].Set(16, 13, kTree);
+  world.Maps[kStartMap].Set(15, 14, kTree);
+  world.Maps[kStartMap].Set(17, 14, kTree);
+  world.Maps[kStartMap].Set(16, 15, kTree);
   EXPECT_TRUE(WalkingFault(world, FaultKind::Trap));
 }
 
 TEST(MapCheck, FindsFlipFlops) {
   for (const int row : {7, 9}) {
     World left = GameWorld();
-    left.maps[kStartMap].Set(1, row, kGrass);
+    left.Maps[kStartMap].Set(1, row, kGrass);
     EXPECT_TRUE(WalkingFault(left, FaultKind::FlipFlop)) << row;
   }
   World right = GameWorld();
-  right.maps[MapId{2, 3}].Set(28, 9, kGrass);
+  right.Maps[MapId{2, 3}].Set(28, 9, kGrass);
   EXPECT_TRUE(WalkingFault(right, FaultKind::FlipFlop));
 }
 
 TEST(MapCheck, FindsAWayToAMapThatDoesNotExist) {
   World world = GameWorld();
   for (int column = 18; column < kMapColumns; ++column)
-    world.maps[MapId{5, 3}].Set(column, 13, kGrass);
+    world.Maps[MapId{5, 3}].Set(column, 13, kGrass);
   EXPECT_TRUE(WalkingFault(world, FaultKind::NoSuchMap));
   World hidden = GameWorld();
   for (int column = 19; column < kMapColumns; ++column)
-    hidden.maps[kHiddenMap].Set(column, 8, kGrass);
+    hidden.Maps[kHiddenMap].Set(column, 8, kGrass);
   EXPECT_TRUE(WalkingFault(hidden, FaultKind::NoSuchMap, "round 3 with nine techniques"));
 }
 
 TEST(MapCheck, FindsWrongExits) {
   World room = GameWorld();
   for (int column = 0; column < 15; ++column) {
-    room.maps[MapId{0, 0, kSpringRoom}].Set(column, 11, 206);
+    room.Maps[MapId{0, 0, kSpringRoom}].Set(column, 11, 206);
   }
   EXPECT_TRUE(WalkingFault(room, FaultKind::WrongExit));
   World last = GameWorld();
-  last.maps[kLastStage].Set(14, 15, 235);
+  last.Maps[kLastStage].Set(14, 15, 235);
   EXPECT_TRUE(WalkingFault(last, FaultKind::WrongExit, "last stage"));
 }
 
 TEST(MapCheck, FindsTooLongAWayToRecovery) {
   World world = GameWorld();
-  for (auto& [place, map] : world.maps) {
+  for (auto& [place, map] : world.Maps) {
     for (int column = 0; column < kMapColumns; ++column) {
       for (int row = 0; row < kMapRows; ++row) {
         if (map.At(column, row) == kRecovery && place != kStartMap) map.Set(column, row, kGrass);
@@ -273,7 +273,7 @@ TEST(MapCheck, FindsTooLongAWayToRecovery) {
 
 // The wastes keep their battle ground to themselves, and the dragon is met on it.
 TEST(MapCheck, TheWastesAreARegionOfTheirOwn) {
-  for (const auto& [place, map] : GameWorld().maps) {
+  for (const auto& [place, map] : GameWorld().Maps) {
     int cells = 0;
     for (int column = 0; column < kMapColumns; ++column) {
       for (int row = 0; row < kMapRows; ++row) cells += IsWasteGround(map.At(column, row)) ? 1 : 0;
@@ -282,8 +282,8 @@ TEST(MapCheck, TheWastesAreARegionOfTheirOwn) {
     EXPECT_EQ(cells > 0, wastes) << PlaceName(place);
   }
   const Exploration exploration = Explore(GameWorld(), JourneyNamed("round 1"));
-  for (const Stand& stand : exploration.stands) {
-    if (std::count(stand.next.begin(), stand.next.end(), kToDragon) == 0) continue;
+  for (const Stand& stand : exploration.Stands) {
+    if (std::count(stand.Next.begin(), stand.Next.end(), kToDragon) == 0) continue;
     EXPECT_TRUE(IsWasteGround(TileUnder(GameWorld(), stand.party)));
   }
 }
@@ -293,18 +293,18 @@ TEST(Distances, AreToldForEveryGoal) {
       Explore(GameWorld(), JourneyNamed("round 3 with nine techniques"));
   const std::vector<Goal> goals = GoalsOf(GameWorld(), exploration);
   const auto table = StepsBetween(exploration, goals);
-  ASSERT_EQ(goals.front().name, "start");
-  ASSERT_EQ(goals.back().name, "dragon");
+  ASSERT_EQ(goals.front().Name, "start");
+  ASSERT_EQ(goals.back().Name, "dragon");
   const auto count = [&](const std::string& first) {
     return std::count_if(goals.begin(), goals.end(),
-                         [&](const Goal& goal) { return goal.name.rfind(first, 0) == 0; });
+                         [&](const Goal& goal) { return goal.Name.rfind(first, 0) == 0; });
   };
   EXPECT_EQ(count("chest"), 15);
   EXPECT_EQ(count("book"), 4);
   for (size_t from = 0; from + 1 < goals.size(); ++from) {
     EXPECT_EQ(table[from][from], 0);
     for (size_t to = 0; to < goals.size(); ++to) {
-      EXPECT_GE(table[from][to], 0) << goals[from].name << " to " << goals[to].name;
+      EXPECT_GE(table[from][to], 0) << goals[from].Name << " to " << goals[to].Name;
       EXPECT_LE(table[0][to], table[0][from] + table[from][to] + 8)
           << "a way round cannot be shorter than the shortest, bar a cell's width";
     }

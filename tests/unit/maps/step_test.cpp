@@ -12,7 +12,7 @@ World OpenWorld() {
     for (int row = 0; row < kMapRows; ++row) grass.Set(column, row, 7);
   }
   World world;
-  for (const MapId& place : AllPlaces()) world.maps[place] = grass;
+  for (const MapId& place : AllPlaces()) world.Maps[place] = grass;
   return world;
 }
 
@@ -24,7 +24,7 @@ TEST(WorldStep, GoesOnOnTheNextMapOfTheWorld) {
 
 TEST(WorldStep, IsBlockedByATileOfItsMap) {
   World world = OpenWorld();
-  world.maps[kStartMap].Set(6, 5, 89);
+  world.Maps[kStartMap].Set(6, 5, 89);
   EXPECT_EQ(Step(world, RulesOf(1, false), {3, 3, 100, 111}, Direction::Up).event, Event::Blocked);
   EXPECT_EQ(Step(world, RulesOf(1, false), {3, 2, 100, 111}, Direction::Up).event, Event::Walked);
 }
@@ -34,7 +34,7 @@ TEST(WorldStep, FindsMapsThatDoNotExist) {
   const Outcome beyond = Step(world, RulesOf(3, true), {6, 4, 460, 100}, Direction::Right);
   EXPECT_EQ(beyond.event, Event::NoSuchMap);
   EXPECT_EQ(beyond.party.MapA, 7);
-  world.maps[kStartMap].Set(6, 5, 47);
+  world.Maps[kStartMap].Set(6, 5, 47);
   EXPECT_EQ(Step(world, RulesOf(3, false), {3, 3, 100, 100}, Direction::Up).event, Event::Walked);
   EXPECT_EQ(Step(world, RulesOf(4, false), {3, 3, 100, 100}, Direction::Up).event, Event::NoSuchMap)
       << "the last stage has no book room";
@@ -54,7 +54,7 @@ TEST(WorldStep, MeetsTheDragonBeforeItMoves) {
 
 TEST(WorldStep, MeetsNoDragonBehindADoor) {
   World world = OpenWorld();
-  world.maps[kDragonMap].Set(14, 5, 47);
+  world.Maps[kDragonMap].Set(14, 5, 47);
   EXPECT_EQ(Step(world, RulesOf(1, false), {4, 1, 232, 100}, Direction::Up).event, Event::Walked);
 }
 

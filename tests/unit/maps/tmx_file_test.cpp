@@ -98,8 +98,8 @@ TEST(Tileset, IsTheOneThatTheCatalogueMakes) {
 TEST(Tileset, AgreesWithTheGameAboutWalking) {
   auto tiles = ReadCatalogue(ReadFile(ORVANE_MAP_SOURCES "/tiles.csv"));
   EXPECT_TRUE(CatalogueFaults(tiles).empty());
-  tiles[35].walkable = false;
-  tiles[0].walkable = true;
+  tiles[35].Walkable = false;
+  tiles[0].Walkable = true;
   EXPECT_EQ(CatalogueFaults(tiles).size(), 2u);
 }
 

@@ -19,12 +19,12 @@ std::set<int> Classes(const std::vector<int>& voicing) {
 
 TEST(Chord, ReadsRootQualityAndBass) {
   const Chord chord = ReadChord("F#m7/C#");
-  EXPECT_EQ(chord.root, 6);
-  EXPECT_EQ(chord.bass, 1);
+  EXPECT_EQ(chord.Root, 6);
+  EXPECT_EQ(chord.Bass, 1);
   EXPECT_EQ(chord.Third(), 3);
   EXPECT_EQ(chord.Fifth(), 7);
   EXPECT_EQ(chord.Seventh(), 10);
-  EXPECT_EQ(ReadChord("Bb").root, 10);
+  EXPECT_EQ(ReadChord("Bb").Root, 10);
   EXPECT_EQ(ReadChord("D").Seventh(), 12);
   EXPECT_THROW(ReadChord("H"), std::invalid_argument);
   EXPECT_THROW(ReadChord("Cfoo"), std::invalid_argument);
@@ -33,9 +33,9 @@ TEST(Chord, ReadsRootQualityAndBass) {
 
 TEST(Chord, IsTransposedRoundTheOctave) {
   const Chord chord = Transposed(ReadChord("A/C#"), 5);
-  EXPECT_EQ(chord.root, 2);
-  EXPECT_EQ(chord.bass, 6);
-  EXPECT_EQ(Transposed(ReadChord("C"), -1).root, 11);
+  EXPECT_EQ(chord.Root, 2);
+  EXPECT_EQ(chord.Bass, 6);
+  EXPECT_EQ(Transposed(ReadChord("C"), -1).Root, 11);
 }
 
 TEST(Voicing, HoldsTheTonesOfTheChordAboveTheFloor) {
@@ -48,7 +48,7 @@ TEST(Voicing, HoldsTheTonesOfTheChordAboveTheFloor) {
     EXPECT_LE(voicing.size(), 4U) << symbol;
     for (const int tone : Classes(voicing)) {
       bool of_chord = false;
-      for (const int step : chord.steps) of_chord = of_chord || (chord.root + step) % 12 == tone;
+      for (const int step : chord.Steps) of_chord = of_chord || (chord.Root + step) % 12 == tone;
       EXPECT_TRUE(of_chord) << symbol;
     }
   }
@@ -67,10 +67,10 @@ TEST(Voicing, PartsSemitones) {
 }
 
 TEST(Key, KnowsItsSharps) {
-  EXPECT_EQ(ReadKey("D", "major").sharps, 2);
-  EXPECT_EQ(ReadKey("C", "minor").sharps, -3);
-  EXPECT_EQ(ReadKey("F#", "minor").sharps, 3);
-  EXPECT_EQ(ReadKey("Eb", "minor").sharps, -6);
+  EXPECT_EQ(ReadKey("D", "major").Sharps, 2);
+  EXPECT_EQ(ReadKey("C", "minor").Sharps, -3);
+  EXPECT_EQ(ReadKey("F#", "minor").Sharps, 3);
+  EXPECT_EQ(ReadKey("Eb", "minor").Sharps, -6);
   EXPECT_THROW(ReadKey("D", "dorian"), std::invalid_argument);
 }
 

@@ -27,7 +27,7 @@ class Effects : public testing::TestWithParam<const char*> {
   static std::vector<float> Made() {
     const Recipe recipe =
         ReadRecipe(tests::ContentText(std::string("effects/") + GetParam() + ".recipe"));
-    EXPECT_EQ(recipe.name, GetParam());
+    EXPECT_EQ(recipe.Name, GetParam());
     return Finish(Mix(recipe));
   }
 };
@@ -95,14 +95,14 @@ TEST(Loudness, MeasuresTheReferenceTone) {
 
 TEST(Wav, ReadsWhatItWrites) {
   Wav wav;
-  wav.samples = {0, 0.5F, -0.5F, 2, -2};
+  wav.Samples = {0, 0.5F, -0.5F, 2, -2};
   const Wav read = ReadWav(WriteWav(wav));
-  EXPECT_EQ(read.channels, 1);
-  EXPECT_EQ(read.rate, 44100);
-  ASSERT_EQ(read.samples.size(), 5U);
-  EXPECT_NEAR(read.samples[1], 0.5F, 0.0001F);
-  EXPECT_EQ(read.samples[3], 1.0F);
-  EXPECT_EQ(read.samples[4], -1.0F);
+  EXPECT_EQ(read.Channels, 1);
+  EXPECT_EQ(read.Rate, 44100);
+  ASSERT_EQ(read.Samples.size(), 5U);
+  EXPECT_NEAR(read.Samples[1], 0.5F, 0.0001F);
+  EXPECT_EQ(read.Samples[3], 1.0F);
+  EXPECT_EQ(read.Samples[4], -1.0F);
   const std::string bytes = WriteWav(wav);
   EXPECT_THROW(ReadWav("RIFF"), std::runtime_error);
   EXPECT_THROW(ReadWav(bytes.substr(0, bytes.size() - 1)), std::runtime_error);

@@ -15,18 +15,18 @@ constexpr uint8_t kOff = 0x80;
 MidiFile Plain() {
   MidiFile file;
   MidiTrack conductor;
-  conductor.end = kWhole;
+  conductor.End = kWhole;
   conductor.events.push_back({0, 0xFF, kMetaTempo, 0, std::string("\x07\xA1\x20", 3)});
   conductor.events.push_back({0, 0xFF, kMetaKey, 0, std::string("\x02\x00", 2)});
   MidiTrack flute;
-  flute.end = kWhole;
+  flute.End = kWhole;
   flute.events.push_back({0, 0xFF, kMetaName, 0, "flute"});
   flute.events.push_back({0, 0xC0, 73, 0, {}});
   for (int i = 0; i < 4; ++i) {
     flute.events.push_back({i * kQuarter, kOn, 74, 80, {}});
     flute.events.push_back({(i + 1) * kQuarter - 1, kOff, 74, 0, {}});
   }
-  file.tracks = {conductor, flute};
+  file.Tracks = {conductor, flute};
   return file;
 }
 
@@ -40,11 +40,11 @@ bool Finds(const MidiFile& file, const std::string& words) {
 TEST(MidiFile, ReadsWhatItWrites) {
   const std::string bytes = WriteMidi(Plain());
   const MidiFile read = ReadMidi(bytes);
-  EXPECT_EQ(read.format, 1);
-  EXPECT_EQ(read.ticks_per_quarter, 480);
-  ASSERT_EQ(read.tracks.size(), 2U);
-  EXPECT_EQ(read.tracks[1].end, kWhole);
-  EXPECT_EQ(read.tracks[1].events.size(), Plain().tracks[1].events.size());
+  EXPECT_EQ(read.Format, 1);
+  EXPECT_EQ(read.TicksPerQuarter, 480);
+  ASSERT_EQ(read.Tracks.size(), 2U);
+  EXPECT_EQ(read.Tracks[1].End, kWhole);
+  EXPECT_EQ(read.Tracks[1].events.size(), Plain().Tracks[1].events.size());
   EXPECT_EQ(WriteMidi(read), bytes);
 }
 
@@ -65,50 +65,50 @@ TEST(Checks, PassASoundFile) {
 
 TEST(Checks, FindEveryFault) {
   MidiFile file = Plain();
-  file.format = 0;
+  file.Format = 0;
   EXPECT_TRUE(Finds(file, "format 1"));
 
   file = Plain();
-  file.tracks[1].events[2].tick = kQuarter / 2;
+  file.Tracks[1].events[2].Tick = kQuarter / 2;
   EXPECT_TRUE(Finds(file, "silence at the start"));
 
   file = Plain();
-  file.tracks[1].events.back().tick -= kQuarter / 2;
+  file.Tracks[1].events.back().Tick -= kQuarter / 2;
   EXPECT_TRUE(Finds(file, "silence at the end"));
 
   file = Plain();
-  file.tracks[1].events.pop_back();
+  file.Tracks[1].events.pop_back();
   EXPECT_TRUE(Finds(file, "never ended"));
 
   file = Plain();
-  file.tracks[1].events[3].tick = kQuarter + 10;
+  file.Tracks[1].events[3].Tick = kQuarter + 10;
   EXPECT_TRUE(Finds(file, "struck while it sounds"));
 
   file = Plain();
-  for (MidiEvent& event : file.tracks[1].events) {
-    if ((event.status & 0xE0) == 0x80) event.data1 = 40;
+  for (MidiEvent& event : file.Tracks[1].events) {
+    if ((event.Status & 0xE0) == 0x80) event.Data1 = 40;
   }
   EXPECT_TRUE(Finds(file, "leaves the range of flute"));
 
   file = Plain();
   for (uint8_t i = 0; i < 25; ++i) {
-    file.tracks[1].events.push_back(
+    file.Tracks[1].events.push_back(
         {100, kOn, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 60, {}});
-    file.tracks[1].events.push_back(
+    file.Tracks[1].events.push_back(
         {200, kOff, static_cast<uint8_t>(60 + i + (i > 13 ? 1 : 0)), 0, {}});
   }
   EXPECT_TRUE(Finds(file, "notes at once"));
 
   file = Plain();
-  file.tracks[0].events.push_back({kQuarter, 0xFF, kMetaKey, 0, std::string("\x03\x00", 2)});
+  file.Tracks[0].events.push_back({kQuarter, 0xFF, kMetaKey, 0, std::string("\x03\x00", 2)});
   EXPECT_TRUE(Finds(file, "key at the end"));
 
   file = Plain();
-  file.tracks[0].events.push_back({kQuarter, 0xFF, kMetaTempo, 0, std::string("\x1E\x84\x80", 3)});
+  file.Tracks[0].events.push_back({kQuarter, 0xFF, kMetaTempo, 0, std::string("\x1E\x84\x80", 3)});
   EXPECT_TRUE(Finds(file, "tempo at the end"));
 
   file = Plain();
-  file.tracks[0].end -= 1;
+  file.Tracks[0].End -= 1;
   EXPECT_TRUE(Finds(file, "different lengths"));
 
   file = Plain();
@@ -121,13 +121,13 @@ TEST(Checks, FindEveryFault) {
 
 TEST(Checks, HearASemitoneBetweenTwoParts) {
   MidiFile file = Plain();
-  MidiTrack other = file.tracks[1];
+  MidiTrack other = file.Tracks[1];
   for (MidiEvent& event : other.events) {
-    if ((event.status & 0xE0) == 0x80) event.data1 = 75;
-    if (event.status != 0xFF) event.status = static_cast<uint8_t>(event.status | 1);
+    if ((event.Status & 0xE0) == 0x80) event.Data1 = 75;
+    if (event.Status != 0xFF) event.Status = static_cast<uint8_t>(event.Status | 1);
   }
   EXPECT_TRUE(Frictions(CollectNotes(file)).empty());
-  file.tracks.push_back(other);
+  file.Tracks.push_back(other);
   EXPECT_EQ(Frictions(CollectNotes(file)).size(), 4U);
 }
 
@@ -139,7 +139,7 @@ TEST(Performance, IsTheSameEveryTimeAndKeepsToItsEnds) {
   const MidiFile file = Perform(WriteOut(score));
   EXPECT_EQ(WriteMidi(file), WriteMidi(Perform(WriteOut(score))));
   // Half of the 100 ms at 120 quarters a minute are 48 ticks.
-  EXPECT_EQ(file.tracks[1].end, 2 * kWhole - 48);
+  EXPECT_EQ(file.Tracks[1].End, 2 * kWhole - 48);
   EXPECT_TRUE(CheckPiece("Test", file).empty());
 }
 

@@ -13,7 +13,7 @@ class Pieces : public testing::TestWithParam<const char*> {
   static MidiFile Performed() {
     const Score score =
         ReadScore(tests::ContentText(std::string("music/") + GetParam() + ".score"));
-    EXPECT_EQ(score.name, GetParam());
+    EXPECT_EQ(score.Name, GetParam());
     return Perform(WriteOut(score));
   }
 };
@@ -26,7 +26,7 @@ TEST_P(Pieces, AreMoreThanALoopOfTwoBars) {
   const PieceNotes piece = CollectNotes(Performed());
   EXPECT_GE(piece.sections.size(), 5U);
   EXPECT_GE(piece.keys.size(), 3U) << "a modulation and the way back";
-  EXPECT_GE(piece.names.size(), 9U) << "eight parts and the conductor";
+  EXPECT_GE(piece.Names.size(), 9U) << "eight parts and the conductor";
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Pieces,

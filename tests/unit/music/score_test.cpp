@@ -38,29 +38,29 @@ TEST(Score, PlacesSectionsByTheForm) {
   const Score score = ReadScore(
       WholeScore("A B A", "section A 1\n  tune d1 |\nsection B 2\n  tune e2 f# | g1 |\n"));
   const Sheet sheet = WriteOut(score);
-  EXPECT_EQ(sheet.end, 4 * kWhole);
+  EXPECT_EQ(sheet.End, 4 * kWhole);
   ASSERT_EQ(sheet.sections.size(), 3U);
-  EXPECT_EQ(sheet.sections[2].start, 3 * kWhole);
-  ASSERT_EQ(sheet.parts[0].notes.size(), 5U);
-  EXPECT_EQ(sheet.parts[0].notes[0].pitch, 74);
-  EXPECT_EQ(sheet.parts[0].notes[4].start, 3 * kWhole);
+  EXPECT_EQ(sheet.sections[2].Start, 3 * kWhole);
+  ASSERT_EQ(sheet.Parts[0].Notes.size(), 5U);
+  EXPECT_EQ(sheet.Parts[0].Notes[0].Pitch, 74);
+  EXPECT_EQ(sheet.Parts[0].Notes[4].Start, 3 * kWhole);
 }
 
 TEST(Score, JoinsTiedNotesAcrossTheBar) {
   const Score score = ReadScore(WholeScore("A", "section A 2\n  tune d1~ | d2 e |\n"));
   const Sheet sheet = WriteOut(score);
-  ASSERT_EQ(sheet.parts[0].notes.size(), 2U);
-  EXPECT_EQ(sheet.parts[0].notes[0].length, kWhole + kWhole / 2);
+  ASSERT_EQ(sheet.Parts[0].Notes.size(), 2U);
+  EXPECT_EQ(sheet.Parts[0].Notes[0].Length, kWhole + kWhole / 2);
 }
 
 TEST(Score, FillsALineThatRepeats) {
   const Score score =
       ReadScore(WholeScore("A", "section A 4\n  chords D | A/C# | ...|\n  low R4 F R2 | ...|\n"));
   const Sheet sheet = WriteOut(score);
-  ASSERT_EQ(sheet.parts[1].notes.size(), 12U);
-  EXPECT_EQ(sheet.parts[1].notes[0].pitch, 38);  // d
-  EXPECT_EQ(sheet.parts[1].notes[1].pitch, 45);  // its fifth
-  EXPECT_EQ(sheet.parts[1].notes[3].pitch, 37);  // c#, the bass of the second chord
+  ASSERT_EQ(sheet.Parts[1].Notes.size(), 12U);
+  EXPECT_EQ(sheet.Parts[1].Notes[0].Pitch, 38);  // d
+  EXPECT_EQ(sheet.Parts[1].Notes[1].Pitch, 45);  // its fifth
+  EXPECT_EQ(sheet.Parts[1].Notes[3].Pitch, 37);  // c#, the bass of the second chord
 }
 
 TEST(Score, LeansOnAnotherSectionAndTransposes) {
@@ -68,32 +68,32 @@ TEST(Score, LeansOnAnotherSectionAndTransposes) {
       "A B",
       "section A 1\n  chords D\n  tune d1 |\n  kit beat |\nsection B 1 like A +2\n  low R1 |\n"));
   const Sheet sheet = WriteOut(score);
-  EXPECT_EQ(sheet.parts[0].notes[1].pitch, 76);
-  EXPECT_EQ(sheet.parts[1].notes[0].pitch, 28);  // e, the lowest above the floor
-  EXPECT_EQ(sheet.parts[2].notes.size(), 20U);
-  EXPECT_EQ(sheet.parts[2].notes.back().pitch, 42);  // drums stay
+  EXPECT_EQ(sheet.Parts[0].Notes[1].Pitch, 76);
+  EXPECT_EQ(sheet.Parts[1].Notes[0].Pitch, 28);  // e, the lowest above the floor
+  EXPECT_EQ(sheet.Parts[2].Notes.size(), 20U);
+  EXPECT_EQ(sheet.Parts[2].Notes.back().Pitch, 42);  // drums stay
 }
 
 TEST(Score, HoldsTheCommonTonesOfSlurredChords) {
   const std::string bars = "section A 2\n  chords C | Am |\n  tune ";
   const Score struck = ReadScore(WholeScore("A", bars + "*1 | * |\n"));
-  EXPECT_EQ(WriteOut(struck).parts[0].notes.size(), 6U);
+  EXPECT_EQ(WriteOut(struck).Parts[0].Notes.size(), 6U);
   const Score slurred = ReadScore(WholeScore("A", bars + "(*1 | *) |\n"));
   const Sheet sheet = WriteOut(slurred);
-  EXPECT_EQ(sheet.parts[0].notes.size(), 4U);  // c and e stay, g goes to a
+  EXPECT_EQ(sheet.Parts[0].Notes.size(), 4U);  // c and e stay, g goes to a
   int held = 0;
-  for (const Note& note : sheet.parts[0].notes) held += note.length == 2 * kWhole ? 1 : 0;
+  for (const Note& note : sheet.Parts[0].Notes) held += note.Length == 2 * kWhole ? 1 : 0;
   EXPECT_EQ(held, 2);
 }
 
 TEST(Score, GrowsADynamicOverItsStretch) {
   const Score score = ReadScore(WholeScore("A", "section A 2\n  tune \\p..f d1 | e2 \\mf f# |\n"));
   const Sheet sheet = WriteOut(score);
-  const auto& notes = sheet.parts[0].notes;
-  EXPECT_DOUBLE_EQ(notes[0].loudness, 50);
-  EXPECT_GT(notes[1].loudness, 70);
-  EXPECT_LT(notes[1].loudness, 88);
-  EXPECT_DOUBLE_EQ(notes[2].loudness, 75);
+  const auto& notes = sheet.Parts[0].Notes;
+  EXPECT_DOUBLE_EQ(notes[0].Loudness, 50);
+  EXPECT_GT(notes[1].Loudness, 70);
+  EXPECT_LT(notes[1].Loudness, 88);
+  EXPECT_DOUBLE_EQ(notes[2].Loudness, 75);
 }
 
 TEST(Score, NamesTheLineOfAFault) {

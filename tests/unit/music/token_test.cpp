@@ -9,38 +9,38 @@ namespace {
 
 TEST(Token, ReadsPitchOctavesLengthAndMarks) {
   const Token token = ReadToken("(f#''4.>~");
-  ASSERT_EQ(token.tones.size(), 1U);
-  EXPECT_EQ(token.tones[0].semitone, 6);
-  EXPECT_EQ(token.tones[0].octaves, 2);
-  EXPECT_EQ(token.length, kQuarter * 3 / 2);
-  EXPECT_EQ(token.stress, 10);
-  EXPECT_TRUE(token.opens_slur);
-  EXPECT_FALSE(token.closes_slur);
-  EXPECT_TRUE(token.tied);
+  ASSERT_EQ(token.Tones.size(), 1U);
+  EXPECT_EQ(token.Tones[0].Semitone, 6);
+  EXPECT_EQ(token.Tones[0].Octaves, 2);
+  EXPECT_EQ(token.Length, kQuarter * 3 / 2);
+  EXPECT_EQ(token.Stress, 10);
+  EXPECT_TRUE(token.OpensSlur);
+  EXPECT_FALSE(token.ClosesSlur);
+  EXPECT_TRUE(token.Tied);
 }
 
 TEST(Token, TellsAFlatFromTheNoteB) {
-  EXPECT_EQ(ReadToken("bb4").tones[0].semitone, 10);
-  EXPECT_EQ(ReadToken("b4").tones[0].semitone, 11);
-  EXPECT_EQ(ReadToken("eb,8").tones[0].octaves, -1);
+  EXPECT_EQ(ReadToken("bb4").Tones[0].Semitone, 10);
+  EXPECT_EQ(ReadToken("b4").Tones[0].Semitone, 11);
+  EXPECT_EQ(ReadToken("eb,8").Tones[0].Octaves, -1);
 }
 
 TEST(Token, ReadsRestsChordsVoicesAndBassTones) {
-  EXPECT_TRUE(ReadToken("r2").tones.empty());
-  EXPECT_EQ(ReadToken("[c e g]2").tones.size(), 3U);
+  EXPECT_TRUE(ReadToken("r2").Tones.empty());
+  EXPECT_EQ(ReadToken("[c e g]2").Tones.size(), 3U);
   EXPECT_TRUE(ReadToken("*1").whole_chord);
   const Token voice = ReadToken("@3:8");
-  EXPECT_EQ(voice.tones[0].kind, ToneKind::Voice);
-  EXPECT_EQ(voice.tones[0].voice, 3);
-  EXPECT_EQ(voice.length, kQuarter / 2);
+  EXPECT_EQ(voice.Tones[0].Kind, ToneKind::Voice);
+  EXPECT_EQ(voice.Tones[0].Voice, 3);
+  EXPECT_EQ(voice.Length, kQuarter / 2);
   const Token bass = ReadToken("F'16!");
-  EXPECT_EQ(bass.tones[0].kind, ToneKind::Bass);
-  EXPECT_EQ(bass.tones[0].degree, 'F');
+  EXPECT_EQ(bass.Tones[0].Kind, ToneKind::Bass);
+  EXPECT_EQ(bass.Tones[0].Degree, 'F');
   EXPECT_EQ(bass.touch, Touch::Staccato);
 }
 
 TEST(Token, ReadsTripletsAsTwelfths) {
-  EXPECT_EQ(ReadToken("c12").length, kWhole / 12);
+  EXPECT_EQ(ReadToken("c12").Length, kWhole / 12);
 }
 
 TEST(Token, RefusesWhatIsNoNote) {

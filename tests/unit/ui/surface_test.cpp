@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "src/base/error.h"
 
 namespace orvane {
@@ -204,6 +206,56 @@ TEST(Surface, CopiesPartWhenOneIsDrawnOn) {
 
 TEST(Surface, AnswersNothingOutside) {
   EXPECT_THROW(static_cast<void>(Surface(2, 2).At(2, 0)), RunError);
+}
+
+TEST(Surface, TellsWhereItHasBeenDrawnOn) {
+  Surface surface(20, 10);
+  EXPECT_EQ(surface.TakeTouched().Right, 20) << "a new one wholly";
+  EXPECT_TRUE(surface.TakeTouched().IsEmpty());
+  FillBox(surface, 12, 4, 10, 3, 1);
+  BitBlt(surface, -2, 6, 5, 2, Surface(5, 5), 0, 0, Blit::Copy);
+  const Bounds touched = surface.TakeTouched();
+  EXPECT_EQ(touched.Left, 0);
+  EXPECT_EQ(touched.Top, 3);
+  EXPECT_EQ(touched.Right, 13);
+  EXPECT_EQ(touched.Bottom, 8);
+}
+
+TEST(Surface, RefreshShowsTheChangedPartAlone) {
+  Surface surface(8, 8, 5);
+  surface.Refresh();
+  FillBox(surface, 2, 3, 4, 5, 7);
+  EXPECT_EQ(surface.ShownAt(3, 4), 5U);
+  surface.Refresh();
+  for (int y = 0; y < 8; ++y) {
+    for (int x = 0; x < 8; ++x) EXPECT_EQ(surface.ShownAt(x, y), surface.At(x, y));
+  }
+}
+
+TEST(Surface, KnowsWithWhomItSharesPixels) {
+  const Surface first(4, 4);
+  Surface second = first;
+  EXPECT_TRUE(second.SharesPixelsWith(first));
+  FillBox(second, 0, 0, 0, 0, 1);
+  EXPECT_FALSE(second.SharesPixelsWith(first));
+}
+
+TEST(BitBlt, LeavesOutWhatLiesFarOutside) {
+  constexpr int far = std::numeric_limits<int>::max();
+  constexpr int far_back = std::numeric_limits<int>::min();
+  const Surface source(4, 4, 9);
+  Surface target(4, 4, 1);
+  for (const int x : {far, far_back}) {
+    for (const int from : {far, far_back, 0}) {
+      BitBlt(target, x, 0, far, 4, source, from, 0, Blit::Copy);
+      BitBlt(target, 0, from, 4, far, source, 0, x, Blit::Copy);
+      StretchBlt(target, {x, 0, 4, 4}, source, {from, 0, 4, 4}, Blit::Copy);
+      StretchBlt(target, {0, 0, 4, 4}, source, {0, x, 4, 4}, Blit::Copy);
+    }
+  }
+  EXPECT_EQ(Painted(target, 1), 16);
+  BitBlt(target, far_back + 2, 0, far, 4, source, far_back + 2, 0, Blit::Copy);
+  EXPECT_EQ(Painted(target, 1), 12) << "one column lies inside both";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <system_error>
 
+#include "src/platform/path_text.h"
 #include "src/platform/player_folder.h"
 #include "src/platform/program_path.h"
 
@@ -12,7 +13,7 @@ namespace {
 // An absolute path from the environment, or nothing; relative ones do not count.
 std::filesystem::path FromEnvironment(const char* name) {
   const char* value = std::getenv(name);
-  const std::filesystem::path path = value != nullptr ? value : "";
+  const std::filesystem::path path = PathOf(value != nullptr ? value : "");
   return path.is_absolute() ? path : std::filesystem::path();
 }
 

@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "src/frontend/desktop/app/signals.h"
+#include "src/platform/path_text.h"
 
 namespace orvane {
 namespace {
@@ -19,7 +20,7 @@ namespace {
 std::string LockName(const std::filesystem::path& folder) {
   std::error_code failed;
   const auto whole = std::filesystem::weakly_canonical(folder, failed);
-  const auto path = QByteArray::fromStdString(failed ? folder.string() : whole.string());
+  const auto path = QByteArray::fromStdString(TextOf(failed ? folder : whole));
   const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
   const QString session = qEnvironmentVariable("XDG_RUNTIME_DIR");
   const QString place = session.isEmpty() ? QDir::tempPath() : session;

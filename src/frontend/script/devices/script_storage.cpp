@@ -1,6 +1,5 @@
 #include "src/frontend/script/devices/script_storage.h"
 
-#include <filesystem>
 #include <utility>
 
 #include "src/platform/path_text.h"

@@ -45,7 +45,7 @@ function chance.fight(v)
   if kind == 5 then v.Round = 4 end
   v.TileHere = math.random(2) == 1 and 13 or 7
   if math.random(6) == 1 then v.EnemyTurns = math.random(2) end
-  if math.random(10) == 1 then v.HeroesActed = 1 end
+  if math.random(10) == 1 then v.HeroesActed = math.random(2) end
 end
 
 return chance

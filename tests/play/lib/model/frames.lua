@@ -16,7 +16,7 @@ return function(Model)
       self:tab_enabled(self:tab(), true)
       self:tab_enabled(other, false)
     end
-    if v.HeroesActed ~= 2 then
+    if v.HeroesActed < 2 then
       self:command(1, true)
       self:command(self:tab() == 0 and 3 or 2, true)
       self:command(4, true)

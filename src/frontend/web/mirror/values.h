@@ -1,0 +1,20 @@
+// What a page needs to know of a control, as JSON.
+#pragma once
+
+#include <string>
+
+#include "src/ui/controls.h"
+
+namespace orvane {
+
+// The name that the page gives a kind of control, "label"; nothing for what is not seen.
+const char* KindName(ControlKind kind);
+
+// Writes what never changes of a control: its kind, name and border, and what screen readers call
+// it. `id` is its number, `parent` that of what holds it, or -1.
+void WriteNature(const Control& control, int id, int parent, std::string& out);
+
+// Writes what may change, as it is now. Of a control that is not to be seen that is all.
+void WriteValues(const Control& control, int id, std::string& out);
+
+}  // namespace orvane

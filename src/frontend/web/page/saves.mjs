@@ -1,0 +1,57 @@
+// The player's files in the browser's database, one record each.
+import { kept } from './game.mjs';
+
+const place = new URL('.', location.href).pathname; // each copy of the game on a host keeps its own
+const store = 'files';
+let database = null;
+const files = new Map(); // as they are kept
+let onFirst = null;
+
+const answerTo = (request) =>
+  new Promise((done, failed) => {
+    request.onsuccess = () => done(request.result);
+    request.onerror = () => failed(request.error);
+  });
+
+// Opens the database and reads all files. Where a window keeps nothing, none are there and none will last.
+export async function open(whenFirst) {
+  onFirst = whenFirst;
+  try {
+    const request = indexedDB.open(`orvane ${place}`, 1);
+    request.onupgradeneeded = () => request.result.createObjectStore(store);
+    database = await answerTo(request);
+    database.onversionchange = () => database.close();
+    const all = database.transaction(store).objectStore(store);
+    const [names, contents] = await Promise.all([answerTo(all.getAllKeys()), answerTo(all.getAll())]);
+    names.forEach((name, i) => files.set(name, contents[i]));
+  } catch {
+    database = null;
+  }
+  return files;
+}
+
+export const lasts = () => database !== null;
+export const slots = () => files;
+
+// Replaces files, all of them or none. Done when they last.
+export async function replace(changes) {
+  if (database) {
+    const work = database.transaction(store, 'readwrite', { durability: 'strict' });
+    for (const [name, bytes] of changes) work.objectStore(store).put(bytes, name);
+    await new Promise((done, failed) => {
+      work.oncomplete = done;
+      work.onabort = () => failed(work.error ?? new Error('aborted'));
+    });
+  }
+  for (const [name, bytes] of changes) files.set(name, bytes);
+  onFirst?.();
+  onFirst = null;
+}
+
+// The program's wish to keep a file.
+export function keep(number, name, bytes) {
+  replace([[name, bytes]]).then(
+    () => kept(number, ''),
+    (error) => kept(number, error?.name === 'QuotaExceededError' ? '保存する場所がありません' : String(error?.message ?? error)),
+  );
+}

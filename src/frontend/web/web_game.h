@@ -1,0 +1,100 @@
+// The game in a page: the program, what the page shows of it, its time, its keys.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/focus_order.h"
+#include "src/frontend/shared/pad_rules.h"
+#include "src/frontend/shared/tick_times.h"
+#include "src/frontend/shared/walking_keys.h"
+#include "src/frontend/web/mirror/mirror.h"
+#include "src/frontend/web/services/page_sound.h"
+#include "src/frontend/web/services/page_storage.h"
+#include "src/game/program.h"
+
+namespace orvane {
+
+// Where the keyboard is in the page.
+struct KeyFacts {
+  bool PageHasKeys = true;  // the page is in front
+  bool MenuIsOpen = false;  // a menu hangs from the menu bar, or a dialog of the page's own stands
+  bool MenuBarHasKeys = false;  // the menu bar has the keyboard
+};
+
+class WebGame : private PadHands {
+ public:
+  // Starts the program over these files; the page must outlive it.
+  WebGame(Page& page, std::optional<uint32_t> seed);
+  WebGame(const WebGame&) = delete;
+  WebGame& operator=(const WebGame&) = delete;
+
+  PageStorage& Files() { return files_; }
+  PageSound& Sound() { return sound_; }
+  // From the start-up to the title. Files and lengths of sounds are there.
+  void Begin();
+
+  Program& TheProgram() { return *program_; }
+  Mirror& TheMirror() { return *mirror_; }
+
+  // What has changed for the page to show, as Mirror::Changes has it; nothing while it is held.
+  const std::string& Changes();
+  // For how many ms nothing is to be shown or taken, 0 while the game goes on.
+  int HeldFor() const;
+
+  // Carries out what a player does, which may be refused.
+  void Send(const std::function<void(Program&)>& event);
+
+  // In how many ms the next tick is due, or -1 while none will be.
+  int Wait();
+  // Serves the ticks that are due, as long as they take no more than `most` ms and nothing comes up
+  // that is to be seen first. How many it has served.
+  int Serve(double most);
+
+  // The page has kept a file, or says why not.
+  void Kept(int number, const std::string& failure);
+
+  // A key: whether it must do nothing more.
+  bool TakeKey(const KeyEvent& event, const KeyMeaning& meaning);
+  void SetKeyFacts(const KeyFacts& facts);
+  // Lets go what is no longer held down.
+  void FollowKeys() { keys_->Follow(); }
+  // The game pad, as it is at this moment; the stick as PadStick takes it.
+  void TakePad(PadState state, double x, double y);
+
+  // Who has the keyboard within a screen, as FocusOrder has it.
+  Control* BeginFocus(const Screen& screen);
+  Control* FollowFocus(const Screen& screen, Control* before);
+  FocusOrder& OrderOf(const Screen& screen);
+
+ private:
+  bool ReachesWindow() const override;
+  bool ReachesGame() const override;
+  void Walk(Direction direction, bool down) override;
+  void Move(Direction direction) override { page_.MoveByPad(direction); }
+  void Accept() override { page_.AcceptByPad(); }
+  void Back() override { page_.GoBackByPad(); }
+  void OpenMenus() override { page_.OpenMenusByPad(); }
+  void Turn(int step) override { page_.TurnByPad(step); }
+
+  Page& page_;
+  PageStorage files_;
+  PageSound sound_;
+  PlayersChance chance_;
+  std::unique_ptr<Program> program_;
+  std::optional<Mirror> mirror_;
+  std::optional<TickTimes> ticks_;
+  std::optional<WalkingKeys> keys_;
+  std::map<const Screen*, FocusOrder> orders_;
+  const Screen* first_ = nullptr;  // the screen that the game opens with, which the keys belong to
+  KeyFacts facts_;
+  PadRules pad_{*this};
+  PadStick stick_;
+  std::string nothing_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,133 @@
+// The game from the title on, as somebody plays it: names, the opening, walking, saving, loading.
+import assert from 'node:assert/strict';
+import { readSave } from './lib/desktop.mjs';
+import { kill } from './lib/browsers.mjs';
+import { sleep, until } from './lib/game_page.mjs';
+import { begin, hearScene, holdKey, kept, load, save } from './lib/steps.mjs';
+import { both, inBrowsers } from './lib/tests.mjs';
+
+const firstSave = 'Save01.sav';
+const where = ['MapA', 'MapB', 'HeroX', 'HeroY'];
+
+// Types as an input method does: kana that change until they are taken. Chromium lets the real way be gone; in
+// Firefox the events come as an input method would send them.
+async function compose(game, field, steps, result) {
+  await game.click(field);
+  if (game.name === 'chromium') {
+    const session = await game.page.createCDPSession();
+    for (const text of steps) {
+      await session.send('Input.imeSetComposition', { text, selectionStart: text.length, selectionEnd: text.length });
+      await sleep(60);
+      assert.equal(await game.textOf(field), text, 'what is being composed stays');
+    }
+    await session.send('Input.insertText', { text: result });
+    return;
+  }
+  const element = await game.find(field);
+  await element.evaluate((input) => input.dispatchEvent(new CompositionEvent('compositionstart', { bubbles: true })));
+  for (const text of steps) {
+    await element.evaluate((input, value) => {
+      input.dispatchEvent(new CompositionEvent('compositionupdate', { data: value, bubbles: true }));
+      input.value = value;
+      input.dispatchEvent(new InputEvent('input', { data: value, isComposing: true, bubbles: true }));
+    }, text);
+    await sleep(60);
+    assert.equal(await game.textOf(field), text, 'what is being composed stays');
+  }
+  await element.evaluate((input, value) => {
+    input.value = value;
+    input.dispatchEvent(new CompositionEvent('compositionend', { data: value, bubbles: true }));
+    input.dispatchEvent(new InputEvent('input', { data: value, bubbles: true }));
+  }, result);
+}
+
+inBrowsers('names by an input method, the opening, a walk, a save, a load', both, async ({ name, open }) => {
+  const game = await open({ query: '?seed=26' });
+  game.name = name;
+  await game.click('Main.Command1');
+  await game.click('InputName.OKButton');
+  assert.match(await game.answer('OK'), /名前/, 'names are asked for');
+  await compose(game, 'InputName.Text1(0)', ['g', 'ご', 'ごう', 'ゴウ'], 'ゴウ');
+  await compose(game, 'InputName.Text1(1)', ['r', 'り', 'りn', 'りん'], 'りん');
+  await game.click('InputName.OKButton');
+  await hearScene(game);
+  await save(game, 0);
+  const before = await kept(game, firstSave);
+  assert.equal(before.length, 540);
+  const names = readSave(before, ['HeroName[0]', 'HeroName[1]', ...where]);
+  assert.equal(names['HeroName[0]'].trim(), 'ゴウ');
+  assert.equal(names['HeroName[1]'].trim(), 'りん');
+
+  const scene = await game.sumOf('Main.Picture1');
+  await holdKey(game, 'ArrowRight', 300);
+  await holdKey(game, 'ArrowDown', 300);
+  assert.notEqual(await game.sumOf('Main.Picture1'), scene, 'the field is painted anew');
+  await save(game, 1);
+  const walked = readSave(await kept(game, 'Save02.sav'), where);
+  assert.ok(walked.HeroY > names.HeroY, `down from ${names.HeroY} to ${walked.HeroY}`);
+  assert.ok(walked.HeroX > names.HeroX, `right from ${names.HeroX} to ${walked.HeroX}`);
+
+  await game.reload();
+  await load(game, 1);
+  await save(game, 2);
+  assert.deepEqual(await kept(game, 'Save03.sav'), await kept(game, 'Save02.sav'), 'as it was saved');
+});
+
+inBrowsers('a save lasts when the browser is killed half a second later', both, async (world) => {
+  const first = await world.open({ query: '?seed=26' });
+  await begin(first);
+  await holdKey(first, 'ArrowDown', 300);
+  await save(first, 0);
+  const bytes = await kept(first, firstSave);
+  first.assertNoProblems();
+  world.pages.length = 0;
+  await sleep(500);
+  await kill(world.browser);
+  await world.relaunch();
+  const second = await world.open();
+  assert.deepEqual(await kept(second, firstSave), bytes);
+  await load(second, 0);
+});
+
+inBrowsers('a second tab waits for the first', both, async ({ browser, open, server, pages }) => {
+  const first = await open();
+  const page = await browser.newPage();
+  await page.goto(server.address);
+  await until('the second tab to wait', () => page.evaluate(() => document.body.dataset.state === 'waiting'));
+  assert.match(await page.$eval('.end', (element) => element.textContent), /別のタブ/);
+  first.assertNoProblems();
+  pages.length = 0;
+  await first.page.close();
+  await until('its turn', () => page.evaluate(() => document.body.dataset.state === 'running'));
+});
+
+inBrowsers('the end of the game, and a new one', both, async ({ open }) => {
+  const game = await open();
+  await game.clickMenu('Main.m1', 'Main.m14');
+  await game.answer('キャンセル');
+  await until('the title again', async () => (await game.boxes()).length === 0);
+  await game.page.click('section[data-name=Main] .close');
+  await game.answer('OK');
+  await game.waitForState('ended');
+  assert.equal(await game.page.evaluate(() => document.body.dataset.status), '0');
+  await game.page.click('.end button');
+  await game.waitForState('running');
+});
+
+inBrowsers('a box over a box', both, async ({ open }) => {
+  const game = await open();
+  const windows = await game.moduleOf('windows');
+  const box = (number) => ({ number, title: `title ${number}`, text: `text ${number}`, closing: 0, choices: [{ caption: 'OK', answer: 0 }] });
+  const show = (...boxes) => game.page.evaluate(async (module, shown) => (await import(module)).apply({ boxes: shown }), windows, boxes);
+  const front = () => game.page.evaluate(() => document.activeElement.closest('dialog')?.querySelector('p').textContent);
+  await show(box(1));
+  await show(box(1), box(2));
+  assert.deepEqual(await game.boxes(), ['text 1', 'text 2']);
+  assert.equal(await front(), 'text 2');
+  assert.equal(await game.page.evaluate(() => document.querySelectorAll('dialog:modal').length), 2, 'both keep the windows from the player');
+  await show(box(1));
+  assert.deepEqual(await game.boxes(), ['text 1']);
+  assert.equal(await front(), 'text 1');
+  await show();
+  assert.deepEqual(await game.boxes(), []);
+});

@@ -23,7 +23,7 @@ passes() {
 tree() {
   rm -rf "$trial/src"
   for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
-    frontend/desktop frontend/web; do
+    frontend/desktop frontend/web frontend/windows; do
     mkdir -p "$trial/src/$floor"
     printf '#include <string>\n' >"$trial/src/$floor/a.h"
     printf '#include "src/%s/a.h"\n' "$floor" >"$trial/src/$floor/a.cpp"
@@ -37,6 +37,9 @@ tree() {
 
 tree
 passes "a clean tree" "$here/floors.sh" "$trial"
+echo '#include <windows.h>' >>"$trial/src/frontend/windows/a.cpp"
+refuses "the system's header past the one way to it" "$here/floors.sh" "$trial"
+tree
 echo '#include "src/battle/a.h"' >>"$trial/src/core/a.cpp"
 refuses "an include that runs up" "$here/floors.sh" "$trial"
 tree

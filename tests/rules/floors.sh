@@ -27,7 +27,7 @@ may_include() {
     sound) echo "base platform" ;;
     frontend/shared) echo "$plain game" ;;
     frontend/script) echo "$plain field battle screens ending game frontend/shared" ;;
-    frontend/desktop) echo "$plain field battle screens ending game sound frontend/shared" ;;
+    frontend/desktop | frontend/windows) echo "$plain field battle screens ending game sound frontend/shared" ;;
     frontend/web) echo "$plain game frontend/shared" ;;
   esac
 }
@@ -82,7 +82,7 @@ floor_of() {
 }
 
 for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
-  frontend/desktop frontend/web; do
+  frontend/desktop frontend/web frontend/windows; do
   [ -d "$floor" ] || continue
   allowed=" $floor $(may_include "$floor") "
   while IFS=: read -r file line include; do
@@ -95,9 +95,11 @@ for floor in base platform ui core field battle screens ending game sound fronte
         breaks_order "$file" "$header" && fault "$file:$line: $header is above it"
         ;;
       *\<*)
-        case "$floor" in frontend/desktop | frontend/script) continue ;; esac
         header=${include#*<}
         header=${header%%>*}
+        [[ $header == windows.h && $file != platform/windows/windows_api.h ]] &&
+          fault "$file:$line: <windows.h> comes through platform/windows/windows_api.h alone"
+        case "$floor" in frontend/desktop | frontend/windows | frontend/script) continue ;; esac
         [[ $standard == *" $header "* || " $(may_name "$file") " == *" $header "* ]] ||
           fault "$file:$line: <$header> has no place in $floor"
         ;;

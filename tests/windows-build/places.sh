@@ -88,9 +88,8 @@ see_read_only() {
 names_box=警告
 screen_width=1920 screen_height=1080
 open_display "${screen_width}x$screen_height"
-make_system
 in_registry 'Software\Microsoft\Windows\CurrentVersion\ThemeManager' ThemeActive REG_SZ 1
-install_game "$run_folder/place"
+install_game "$built" "$run_folder/place"
 for dots in 96 144 192; do see_at "$dots"; done
 see_read_only
 echo "under wine: at 96, 144 and 192 dots to the inch, on the full screen, and for a guest"

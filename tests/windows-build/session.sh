@@ -1,6 +1,5 @@
 # The game for Windows in a real window: a system of its own under wine, on a display of our own. Sourced by the
-# tests of it, which set what x_session.sh asks for but program, and:
-#   built   the folder that has Orvane.exe and the game folder
+# tests of it in place of x_session.sh; program is Orvane.exe.
 # shellcheck shell=bash disable=SC2034  # variables for the files that are sourced
 
 # shellcheck source=tests/process/x_session.sh
@@ -11,10 +10,11 @@ need_tools /usr/lib/wine/wine64 /usr/lib/wine/wineserver
 scale=1
 file_menu=26 item_menu=76 info_menu=118
 
-wine() { /usr/lib/wine/wine64 "$@"; }
+# In place of the shell that runs it, so that its process is the program's.
+wine() { exec /usr/lib/wine/wine64 "$@"; }
 
 # in_registry KEY NAME TYPE VALUE: of the player.
-in_registry() { wine reg add "HKCU\\$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1 || fail "no registry"; }
+in_registry() { (wine reg add "HKCU\\$1" /v "$2" /t "$3" /d "$4" /f) >/dev/null 2>&1 || fail "no registry"; }
 
 # What the system calls its Japanese faces, and which of this machine's stand for them.
 give_faces() {
@@ -30,7 +30,7 @@ give_faces() {
 # make_system: a fresh one, with Japanese faces, and without a theme: what can be used is told by its colours.
 make_system() {
   export WINEPREFIX=$run_folder/system WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml="
-  wine wineboot -i >/dev/null 2>&1 || fail "wine does not start"
+  (wine wineboot -i) >/dev/null 2>&1 || fail "wine does not start"
   in_registry 'Software\Microsoft\Windows\CurrentVersion\ThemeManager' ThemeActive REG_SZ 0
   give_faces
   trap end_system EXIT
@@ -48,17 +48,27 @@ give_dots() {
   /usr/lib/wine/wineserver -w
 }
 
-# install_game FOLDER: the program and its game folder, in that folder.
+# A display, and the system on it.
+eval "$(declare -f open_display | sed '1s/.*/open_bare_display ()/')"
+open_display() {
+  open_bare_display "$@"
+  make_system
+}
+
+# install_game BUILT FOLDER: the program and its game folder, from where they were built.
 install_game() {
-  place=$1
+  place=$2
   mkdir -p "$place"
-  # shellcheck disable=SC2154  # whoever sources this names the folder of the build
-  cp "$built/Orvane.exe" "$place/"
-  cp -r "$built/game" "$place/"
+  cp "$1/Orvane.exe" "$place/"
+  cp -r "$1/game" "$place/"
   folder=$place/game
-  program=$run_folder/play
-  printf '#!/bin/sh\nexec /usr/lib/wine/wine64 "%s/Orvane.exe" "$@"\n' "$place" >"$program"
-  chmod +x "$program"
+  program=$place/Orvane.exe
+}
+
+# start_game OPTIONS...
+start_game() {
+  wine "$program" "$@" >"$log" 2>&1 &
+  game_pid=$!
 }
 
 # The window manager gives windows that belong to others no focus of its own accord, though for the system they have

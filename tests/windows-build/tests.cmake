@@ -2,6 +2,8 @@
 # the first of them makes and the last ends.
 set(here ${CMAKE_CURRENT_SOURCE_DIR}/windows-build)
 add_test(NAME program COMMAND ${here}/program.sh $<TARGET_FILE:orvane> ${PROJECT_SOURCE_DIR})
+add_test(NAME saves COMMAND ${here}/saves.sh ${ORVANE_HOST_BUILD}/bin/orvane-script ${CMAKE_CROSSCOMPILING_EMULATOR}
+         $<TARGET_FILE:orvane-script>)
 add_test(NAME package COMMAND ${here}/package.sh ${CMAKE_BINARY_DIR})
 get_property(tests DIRECTORY PROPERTY TESTS)
 add_test(NAME system-begins COMMAND ${here}/system.sh begin)

@@ -43,8 +43,7 @@ judge() {
 }
 
 open_display 1400x1120
-make_system
-install_game "$run_folder/place"
+install_game "$built" "$run_folder/place"
 make_saves parties.lua
 echo "size: $(stat -c %s "$place/Orvane.exe") bytes; start: $(start_time) ms"
 ticks=$run_folder/ticks.txt

@@ -115,15 +115,14 @@ hold_key_under_box() {
 # The second start brings the first to the front, and ends.
 start_twice() {
   local status=0
-  timeout 20 "$program" || status=$?
+  timeout 20 /usr/lib/wine/wine64 "$program" || status=$?
   [ $status = 0 ] || fail "the second start ended with status $status"
   [ "$(xdotool search --onlyvisible --name '^Orvane$' | wc -l)" = 1 ] || fail "there are two games"
   wait_for 5 "the first game in front" has_focus Orvane
 }
 
 open_display 1024x768
-make_system
-install_game "$run_folder/龍の 狭間"
+install_game "$built" "$run_folder/龍の 狭間"
 start_game --scale 1 --seed 26
 begin_game
 walk

@@ -8,5 +8,4 @@ set -u
 tests=$(realpath "$1")
 keep_shots_in "$2"
 open_display 640x480
-make_system
 wine "$tests"

@@ -11,11 +11,11 @@
 #include "src/platform/sound_channels.h"
 #include "src/platform/whole_file.h"
 #include "src/sound/clip.h"
+#include "src/sound/fluid/sound_font.h"
 #include "src/sound/limiter.h"
 #include "src/sound/recorder.h"
 #include "src/sound/song.h"
 #include "src/sound/sound_engine.h"
-#include "src/sound/fluid/sound_font.h"
 
 namespace orvane {
 namespace {

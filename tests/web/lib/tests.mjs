@@ -11,10 +11,10 @@ const limit = 180000;
 export const both = ['chromium', 'firefox'];
 
 // `work` gets { name, browser, server, profile, open, relaunch }; pages that it has opened must be without problems at
-// its end unless they say that they may have some. `todo` is a known fault of the page: its test may fail.
-export function inBrowsers(title, names, work, { todo } = {}) {
+// its end unless they say that they may have some.
+export function inBrowsers(title, names, work) {
   for (const name of names) {
-    test(`${title} (${name})`, { timeout: limit, todo }, async () => {
+    test(`${title} (${name})`, { timeout: limit }, async () => {
       const profile = makeProfile();
       const server = await host(site);
       const world = { name, profile, server, pages: [] };

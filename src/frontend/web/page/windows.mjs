@@ -240,6 +240,8 @@ function makeBox(box) {
 // ---- how large all this is
 
 const firstRatio = devicePixelRatio;
+const menuHeight = 22; // in the game's pixels
+const fingerHeight = 24; // the least that a menu has on a touch screen, in the page's pixels
 let shownScale = 0;
 
 // Chooses the scale by the room that there is, and keeps all windows within it.
@@ -248,7 +250,10 @@ export function resize() {
   const bare = document.fullscreenElement !== null;
   const small = matchMedia('(pointer: coarse)').matches;
   document.body.classList.toggle('bare', bare || small);
-  const scale = ask('ScaleFor', desktop.clientWidth * ratio, desktop.clientHeight * ratio, ratio / firstRatio, bare ? 1 : 0, small ? 1 : 0, titleHeight * ratio);
+  const scaleFor = (height) => ask('ScaleFor', desktop.clientWidth * ratio, height * ratio, ratio / firstRatio, bare ? 1 : 0, small ? 1 : 0, titleHeight * ratio);
+  let scale = scaleFor(desktop.clientHeight);
+  const lack = small ? fingerHeight - (menuHeight * scale) / ratio : 0;
+  if (lack > 0) scale = scaleFor(desktop.clientHeight - 1.1 * lack); // menus grow as the rest shrinks
   if (scale <= 0) return;
   const unit = scale / ratio;
   if (unit !== shownScale) {

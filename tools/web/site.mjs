@@ -52,9 +52,11 @@ function settle(name) {
   hashed.set(name, known.has(name) ? name : name.replace(/(\.\w+)$/, `-${hash}$1`));
 }
 
-// The modules are asked for at once, not one after the other.
-const modules = [...files.keys()].filter((name) => name.endsWith('.mjs'));
-const preloads = modules.map((name) => `<link rel="modulepreload" href="${name}">`).join('\n');
+// The modules that the start needs are asked for at once, not one after the other; those that are brought by
+// import() are not among them.
+const modules = new Set(['early.mjs', 'main.mjs']);
+for (const name of modules) for (const [, other] of String(files.get(name)).matchAll(/ from '\.\/([\w.-]+)'/g)) modules.add(other);
+const preloads = [...modules].map((name) => `<link rel="modulepreload" href="${name}">`).join('\n');
 files.set('index.html', Buffer.from(String(files.get('index.html')).replace('<!--modules-->', preloads)));
 
 [...files.keys()].forEach(settle);

@@ -1,11 +1,14 @@
 // What belongs to the page rather than to the game: its bar, notices, and pages at the end.
-import { slots, lasts } from './saves.mjs';
+import { claim, lasts, slots } from './saves.mjs';
 import { make, makeButton } from './controls.mjs';
 import { remember, remembered } from './memory.mjs';
-import { openSlots, saveAll } from './slots.mjs';
 
 const notice = document.getElementById('notice');
 const full = document.getElementById('full');
+
+// What saves come and go by is not needed for the title.
+const slotsModule = () => import('./slots.mjs');
+const openSlots = async () => (await slotsModule()).openSlots(pauses);
 
 // Says something quietly, with what the player can do about it.
 export function tell(sentence, caption, act) {
@@ -13,32 +16,21 @@ export function tell(sentence, caption, act) {
   if (caption) makeButton('', notice, caption, act);
 }
 
-// One tab plays. Others say so, and begin when they may; whether it has come to that.
+// One tab plays. Others say so, and begin when they may.
 export async function waitForTurn() {
-  if (!navigator.locks) return false;
-  const name = `orvane ${new URL('.', location.href).pathname}`;
-  const claim = (wishes) =>
-    new Promise((done) => {
-      navigator.locks.request(name, wishes, (lock) => {
-        done(Boolean(lock));
-        return lock ? new Promise(() => {}) : undefined;
-      });
-    });
-  if (await claim({ ifAvailable: true })) return false;
   const end = showPage('別のタブで遊んでいます', 'このゲームは、ひとつのタブだけで遊べます。もうひとつのタブを閉じると、ここで始まります。');
   document.body.dataset.state = 'waiting';
   await claim({});
   end.remove();
-  return true;
 }
 
 // Whether saves last is told once: that this window keeps nothing, or that the browser may forget.
 export function tellLasting() {
-  if (!lasts()) return tell('このウィンドウでは、セーブデータは閉じると消えます。', '書き出す', () => openSlots(pauses));
+  if (!lasts()) return tell('このウィンドウでは、セーブデータは閉じると消えます。', '書き出す', openSlots);
   const forgets = /^((?!chrome|android|crios|fxios).)*safari/i.test(navigator.userAgent);
   if (!forgets || remembered('told', '') === 'yes') return undefined;
   remember('told', 'yes');
-  return tell('このブラウザは、しばらく開かないページのデータを消すことがあります。', '書き出す', () => openSlots(pauses));
+  return tell('このブラウザは、しばらく開かないページのデータを消すことがあります。', '書き出す', openSlots);
 }
 
 // A quiet page in place of the game.
@@ -55,7 +47,7 @@ function showPage(title, sentence, ...buttons) {
 }
 
 const anew = ['もう一度始める', () => location.reload()];
-const takeAlong = ['セーブデータを書き出す', () => saveAll(slots())];
+const takeAlong = ['セーブデータを書き出す', async () => (await slotsModule()).saveAll(slots())];
 
 function clear(state) {
   document.body.dataset.state = state;
@@ -93,7 +85,7 @@ export function startBar(pauseFor) {
     if (document.fullscreenElement) document.exitFullscreen();
     else document.documentElement.requestFullscreen({ navigationUI: 'hide' }).catch(() => {});
   });
-  document.getElementById('slots').addEventListener('click', () => openSlots(pauseFor));
+  document.getElementById('slots').addEventListener('click', openSlots);
   // A click leaves the keyboard with the game.
   for (const button of document.querySelectorAll('#bar button')) button.addEventListener('pointerdown', (event) => event.preventDefault());
   document.addEventListener('visibilitychange', stayAwake);

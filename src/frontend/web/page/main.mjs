@@ -5,11 +5,9 @@ import * as saves from './saves.mjs';
 import * as sound from './sound.mjs';
 import { showCrash, showEnd, startBar, tellLasting, waitForTurn } from './bar.mjs';
 import { countLines } from './controls.mjs';
-import { startOffline } from './offline.mjs';
-import { program } from './program.mjs';
+import { program, stored, table, turn } from './early.mjs';
 import { apply, describe, replaceAll } from './windows.mjs';
 
-const asset = (name) => new URL(name, import.meta.url);
 const wishes = new URLSearchParams(location.search);
 
 // A page that is not seen stands still, and what sounds with it.
@@ -20,23 +18,23 @@ function pauseFor(reason, on) {
 
 async function start() {
   const page = {
-    keep: saves.keep,
+    keep: (number, name, bytes) => saves.keep(name, bytes).then((failure) => game.kept(number, failure)),
     loadSound: sound.loadSound,
     dropSound: sound.dropSound,
     startSound: sound.startSound,
     pad: keys.pad,
     countLines,
   };
-  const openSaves = () => saves.open(() => navigator.storage?.persist?.());
-  const [waited, early, lengths] = await Promise.all([
-    waitForTurn(),
-    openSaves(),
-    sound.open(asset('./sounds.json')),
+  const [mine, early, sounds] = await Promise.all([
+    turn,
+    stored,
+    table,
     game.load(program, page),
     document.fonts.load('12px "Orvane Gothic"').catch(() => []),
   ]);
-  const files = waited ? await openSaves() : early; // another tab may have saved meanwhile
-  describe(game.begin({ files, lengths, seed: Number(wishes.get('seed') ?? -1), speed: wishes.get('speed') ?? '1' }, { apply, ended: showEnd, failed: showCrash }));
+  if (!mine) await waitForTurn();
+  const files = mine ? early : await saves.open(); // another tab may have saved meanwhile
+  describe(game.begin({ files, lengths: sound.know(sounds), seed: Number(wishes.get('seed') ?? -1), speed: wishes.get('speed') ?? '1' }, { apply, ended: showEnd, failed: showCrash }));
   sound.start();
   keys.start();
   startBar(pauseFor);
@@ -50,7 +48,8 @@ async function start() {
   document.fonts.addEventListener('loadingdone', replaceAll);
   performance.mark('title');
   tellLasting();
-  startOffline();
+  import('./slots.mjs'); // so that it is there
+  import('./offline.mjs').then(({ startOffline }) => startOffline());
 }
 
 start().catch(showCrash);

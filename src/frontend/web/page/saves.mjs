@@ -1,11 +1,9 @@
 // The player's files in the browser's database, one record each.
-import { kept } from './game.mjs';
-
 const place = new URL('.', location.href).pathname; // each copy of the game on a host keeps its own
 const store = 'files';
 let database = null;
 const files = new Map(); // as they are kept
-let onFirst = null;
+let asked = false; // that the browser not clear them by itself
 
 const answerTo = (request) =>
   new Promise((done, failed) => {
@@ -14,8 +12,7 @@ const answerTo = (request) =>
   });
 
 // Opens the database and reads all files. Where a window keeps nothing, none are there and none will last.
-export async function open(whenFirst) {
-  onFirst = whenFirst;
+export async function open() {
   try {
     const request = indexedDB.open(`orvane ${place}`, 1);
     request.onupgradeneeded = () => request.result.createObjectStore(store);
@@ -44,14 +41,22 @@ export async function replace(changes) {
     });
   }
   for (const [name, bytes] of changes) files.set(name, bytes);
-  onFirst?.();
-  onFirst = null;
+  if (!asked) navigator.storage?.persist?.();
+  asked = true;
 }
 
-// The program's wish to keep a file.
-export function keep(number, name, bytes) {
+// Keeps a file. Returns why it could not be, or nothing.
+export const keep = (name, bytes) =>
   replace([[name, bytes]]).then(
-    () => kept(number, ''),
-    (error) => kept(number, error?.name === 'QuotaExceededError' ? '保存する場所がありません' : String(error?.message ?? error)),
+    () => '',
+    (error) => (error?.name === 'QuotaExceededError' ? '保存する場所がありません' : String(error?.message ?? error)),
   );
-}
+
+// Claims the files for this tab, for as long as it is open. Whether it has got them.
+export const claim = (wishes) =>
+  new Promise((done) => {
+    navigator.locks.request(`orvane ${place}`, wishes, (lock) => {
+      done(Boolean(lock));
+      return lock ? new Promise(() => {}) : undefined;
+    });
+  });

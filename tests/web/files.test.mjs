@@ -112,6 +112,8 @@ inBrowsers('a new version comes whole, or not at all', both, async (world) => {
     const update = () => game.page.evaluate(() => navigator.serviceWorker.getRegistration().then((each) => each.update()).then(() => 'taken', (error) => String(error)));
     await update();
     await until('the failure', () => game.page.evaluate(() => navigator.serviceWorker.getRegistration().then((each) => !each.installing)), 30000);
+    const rest = () => game.page.evaluate(async () => [Boolean((await navigator.serviceWorker.getRegistration()).waiting), (await caches.keys()).length]);
+    assert.deepEqual(await rest(), [false, 1], 'nothing of it is left');
     await game.reload();
     assert.equal(await isNext(), false, 'the old version stays');
 

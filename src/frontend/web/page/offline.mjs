@@ -11,7 +11,15 @@ function offer(worker) {
   tell('新しい版があります。セーブしてから読み込みなおしてください。', '読み込みなおす', begin);
 }
 
+// What installing wants, with its large icons, is read when the game stands.
+function offerInstalling() {
+  const link = document.createElement('link');
+  Object.assign(link, { rel: 'manifest', href: 'manifest.webmanifest' });
+  document.head.append(link);
+}
+
 export async function startOffline() {
+  offerInstalling();
   const workers = navigator.serviceWorker;
   const registration = await workers?.register(`./sw.js?without=${otherForm}`, { updateViaCache: 'none' }).catch(() => null);
   if (!registration) return;

@@ -72,6 +72,8 @@ void ScreenWindow::FollowTitle() {
 }
 
 void ScreenWindow::Follow() {
+  // A control that is switched off loses the keyboard, and then nobody can tell which had it.
+  keys_to_->Look();
   FollowTitle();
   menu_.Follow(Handle());
   client_->Follow(false);

@@ -26,5 +26,6 @@ add_test(NAME windows-unit COMMAND ${here}/units.sh $<TARGET_FILE:orvane-windows
 add_test(NAME windows-tour COMMAND ${here}/tour.sh ${built} ${shots}/tour ${host_player})
 add_test(NAME windows-places COMMAND ${here}/places.sh ${built} ${shots}/places)
 add_test(NAME windows-ticks COMMAND ${here}/ticks.sh ${built} ${shots}/ticks ${host_player})
-set_tests_properties(windows-unit windows-tour windows-places windows-ticks PROPERTIES
+add_test(NAME windows-sound COMMAND ${here}/sound.sh ${built} ${shots}/minute.wav ${host_player})
+set_tests_properties(windows-unit windows-tour windows-places windows-ticks windows-sound PROPERTIES
                      SKIP_RETURN_CODE 77 TIMEOUT 400 COST 60)

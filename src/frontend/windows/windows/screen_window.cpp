@@ -248,6 +248,8 @@ LRESULT ScreenWindow::Take(UINT message, WPARAM w, LPARAM l) {
       events.Send([this](Program& program) { program.Close(screen_); });
       return 0;
     case WM_DPICHANGED:
+      events.DotsChanged();
+      return 0;
     case WM_DISPLAYCHANGE:
     case WM_SETTINGCHANGE:
       events.DisplayChanged();

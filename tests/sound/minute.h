@@ -12,6 +12,7 @@ struct Minute {
   Recording Heard;
   Notes Noted;
   std::string Sounds;  // the folder of the sound files
+  bool Once = false;   // no piece was played to its end
 };
 
 // Each prints what it finds and returns the number of faults.

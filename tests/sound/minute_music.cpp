@@ -110,12 +110,18 @@ int JudgeMusic(const Minute& minute) {
   int faults = 0;
   int field_rounds = 0;
   int battle_rounds = 0;
+  int sessions = 0;
   for (Session& session : CollectSessions(minute.Noted.All, minute.Heard.Seconds())) {
     if (session.Plays.empty()) continue;
+    ++sessions;
     faults += JudgeGaps(minute, session);
     faults += JudgeRounds(minute, session, IsField(session.Channel) ? field_rounds : battle_rounds);
   }
-  if (field_rounds == 0 || battle_rounds == 0) {
+  if (sessions == 0) {
+    std::printf("FAULT no piece was asked for\n");
+    ++faults;
+  }
+  if (!minute.Once && (field_rounds == 0 || battle_rounds == 0)) {
     std::printf("FAULT no piece began again in the %s\n", field_rounds == 0 ? "field" : "battle");
     ++faults;
   }

@@ -17,7 +17,8 @@ set_property(TEST ${tests} system-begins system-ends APPEND PROPERTY
 # Those in windows, each on a display and in a system of its own.
 file(GLOB windows_test_sources CONFIGURE_DEPENDS unit/windows/*.cpp)
 add_executable(orvane-windows-unit ${windows_test_sources})
-target_link_libraries(orvane-windows-unit PRIVATE orvane-windows GTest::gtest_main)
+target_link_libraries(orvane-windows-unit PRIVATE orvane-windows oleacc oleaut32 GTest::gtest_main)
+target_compile_definitions(orvane-windows-unit PRIVATE ORVANE_GAME_FOLDER="${ORVANE_GAME_FOLDER}")
 orvane_compile_fast(orvane-windows-unit)
 set(shots ${CMAKE_BINARY_DIR}/screenshots)
 set(built ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
@@ -26,5 +27,6 @@ add_test(NAME windows-unit COMMAND ${here}/units.sh $<TARGET_FILE:orvane-windows
 add_test(NAME windows-tour COMMAND ${here}/tour.sh ${built} ${shots}/tour ${host_player})
 add_test(NAME windows-places COMMAND ${here}/places.sh ${built} ${shots}/places)
 add_test(NAME windows-ticks COMMAND ${here}/ticks.sh ${built} ${shots}/ticks ${host_player})
-set_tests_properties(windows-unit windows-tour windows-places windows-ticks PROPERTIES
+add_test(NAME windows-sound COMMAND ${here}/sound.sh ${built} ${shots}/minute.wav ${host_player})
+set_tests_properties(windows-unit windows-tour windows-places windows-ticks windows-sound PROPERTIES
                      SKIP_RETURN_CODE 77 TIMEOUT 400 COST 60)

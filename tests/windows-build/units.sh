@@ -8,4 +8,11 @@ set -u
 tests=$(realpath "$1")
 keep_shots_in "$2"
 open_display 640x480
-wine "$tests"
+status=0
+(wine "$tests" --gtest_filter=-*WhileAWindowIsMoved) || status=1
+# Without a window manager it is the system that moves windows, in a loop of its own; all else takes longer.
+kill "$manager_pid"
+wait "$manager_pid" 2>/dev/null
+manager_pid=
+(wine "$tests" --gtest_filter=*WhileAWindowIsMoved) || status=1
+exit $status

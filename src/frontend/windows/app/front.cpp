@@ -221,14 +221,23 @@ void Front::DisplayChanged() {
   PostMessageW(messages_.Handle(), kDisplayMessage, 0, 0);
 }
 
+void Front::DotsChanged() {
+  dots_changed_ = true;
+  DisplayChanged();
+}
+
 void Front::FitDisplay() {
   if (!display_changed_ || system_loops_ || program_.HasEnded()) return;
   display_changed_ = false;
+  const bool dots_changed = std::exchange(dots_changed_, false);
   const ScreenWindow* active = windows_.Active();
   Zoom fitting = MakeZoom(active == nullptr ? nullptr : active->Handle());
-  if (IsSameScreen(fitting.TheScreen(), zoom_.TheScreen())) return;
-  fitting.SetFullScreen(zoom_.IsFullScreen());
-  zoom_ = fitting;
+  if (!IsSameScreen(fitting.TheScreen(), zoom_.TheScreen())) {
+    fitting.SetFullScreen(zoom_.IsFullScreen());
+    zoom_ = fitting;
+  } else if (!dots_changed) {
+    return;
+  }
   windows_.LayOutAnew();
   if (!held_until_) Follow();
 }

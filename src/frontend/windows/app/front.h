@@ -40,6 +40,7 @@ class Front : public Events {
   void ProgramActivated(bool active) override;
   void SystemLoops(bool begins) override;
   void DisplayChanged() override;
+  void DotsChanged() override;
   void WantsFullScreen() override;
   void SessionEnds() override { End(); }
 
@@ -87,6 +88,7 @@ class Front : public Events {
   const Screen* looped_ = nullptr;    // the active screen when the system's own loop began
   bool system_loops_ = false;
   bool display_changed_ = false;
+  bool dots_changed_ = false;
   bool following_ = false;
 };
 

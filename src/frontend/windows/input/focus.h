@@ -17,6 +17,8 @@ class Focus {
 
   // The window comes up.
   void Begin();
+  // Takes note of what the player has clicked on, while it still has the keyboard.
+  void Look();
   // The controls have changed. While nothing can be used, the window itself has the keyboard.
   void Follow();
   // The window has become the active one.
@@ -34,8 +36,6 @@ class Focus {
 
  private:
   View* ViewOf(const Control* control) const;
-  // Takes note of what the player has clicked on.
-  void Look();
   void GoTo(Control* control);
 
   HWND window_;

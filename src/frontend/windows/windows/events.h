@@ -22,6 +22,8 @@ class Events {
   virtual void SystemLoops(bool begins) = 0;
   // A window stands on a display of other properties, or the display has got them.
   virtual void DisplayChanged() = 0;
+  // The same, and the frame of a window has got another size with it.
+  virtual void DotsChanged() = 0;
   // The player wishes for the full screen.
   virtual void WantsFullScreen() = 0;
   // The session ends.

@@ -72,6 +72,8 @@ void ScreenWindow::FollowTitle() {
 }
 
 void ScreenWindow::Follow() {
+  // A control that is switched off loses the keyboard, and then nobody can tell which had it.
+  keys_to_->Look();
   FollowTitle();
   menu_.Follow(Handle());
   client_->Follow(false);
@@ -246,6 +248,8 @@ LRESULT ScreenWindow::Take(UINT message, WPARAM w, LPARAM l) {
       events.Send([this](Program& program) { program.Close(screen_); });
       return 0;
     case WM_DPICHANGED:
+      events.DotsChanged();
+      return 0;
     case WM_DISPLAYCHANGE:
     case WM_SETTINGCHANGE:
       events.DisplayChanged();

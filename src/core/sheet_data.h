@@ -1,7 +1,6 @@
 // The sheets' bytes, in a source file that the build makes from the pictures.
 #pragma once
 
-#include <cstddef>
 #include <vector>
 
 namespace orvane {
@@ -9,7 +8,6 @@ namespace orvane {
 struct SheetData {
   const char* Name;
   const char* Bytes;
-  size_t Size;
 };
 
 std::vector<SheetData> AllSheetData();

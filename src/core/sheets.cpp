@@ -1,5 +1,6 @@
 #include "src/core/sheets.h"
 
+#include <array>
 #include <map>
 #include <string>
 
@@ -14,43 +15,48 @@ namespace {
 // instead.
 class SheetReader {
  public:
-  explicit SheetReader(std::string_view bytes) : bytes_(bytes) {}
+  explicit SheetReader(const SheetData& data)
+      : at_(data.Bytes), width_(Number16()), height_(Number16()), colours_(Number16()) {}
 
-  Surface Read() {
-    const int width = Number16();
-    const int height = Number16();
-    const int colours = Number16();
-    Surface::Pixels palette;
-    for (int i = 0; i < colours; ++i) palette.push_back(Number24());
-    Surface::Pixels pixels(static_cast<size_t>(width) * static_cast<size_t>(height));
-    if (colours == 0) {
-      for (Colour& pixel : pixels) pixel = Number24();
-    } else {
-      for (Colour& pixel : pixels) pixel = palette.at(Byte());
-    }
-    return {width, height, std::move(pixels)};
+  // The sheet, whose pixels are read when they are first looked at.
+  Surface Read() const {
+    return {width_, height_, [reader = *this]() mutable { return reader.ReadPixels(); }};
   }
 
  private:
-  unsigned Byte() { return static_cast<unsigned char>(bytes_[at_++]); }
+  Surface::Pixels ReadPixels() {
+    std::array<Colour, 256> palette{};
+    for (int i = 0; i < colours_; ++i) palette.at(static_cast<size_t>(i)) = Number24();
+    Surface::Pixels pixels(static_cast<size_t>(width_) * static_cast<size_t>(height_));
+    if (colours_ == 0) {
+      for (Colour& pixel : pixels) pixel = Number24();
+    } else {
+      for (Colour& pixel : pixels) pixel = palette[Byte()];
+    }
+    return pixels;
+  }
+
+  unsigned char Byte() { return static_cast<unsigned char>(*at_++); }
   int Number16() {
-    const unsigned low = Byte();
-    return static_cast<int>(low | Byte() << 8);
+    const int low = Byte();
+    return low | Byte() << 8;
   }
   Colour Number24() {
-    const unsigned red = Byte();
-    const unsigned green = Byte();
+    const Colour red = Byte();
+    const Colour green = Byte();
     return red << 16 | green << 8 | Byte();
   }
 
-  std::string_view bytes_;
-  size_t at_ = 0;
+  const char* at_;
+  int width_;
+  int height_;
+  int colours_;
 };
 
-std::map<std::string, Surface, std::less<>> ReadAll() {
+std::map<std::string, Surface, std::less<>> FindAll() {
   std::map<std::string, Surface, std::less<>> sheets;
   for (const SheetData& data : AllSheetData()) {
-    sheets.emplace(data.Name, SheetReader({data.Bytes, data.Size}).Read());
+    sheets.emplace(data.Name, SheetReader(data).Read());
   }
   return sheets;
 }
@@ -58,7 +64,7 @@ std::map<std::string, Surface, std::less<>> ReadAll() {
 }  // namespace
 
 const Surface& Sheet(std::string_view name) {
-  static const std::map<std::string, Surface, std::less<>> sheets = ReadAll();
+  static const std::map<std::string, Surface, std::less<>> sheets = FindAll();
   const auto found = sheets.find(name);
   if (found == sheets.end()) throw RunError(ErrorKind::File, std::string(name));
   return found->second;

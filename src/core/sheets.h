@@ -8,7 +8,8 @@
 namespace orvane {
 
 // A sheet by its name, "tiles" for example. Throws RunError(File) when the program holds none of
-// that name. Copies share their pixels until they are drawn on.
+// that name. Its pixels are read when they are first looked at; copies share them until they are
+// drawn on.
 const Surface& Sheet(std::string_view name);
 
 }  // namespace orvane

@@ -27,31 +27,46 @@ class SurfaceWriter {
   // `part` lies within the surface and is not empty.
   SurfaceWriter(Surface& surface, const Bounds& part) : surface_(surface) {
     if (surface.pixels_.use_count() > 1) {
-      surface.pixels_ = std::make_shared<Surface::Pixels>(*surface.pixels_);
+      surface.pixels_ = std::make_shared<SharedPixels>(surface.pixels_->Get());
     }
     surface.unshown_.Include(part);
     surface.touched_.Include(part);
   }
-  Colour* Row(int y) { return surface_.pixels_->data() + surface_.Offset(y); }
+  Colour* Row(int y) { return surface_.pixels_->Get().data() + surface_.Offset(y); }
 
  private:
   Surface& surface_;
 };
 
+namespace {
+
+size_t Area(int width, int height) {
+  return static_cast<size_t>(std::max(0, width)) * static_cast<size_t>(std::max(0, height));
+}
+
+Surface::Pixels Sized(Surface::Pixels pixels, size_t size) {
+  pixels.resize(size);
+  return pixels;
+}
+
+}  // namespace
+
 Surface::Surface(int width, int height, Colour colour)
-    : Surface(
-          width, height,
-          Pixels(static_cast<size_t>(std::max(0, width)) * static_cast<size_t>(std::max(0, height)),
-                 colour)) {}
+    : Surface(width, height, Pixels(Area(width, height), colour)) {}
 
 Surface::Surface(int width, int height, Pixels pixels)
+    : Surface(width, height,
+              std::make_shared<SharedPixels>(Sized(std::move(pixels), Area(width, height)))) {}
+
+Surface::Surface(int width, int height, SharedPixels::Maker maker)
+    : Surface(width, height, std::make_shared<SharedPixels>(std::move(maker))) {}
+
+Surface::Surface(int width, int height, std::shared_ptr<SharedPixels> pixels)
     : width_(std::max(0, width)),
       height_(std::max(0, height)),
-      pixels_(std::make_shared<Pixels>(std::move(pixels))),
+      pixels_(std::move(pixels)),
       unshown_{0, 0, width_, height_},
-      touched_(unshown_) {
-  pixels_->resize(static_cast<size_t>(width_) * static_cast<size_t>(height_));
-}
+      touched_(unshown_) {}
 
 Colour Surface::At(int x, int y) const {
   CheckIndex(x, static_cast<size_t>(width_));
@@ -62,34 +77,83 @@ Colour Surface::At(int x, int y) const {
 Colour Surface::ShownAt(int x, int y) const {
   CheckIndex(x, static_cast<size_t>(width_));
   CheckIndex(y, static_cast<size_t>(height_));
-  const size_t at = Offset(y) + static_cast<size_t>(x);
-  return at < shown_.size() ? shown_[at] : 0;
+  return shown_ ? shown_->Get()[Offset(y) + static_cast<size_t>(x)] : 0;
+}
+
+const Surface::Pixels& Surface::Shown() const {
+  static const Pixels none;
+  return shown_ ? shown_->Get() : none;
 }
 
 void Surface::Refresh() {
-  if (shown_.size() != pixels_->size()) {
-    shown_.resize(pixels_->size());
-    unshown_ = {0, 0, width_, height_};
-  }
+  if (!shown_) unshown_ = {0, 0, width_, height_};
   if (unshown_.IsEmpty()) return;
-  const int width = unshown_.Right - unshown_.Left;
-  for (int y = unshown_.Top; y < unshown_.Bottom; ++y) {
-    const size_t from = Offset(y) + static_cast<size_t>(unshown_.Left);
-    std::copy_n(pixels_->data() + from, width, shown_.data() + from);
+  // What is a copy of another's is shown as it is, so that a sheet is not read to be shown out of
+  // sight. What is drawn on has a second store, so that each change is copied alone.
+  if (pixels_.use_count() > 1) {
+    shown_ = pixels_;
+  } else {
+    CopyUnshown();
   }
   unshown_ = {};
   ++revision_;
 }
 
+void Surface::CopyUnshown() {
+  const Pixels& drawn = pixels_->Get();
+  if (shown_.use_count() != 1) {
+    shown_ = std::make_shared<SharedPixels>(drawn);
+    return;
+  }
+  const int width = unshown_.Right - unshown_.Left;
+  for (int y = unshown_.Top; y < unshown_.Bottom; ++y) {
+    const size_t from = Offset(y) + static_cast<size_t>(unshown_.Left);
+    std::copy_n(drawn.data() + from, width, shown_->Get().data() + from);
+  }
+}
+
 namespace {
 
-// Copies a row of pixels, a tile's row at a time: of a size known to it the compiler makes a few
-// moves.
-void CopyRow(Colour* to, const Colour* from, size_t count) {
-  constexpr size_t run = 16;
-  for (; count >= run; count -= run, to += run, from += run)
-    std::memcpy(to, from, run * sizeof(Colour));
-  std::copy_n(from, count, to);
+// The rows of a blit: where they begin in both surfaces, how far one row lies from the next, and
+// how many pixels and rows there are.
+struct Rows {
+  Colour* To;
+  const Colour* From;
+  int ToPitch;
+  int FromPitch;
+  int Width;
+  int Height;
+
+  // Calls `join` with both beginnings of each row.
+  template <typename Join>
+  void ForEach(Join join) const {
+    Colour* to = To;
+    const Colour* from = From;
+    for (int row = 0; row < Height; ++row, to += ToPitch, from += FromPitch) join(to, from);
+  }
+};
+
+void CopyRows(const Rows& rows) {
+  // Of a size that it knows, as a tile's is, the compiler makes a few moves.
+  constexpr int tile = 16;
+  if (rows.Width == tile) {
+    return rows.ForEach(
+        [](Colour* to, const Colour* from) { std::memcpy(to, from, tile * sizeof(Colour)); });
+  }
+  const size_t size = static_cast<size_t>(rows.Width) * sizeof(Colour);
+  rows.ForEach([size](Colour* to, const Colour* from) { std::memcpy(to, from, size); });
+}
+
+void OrRows(const Rows& rows) {
+  rows.ForEach([width = rows.Width](Colour* to, const Colour* from) {
+    for (int i = 0; i < width; ++i) to[i] |= from[i];
+  });
+}
+
+void AndRows(const Rows& rows) {
+  rows.ForEach([width = rows.Width](Colour* to, const Colour* from) {
+    for (int i = 0; i < width; ++i) to[i] &= from[i];
+  });
 }
 
 // One row of a stretch; `columns` names the source column of each pixel.
@@ -165,26 +229,19 @@ void BitBlt(Surface& destination, int x, int y, int width, int height, const Sur
   const Surface& origin = copy ? *copy : source;
   SurfaceWriter writer(destination, {across.Target, down.Target, across.Target + across.Size,
                                      down.Target + down.Size});
-  const auto row_by_row = [&](auto join) {
-    Colour* to = writer.Row(down.Target) + across.Target;
-    const Colour* from = origin.Row(down.Source) + across.Source;
-    for (int row = 0; row < down.Size; ++row) {
-      join(to, from, static_cast<size_t>(across.Size));
-      to += destination.Width();
-      from += origin.Width();
-    }
-  };
+  const Rows rows{writer.Row(down.Target) + across.Target,
+                  origin.Row(down.Source) + across.Source,
+                  destination.Width(),
+                  origin.Width(),
+                  across.Size,
+                  down.Size};
   switch (operation) {
     case Blit::Copy:
-      return row_by_row(CopyRow);
+      return CopyRows(rows);
     case Blit::Or:
-      return row_by_row([](Colour* to, const Colour* from, size_t count) {
-        for (size_t i = 0; i < count; ++i) to[i] |= from[i];
-      });
+      return OrRows(rows);
     case Blit::And:
-      return row_by_row([](Colour* to, const Colour* from, size_t count) {
-        for (size_t i = 0; i < count; ++i) to[i] &= from[i];
-      });
+      return AndRows(rows);
   }
 }
 

@@ -5,12 +5,10 @@
 #include <cstdint>
 #include <memory>
 #include <utility>
-#include <vector>
+
+#include "src/ui/shared_pixels.h"
 
 namespace orvane {
-
-// A colour as 0xRRGGBB.
-using Colour = uint32_t;
 
 constexpr Colour Rgb(int red, int green, int blue) {
   return static_cast<Colour>(red) << 16 | static_cast<Colour>(green) << 8 |
@@ -48,13 +46,15 @@ struct Bounds {
 // shown. Copies of a Surface share their pixels until one of them is drawn on.
 class Surface {
  public:
-  using Pixels = std::vector<Colour>;
+  using Pixels = SharedPixels::Pixels;
 
   Surface() : Surface(0, 0) {}
   // Negative sizes count as 0.
   Surface(int width, int height, Colour colour = 0);
   // `pixels` holds width * height colours, row by row.
   Surface(int width, int height, Pixels pixels);
+  // The same with pixels that are made when they are first looked at.
+  Surface(int width, int height, SharedPixels::Maker maker);
 
   int Width() const { return width_; }
   int Height() const { return height_; }
@@ -66,7 +66,7 @@ class Surface {
   Colour ShownAt(int x, int y) const;
 
   // The rows of the backing store, Width() colours each.
-  const Colour* Row(int y) const { return pixels_->data() + Offset(y); }
+  const Colour* Row(int y) const { return pixels_->Get().data() + Offset(y); }
 
   // Publishes what has been drawn since the last time: from now on it is what the player sees.
   void Refresh();
@@ -76,21 +76,25 @@ class Surface {
   // Whether neither this nor the other has been drawn on since one was made a copy of the other.
   bool SharesPixelsWith(const Surface& other) const { return pixels_ == other.pixels_; }
 
-  // The published pixels; they stay in place while the surface lives, and change only in Refresh.
-  const Pixels& Shown() const { return shown_; }
+  // The published pixels, none before the first Refresh; they stay in place until the next.
+  const Pixels& Shown() const;
   // Grows with every Refresh that changed something.
   uint64_t Revision() const { return revision_; }
 
  private:
   friend class SurfaceWriter;
 
+  Surface(int width, int height, std::shared_ptr<SharedPixels> pixels);
+  // Brings what is shown up to what is drawn.
+  void CopyUnshown();
+
   size_t Offset(int y) const { return static_cast<size_t>(y) * static_cast<size_t>(width_); }
 
   int width_ = 0;
   int height_ = 0;
-  std::shared_ptr<Pixels> pixels_;
-  Pixels shown_;
-  Bounds unshown_;  // outside, nothing differs from what is shown
+  std::shared_ptr<SharedPixels> pixels_;
+  std::shared_ptr<SharedPixels> shown_;  // the same as pixels_ where nothing was drawn since
+  Bounds unshown_;                       // outside, nothing differs from what is shown
   Bounds touched_;
   uint64_t revision_ = 0;
 };

@@ -98,7 +98,7 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
     const std::string bytes = Pack(paint::ReadPng(file));
     out << "      {\"" << std::filesystem::path(file).stem().string() << "\", ";
     WriteLiteral(out, bytes);
-    out << ", " << bytes.size() << "},\n";
+    out << "},\n";
   }
   out << "  };\n}\n\n}  // namespace orvane\n";
   out.close();

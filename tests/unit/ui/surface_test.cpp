@@ -240,6 +240,54 @@ TEST(Surface, KnowsWithWhomItSharesPixels) {
   EXPECT_FALSE(second.SharesPixelsWith(first));
 }
 
+// A 2 x 2 surface that counts how often its pixels are made.
+Surface Made(int& times) {
+  return {2, 2, [&times] {
+            ++times;
+            return Surface::Pixels{1, 2, 3, 4};
+          }};
+}
+
+TEST(Surface, IsMadeOnceWhenACopyIsFirstLookedAt) {
+  int times = 0;
+  const Surface sheet = Made(times);
+  Surface copy = sheet;
+  copy.Refresh();
+  EXPECT_EQ(times, 0) << "to be shown where nobody looks";
+  EXPECT_EQ(copy.ShownAt(1, 0), 2U);
+  EXPECT_EQ(sheet.At(0, 1), 3U);
+  EXPECT_EQ(copy.At(1, 1), 4U);
+  EXPECT_EQ(times, 1);
+}
+
+TEST(Surface, WhatIsDrawnOnACopyIsShownByItAlone) {
+  int times = 0;
+  const Surface sheet = Made(times);
+  Surface copy = sheet;
+  copy.Refresh();
+  for (const Colour colour : {7U, 8U}) {
+    const Colour before = copy.ShownAt(1, 1);
+    FillBox(copy, 1, 1, 1, 1, colour);
+    EXPECT_EQ(copy.ShownAt(1, 1), before) << "nothing is seen before it is published";
+    copy.Refresh();
+    EXPECT_EQ(copy.ShownAt(1, 1), colour);
+    EXPECT_EQ(copy.ShownAt(0, 0), 1U);
+  }
+  EXPECT_EQ(sheet.At(1, 1), 4U);
+}
+
+TEST(Surface, CopiesShowWhatTheyHeldWhenTheyWereMade) {
+  Surface first(2, 2, 1);
+  first.Refresh();
+  FillBox(first, 0, 0, 0, 0, 2);
+  first.Refresh();
+  const Surface second = first;
+  FillBox(first, 0, 0, 0, 0, 3);
+  first.Refresh();
+  EXPECT_EQ(first.ShownAt(0, 0), 3U);
+  EXPECT_EQ(second.ShownAt(0, 0), 2U);
+}
+
 TEST(BitBlt, LeavesOutWhatLiesFarOutside) {
   constexpr int far = std::numeric_limits<int>::max();
   constexpr int far_back = std::numeric_limits<int>::min();

@@ -181,8 +181,10 @@ struct Axis {
 Axis MapAxis(std::int64_t target, int target_size, int target_limit, std::int64_t source,
              int source_size, int source_limit) {
   Axis axis;
+  const std::int64_t begin = std::max<std::int64_t>(0, -target);
   const std::int64_t end = std::min<std::int64_t>(target_size, target_limit - target);
-  for (std::int64_t i = std::max<std::int64_t>(0, -target); i < end; ++i) {
+  if (begin < end) axis.Sources.reserve(static_cast<size_t>(end - begin));
+  for (std::int64_t i = begin; i < end; ++i) {
     const std::int64_t from = source + i * source_size / target_size;
     if (from < 0 || from >= source_limit) {
       if (!axis.Sources.empty()) break;
@@ -248,6 +250,10 @@ void BitBlt(Surface& destination, int x, int y, int width, int height, const Sur
 void StretchBlt(Surface& destination, const Rect& target, const Surface& source, const Rect& area,
                 Blit operation) {
   if (target.Width <= 0 || target.Height <= 0 || area.Width <= 0 || area.Height <= 0) return;
+  if (target.Width == area.Width && target.Height == area.Height) {
+    return BitBlt(destination, target.X, target.Y, target.Width, target.Height, source, area.X,
+                  area.Y, operation);
+  }
   const Axis across =
       MapAxis(target.X, target.Width, destination.Width(), area.X, area.Width, source.Width());
   const Axis down =
@@ -259,9 +265,16 @@ void StretchBlt(Surface& destination, const Rect& target, const Surface& source,
   SurfaceWriter writer(destination,
                        {across.First, down.First,
                         across.First + static_cast<int>(across.Sources.size()), down.First + rows});
+  const Colour* last = nullptr;
   for (int row = 0; row < rows; ++row) {
-    StretchRow(writer.Row(down.First + row) + across.First,
-               from.Row(down.Sources[static_cast<size_t>(row)]), across.Sources, operation);
+    Colour* to = writer.Row(down.First + row) + across.First;
+    const Colour* source_row = from.Row(down.Sources[static_cast<size_t>(row)]);
+    if (operation == Blit::Copy && source_row == last) {
+      std::copy_n(to - destination.Width(), across.Sources.size(), to);
+    } else {
+      StretchRow(to, source_row, across.Sources, operation);
+    }
+    last = source_row;
   }
 }
 

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
+#include <random>
 
 #include "src/base/error.h"
 
@@ -286,6 +288,50 @@ TEST(Surface, CopiesShowWhatTheyHeldWhenTheyWereMade) {
   first.Refresh();
   EXPECT_EQ(first.ShownAt(0, 0), 3U);
   EXPECT_EQ(second.ShownAt(0, 0), 2U);
+}
+
+// A stretch pixel by pixel, as slow as it is plain.
+void StretchSlowly(Surface& destination, const Rect& target, const Surface& source,
+                   const Rect& area, Blit operation) {
+  for (int y = 0; y < target.Height; ++y) {
+    for (int x = 0; x < target.Width; ++x) {
+      const int from_x = area.X + x * area.Width / target.Width;
+      const int from_y = area.Y + y * area.Height / target.Height;
+      const int to_x = target.X + x;
+      const int to_y = target.Y + y;
+      if (!source.Contains(from_x, from_y) || !destination.Contains(to_x, to_y)) continue;
+      const Colour read = source.At(from_x, from_y);
+      const Colour there = destination.At(to_x, to_y);
+      const Colour joined = operation == Blit::Copy ? read
+                            : operation == Blit::Or ? there | read
+                                                    : there & read;
+      FillBox(destination, to_x, to_y, to_x, to_y, joined);
+    }
+  }
+}
+
+TEST(StretchBlt, DrawsWhatADrawingPixelByPixelDraws) {
+  std::mt19937 chance(3);
+  const auto any = [&chance](int from, int to) {
+    return from + static_cast<int>(chance() % static_cast<unsigned>(to - from + 1));
+  };
+  const Surface source = Numbered(14, 11);
+  for (int round = 0; round < 3000; ++round) {
+    Surface drawn = Numbered(20, 17);
+    Surface wanted = drawn;
+    const Rect area{any(-4, 14), any(-4, 11), any(1, 9), any(1, 9)};
+    Rect target{any(-6, 20), any(-6, 17), any(1, 24), any(1, 24)};
+    if (round % 3 == 0) target.Width = area.Width;
+    if (round % 2 == 0) target.Height = area.Height;
+    const Blit operation = std::array{Blit::Copy, Blit::Or, Blit::And}[chance() % 3];
+    StretchBlt(drawn, target, source, area, operation);
+    StretchSlowly(wanted, target, source, area, operation);
+    for (int y = 0; y < drawn.Height(); ++y) {
+      for (int x = 0; x < drawn.Width(); ++x) {
+        ASSERT_EQ(drawn.At(x, y), wanted.At(x, y)) << "round " << round << ", " << x << "," << y;
+      }
+    }
+  }
 }
 
 TEST(BitBlt, LeavesOutWhatLiesFarOutside) {

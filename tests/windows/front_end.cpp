@@ -36,7 +36,7 @@ FrontEnd::FrontEnd(const Opening& opening)
     : chance_(opening.Seed),
       files_(opening.Folder),
       program_({sound_, chance_, files_}),
-      desktop_(program_, ChooseZoom(opening, program_)) {
+      desktop_(program_, ChooseZoom(opening, program_), texts_) {
   Send([](Program&) {});
 }
 

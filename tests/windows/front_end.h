@@ -47,12 +47,15 @@ class FrontEnd {
   Program& Running() { return program_; }
   // An event that brings the windows up to date afterwards.
   void Send(const std::function<void(Program&)>& event) { desktop_.Send(event); }
+  // The game's front end itself.
+  Desktop& TheDesktop() { return desktop_; }
 
  private:
   NoSound sound_;
   PlayersChance chance_;
   FolderStorage files_;
   Program program_;
+  Translator texts_;
   Desktop desktop_;
 };
 

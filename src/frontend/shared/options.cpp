@@ -28,13 +28,14 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       options.WantsHelp = true;
       continue;
     }
-    if (name != "--folder" && name != "--scale" && name != "--seed") {
+    if (name != "--folder" && name != "--scale" && name != "--seed" && name != "--language") {
       options.Error = "unknown option " + name;
     } else if (i + 1 == arguments.size()) {
       options.Error = name + " needs a value";
     } else {
       const std::string& value = arguments[++i];
       if (name == "--folder") options.Folder = PathOf(value);
+      if (name == "--language") options.Language = value;
       if (name == "--scale") {
         options.Scale = ReadDecimal(value);
         if (!options.Scale || !(*options.Scale >= 0.5 && *options.Scale <= 8)) {
@@ -53,6 +54,8 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
 std::string HelpText() {
   return "Usage: orvane [options]\n"
          "  --folder DIR  the game folder (\"game\" beside the program, or the player's own)\n"
+         "  --language L  the language of the game: ja, or one of those that it has been given, as "
+         "en\n"
          "  --scale N     size of the windows (chosen by the screen)\n"
          "  --seed N      the same chances in every run, for tests\n"
          "  --help        this text\n";

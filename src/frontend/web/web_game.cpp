@@ -11,7 +11,7 @@ WebGame::WebGame(Page& page, std::optional<uint32_t> seed)
 void WebGame::Begin() {
   program_ = std::make_unique<Program>(Services{sound_, chance_, files_});
   Stage& stage = program_->TheStage();
-  mirror_.emplace(stage);
+  mirror_.emplace(stage, texts_);
   ticks_.emplace(stage);
   first_ = stage.Active();
   for (const Screen* screen : stage.Screens()) orders_.emplace(screen, FocusOrder(*screen));

@@ -85,6 +85,7 @@ class WebGame : private PadHands {
   PageStorage files_;
   PageSound sound_;
   PlayersChance chance_;
+  Translator texts_;
   std::unique_ptr<Program> program_;
   std::optional<Mirror> mirror_;
   std::optional<TickTimes> ticks_;

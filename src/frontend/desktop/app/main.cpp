@@ -12,12 +12,14 @@
 #include "src/frontend/desktop/app/desktop.h"
 #include "src/frontend/desktop/app/home.h"
 #include "src/frontend/desktop/app/instance.h"
+#include "src/frontend/desktop/app/preferences.h"
 #include "src/frontend/desktop/app/signals.h"
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/look.h"
 #include "src/frontend/desktop/windows/toolkit_scale.h"
 #include "src/frontend/shared/chance.h"
 #include "src/frontend/shared/options.h"
+#include "src/frontend/shared/texts/language_choice.h"
 #include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
 #include "src/platform/arguments.h"
@@ -89,7 +91,7 @@ int TellProblem(const std::string& problem, int argument_count, char** arguments
   return EXIT_FAILURE;
 }
 
-int RunGame(const Options& options, int argument_count, char** arguments) {
+int RunGame(const Options& options, Translator& texts, int argument_count, char** arguments) {
   HoldSignals();
   const Home home = options.Folder ? Home{*options.Folder, {}} : FindHome();
   const Instance instance(home.Folder);
@@ -114,7 +116,8 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   SetUpSpeech();
   const Zoom zoom = zoom_for(AskScreen().value_or(ScreenFacts{}));
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());
-  Desktop desktop(program, zoom);
+  Desktop desktop(program, zoom, texts);
+  desktop.TellOfLanguage(PreferLanguage);
   desktop.TellOfPainting(
       [&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
   return desktop.Run();
@@ -129,6 +132,11 @@ int main(int argument_count, char** arguments) {
       Complain(options.Error);
       return kBadCommandLine;
     }
+    Translator texts;
+    if (const std::string problem = LanguageProblem(texts, options.Language); !problem.empty()) {
+      Complain(problem);
+      return kBadCommandLine;
+    }
     if (options.WantsHelp) {
       std::fputs(HelpText().c_str(), stdout);
       return EXIT_SUCCESS;
@@ -140,7 +148,10 @@ int main(int argument_count, char** arguments) {
       return kNoDisplay;
     }
     qInstallMessageHandler(OnToolkitMessage);
-    return RunGame(options, argument_count, arguments);
+    texts.Choose(BestLanguage(
+        texts, {options.Language, qEnvironmentVariable("ORVANE_LANGUAGE").toStdString(),
+                PreferredLanguage()}));
+    return RunGame(options, texts, argument_count, arguments);
   } catch (const std::exception& failure) {
     Complain(failure.what());
     return EXIT_FAILURE;

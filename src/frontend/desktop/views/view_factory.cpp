@@ -8,6 +8,7 @@
 #include "src/frontend/desktop/views/picture_view.h"
 #include "src/frontend/desktop/views/slider_view.h"
 #include "src/frontend/desktop/views/tabs_view.h"
+#include "src/frontend/desktop/windows/events.h"
 #include "src/frontend/shared/spoken_names.h"
 #include "src/frontend/shared/spoken_text.h"
 
@@ -17,7 +18,7 @@ namespace {
 std::unique_ptr<ControlView> MakeKind(Control& control, QWidget* parent, Events& events) {
   switch (control.Kind()) {
     case ControlKind::Label:
-      return std::make_unique<LabelView>(static_cast<Label&>(control), parent);
+      return std::make_unique<LabelView>(static_cast<Label&>(control), parent, events);
     case ControlKind::Button:
       return std::make_unique<ButtonView>(static_cast<CommandButton&>(control), parent, events);
     case ControlKind::Picture:
@@ -37,7 +38,7 @@ std::unique_ptr<ControlView> MakeKind(Control& control, QWidget* parent, Events&
     case ControlKind::Slider:
       return std::make_unique<SliderView>(static_cast<Slider&>(control), parent, events);
     case ControlKind::Frame:
-      return std::make_unique<FrameView>(static_cast<Frame&>(control), parent);
+      return std::make_unique<FrameView>(static_cast<Frame&>(control), parent, events);
     case ControlKind::Menu:
     case ControlKind::Timer:
       break;
@@ -57,12 +58,17 @@ std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Events&
   auto view = MakeKind(control, parent, events);
   if (view == nullptr) return view;
   view->Widget()->setObjectName(ToQt(control.Name()));
-  if (control.Kind() == ControlKind::Label) {
-    view->Widget()->setAccessibleDescription(ToQt(Meaning(control)));
-  } else {
-    view->SetSpokenName(ToQt(SpokenName(control)));
-  }
+  NameForReaders(*view, events.Texts());
   return view;
+}
+
+void NameForReaders(ControlView& view, const Translator& texts) {
+  const Control& control = view.Model();
+  if (control.Kind() == ControlKind::Label) {
+    view.Widget()->setAccessibleDescription(ToQt(texts.Of(Meaning(control))));
+  } else {
+    view.SetSpokenName(ToQt(texts.Of(SpokenName(control))));
+  }
 }
 
 }  // namespace orvane

@@ -3,6 +3,10 @@
 
 #include <functional>
 
+#include "src/frontend/shared/texts/translator.h"
+
+class QPoint;
+
 namespace orvane {
 
 class Program;
@@ -18,6 +22,13 @@ class Events {
   virtual void Painted(const Screen& /*screen*/) {}
   // The window manager has given a screen's window another size than it asked for.
   virtual void Resized(const Screen& /*screen*/) {}
+  // What texts are shown as: themselves, unless the player has chosen another language.
+  virtual const Translator& Texts() const {
+    static const Translator own;
+    return own;
+  }
+  // The player asks for the choice of languages, at a point of the display.
+  virtual void OfferLanguages(const QPoint& /*at*/) {}
 };
 
 }  // namespace orvane

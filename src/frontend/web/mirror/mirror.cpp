@@ -55,7 +55,7 @@ int StopOf(const FocusOrder& order, const Control* control) {
 
 }  // namespace
 
-Mirror::Mirror(const Stage& stage) : stage_(stage) {
+Mirror::Mirror(const Stage& stage, const Translator& texts) : stage_(stage), texts_(texts) {
   for (Screen* screen : stage.Screens()) {
     const int number = static_cast<int>(screens_.size());
     screens_.push_back({.Model = screen});
@@ -105,7 +105,7 @@ std::string Mirror::Nature() const {
           const int number = NumberOf(control);
           if (number < 0) continue;
           std::string nature;
-          WriteNature(*control, number, NumberOf(control->Parent()), nature);
+          WriteNature(*control, number, NumberOf(control->Parent()), texts_, nature);
           each.AddRaw(nature);
           places.AddRaw(std::to_string(StopOf(order, control)));
         }
@@ -173,7 +173,7 @@ void Mirror::FollowScreens(std::string& out) {
         json.Add("visible", screen.IsVisible());
         json.Add("active", stage_.Active() == &screen);
         json.Add("modal", screen.IsModal());
-        json.Add("caption", screen.Caption);
+        json.Add("caption", texts_.Of(screen.Caption));
       }
       shown.Visible = screen.IsVisible();
       if (values == shown.Values) continue;
@@ -205,10 +205,10 @@ void Mirror::FollowControls(std::string& out, std::string& pixels) {
       const bool comes = !screen.Visible;
       const int number = static_cast<int>(i);
       values.clear();
-      WriteValues(*shown.Model, number, values);
+      WriteValues(*shown.Model, number, texts_, values);
       if (comes || values != shown.Values) {
         shown.Values = values;
-        if (const std::string meaning = MeaningOf(*shown.Model); !meaning.empty()) {
+        if (const std::string meaning = MeaningOf(*shown.Model, texts_); !meaning.empty()) {
           values.pop_back();
           Json more(values, Json::Form::Rest);
           more.Add("meaning", meaning);
@@ -238,7 +238,7 @@ std::string Mirror::BoxesNow() const {
           std::string button;
           {
             Json json(button, Json::Form::Object);
-            json.Add("caption", choice.Caption);
+            json.Add("caption", texts_.Of(choice.Caption));
             json.Add("answer", static_cast<int>(choice.Answer));
           }
           each.AddRaw(button);
@@ -248,8 +248,8 @@ std::string Mirror::BoxesNow() const {
       {
         Json json(entry, Json::Form::Object);
         json.Add("number", box.Number);
-        json.Add("text", box.Shown.Text);
-        json.Add("title", box.Shown.Title);
+        json.Add("text", texts_.Of(box.Shown.Text));
+        json.Add("title", texts_.Of(box.Shown.Title));
         json.AddRaw("choices", choices);
         json.Add("closing", static_cast<int>(AnswerOfClosing(box.Shown.Buttons)));
       }
@@ -287,13 +287,13 @@ void Mirror::FollowWords(std::string& out) {
       ShownControl& shown = controls_[i];
       if (!touched_[static_cast<size_t>(shown.Screen)]) continue;
       if (shown.Model->Kind() != ControlKind::Picture) continue;
-      tell("control", static_cast<int>(i), SpokenText(static_cast<PictureBox&>(*shown.Model)),
-           shown.Words);
+      tell("control", static_cast<int>(i),
+           SpokenText(static_cast<PictureBox&>(*shown.Model), texts_), shown.Words);
     }
     for (size_t i = 0; i < screens_.size(); ++i) {
       ShownScreen& shown = screens_[i];
       if (!touched_[i] || shown.Model->OwnSurface == nullptr) continue;
-      tell("screen", static_cast<int>(i), SpokenText(*shown.Model), shown.Words);
+      tell("screen", static_cast<int>(i), SpokenText(*shown.Model, texts_), shown.Words);
     }
   }
   if (list != "[]") out = list;

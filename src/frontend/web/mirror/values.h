@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "src/frontend/shared/texts/translator.h"
 #include "src/ui/controls.h"
 
 namespace orvane {
@@ -12,13 +13,14 @@ const char* KindName(ControlKind kind);
 
 // Writes what never changes of a control: its kind, name and border, and what screen readers call
 // it. `id` is its number, `parent` that of what holds it, or -1.
-void WriteNature(const Control& control, int id, int parent, std::string& out);
+void WriteNature(const Control& control, int id, int parent, const Translator& texts,
+                 std::string& out);
 
 // Writes what may change, as it is now. Of a control that is not to be seen that is all.
-void WriteValues(const Control& control, int id, std::string& out);
+void WriteValues(const Control& control, int id, const Translator& texts, std::string& out);
 
 // Of a text that is a number whose number it is, for screen readers; nothing where it speaks for
 // itself. Finding out takes longer than all the rest.
-std::string MeaningOf(const Control& control);
+std::string MeaningOf(const Control& control, const Translator& texts);
 
 }  // namespace orvane

@@ -122,11 +122,19 @@ std::vector<std::string> Messages(const std::string& bytes) {
   return messages;
 }
 
+// The lines of a text, without the blanks around them.
+std::vector<std::string> LinesOf(std::string_view text) {
+  std::istringstream lines{std::string(text)};
+  std::vector<std::string> all;
+  for (std::string line; std::getline(lines, line);) all.push_back(Trim(line));
+  return all;
+}
+
 // The parts of a composed text around its places.
 void AddParts(std::string_view text, std::set<std::string>& parts) {
   while (!text.empty()) {
     const size_t end = std::min(text.find('{'), text.size());
-    parts.insert(Trim(text.substr(0, end)));
+    for (const std::string& line : LinesOf(text.substr(0, end))) parts.insert(line);
     text.remove_prefix(std::min(text.size(), text.find('}', end)));
     if (!text.empty()) text.remove_prefix(1);
   }
@@ -136,9 +144,9 @@ void AddParts(std::string_view text, std::set<std::string>& parts) {
 // of the models'.
 bool IsPart(const std::string& literal, const std::set<std::string>& parts, const Template& texts) {
   const std::string bare = Trim(literal);
-  // The parts of one sentence may stand on lines of their own.
-  const auto lines = [&bare](const std::string& part) { return part.find(bare) == 0; };
-  if (parts.contains(bare) || std::any_of(parts.begin(), parts.end(), lines)) return true;
+  const auto lines = LinesOf(literal);
+  const auto is_known = [&parts](const std::string& line) { return parts.contains(line); };
+  if (std::all_of(lines.begin(), lines.end(), is_known)) return true;
   return std::any_of(texts.Texts().begin(), texts.Texts().end(), [&bare](const std::string& text) {
     return text != bare && (text.starts_with(bare) || text.ends_with(bare));
   });

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "src/base/text.h"
 #include "src/ui/screen.h"
@@ -110,14 +111,17 @@ std::string Translator::Find(std::string_view text) const {
   return std::string(text);
 }
 
-std::string_view Translator::SourceOf(std::string_view text) const {
+std::vector<std::string> Translator::SourcesOf(std::string_view text) const {
   const std::string bare = Trim(text);
   const auto exact = texts_.find(bare);
-  if (exact != texts_.end()) return exact->first;
+  if (exact != texts_.end()) return {std::string(exact->first)};
   for (const Pattern& pattern : patterns_) {
-    if (pattern.Form.Apply(bare, [](std::string_view part) { return std::string(part); })) {
-      return pattern.Source;
-    }
+    std::vector<std::string> sources = {std::string(pattern.Source)};
+    const auto shown = pattern.Form.Apply(bare, [this, &sources](std::string_view part) {
+      for (std::string& each : SourcesOf(part)) sources.push_back(std::move(each));
+      return std::string();
+    });
+    if (shown) return sources;
   }
   return {};
 }

@@ -34,8 +34,9 @@ class Translator {
   std::string Of(std::string_view text) const;
   // The same for a text of a control: one that the player has given a hero stays as it is.
   std::string Of(const Control& control, std::string_view text) const;
-  // Of the catalogue's texts, the one that gives the translation; nothing where none does.
-  std::string_view SourceOf(std::string_view text) const;
+  // The texts of the catalogue that the translation is made of: the one that gives it, and those
+  // that give its parts; nothing where none does.
+  std::vector<std::string> SourcesOf(std::string_view text) const;
 
  private:
   void Read(std::string_view bytes);

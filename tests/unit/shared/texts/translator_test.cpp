@@ -85,9 +85,10 @@ TEST_F(Translations, GiveTheSameASecondTime) {
 }
 
 TEST_F(Translations, TellWhichTextOfTheCatalogueServes) {
-  EXPECT_EQ(texts_.SourceOf("剣    (3)"), "{item}({number})");
-  EXPECT_EQ(texts_.SourceOf("薬  "), "薬");
-  EXPECT_EQ(texts_.SourceOf("盾"), "");
+  using Texts = std::vector<std::string>;
+  EXPECT_EQ(texts_.SourcesOf("剣    (3)"), (Texts{"{item}({number})", "剣"}));
+  EXPECT_EQ(texts_.SourcesOf("薬  "), Texts{"薬"});
+  EXPECT_EQ(texts_.SourcesOf("盾"), Texts{});
 }
 
 TEST_F(Translations, ChangeWithTheLanguage) {

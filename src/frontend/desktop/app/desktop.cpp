@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "src/frontend/desktop/app/signals.h"
+#include "src/frontend/shared/texts/lettered_sheets.h"
 
 namespace orvane {
 
@@ -118,6 +119,7 @@ void Desktop::Try(const std::function<void(Program&)>& event) {
 void Desktop::Follow() {
   if (IsHeld()) return;
   if (!program_.HasEnded()) {
+    LetterSheets(program_.TheStage(), texts_);
     FollowWindows();
     FollowBoxes();
     ticks_.Arm();

@@ -21,7 +21,7 @@ async function compose(game, field, steps, result) {
       async (input, module) => {
         const { apply, screens } = await import(module);
         const id = Number(input.id.slice(1));
-        const { values } = [...screens.values()].map(({ controls }) => controls.get(id)).find(Boolean);
+        const { values } = [...screens.values()].flatMap(({ controls }) => controls).find((control) => control.id === id);
         apply({ controls: [{ ...values, id, text: 'older' }] });
       },
       windows,
@@ -163,22 +163,4 @@ inBrowsers('the end of the game, and a new one', both, async ({ open }) => {
   assert.equal(await game.page.evaluate(() => document.body.dataset.status), '0');
   await game.page.click('.end button');
   await game.waitForState('running');
-});
-
-inBrowsers('a box over a box', both, async ({ open }) => {
-  const game = await open();
-  const windows = await game.moduleOf('windows');
-  const box = (number) => ({ number, title: `title ${number}`, text: `text ${number}`, closing: 0, choices: [{ caption: 'OK', answer: 0 }] });
-  const show = (...boxes) => game.page.evaluate(async (module, shown) => (await import(module)).apply({ boxes: shown }), windows, boxes);
-  const front = () => game.page.evaluate(() => document.activeElement.closest('dialog')?.querySelector('p').textContent);
-  await show(box(1));
-  await show(box(1), box(2));
-  assert.deepEqual(await game.boxes(), ['text 1', 'text 2']);
-  assert.equal(await front(), 'text 2');
-  assert.equal(await game.page.evaluate(() => document.querySelectorAll('dialog:modal').length), 2, 'both keep the windows from the player');
-  await show(box(1));
-  assert.deepEqual(await game.boxes(), ['text 1']);
-  assert.equal(await front(), 'text 1');
-  await show();
-  assert.deepEqual(await game.boxes(), []);
 });

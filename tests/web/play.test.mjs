@@ -1,9 +1,13 @@
 // The game from the title on, as somebody plays it: names, the opening, walking, saving, loading.
 import assert from 'node:assert/strict';
+import { cpSync, mkdtempSync, readdirSync, rmSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
 import { readSave } from './lib/desktop.mjs';
 import { kill } from './lib/browsers.mjs';
 import { sleep, until } from './lib/game_page.mjs';
-import { begin, hearScene, holdKey, kept, load, save } from './lib/steps.mjs';
+import { site } from './lib/places.mjs';
+import { begin, handed, hearScene, holdKey, kept, load, save } from './lib/steps.mjs';
 import { both, inBrowsers } from './lib/tests.mjs';
 
 const firstSave = 'Save01.sav';
@@ -150,6 +154,38 @@ inBrowsers('a second tab waits for the first', both, async ({ browser, open, ser
   pages.length = 0;
   await first.page.close();
   await until('its turn', () => page.evaluate(() => document.body.dataset.state === 'running'));
+});
+
+inBrowsers('a crash shows what has happened, and hands out the saves', both, async ({ open, pages }) => {
+  const game = await open({ query: '?seed=26' });
+  await begin(game);
+  await save(game, 0);
+  const bytes = await kept(game, firstSave);
+  game.assertNoProblems();
+  pages.length = 0; // what follows is one
+  await game.page.evaluate(async (module) => (await import(module)).ask('NoSuchCall'), await game.moduleOf('game'));
+  await game.waitForState('crashed');
+  assert.match(await game.page.$eval('.end', (element) => element.textContent), /動かなくなりました.*\w/s);
+  const out = await handed(game, () => game.page.$$eval('.end button', (buttons, name) => buttons.find(({ textContent }) => textContent.includes(name)).click(), firstSave));
+  assert.equal(out.name, firstSave);
+  assert.deepEqual(new Uint8Array(out.bytes), bytes);
+  await game.page.click('.end button');
+  await game.waitForState('running');
+  await load(game, 0);
+});
+
+inBrowsers('a page whose program is lost says so', both, async ({ browser, server }) => {
+  const folder = mkdtempSync(join(tmpdir(), 'orvane-lost-'));
+  try {
+    cpSync(site, folder, { recursive: true });
+    rmSync(join(folder, readdirSync(folder).find((name) => name.endsWith('.wasm'))));
+    server.folder = folder;
+    const page = await browser.newPage();
+    await page.goto(server.address);
+    await until('the page to say so', () => page.evaluate(() => document.body.dataset.state === 'crashed'));
+  } finally {
+    rmSync(folder, { recursive: true });
+  }
 });
 
 inBrowsers('the end of the game, and a new one', both, async ({ open }) => {

@@ -14,7 +14,7 @@ import { begin, save } from './lib/steps.mjs';
 
 const limits = { title: 300, slowedTitle: 1000, load: 900000, tick: 0.6, worstTick: 8, save: 20 }; // ms, bytes
 const leastTicks = 60; // around the beginning of the music
-const loopMs = 36; // what the loop takes on the machine of the limits
+const loopMs = 36; // what the loop takes at most while that machine is quiet
 
 // How much slower than that machine this one is just now, 1 at least: the slowest of some runs.
 async function slowness(page) {

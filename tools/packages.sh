@@ -7,10 +7,10 @@ clang_version=$(sed -nE 's/.*"clang\+\+-([0-9]+)".*/\1/p' "$(dirname "${BASH_SOU
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-qpa-plugins libxcb1-dev libsdl2-dev
   libfluidsynth-dev libpng-dev libgl-dev)
 play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
-check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
+check_packages=(liblua5.4-dev libstb-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
   xvfb openbox xdotool weston x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
   dpkg-dev file desktop-file-utils appstream)
-web_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libfluidsynth-dev libpng-dev emscripten node-acorn nodejs
+web_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libfluidsynth-dev libpng-dev libstb-dev emscripten node-acorn nodejs
   fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 web_test_packages=(chromium firefox-esr dpkg-dev)
 package_packages=(dpkg-dev file)
@@ -39,6 +39,7 @@ fonts-ipafont-gothic      ipa-gothic-fonts          ipa-gothic-fonts          ot
 fonts-ipafont-mincho      ipa-mincho-fonts          ipa-mincho-fonts          -
 fluidr3mono-gm-soundfont  fluid-soundfont-gm        fluid-soundfont-gm        soundfont-fluid
 liblua5.4-dev             lua-devel                 lua54-devel               lua54
+libstb-dev                stb-devel                 stb-devel                 stb
 libgtest-dev              gtest-devel               gtest                     gtest
 libgmock-dev              gmock-devel               gmock                     -
 libbenchmark-dev          google-benchmark-devel    benchmark-devel           benchmark

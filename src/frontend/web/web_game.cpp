@@ -1,7 +1,11 @@
 #include "src/frontend/web/web_game.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <exception>
+#include <utility>
 
 namespace orvane {
 
@@ -68,8 +72,25 @@ void WebGame::Kept(int number, const std::string& failure) {
   }
 }
 
-bool WebGame::TakeKey(const KeyEvent& event, const KeyMeaning& meaning) {
-  return keys_->Take(event, meaning);
+bool WebGame::TakeKey(uint32_t code, bool is_press, bool repeats, bool types) {
+  constexpr uint32_t first_arrow = 37;  // the others follow in the order of Direction
+  constexpr std::array<uint32_t, 4> acting{13, 27, 32, 121};  // Enter, Escape, Space, F10
+  KeyMeaning meaning{{}, std::find(acting.begin(), acting.end(), code) != acting.end(), types};
+  if (code >= first_arrow && code < first_arrow + 4) {
+    meaning.Arrow = static_cast<Direction>(code - first_arrow);
+  }
+  const auto time = static_cast<uint64_t>(page_.Now());
+  return keys_->Take({code, is_press, repeats, time, WindowOfKeys()}, meaning);
+}
+
+// What tells the windows apart that a key can come to: the box in front, a menu, or a screen.
+const void* WebGame::WindowOfKeys() const {
+  const Stage& stage = program_->TheStage();
+  if (stage.BoxStands()) {
+    return reinterpret_cast<const void*>(static_cast<uintptr_t>(stage.Boxes().back().Number));
+  }
+  if (facts_.MenuIsOpen || stage.Active() == nullptr) return &facts_;
+  return stage.Active();
 }
 
 void WebGame::SetKeyFacts(const KeyFacts& facts) {
@@ -86,12 +107,13 @@ void WebGame::TakePad(PadState state, double x, double y) {
   pad_.Follow(state, page_.Now());
 }
 
-Control* WebGame::BeginFocus(const Screen& screen) {
-  return OrderOf(screen).Begin();
-}
-
-Control* WebGame::FollowFocus(const Screen& screen, Control* before) {
-  return OrderOf(screen).Follow(before);
+Control* WebGame::FollowFocus(Control* before) {
+  const Screen* active = program_->TheStage().Active();
+  const bool changed = std::exchange(focused_, active) != active;
+  if (active == nullptr) return nullptr;
+  if (changed) return OrderOf(*active).Begin();
+  return OrderOf(*active).Follow(before != nullptr && &before->Owner() == active ? before
+                                                                                 : nullptr);
 }
 
 FocusOrder& WebGame::OrderOf(const Screen& screen) {

@@ -7,17 +7,18 @@ clang_version=$(sed -nE 's/.*"clang\+\+-([0-9]+)".*/\1/p' "$(dirname "${BASH_SOU
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-qpa-plugins libxcb1-dev libsdl2-dev
   libfluidsynth-dev libpng-dev libgl-dev gettext)
 play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
-check_packages=(liblua5.4-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
+check_packages=(liblua5.4-dev libstb-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
   xvfb openbox xdotool weston x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
   dpkg-dev file desktop-file-utils appstream)
-web_packages=(g++ cmake ninja-build pkg-config gettext libsdl2-dev libfluidsynth-dev libpng-dev emscripten node-acorn nodejs
-  fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
+web_packages=(g++ cmake ninja-build pkg-config gettext libsdl2-dev libfluidsynth-dev libpng-dev libstb-dev emscripten node-acorn
+  nodejs fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 web_test_packages=(chromium firefox-esr dpkg-dev)
 package_packages=(dpkg-dev file)
 sound_packages=(opus-tools lame vorbis-tools) # for the sounds that are rendered ahead
 windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libstb-dev fluidr3mono-gm-soundfont dpkg-dev zip nsis)
 windows_check_packages=(wine64 libgtest-dev unzip)
 thorough_packages=("clang-$clang_version" "clang-tidy-$clang_version" "libclang-rt-$clang_version-dev")
+mutants_packages=("python3-clang-$clang_version" rsync)
 
 # What dnf, zypper and pacman call them, as far as known; "-" comes along with another.
 names_elsewhere="
@@ -39,6 +40,7 @@ fonts-ipafont-gothic      ipa-gothic-fonts          ipa-gothic-fonts          ot
 fonts-ipafont-mincho      ipa-mincho-fonts          ipa-mincho-fonts          -
 fluidr3mono-gm-soundfont  fluid-soundfont-gm        fluid-soundfont-gm        soundfont-fluid
 liblua5.4-dev             lua-devel                 lua54-devel               lua54
+libstb-dev                stb-devel                 stb-devel                 stb
 libgtest-dev              gtest-devel               gtest                     gtest
 libgmock-dev              gmock-devel               gmock                     -
 libbenchmark-dev          google-benchmark-devel    benchmark-devel           benchmark

@@ -11,7 +11,8 @@ namespace orvane {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr auto kPause = std::chrono::milliseconds(5);
+// Nobody hears it: often enough for a piece to be known to end within a tick.
+constexpr auto kPause = std::chrono::milliseconds(10);
 // What a machine that was asleep has missed beyond this is left out.
 constexpr double kMostBehind = 0.5;
 

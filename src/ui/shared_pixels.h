@@ -1,6 +1,7 @@
 // Pixels that several surfaces have in common.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <mutex>
@@ -19,18 +20,26 @@ class SharedPixels {
   using Pixels = std::vector<Colour>;
   using Maker = std::function<Pixels()>;
 
-  explicit SharedPixels(Pixels pixels) : pixels_(std::move(pixels)) {}
+  explicit SharedPixels(Pixels pixels) : pixels_(std::move(pixels)), made_(true) {}
   explicit SharedPixels(Maker maker) : maker_(std::move(maker)) {}
 
   Pixels& Get() {
-    if (maker_) std::call_once(made_, [this] { pixels_ = maker_(); });
+    if (!made_.load(std::memory_order_acquire)) Make();
     return pixels_;
   }
 
  private:
+  void Make() {
+    std::call_once(making_, [this] {
+      pixels_ = maker_();
+      made_.store(true, std::memory_order_release);
+    });
+  }
+
   const Maker maker_;
-  std::once_flag made_;
   Pixels pixels_;
+  std::atomic<bool> made_ = false;
+  std::once_flag making_;
 };
 
 }  // namespace orvane

@@ -58,15 +58,15 @@ tick_error() {
 
 open_display 1400x1120
 make_folder
-judge "start to title, best of three" "$(start_time)" ms 150 1000
+judge "start to title, best of three" "$(start_time)" ms 60 1000
 export ORVANE_TICKS=$shots/ticks.txt
 start_game --folder "$folder" --scale "$scale" --seed 26
 see_title
-judge "memory on the title" "$(memory)" MB 60 160
-judge "processor on the title" "$(load_over 3)" % 0.5 4
+judge "memory on the title" "$(memory)" MB 50 160
+judge "processor on the title" "$(load_over 3)" % 0.3 4
 load_save 1
 xdotool keydown Down
-judge "processor while walking at 2x" "$(load_over 2)" % 4 25
+judge "processor while walking at 2x" "$(load_over 2)" % 2 25
 xdotool keyup Down
 meet_dragon
 before=$(used)

@@ -97,6 +97,14 @@ passes "a static function" "$here/floors.sh" "$trial"
 tree
 echo 'int Next() { static const int first = 1; return first; }' >>"$trial/src/field/a.cpp"
 passes "a static constant" "$here/floors.sh" "$trial"
+mkdir -p "$trial/src/frontend/web/page"
+yes '// a line' | head -n 1499 >"$trial/src/frontend/web/page/a.mjs"
+passes "scripts of the page that are small enough" "$here/floors.sh" "$trial"
+echo '// one more' >"$trial/src/frontend/web/page/sw.js"
+refuses "a script of the page that is too much" "$here/floors.sh" "$trial"
+printf '%0121d\n' 0 >"$trial/src/frontend/web/page/a.mjs"
+refuses "a long line of the page's scripts" "$here/floors.sh" "$trial"
+rm -r "$trial/src/frontend/web/page"
 
 # The backquotes are those of the documents.
 # shellcheck disable=SC2016

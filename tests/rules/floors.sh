@@ -2,6 +2,7 @@
 # The floors of the program: an include runs down or sideways within a floor, never up, and from no front end
 # to another. Below the front ends, and in what they share, no header of a toolkit or of the operating system
 # stands outside the few files that are there for it.
+# The page's scripts stay small.
 # In the game itself no function keeps a variable of its own between two calls either: two games in one process
 # would share it. (clang-tidy finds global variables.)
 #   floors.sh SOURCE_FOLDER
@@ -64,6 +65,7 @@ may_name() {
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
     frontend/web/main.cpp) echo "emscripten.h" ;;
+    frontend/web/services/zip.cpp) echo "stb/stb_image.h" ;;
     sound/vorbis/*) echo "stb/stb_vorbis.h" ;;
   esac
 }
@@ -112,5 +114,15 @@ for floor in base platform ui core field battle screens ending game sound fronte
   done < <(grep -rnwE --include='*.h' --include='*.cpp' 'static|thread_local' "$floor" | grep -vwE 'const|constexpr' |
     grep -vE '^[^:]*\.h:.*\(')  # a function of a class
 done
+
+# The scripts of the page are small, every line counted, and no line is long for it.
+most_lines=1549 longest_line=120
+scripts=(frontend/web/page/*.*js)
+lines=$(cat "${scripts[@]}" 2>/dev/null | wc -l)
+[ "$lines" -le "$most_lines" ] || fault "frontend/web/page: $lines lines of scripts, more than $most_lines"
+while read -r line; do
+  fault "$line: a line of more than $longest_line letters"
+done < <(LC_ALL=C.UTF-8 grep -noHE ".{$((longest_line + 1)),}" "${scripts[@]}" 2>/dev/null | cut -d: -f1,2)
+
 [ "$faults" -eq 0 ] && echo "floors: no include runs up"
 [ "$faults" -eq 0 ]

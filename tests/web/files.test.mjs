@@ -6,7 +6,7 @@ import { join } from 'node:path';
 import { readSave, travellers } from './lib/desktop.mjs';
 import { until } from './lib/game_page.mjs';
 import { site } from './lib/places.mjs';
-import { begin, bring, closeSlots, kept, load, openSlots, save } from './lib/steps.mjs';
+import { begin, bring, closeSlots, handed, kept, load, openSlots, save } from './lib/steps.mjs';
 import { both, inBrowsers } from './lib/tests.mjs';
 
 async function inFolder(work) {
@@ -16,25 +16,6 @@ async function inFolder(work) {
   } finally {
     rmSync(folder, { recursive: true, force: true });
   }
-}
-
-// What the page hands to the player as a file, by the link that it presses.
-async function handed(game, press) {
-  await game.page.evaluate(() => {
-    globalThis.handed = null;
-    HTMLAnchorElement.prototype.click = function () {
-      if (!this.download) return;
-      const { download, href } = this;
-      globalThis.handed = { download, href };
-    };
-    const make = URL.createObjectURL;
-    URL.createObjectURL = (blob) => {
-      blob.arrayBuffer().then((bytes) => (globalThis.handedBytes = [...new Uint8Array(bytes)]));
-      return make.call(URL, blob);
-    };
-  });
-  await press();
-  return until('a file', () => game.page.evaluate(() => globalThis.handed && globalThis.handedBytes && { name: globalThis.handed.download, bytes: globalThis.handedBytes }));
 }
 
 inBrowsers('a save goes from the desktop into the page and back', both, async ({ open }) => {

@@ -1,9 +1,13 @@
 // The game from the title on, as somebody plays it: names, the opening, walking, saving, loading.
 import assert from 'node:assert/strict';
+import { cpSync, mkdtempSync, readdirSync, rmSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
 import { readSave } from './lib/desktop.mjs';
 import { kill } from './lib/browsers.mjs';
 import { sleep, until } from './lib/game_page.mjs';
-import { begin, hearScene, holdKey, kept, load, save } from './lib/steps.mjs';
+import { site } from './lib/places.mjs';
+import { begin, handed, hearScene, holdKey, kept, load, save } from './lib/steps.mjs';
 import { both, inBrowsers } from './lib/tests.mjs';
 
 const firstSave = 'Save01.sav';
@@ -21,7 +25,7 @@ async function compose(game, field, steps, result) {
       async (input, module) => {
         const { apply, screens } = await import(module);
         const id = Number(input.id.slice(1));
-        const { values } = [...screens.values()].map(({ controls }) => controls.get(id)).find(Boolean);
+        const { values } = [...screens.values()].flatMap(({ controls }) => controls).find((control) => control.id === id);
         apply({ controls: [{ ...values, id, text: 'older' }] });
       },
       windows,
@@ -152,6 +156,38 @@ inBrowsers('a second tab waits for the first', both, async ({ browser, open, ser
   await until('its turn', () => page.evaluate(() => document.body.dataset.state === 'running'));
 });
 
+inBrowsers('a crash shows what has happened, and hands out the saves', both, async ({ open, pages }) => {
+  const game = await open({ query: '?seed=26' });
+  await begin(game);
+  await save(game, 0);
+  const bytes = await kept(game, firstSave);
+  game.assertNoProblems();
+  pages.length = 0; // what follows is one
+  await game.page.evaluate(async (module) => (await import(module)).ask('NoSuchCall'), await game.moduleOf('game'));
+  await game.waitForState('crashed');
+  assert.match(await game.page.$eval('.end', (element) => element.textContent), /動かなくなりました.*\w/s);
+  const out = await handed(game, () => game.page.$$eval('.end button', (buttons, name) => buttons.find(({ textContent }) => textContent.includes(name)).click(), firstSave));
+  assert.equal(out.name, firstSave);
+  assert.deepEqual(new Uint8Array(out.bytes), bytes);
+  await game.page.click('.end button');
+  await game.waitForState('running');
+  await load(game, 0);
+});
+
+inBrowsers('a page whose program is lost says so', both, async ({ browser, server }) => {
+  const folder = mkdtempSync(join(tmpdir(), 'orvane-lost-'));
+  try {
+    cpSync(site, folder, { recursive: true });
+    rmSync(join(folder, readdirSync(folder).find((name) => name.endsWith('.wasm'))));
+    server.folder = folder;
+    const page = await browser.newPage();
+    await page.goto(server.address);
+    await until('the page to say so', () => page.evaluate(() => document.body.dataset.state === 'crashed'));
+  } finally {
+    rmSync(folder, { recursive: true });
+  }
+});
+
 inBrowsers('the end of the game, and a new one', both, async ({ open }) => {
   const game = await open();
   await game.clickMenu('Main.m1', 'Main.m14');
@@ -163,22 +199,4 @@ inBrowsers('the end of the game, and a new one', both, async ({ open }) => {
   assert.equal(await game.page.evaluate(() => document.body.dataset.status), '0');
   await game.page.click('.end button');
   await game.waitForState('running');
-});
-
-inBrowsers('a box over a box', both, async ({ open }) => {
-  const game = await open();
-  const windows = await game.moduleOf('windows');
-  const box = (number) => ({ number, title: `title ${number}`, text: `text ${number}`, closing: 0, choices: [{ caption: 'OK', answer: 0 }] });
-  const show = (...boxes) => game.page.evaluate(async (module, shown) => (await import(module)).apply({ boxes: shown }), windows, boxes);
-  const front = () => game.page.evaluate(() => document.activeElement.closest('dialog')?.querySelector('p').textContent);
-  await show(box(1));
-  await show(box(1), box(2));
-  assert.deepEqual(await game.boxes(), ['text 1', 'text 2']);
-  assert.equal(await front(), 'text 2');
-  assert.equal(await game.page.evaluate(() => document.querySelectorAll('dialog:modal').length), 2, 'both keep the windows from the player');
-  await show(box(1));
-  assert.deepEqual(await game.boxes(), ['text 1']);
-  assert.equal(await front(), 'text 1');
-  await show();
-  assert.deepEqual(await game.boxes(), []);
 });

@@ -1,12 +1,13 @@
 // Every screen opened, used and closed; what is done there is read from the saves by the desktop's game.
 import assert from 'node:assert/strict';
-import { mkdtempSync, rmSync, writeFileSync } from 'node:fs';
+import { mkdirSync, mkdtempSync, rmSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
-import { beforeDragon, readSave, travellers } from './lib/desktop.mjs';
+import { beforeChest, beforeDragon, readSave, travellers } from './lib/desktop.mjs';
 import { sleep, until } from './lib/game_page.mjs';
 import { looksAsKept } from './lib/looks.mjs';
 import { bring, clickPicture, closeSlots, hearScene, kept, load, menuIsOn, save } from './lib/steps.mjs';
+import { seen } from './lib/places.mjs';
 import { both, inBrowsers } from './lib/tests.mjs';
 
 const viewport = { width: 800, height: 600 };
@@ -192,4 +193,46 @@ inBrowsers('a fight that comes by itself', both, async ({ open }) => {
   await awaitCommand(game);
   await win(game);
   await until('the field again', () => menuIsOn(game, 'm2'));
+});
+
+// Moves a window by its title towards a place; it stays within what is visible.
+async function drag(game, screen, x, y) {
+  const title = await (await game.find(screen)).$('.title h2');
+  const box = await title.boundingBox();
+  await game.page.mouse.move(box.x + 20, box.y + 10);
+  await game.page.mouse.down();
+  await game.page.mouse.move(x, y, { steps: 3 });
+  await game.page.mouse.up();
+}
+
+// The party walks on while a box stands, since its timer does, and comes to a chest that does not go into the bag.
+inBrowsers('a box over a box', both, async ({ name, open }) => {
+  const game = await open({ viewport: { width: 1000, height: 600 }, query: '?seed=26' });
+  await arrive(game, beforeChest());
+  await drag(game, 'Main', 1000, 600);
+  await game.clickMenu('Main.m1', 'Main.m12');
+  await drag(game, 'Save', 0, 0);
+  await game.page.click('section[data-name=Main] .title h2');
+  await until('the field in front', () => game.page.evaluate(() => document.body.dataset.screen === 'Main'));
+  await game.page.keyboard.down('ArrowRight');
+  await game.click('Save.OKButton');
+  await until('the second box', async () => (await game.boxes()).length === 2);
+  await game.page.keyboard.up('ArrowRight');
+  const [first, second] = await game.boxes();
+  assert.match(first, /選択/);
+  assert.match(second, /いっぱい/);
+  mkdirSync(seen, { recursive: true });
+  await game.page.screenshot({ path: join(seen, `${name}-two-boxes.png`) });
+  for (const box of await game.page.$$('dialog[data-name=Box]')) {
+    const { x, width } = await box.boundingBox();
+    assert.ok(Math.abs(x + width / 2 - 500) < 2, `a box stands in the middle, not from ${x} to ${x + width}`);
+  }
+  const front = () => game.page.evaluate(() => document.activeElement.closest('dialog')?.querySelector('p').textContent);
+  assert.equal(await front(), second, 'the keyboard is in the one in front');
+  assert.equal(await game.page.evaluate(() => document.querySelectorAll('dialog:modal').length), 2);
+  await game.page.keyboard.press('Enter');
+  await until('one box', async () => (await game.boxes()).length === 1);
+  assert.equal(await front(), first, 'the keyboard goes back to the one behind');
+  await game.answer('OK');
+  await until('no box', async () => (await game.boxes()).length === 0);
 });

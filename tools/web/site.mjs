@@ -6,7 +6,6 @@
 import { createHash } from 'node:crypto';
 import { existsSync, mkdirSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync } from 'node:fs';
 import { basename, join } from 'node:path';
-import { writeZip } from '../../src/frontend/web/page/zip.mjs';
 
 const [sources, out, ...made] = process.argv.slice(2);
 const known = new Set(['index.html', 'sw.js', 'licences.txt']); // by their plain names
@@ -23,7 +22,7 @@ for (const path of [...inside(sources), ...paths]) files.set(basename(path), rea
 const sounds = {};
 for (const line of String(files.get('sounds.tsv') ?? '').split('\n').filter(Boolean)) {
   const [name, length] = line.split('\t');
-  sounds[name] = { length: Number(length), opus: `${name}.opus`, other: `${name}.mp3` };
+  sounds[name] = { length: Number(length), opus: `${name}.opus`, mp3: `${name}.mp3` };
 }
 files.delete('sounds.tsv');
 files.set('sounds.json', Buffer.from(JSON.stringify(sounds)));
@@ -70,5 +69,4 @@ files.set('sw.js', Buffer.from(worker));
 rmSync(out, { recursive: true, force: true });
 mkdirSync(out, { recursive: true });
 for (const [name, bytes] of files) writeFileSync(join(out, hashed.get(name)), bytes);
-writeFileSync(`${out}.zip`, writeZip([...files].map(([name, bytes]) => [`orvane/${hashed.get(name)}`, bytes])));
 console.log(`${out}: version ${version}, ${files.size} files`);

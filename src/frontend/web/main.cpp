@@ -1,15 +1,20 @@
 // The way between the page's scripts and the game: what they call, and what they are asked.
 #include <emscripten.h>
 
+#include <array>
 #include <cstdlib>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "src/frontend/shared/text_fit.h"
+#include "src/frontend/shared/texts/language_choice.h"
 #include "src/frontend/web/content.h"
 #include "src/frontend/web/mirror/json.h"
 #include "src/frontend/web/page_scale.h"
+#include "src/frontend/web/services/brought_saves.h"
 #include "src/frontend/web/services/save_check.h"
 #include "src/frontend/web/web_game.h"
 #include "src/ui/reach.h"
@@ -51,8 +56,10 @@ class ScriptPage : public Page {
 // One page, one game.
 struct Whole {
   ScriptPage Scripts;
+  Translator Texts;
   std::unique_ptr<WebGame> Game;
-  std::string Text;  // the last one that the scripts have asked for
+  std::string Given;     // the last text or bytes that the scripts have asked for
+  BroughtSaves Brought;  // what the player has brought last
 };
 
 Whole& TheWhole() {
@@ -64,9 +71,10 @@ WebGame& Game() {
   return *TheWhole().Game;
 }
 
-const char* Give(std::string text) {
-  TheWhole().Text = std::move(text);
-  return TheWhole().Text.c_str();
+// Text and bytes stay where they are until the scripts ask for others.
+const char* Give(std::string given) {
+  TheWhole().Given = std::move(given);
+  return TheWhole().Given.c_str();
 }
 
 void Send(const std::function<void(Program&)>& event) {
@@ -75,6 +83,10 @@ void Send(const std::function<void(Program&)>& event) {
 
 Screen* ScreenOf(int number) {
   return Game().TheMirror().ScreenOf(number);
+}
+
+Screen* ActiveScreen() {
+  return Game().TheProgram().TheStage().Active();
 }
 
 // The control of that number, if it is of that kind; otherwise null.
@@ -102,10 +114,38 @@ EXPORT void Make(double seed, const char* speed) {
   setenv("ORVANE_SPEED", speed, 1);
   std::optional<uint32_t> fixed;
   if (seed >= 0) fixed = static_cast<uint32_t>(seed);
-  TheWhole().Game = std::make_unique<WebGame>(TheWhole().Scripts, fixed);
+  TheWhole().Game = std::make_unique<WebGame>(TheWhole().Scripts, fixed, TheWhole().Texts);
   for (const ContentFile& file : AllContentFiles()) {
     Game().Files().Files[file.Name] = std::string(file.Bytes, file.Size);
   }
+}
+
+// ---- the language
+
+// What is shown for a text of the page's own.
+EXPORT const char* Shown(const char* text) {
+  return Give(TheWhole().Texts.Of(text));
+}
+
+// The names of the languages by their codes.
+EXPORT const char* Languages() {
+  const Translator& texts = TheWhole().Texts;
+  std::string out;
+  {
+    Json json(out, Json::Form::Object);
+    for (const std::string& code : texts.Languages()) json.Add(code.c_str(), texts.NameOf(code));
+  }
+  return Give(out);
+}
+
+// Shows the first language that there is of those wished for, their codes with commas between;
+// returns its code.
+EXPORT const char* ChooseLanguage(const char* wishes) {
+  std::istringstream list(wishes);
+  std::vector<std::string> codes;
+  for (std::string code; std::getline(list, code, ',');) codes.push_back(code);
+  TheWhole().Texts.Choose(BestLanguage(TheWhole().Texts, codes));
+  return TheWhole().Texts.Language().c_str();
 }
 
 EXPORT void PutFile(const char* name, const char* bytes, int size) {
@@ -214,12 +254,12 @@ EXPORT void Close(int number) {
   if (Screen* screen = ScreenOf(number)) Send([screen](Program& p) { p.Close(*screen); });
 }
 
-EXPORT void Confirm(int number) {
-  if (Screen* screen = ScreenOf(number)) Send([screen](Program& p) { p.Confirm(*screen); });
+EXPORT void Confirm() {
+  if (Screen* screen = ActiveScreen()) Send([screen](Program& p) { p.Confirm(*screen); });
 }
 
-EXPORT void GoBack(int number) {
-  if (Screen* screen = ScreenOf(number)) Send([screen](Program& p) { p.GoBack(*screen); });
+EXPORT void GoBack() {
+  if (Screen* screen = ActiveScreen()) Send([screen](Program& p) { p.GoBack(*screen); });
 }
 
 EXPORT void Activate(int number) {
@@ -236,39 +276,38 @@ EXPORT void SetKeyFacts(int page_has_keys, int menu_is_open, int menu_bar_has_ke
   Game().SetKeyFacts({page_has_keys != 0, menu_is_open != 0, menu_bar_has_keys != 0});
 }
 
-// `where` stands for the window that the key came to. `arrow` counts as Direction does, -1 for
-// another key.
-EXPORT int TakeKey(int code, int is_press, int repeats, int where, int arrow, int acts, int types) {
-  KeyMeaning meaning{{}, acts != 0, types != 0};
-  if (arrow >= 0) meaning.Arrow = static_cast<Direction>(arrow);
-  const void* window = reinterpret_cast<const void*>(static_cast<uintptr_t>(where + 1));
-  const auto time = static_cast<uint64_t>(PageNow());
-  const bool taken = Game().TakeKey(
-      {static_cast<uint32_t>(code), is_press != 0, repeats != 0, time, window}, meaning);
+// As WebGame::TakeKey has it.
+EXPORT int TakeKey(int code, int is_press, int repeats, int types) {
+  const bool taken =
+      Game().TakeKey(static_cast<uint32_t>(code), is_press != 0, repeats != 0, types != 0);
   return taken ? 1 : 0;
+}
+
+// The row that a key leads to in a list, as ListKeys has it; -2 for a key that is none of a list's.
+EXPORT int ListKey(int number, int row, int page, const char* key, double time) {
+  const auto* list = Find<ListBox>(number);
+  const auto* files = Find<FileListBox>(number);
+  if (list == nullptr && files == nullptr) return -2;
+  const std::vector<std::string>& rows = list != nullptr ? list->Rows : files->Rows;
+  return Game().KeysOfList().Take(rows, row, page, key, time).value_or(-2);
 }
 
 EXPORT void FollowKeys() {
   Game().FollowKeys();
 }
 
-// `buttons` has a bit for each of PadButton.
+// `buttons` has a bit for each button of a pad as browsers number them.
 EXPORT void TakePad(int buttons, double x, double y) {
+  constexpr std::array<int, kPadButtons> places{14, 12, 15, 13, 0, 1, 9, 4, 5};  // of PadButton
   PadState state{};
-  for (size_t i = 0; i < kPadButtons; ++i) state[i] = (buttons >> i & 1) != 0;
+  for (size_t i = 0; i < kPadButtons; ++i) state[i] = (buttons >> places[i] & 1) != 0;
   Game().TakePad(state, x, y);
 }
 
 // ---- the keyboard's place
 
-EXPORT int BeginFocus(int number) {
-  const Screen* screen = ScreenOf(number);
-  return screen == nullptr ? -1 : NumberOf(Game().BeginFocus(*screen));
-}
-
-EXPORT int FollowFocus(int number, int before) {
-  const Screen* screen = ScreenOf(number);
-  return screen == nullptr ? -1 : NumberOf(Game().FollowFocus(*screen, Find<Control>(before)));
+EXPORT int FollowFocus(int before) {
+  return NumberOf(Game().FollowFocus(Find<Control>(before)));
 }
 
 EXPORT int Neighbour(int number, int direction) {
@@ -278,9 +317,9 @@ EXPORT int Neighbour(int number, int direction) {
       Game().OrderOf(control->Owner()).Neighbour(*control, static_cast<Direction>(direction)));
 }
 
-// Opens the next tab of a screen, or with -1 the one before; 0 where it has none.
-EXPORT int TurnTab(int number, int step) {
-  const Screen* screen = ScreenOf(number);
+// Opens the next tab of the active screen, or with -1 the one before; 0 where it has none.
+EXPORT int TurnTab(int step) {
+  const Screen* screen = ActiveScreen();
   if (screen == nullptr) return 0;
   const auto turn = Game().OrderOf(*screen).NextTab(step);
   if (!turn) return 0;
@@ -322,8 +361,12 @@ EXPORT double ScaleFor(double width, double height, double zoom, int full_screen
 
 // ---- saves
 
-EXPORT const char* CheckSave(const char* bytes, int size) {
-  return Give(SaveProblem({bytes, static_cast<size_t>(size)}));
+EXPORT int GivenSize() {
+  return static_cast<int>(TheWhole().Given.size());
+}
+
+EXPORT const char* FileOf(const char* name) {
+  return Give(Game().Files().Files[name]);
 }
 
 // All slots, as JSON: their names and what they are of.
@@ -344,10 +387,39 @@ EXPORT const char* ListSaves() {
   return Give(out);
 }
 
-EXPORT const char* FileOf(const char* name) {
-  return Game().Files().Files[name].data();
+// All slots as one archive.
+EXPORT const char* ArchiveOfSaves() {
+  NamedFiles saves;
+  for (const std::string& name : Game().Files().List("*.sav")) {
+    saves.emplace_back(name, Game().Files().Files[name]);
+  }
+  return Give(WriteZip(saves));
 }
 
-EXPORT int SizeOf(const char* name) {
-  return static_cast<int>(Game().Files().Files[name].size());
+// Reads what a player has brought, as ReadBrought has it. Answers with what is wrong with it, and
+// the names of its saves.
+EXPORT const char* Bring(const char* name, const char* bytes, int size, const char* slot) {
+  BroughtSaves& brought = TheWhole().Brought;
+  brought = ReadBrought(name, {bytes, static_cast<size_t>(size)}, slot);
+  std::string out;
+  {
+    Json json(out, Json::Form::Object);
+    json.Add("problem", brought.Problem);
+    std::string names;
+    {
+      Json list(names, Json::Form::List);
+      for (const auto& save : brought.Saves) list.Add(std::string_view(save.first));
+    }
+    json.AddRaw("names", names);
+  }
+  return Give(out);
+}
+
+EXPORT const char* BroughtSave(int index) {
+  return Give(TheWhole().Brought.Saves.at(static_cast<size_t>(index)).second);
+}
+
+// Takes all of it into the game's files.
+EXPORT void TakeBrought() {
+  for (const auto& [name, bytes] : TheWhole().Brought.Saves) Game().Files().Files[name] = bytes;
 }

@@ -1,12 +1,18 @@
 #include "src/frontend/web/web_game.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <exception>
+#include <utility>
+
+#include "src/frontend/shared/texts/lettered_sheets.h"
 
 namespace orvane {
 
-WebGame::WebGame(Page& page, std::optional<uint32_t> seed)
-    : page_(page), files_(page), sound_(page), chance_(seed) {}
+WebGame::WebGame(Page& page, std::optional<uint32_t> seed, const Translator& texts)
+    : page_(page), files_(page), sound_(page), chance_(seed), texts_(texts) {}
 
 void WebGame::Begin() {
   program_ = std::make_unique<Program>(Services{sound_, chance_, files_});
@@ -23,7 +29,9 @@ void WebGame::Begin() {
 }
 
 const std::string& WebGame::Changes() {
-  return HeldFor() > 0 ? nothing_ : mirror_->Changes();
+  if (HeldFor() > 0) return nothing_;
+  LetterSheets(program_->TheStage(), texts_);
+  return mirror_->Changes();
 }
 
 int WebGame::HeldFor() const {
@@ -68,8 +76,25 @@ void WebGame::Kept(int number, const std::string& failure) {
   }
 }
 
-bool WebGame::TakeKey(const KeyEvent& event, const KeyMeaning& meaning) {
-  return keys_->Take(event, meaning);
+bool WebGame::TakeKey(uint32_t code, bool is_press, bool repeats, bool types) {
+  constexpr uint32_t first_arrow = 37;  // the others follow in the order of Direction
+  constexpr std::array<uint32_t, 4> acting{13, 27, 32, 121};  // Enter, Escape, Space, F10
+  KeyMeaning meaning{{}, std::find(acting.begin(), acting.end(), code) != acting.end(), types};
+  if (code >= first_arrow && code < first_arrow + 4) {
+    meaning.Arrow = static_cast<Direction>(code - first_arrow);
+  }
+  const auto time = static_cast<uint64_t>(page_.Now());
+  return keys_->Take({code, is_press, repeats, time, WindowOfKeys()}, meaning);
+}
+
+// What tells the windows apart that a key can come to: the box in front, a menu, or a screen.
+const void* WebGame::WindowOfKeys() const {
+  const Stage& stage = program_->TheStage();
+  if (stage.BoxStands()) {
+    return reinterpret_cast<const void*>(static_cast<uintptr_t>(stage.Boxes().back().Number));
+  }
+  if (facts_.MenuIsOpen || stage.Active() == nullptr) return &facts_;
+  return stage.Active();
 }
 
 void WebGame::SetKeyFacts(const KeyFacts& facts) {
@@ -86,12 +111,13 @@ void WebGame::TakePad(PadState state, double x, double y) {
   pad_.Follow(state, page_.Now());
 }
 
-Control* WebGame::BeginFocus(const Screen& screen) {
-  return OrderOf(screen).Begin();
-}
-
-Control* WebGame::FollowFocus(const Screen& screen, Control* before) {
-  return OrderOf(screen).Follow(before);
+Control* WebGame::FollowFocus(Control* before) {
+  const Screen* active = program_->TheStage().Active();
+  const bool changed = std::exchange(focused_, active) != active;
+  if (active == nullptr) return nullptr;
+  if (changed) return OrderOf(*active).Begin();
+  return OrderOf(*active).Follow(before != nullptr && &before->Owner() == active ? before
+                                                                                 : nullptr);
 }
 
 FocusOrder& WebGame::OrderOf(const Screen& screen) {

@@ -12,6 +12,7 @@
 #include "src/frontend/shared/pad_rules.h"
 #include "src/frontend/shared/tick_times.h"
 #include "src/frontend/shared/walking_keys.h"
+#include "src/frontend/web/list_keys.h"
 #include "src/frontend/web/mirror/mirror.h"
 #include "src/frontend/web/services/page_sound.h"
 #include "src/frontend/web/services/page_storage.h"
@@ -28,8 +29,8 @@ struct KeyFacts {
 
 class WebGame : private PadHands {
  public:
-  // Starts the program over these files; the page must outlive it.
-  WebGame(Page& page, std::optional<uint32_t> seed);
+  // Starts the program over these files; the page and the texts must outlive it.
+  WebGame(Page& page, std::optional<uint32_t> seed, const Translator& texts);
   WebGame(const WebGame&) = delete;
   WebGame& operator=(const WebGame&) = delete;
 
@@ -58,20 +59,25 @@ class WebGame : private PadHands {
   // The page has kept a file, or says why not.
   void Kept(int number, const std::string& failure);
 
-  // A key: whether it must do nothing more.
-  bool TakeKey(const KeyEvent& event, const KeyMeaning& meaning);
+  // A key, by the number that browsers give it, 0 for one that an input method has taken. `repeats`
+  // where it says so of itself, `types` where what has the keyboard takes text. Whether it must do
+  // nothing more.
+  bool TakeKey(uint32_t code, bool is_press, bool repeats, bool types);
   void SetKeyFacts(const KeyFacts& facts);
+  // The keys of the list that has the keyboard.
+  ListKeys& KeysOfList() { return list_keys_; }
   // Lets go what is no longer held down.
   void FollowKeys() { keys_->Follow(); }
   // The game pad, as it is at this moment; the stick as PadStick takes it.
   void TakePad(PadState state, double x, double y);
 
-  // Who has the keyboard within a screen, as FocusOrder has it.
-  Control* BeginFocus(const Screen& screen);
-  Control* FollowFocus(const Screen& screen, Control* before);
+  // Who is to have the keyboard in the active screen, as FocusOrder has it; `before` is what has
+  // had it so far, or null. Null where nothing is.
+  Control* FollowFocus(Control* before);
   FocusOrder& OrderOf(const Screen& screen);
 
  private:
+  const void* WindowOfKeys() const;
   bool ReachesWindow() const override;
   bool ReachesGame() const override;
   void Walk(Direction direction, bool down) override;
@@ -85,14 +91,16 @@ class WebGame : private PadHands {
   PageStorage files_;
   PageSound sound_;
   PlayersChance chance_;
-  Translator texts_;
+  const Translator& texts_;
   std::unique_ptr<Program> program_;
   std::optional<Mirror> mirror_;
   std::optional<TickTimes> ticks_;
   std::optional<WalkingKeys> keys_;
   std::map<const Screen*, FocusOrder> orders_;
+  const Screen* focused_ = nullptr;  // the screen that has had the keyboard last
   const Screen* first_ = nullptr;  // the screen that the game opens with, which the keys belong to
   KeyFacts facts_;
+  ListKeys list_keys_;
   PadRules pad_{*this};
   PadStick stick_;
   std::string nothing_;

@@ -39,7 +39,8 @@ class WebGameTest : public testing::Test {
   }
 
   PaperPage page_;
-  WebGame game_{page_, 26};
+  Translator texts_;
+  WebGame game_{page_, 26, texts_};
 };
 
 TEST_F(WebGameTest, TellsAllAtFirstAndThenWhatHasChanged) {
@@ -120,9 +121,7 @@ TEST_F(WebGameTest, AFileIsReplacedOnceThePageHasKeptIt) {
 }
 
 TEST_F(WebGameTest, TheKeysReachTheFieldOnlyWhileThePageHasThem) {
-  const auto press = [this](bool down) {
-    return game_.TakeKey({37, down, false, 0, this}, {Direction::Left, false, false});
-  };
+  const auto press = [this](bool down) { return game_.TakeKey(37, down, false, false); };
   const State& state = game_.TheProgram().TheState();
   press(true);
   EXPECT_EQ(state.KeyLeft, -1);

@@ -87,3 +87,8 @@ const party = (level, life, force) => `
 export const travellers = () => makeSave(`set("Round", 2) set("StoryNo", 24) ${party(19, 800, 400)}`);
 // Just below the dragon of the third round, with blows that no enemy withstands.
 export const beforeDragon = () => makeSave(`${party(60, 30000, 1000)} set("Round", 3) set("StoryNo", 28) set("MapA", 4) set("MapB", 1) steps.put(228, 130)`);
+// Some steps to the left of a chest, with a bag in which nothing more goes.
+export const beforeChest = () => makeSave(`
+  set("MapA", 1) set("MapB", 1) steps.put(336, 96)
+  for slot = 0, 19 do set("Items[" .. slot .. "]", 47) end
+  set("ItemCount", 20)`);

@@ -9,14 +9,15 @@ export function stopClock() {
 
 // Runs in the page. `events` are those of one run of the program; `shown` is how many of them pass between two
 // looks of the page at the game. Returns what went wrong, or nothing.
-async function perform({ gameModule, windowsModule, savesModule }, events, shown) {
+async function perform({ gameModule, windowsModule, boxesModule, savesModule }, events, shown) {
   const game = await import(gameModule);
   const windows = await import(windowsModule);
+  const boxes = await import(boxesModule);
   const saves = await import(savesModule);
   const numbers = new Map();
   for (const screen of windows.screens.values()) {
     numbers.set(screen.name, screen.id);
-    for (const control of screen.controls.values()) numbers.set(`${screen.name}.${control.name}`, control.id);
+    for (const control of screen.controls) numbers.set(`${screen.name}.${control.name}`, control.id);
   }
   const pause = () => new Promise((done) => setTimeout(done, 0));
   const until = async (holds) => {
@@ -33,13 +34,13 @@ async function perform({ gameModule, windowsModule, savesModule }, events, shown
   const arrows = ['Left', 'Up', 'Right', 'Down'];
   const press = (key, isPress) => {
     game.ask('SetKeyFacts', 1, 0, 0);
-    game.ask('TakeKey', 37 + arrows.indexOf(key), isPress, 0, 0, arrows.indexOf(key), 0, 0);
+    game.ask('TakeKey', 37 + arrows.indexOf(key), isPress, false, false);
   };
   const calls = {
     click: (id) => game.ask('Click', id),
     choose: (id, row) => game.ask('Choose', id, row),
     tab: (id, tab) => game.ask('SelectTab', id, tab),
-    enter: (id, text) => game.sendText(id, text),
+    enter: (id, text) => game.send('EnterText', id, text),
     slide: (id, value) => game.ask('Slide', id, value),
     press: (id) => game.ask('Press', id, 200, 100),
     close: (id) => game.ask('Close', id),
@@ -54,12 +55,12 @@ async function perform({ gameModule, windowsModule, savesModule }, events, shown
     const fault = (text) => `event ${index}, ${JSON.stringify([what, ...values]).slice(0, 100)}: ${text}`;
     if (what === 'tick') {
       for (let i = 0; i < values[1]; ++i) {
-        if (game.tick(...values[0].split('.')) !== 1) return fault('the timer is off');
+        if (game.ask('Tick', ...values[0].split('.')) !== 1) return fault('the timer is off');
         passHold();
       }
     } else if (what === 'answer') {
       game.follow();
-      if (!(await until(() => windows.standingBox()))) return fault('no box stands');
+      if (!(await until(() => boxes.frontBox()))) return fault('no box stands');
       game.ask('Answer', answers[values[0]]);
       passHold();
       // What the answer has had kept comes before this; until it lasts the game stands.
@@ -68,7 +69,7 @@ async function perform({ gameModule, windowsModule, savesModule }, events, shown
     } else if (what === 'file') {
       const [name, bytes] = values;
       game.follow();
-      if (!(await until(() => hexOf(saves.slots().get(name)) === bytes))) return fault(`kept is ${hexOf(saves.slots().get(name))}`);
+      if (!(await until(() => hexOf(saves.kept().get(name)) === bytes))) return fault(`kept is ${hexOf(saves.kept().get(name))}`);
       await pause();
     } else if (what.startsWith('key')) {
       calls[what](0, values[0]);
@@ -96,7 +97,12 @@ export async function replay(game, events, shown) {
   }
   for (const [number, run] of runs.entries()) {
     if (number > 0) await game.reload();
-    const modules = { gameModule: await game.moduleOf('game'), windowsModule: await game.moduleOf('windows'), savesModule: await game.moduleOf('saves') };
+    const modules = {
+      gameModule: await game.moduleOf('game'),
+      windowsModule: await game.moduleOf('windows'),
+      boxesModule: await game.moduleOf('boxes'),
+      savesModule: await game.moduleOf('saves'),
+    };
     const fault = await game.page.evaluate(perform, modules, run, shown);
     assert.equal(fault, null, `run ${number + 1} of ${runs.length}`);
   }

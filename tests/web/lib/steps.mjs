@@ -111,3 +111,22 @@ async function pressable(parent, caption) {
   assert.fail(`no button ${caption}`);
   return null;
 }
+
+// What the page hands to the player as a file, by the link that it presses.
+export async function handed(game, press) {
+  await game.page.evaluate(() => {
+    globalThis.handed = null;
+    HTMLAnchorElement.prototype.click = function () {
+      if (!this.download) return;
+      const { download, href } = this;
+      globalThis.handed = { download, href };
+    };
+    const make = URL.createObjectURL;
+    URL.createObjectURL = (blob) => {
+      blob.arrayBuffer().then((bytes) => (globalThis.handedBytes = [...new Uint8Array(bytes)]));
+      return make.call(URL, blob);
+    };
+  });
+  await press();
+  return until('a file', () => game.page.evaluate(() => globalThis.handed && globalThis.handedBytes && { name: globalThis.handed.download, bytes: globalThis.handedBytes }));
+}

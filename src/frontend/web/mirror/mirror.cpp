@@ -5,6 +5,7 @@
 
 #include "src/frontend/shared/box_captions.h"
 #include "src/frontend/shared/focus_order.h"
+#include "src/frontend/shared/spoken_names.h"
 #include "src/frontend/shared/spoken_text.h"
 #include "src/frontend/web/mirror/json.h"
 #include "src/frontend/web/mirror/values.h"
@@ -53,6 +54,12 @@ int StopOf(const FocusOrder& order, const Control* control) {
   return found == stops.end() ? -1 : static_cast<int>(found - stops.begin());
 }
 
+// What a canvas with words on it is called.
+std::string CalledOf(const std::string& name, const std::string& words, const Translator& texts) {
+  if (name.empty()) return words.empty() ? "Orvane" : words;
+  return words.empty() ? name : name + texts.Of("：") + words;
+}
+
 }  // namespace
 
 Mirror::Mirror(const Stage& stage, const Translator& texts) : stage_(stage), texts_(texts) {
@@ -97,17 +104,15 @@ std::string Mirror::Nature() const {
       const Screen& screen = *screens_[i].Model;
       const FocusOrder order(screen);
       std::string controls;
-      std::string stops;
       {
         Json each(controls, Json::Form::List);
-        Json places(stops, Json::Form::List);
         for (const Control* control : screen.Controls()) {
           const int number = NumberOf(control);
           if (number < 0) continue;
           std::string nature;
-          WriteNature(*control, number, NumberOf(control->Parent()), texts_, nature);
+          const Standing standing{number, NumberOf(control->Parent()), StopOf(order, control)};
+          WriteNature(*control, standing, nature);
           each.AddRaw(nature);
-          places.AddRaw(std::to_string(StopOf(order, control)));
         }
       }
       std::string entry;
@@ -119,7 +124,6 @@ std::string Mirror::Nature() const {
         json.Add("height", screen.Height);
         json.Add("isScene", screen.IsScene);
         json.AddRaw("controls", controls);
-        json.AddRaw("stops", stops);
       }
       list.AddRaw(entry);
     }
@@ -159,6 +163,13 @@ void Mirror::Forget(const Control& control) {
   if (number >= 0) controls_[static_cast<size_t>(number)].Values.clear();
 }
 
+// Whether a screen stands behind one that keeps the others from the player.
+bool Mirror::IsBlocked(const Screen& screen) const {
+  return std::any_of(screens_.begin(), screens_.end(), [&screen](const ShownScreen& other) {
+    return other.Model != &screen && other.Model->IsVisible() && other.Model->IsModal();
+  });
+}
+
 void Mirror::FollowScreens(std::string& out) {
   std::string list;
   {
@@ -173,6 +184,7 @@ void Mirror::FollowScreens(std::string& out) {
         json.Add("visible", screen.IsVisible());
         json.Add("active", stage_.Active() == &screen);
         json.Add("modal", screen.IsModal());
+        json.Add("blocked", IsBlocked(screen));
         json.Add("caption", texts_.Of(screen.Caption));
       }
       shown.Visible = screen.IsVisible();
@@ -272,7 +284,8 @@ void Mirror::FollowWords(std::string& out) {
   std::string list;
   {
     Json all(list, Json::Form::List);
-    const auto tell = [&all](const char* whose, int number, std::string words, std::string& told) {
+    const auto tell = [&all, this](const char* whose, int number, const std::string& name,
+                                   std::string words, std::string& told) {
       if (words == told) return;
       told = std::move(words);
       std::string entry;
@@ -280,6 +293,7 @@ void Mirror::FollowWords(std::string& out) {
         Json json(entry, Json::Form::Object);
         json.Add(whose, number);
         json.Add("text", told);
+        json.Add("called", CalledOf(name, told, texts_));
       }
       all.AddRaw(entry);
     };
@@ -287,13 +301,13 @@ void Mirror::FollowWords(std::string& out) {
       ShownControl& shown = controls_[i];
       if (!touched_[static_cast<size_t>(shown.Screen)]) continue;
       if (shown.Model->Kind() != ControlKind::Picture) continue;
-      tell("control", static_cast<int>(i),
+      tell("control", static_cast<int>(i), texts_.Of(SpokenName(*shown.Model)),
            SpokenText(static_cast<PictureBox&>(*shown.Model), texts_), shown.Words);
     }
     for (size_t i = 0; i < screens_.size(); ++i) {
       ShownScreen& shown = screens_[i];
       if (!touched_[i] || shown.Model->OwnSurface == nullptr) continue;
-      tell("screen", static_cast<int>(i), SpokenText(*shown.Model, texts_), shown.Words);
+      tell("screen", static_cast<int>(i), {}, SpokenText(*shown.Model, texts_), shown.Words);
     }
   }
   if (list != "[]") out = list;

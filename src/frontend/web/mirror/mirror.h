@@ -52,6 +52,7 @@ class Mirror {
     std::string Words{};
   };
 
+  bool IsBlocked(const Screen& screen) const;
   void FollowScreens(std::string& out);
   void FollowControls(std::string& out, std::string& pixels);
   void FollowBoxes(std::string& out);

@@ -1,5 +1,8 @@
 #include "src/frontend/web/mirror/values.h"
 
+#include <algorithm>
+#include <sstream>
+
 #include "src/frontend/shared/faces.h"
 #include "src/frontend/shared/spoken_names.h"
 #include "src/frontend/shared/spoken_text.h"
@@ -28,15 +31,62 @@ std::string TextList(const Control& control, const std::vector<std::string>& row
   return out;
 }
 
+const char* FaceName(const Font& face) {
+  return face.Name == kMincho ? "mincho" : "gothic";
+}
+
+// Declarations of a style, one after the other; lengths are in the game's pixels, for page.css.
+class Style {
+ public:
+  void Add(const char* name, const std::string& value) {
+    text_ += std::string(name) + ":" + value + ";";
+  }
+  void Add(const char* name, double value) {
+    std::ostringstream out;
+    out << value;
+    Add(name, out.str());
+  }
+  const std::string& Text() const { return text_; }
+
+ private:
+  std::string text_;
+};
+
+void AddLabel(const Label& label, Style& style) {
+  style.Add("--size", PixelSize(label.Face));
+  style.Add("color", HexColour(label.ForeColor));
+  style.Add("font-family", std::string("var(--") + FaceName(label.Face) + ")");
+  if (label.Face.Bold) style.Add("font-weight", "bold");
+  style.Add("text-align", kAlignments[static_cast<size_t>(label.Alignment)]);
+}
+
+// The letters of a low button are smaller.
+double ButtonSize(double height) {
+  constexpr double least = 6;
+  constexpr double most = 12;
+  return std::clamp(height - 2, least, most);
+}
+
+std::string StyleOf(const Control& control, int id) {
+  Style style;
+  style.Add("--left", control.At.Left);
+  style.Add("--top", control.At.Top);
+  style.Add("--width", control.At.Width);
+  style.Add("--height", control.At.Height);
+  style.Add("z-index", control.Kind() == ControlKind::Label ? 0 : id + 1);  // labels behind all
+  if (control.Kind() == ControlKind::Label) AddLabel(static_cast<const Label&>(control), style);
+  if (control.Kind() == ControlKind::Button) style.Add("--size", ButtonSize(control.At.Height));
+  if (control.Kind() == ControlKind::Picture) style.Add("--edge", control.Border());
+  return style.Text();
+}
+
 void WriteLabel(const Label& label, const Translator& texts, Json& json) {
   const std::string text = texts.Of(label, label.Caption);
   const int size = PixelSize(label.Face);
   json.Add("text", text);
-  json.Add("colour", HexColour(label.ForeColor));
-  json.Add("face", label.Face.Name == kMincho ? "mincho" : "gothic");
+  json.Add("face", FaceName(label.Face));
   json.Add("size", size);
   json.Add("bold", label.Face.Bold);
-  json.Add("align", kAlignments[static_cast<size_t>(label.Alignment)]);
   json.Add("oneLine", IsOneLine(text, label.At.Height, size));
 }
 
@@ -120,16 +170,19 @@ const char* KindName(ControlKind kind) {
   return "";
 }
 
-void WriteNature(const Control& control, int id, int parent, const Translator& texts,
-                 std::string& out) {
+void WriteNature(const Control& control, const Standing& standing, std::string& out) {
   Json json(out, Json::Form::Object);
-  json.Add("id", id);
+  json.Add("id", standing.Number);
   json.Add("kind", KindName(control.Kind()));
   json.Add("name", control.Name());
-  json.Add("parent", parent);
+  json.Add("parent", standing.Parent);
+  json.Add("stop", standing.Stop);
   json.Add("pane", control.Pane());
   json.Add("edge", control.Border());
-  json.Add("spoken", texts.Of(SpokenName(control)));
+  json.Add("spoken", SpokenName(control));
+  if (control.Kind() == ControlKind::Menu) {
+    json.Add("isLine", static_cast<const MenuItem&>(control).Caption == "-");
+  }
   if (control.Kind() == ControlKind::Picture) {
     json.Add("takesClicks", bool(static_cast<const PictureBox&>(control).OnClick));
   }
@@ -142,8 +195,7 @@ void WriteValues(const Control& control, int id, const Translator& texts, std::s
   if (!control.Visible) return;
   json.Add("enabled", control.Enabled);
   if (control.Kind() != ControlKind::Menu) {
-    json.Add("left", control.At.Left);
-    json.Add("top", control.At.Top);
+    json.Add("style", StyleOf(control, id));
     json.Add("width", control.At.Width);
     json.Add("height", control.At.Height);
   }

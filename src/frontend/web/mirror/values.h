@@ -11,10 +11,16 @@ namespace orvane {
 // The name that the page gives a kind of control, "label"; nothing for what is not seen.
 const char* KindName(ControlKind kind);
 
+// Where a control is among the others.
+struct Standing {
+  int Number = 0;
+  int Parent = -1;  // the number of what holds it, or -1
+  int Stop = -1;    // its place among those that the keyboard goes to, or -1
+};
+
 // Writes what never changes of a control: its kind, name and border, and what screen readers call
-// it. `id` is its number, `parent` that of what holds it, or -1.
-void WriteNature(const Control& control, int id, int parent, const Translator& texts,
-                 std::string& out);
+// it in the game's own language.
+void WriteNature(const Control& control, const Standing& standing, std::string& out);
 
 // Writes what may change, as it is now. Of a control that is not to be seen that is all.
 void WriteValues(const Control& control, int id, const Translator& texts, std::string& out);

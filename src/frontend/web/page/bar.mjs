@@ -1,93 +1,87 @@
 // What belongs to the page rather than to the game: its bar, notices, and pages at the end.
-import { claim, lasts, slots } from './saves.mjs';
-import { make, makeButton } from './controls.mjs';
-import { remember, remembered } from './memory.mjs';
+import { isTouched, make, makeButton } from './elements.mjs';
+import { claim, hand, kept, lasts, remember, remembered } from './saves.mjs';
 
 const notice = document.getElementById('notice');
 const full = document.getElementById('full');
 
-// What saves come and go by is not needed for the title.
-const slotsModule = () => import('./slots.mjs');
-const openSlots = async () => (await slotsModule()).openSlots(pauses);
-
 // Says something quietly, with what the player can do about it.
 export function tell(sentence, caption, act) {
   notice.replaceChildren(sentence);
-  if (caption) makeButton('', notice, caption, act);
+  makeButton('', notice, caption, act);
+}
+
+// A quiet page in place of the game.
+function showPage(title, sentence) {
+  const page = make('section', 'end', document.body, { role: 'region', 'aria-label': title });
+  make('h1', '', page).textContent = title;
+  make('p', '', page).textContent = sentence;
+  return page;
 }
 
 // One tab plays. Others say so, and begin when they may.
 export async function waitForTurn() {
-  const end = showPage('別のタブで遊んでいます', 'このゲームは、ひとつのタブだけで遊べます。もうひとつのタブを閉じると、ここで始まります。');
+  const sentence = 'ひとつのタブだけで遊べます。もうひとつのタブを閉じると、ここで始まります。';
+  const page = showPage('別のタブで遊んでいます', sentence);
   document.body.dataset.state = 'waiting';
   await claim({});
-  end.remove();
+  page.remove();
 }
 
-// Whether saves last is told once: that this window keeps nothing, or that the browser may forget.
-export function tellLasting() {
-  if (!lasts()) return tell('このウィンドウでは、セーブデータは閉じると消えます。', '書き出す', openSlots);
-  const forgets = /^((?!chrome|android|crios|fxios).)*safari/i.test(navigator.userAgent);
-  if (!forgets || remembered('told', '') === 'yes') return undefined;
-  remember('told', 'yes');
-  return tell('このブラウザは、しばらく開かないページのデータを消すことがあります。', '書き出す', openSlots);
-}
-
-// A quiet page in place of the game.
-function showPage(title, sentence, ...buttons) {
-  const page = make('section', 'end', document.body);
-  page.setAttribute('role', 'region');
-  page.setAttribute('aria-label', title);
-  make('h1', '', page).textContent = title;
-  make('p', '', page).textContent = sentence;
-  const row = make('div', 'choices', page);
-  for (const [caption, act] of buttons) makeButton('push', row, caption, act);
-  row.firstChild?.focus();
-  return page;
-}
-
-const anew = ['もう一度始める', () => location.reload()];
-const takeAlong = ['セーブデータを書き出す', async () => (await slotsModule()).saveAll(slots())];
-
-function clear(state) {
+// Takes the game away for a page that offers to start anew, and each of the saves.
+function showLast(state, title, sentence) {
   document.body.dataset.state = state;
+  document.title = 'Orvane';
   document.getElementById('desktop').replaceChildren();
   document.querySelectorAll('dialog').forEach((dialog) => dialog.remove());
   document.exitFullscreen?.call(document).catch(() => {});
+  const page = showPage(title, sentence);
+  const row = make('div', 'choices', page);
+  makeButton('push', row, 'もう一度始める', () => location.reload()).focus();
+  // One by one, since what packs them together may be what has failed.
+  for (const [name, bytes] of kept()) makeButton('push', row, `${name}を書き出す`, () => hand(name, bytes));
+  return page;
 }
 
 export function showEnd(status) {
-  clear('ended');
   document.body.dataset.status = status;
-  document.title = 'Orvane';
-  showPage('Orvane', status === 0 ? 'ゲームは終わりました。' : 'ゲームはエラーで終わりました。セーブデータはそのままです。', anew, takeAlong);
+  const sentence = status === 0 ? 'ゲームは終わりました。' : 'ゲームはエラーで終わりました。';
+  showLast('ended', 'Orvane', `${sentence}セーブデータはそのままです。`);
 }
 
 export function showCrash(error) {
   console.error(error);
-  clear('crashed');
-  const page = showPage('申しわけありません', 'ゲームが動かなくなりました。セーブしたデータは残っています。', anew, takeAlong);
+  const sentence = 'ゲームが動かなくなりました。セーブしたデータは残っています。';
+  const page = showLast('crashed', '申しわけありません', sentence);
   make('pre', '', page).textContent = `${error?.message ?? error}\n${error?.stack ?? ''}`;
 }
 
 // Keeps the screen awake while the game is played by touch.
-async function stayAwake() {
-  if (!matchMedia('(pointer: coarse)').matches || document.hidden) return;
-  await navigator.wakeLock?.request('screen').catch(() => null);
+function stayAwake() {
+  if (isTouched() && !document.hidden) navigator.wakeLock?.request('screen').catch(() => {});
 }
 
-let pauses = null;
-
 export function startBar(pauseFor) {
-  pauses = pauseFor;
+  // What saves come and go by is not needed for the title.
+  const openSlots = async () => (await import('./slots.mjs')).openSlots(pauseFor);
+  const warn = (sentence) => tell(sentence, '書き出す', openSlots);
+  document.getElementById('slots').addEventListener('click', openSlots);
   full.hidden = !document.fullscreenEnabled;
   full.addEventListener('click', () => {
     if (document.fullscreenElement) document.exitFullscreen();
     else document.documentElement.requestFullscreen({ navigationUI: 'hide' }).catch(() => {});
   });
-  document.getElementById('slots').addEventListener('click', openSlots);
   // A click leaves the keyboard with the game.
-  for (const button of document.querySelectorAll('#bar button')) button.addEventListener('pointerdown', (event) => event.preventDefault());
+  const leave = (event) => event.target.closest('button') && event.preventDefault();
+  document.getElementById('bar').addEventListener('pointerdown', leave);
   document.addEventListener('visibilitychange', stayAwake);
   addEventListener('pointerdown', stayAwake, { once: true });
+
+  // Whether saves last is told once: that this window keeps nothing, or that the browser may forget.
+  const forgets = /^((?!chrome|android|crios|fxios).)*safari/i.test(navigator.userAgent);
+  if (!lasts()) warn('このウィンドウでは、セーブデータは閉じると消えます。');
+  else if (forgets && remembered('told', '') === '') {
+    remember('told', 'yes');
+    warn('このブラウザは、しばらく開かないページのデータを消すことがあります。');
+  }
 }

@@ -1,8 +1,7 @@
 // What the start waits for, on its way while the page's other scripts still come.
 import { claim, open } from './saves.mjs';
 
-const asset = (name) => new URL(name, import.meta.url);
-const address = asset('./orvane-web.wasm');
+const address = new URL('./orvane-web.wasm', import.meta.url);
 
 // The compiled program. Hosts that do not name its kind make it come whole first.
 export const program = WebAssembly.compileStreaming(fetch(address)).catch(async () => {
@@ -16,7 +15,4 @@ export const turn = navigator.locks ? claim({ ifAvailable: true }) : Promise.res
 export const stored = open();
 
 // What sounds there are; without them the game is silent.
-export const table = fetch(asset('./sounds.json')).then(
-  (answer) => (answer.ok ? answer.json() : {}),
-  () => ({}),
-);
+export const table = fetch(new URL('./sounds.json', import.meta.url)).then((answer) => answer.json()).catch(() => ({}));

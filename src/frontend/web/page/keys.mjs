@@ -1,77 +1,70 @@
-// The keyboard, game pads, and the cross for thumbs.
+// The keyboard, game pads, and fingers.
 import { ask, send } from './game.mjs';
-import { activeScreen, focused, moveFocus, standingBox } from './windows.mjs';
+import { frontBox } from './boxes.mjs';
+import { isTouched } from './elements.mjs';
 import { closeMenu, isMenuOpen, menuBarHasKeys, menuKey, openMenus } from './menus.mjs';
+import { focused, moveFocus } from './windows.mjs';
 
 const arrows = ['ArrowLeft', 'ArrowUp', 'ArrowRight', 'ArrowDown']; // as the game counts directions
-const firstArrowCode = 37;
-const acting = new Set(['Enter', ' ', 'Escape', 'F10']);
+
+const firstArrowCode = 37; // the others follow
 const cross = document.getElementById('cross');
 
 const inPage = () => Boolean(document.activeElement?.closest('#bar, dialog.page'));
+const hasKeys = () => document.hasFocus() && !document.hidden;
 
 // Tells the game where the keyboard is.
-export function tellKeys() {
-  ask('SetKeyFacts', document.hasFocus() && !document.hidden ? 1 : 0, isMenuOpen() || inPage() ? 1 : 0, menuBarHasKeys() ? 1 : 0);
-}
+export const tellKeys = () => ask('SetKeyFacts', hasKeys(), isMenuOpen() || inPage(), menuBarHasKeys());
 
-// The window that a key comes to.
-function where() {
-  const box = standingBox();
-  if (box) return 1000 + Number(box.querySelector('p').id.slice(1));
-  return isMenuOpen() ? 500 : (activeScreen()?.id ?? 0);
-}
-
+// Whether the game has taken the key, so that it does nothing more.
 function take(event, isPress) {
   tellKeys();
-  const code = event.isComposing || event.keyCode === 229 ? 0 : event.keyCode & 255;
-  const types = document.activeElement?.matches('input[type=text]');
-  return ask('TakeKey', code, isPress ? 1 : 0, event.repeat ? 1 : 0, where(), arrows.indexOf(event.key), acting.has(event.key) ? 1 : 0, types ? 1 : 0) === 1;
+  const isComposed = event.isComposing || event.keyCode === 229;
+  const types = Boolean(document.activeElement?.matches('input[type=text]'));
+  return ask('TakeKey', isComposed ? 0 : event.keyCode & 255, isPress, event.repeat, types) === 1;
 }
 
 function onKeyDown(event) {
   if (document.querySelector('dialog.page[open]')) return;
-  if (event.key === 'F11' && !event.repeat) {
-    event.preventDefault();
-    document.getElementById('full').click();
-    return;
-  }
   if (event.ctrlKey || event.metaKey || event.altKey) return;
   if (take(event, true) || act(event)) event.preventDefault();
 }
 
 // What a key does where it is pressed; whether that was all.
 function act(event) {
-  const screen = activeScreen();
   const direction = arrows.indexOf(event.key);
-  const box = standingBox();
+  const box = frontBox();
   if (box) return boxKey(box, direction, event);
-  if (!screen || inPage()) return false;
-  if (menuKey(screen, event)) return true;
+  if (inPage()) return false;
+  if (menuKey(event)) return true;
   if (event.isComposing) return false;
   const control = focused();
   if (control?.onKey?.(event)) return true;
-  if (event.key === 'F10') openMenus(screen);
-  else if (event.key === 'Escape') send('GoBack', screen.id);
-  else if (event.key === 'Enter' && control?.kind === 'field') send('Confirm', screen.id);
-  else if (direction >= 0 && control) {
-    const sideways = direction % 2 === 0;
-    const keeps = control.kind === 'slider' || (control.kind === 'field' && sideways);
-    if (keeps && event.isTrusted) return false;
-    if (control.kind === 'slider' && sideways) {
-      control.element[direction ? 'stepUp' : 'stepDown']();
-      send('Slide', control.id, control.element.valueAsNumber);
-    } else moveFocus(control, direction);
-  } else return direction >= 0;
+  if (event.key === 'F10') openMenus();
+  else if (event.key === 'Escape') send('GoBack');
+  else if (event.key === 'Enter' && control?.kind === 'field') send('Confirm');
+  else if (direction >= 0 && control) return arrowKey(control, direction, event);
+  else return direction >= 0;
+  return true;
+}
+
+// An arrow on a control. Fields and sliders know some of them by themselves, but not those of a pad.
+function arrowKey(control, direction, event) {
+  const sideways = direction % 2 === 0;
+  const isSlider = control.kind === 'slider';
+  if (event.isTrusted && (isSlider || (control.kind === 'field' && sideways))) return false;
+  if (isSlider && sideways) {
+    control.element[direction ? 'stepUp' : 'stepDown']();
+    send('Slide', control.id, control.element.valueAsNumber);
+  } else moveFocus(control, direction);
   return true;
 }
 
 function boxKey(box, direction, event) {
   const buttons = [...box.querySelectorAll('.choices button')];
   if (direction >= 0) {
-    const step = direction < 2 ? -1 : 1;
-    const at = buttons.indexOf(document.activeElement);
-    buttons[Math.max(0, Math.min(buttons.length - 1, at + step))].focus();
+    const at = buttons.indexOf(document.activeElement) + (direction < 2 ? -1 : 1);
+    buttons[Math.max(0, Math.min(buttons.length - 1, at))].focus();
     return true;
   }
   if (event.isTrusted) return false; // the browser presses buttons by itself
@@ -81,50 +74,42 @@ function boxKey(box, direction, event) {
 
 // ---- pads
 
-const padButtons = [14, 12, 15, 13, 0, 1, 9, 4, 5]; // of a standard pad, in the game's order: left comes first
 let padFrame = 0;
 
 function readPads() {
   padFrame = 0;
-  const pad = [...navigator.getGamepads()].find((each) => each?.connected && each.mapping === 'standard');
-  if (!pad) return;
-  const ours = document.hasFocus() && !document.hidden && !inPage();
-  let bits = 0;
-  padButtons.forEach((button, i) => {
-    if (ours && pad.buttons[button]?.pressed) bits |= 1 << i;
-  });
+  const found = [...navigator.getGamepads()].find((each) => each?.connected && each.mapping === 'standard');
+  if (!found) return;
+  const ours = hasKeys() && !inPage();
+  const bits = found.buttons.reduce((sum, { pressed }, i) => sum | (ours && pressed ? 1 << i : 0), 0);
   tellKeys();
-  ask('TakePad', bits, ours ? pad.axes[0] : 0, ours ? pad.axes[1] : 0);
+  ask('TakePad', bits, ours ? found.axes[0] : 0, ours ? found.axes[1] : 0);
   padFrame = requestAnimationFrame(readPads);
 }
 
-// Carries out what a pad does elsewhere than on the field.
+// Carries out what a pad does elsewhere than on the field: as PagePad counts.
 export function pad(what, how) {
   const press = (key) => act(new KeyboardEvent('keydown', { key }));
-  const later = [
-    () => press(arrows[how]),
-    () => (focused()?.kind === 'list' || isMenuOpen() ? press('Enter') : document.activeElement?.click()),
-    () => press('Escape'),
-    () => openMenus(activeScreen()),
-    () => {
-      if (ask('TurnTab', activeScreen()?.id ?? -1, how) === 1) send('FollowKeys');
-      else moveFocus(focused() ?? { id: -1 }, how > 0 ? 3 : 1);
-    },
-  ][what];
-  setTimeout(later); // the game is still reading the pad
+  const turn = () => {
+    if (ask('TurnTab', how) === 1) send('FollowKeys');
+    else moveFocus(focused() ?? { id: -1 }, how > 0 ? 3 : 1);
+  };
+  const accept = () => (focused()?.kind === 'list' || isMenuOpen() ? press('Enter') : document.activeElement?.click());
+  const deeds = [() => press(arrows[how]), accept, () => press('Escape'), openMenus, turn];
+  setTimeout(deeds[what]); // the game is still reading the pad
 }
 
-// ---- thumbs
+// ---- the cross for thumbs
 
 let walking = -1;
 
 function walk(direction) {
   if (direction === walking) return;
   tellKeys();
-  const press = (which, isPress) => ask('TakeKey', firstArrowCode + which, isPress, 0, where(), which, 0, 0);
-  if (walking >= 0) press(walking, 0);
+  const press = (isPress) => walking >= 0 && ask('TakeKey', firstArrowCode + walking, isPress, false, false);
+  press(false);
   walking = direction;
-  if (walking >= 0) press(walking, 1);
+  press(true);
   [...cross.children].forEach((arm, i) => arm.classList.toggle('on', i === walking));
 }
 
@@ -133,17 +118,29 @@ function slide(event) {
   const x = event.clientX - box.left - box.width / 2;
   const y = event.clientY - box.top - box.height / 2;
   if (Math.hypot(x, y) < box.width / 10) return;
-  walk(Math.abs(x) > Math.abs(y) ? (x < 0 ? 0 : 2) : y < 0 ? 1 : 3);
+  if (Math.abs(x) > Math.abs(y)) walk(x < 0 ? 0 : 2);
+  else walk(y < 0 ? 1 : 3);
+}
+
+// A finger that has missed a small button by little has meant it: what lies around it is looked at, ever further.
+const missedBy = [7, 14, 20]; // in the page's pixels
+const around = [[-1, 0], [1, 0], [0, -1], [0, 1], [-0.7, -0.7], [0.7, -0.7], [-0.7, 0.7], [0.7, 0.7]];
+const places = missedBy.flatMap((far) => around.map(([x, y]) => [x * far, y * far]));
+
+function reachButton(event) {
+  if (event.pointerType !== 'touch' || event.target.closest('button, input, .list, .takes')) return;
+  const buttonAt = ([x, y]) =>
+    document.elementFromPoint(event.clientX + x, event.clientY + y)?.closest('.window.active button:enabled');
+  places.map(buttonAt).find(Boolean)?.click();
 }
 
 export function start() {
   addEventListener('keydown', onKeyDown);
   addEventListener('keyup', (event) => take(event, false));
-  addEventListener('blur', tellKeys);
-  addEventListener('focus', tellKeys);
+  for (const turn of ['blur', 'focus']) addEventListener(turn, tellKeys);
   addEventListener('gamepadconnected', () => (padFrame ||= requestAnimationFrame(readPads)));
-  cross.hidden = !matchMedia('(pointer: coarse)').matches;
-  document.body.classList.toggle('thumbs', !cross.hidden);
+  cross.hidden = !isTouched();
+  document.body.classList.toggle('thumbs', isTouched());
   cross.addEventListener('pointerdown', (event) => {
     event.preventDefault();
     cross.setPointerCapture(event.pointerId);
@@ -152,5 +149,6 @@ export function start() {
   });
   cross.addEventListener('pointermove', (event) => cross.hasPointerCapture(event.pointerId) && slide(event));
   for (const end of ['pointerup', 'pointercancel', 'lostpointercapture']) cross.addEventListener(end, () => walk(-1));
+  document.getElementById('desktop').addEventListener('click', reachButton);
   addEventListener('contextmenu', (event) => event.target.closest('#desktop, #cross') && event.preventDefault());
 }

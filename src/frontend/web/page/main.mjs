@@ -3,51 +3,51 @@ import * as game from './game.mjs';
 import * as keys from './keys.mjs';
 import * as saves from './saves.mjs';
 import * as sound from './sound.mjs';
-import { showCrash, showEnd, startBar, tellLasting, waitForTurn } from './bar.mjs';
+import { showCrash, showEnd, startBar, waitForTurn } from './bar.mjs';
 import { countLines } from './controls.mjs';
 import { program, stored, table, turn } from './early.mjs';
-import { apply, describe, replaceAll } from './windows.mjs';
+import { apply, describe, refit } from './windows.mjs';
+import { startWords } from './words.mjs';
 
 const wishes = new URLSearchParams(location.search);
 
 // A page that is not seen stands still, and what sounds with it.
 function pauseFor(reason, on) {
-  if (game.pause(reason, on)) sound.pauseSound(game.isPaused());
+  sound.pauseSound(game.pause(reason, on));
   keys.tellKeys();
 }
 
 async function start() {
   const page = {
-    keep: (number, name, bytes) => saves.keep(name, bytes).then((failure) => game.kept(number, failure)),
-    loadSound: sound.loadSound,
-    dropSound: sound.dropSound,
-    startSound: sound.startSound,
+    keep: async (number, name, bytes) => game.send('Kept', number, await saves.keep([[name, bytes]])),
+    ...sound,
     pad: keys.pad,
     countLines,
   };
-  const [mine, early, sounds] = await Promise.all([
-    turn,
-    stored,
-    table,
-    game.load(program, page),
-    document.fonts.load('12px "Orvane Gothic"').catch(() => []),
-  ]);
+  const [mine, sounds] = await Promise.all([turn, table, game.load(program, page)]);
+  startWords(wishes.get('language'));
   if (!mine) await waitForTurn();
-  const files = mine ? early : await saves.open(); // another tab may have saved meanwhile
-  describe(game.begin({ files, lengths: sound.know(sounds), seed: Number(wishes.get('seed') ?? -1), speed: wishes.get('speed') ?? '1' }, { apply, ended: showEnd, failed: showCrash }));
+  const lengths = sound.know(sounds);
+  const seed = Number(wishes.get('seed') ?? -1);
+  const speed = wishes.get('speed') ?? '1';
+  describe(game.begin({ lengths, seed, speed }, { apply, ended: showEnd, failed: showCrash }));
+  game.pause('files', true);
+  game.follow();
+  performance.mark('title');
+  // Nothing is done at the title before the files are there. Another tab may have saved meanwhile.
+  const files = mine ? await stored : await saves.open();
+  for (const [name, bytes] of files) game.ask('PutFile', name, bytes, bytes.length);
   sound.start();
   keys.start();
   startBar(pauseFor);
+  document.getElementById('desktop').inert = false;
   document.body.dataset.state = 'running';
   game.pause('hidden', document.hidden);
+  game.pause('files', false);
   document.addEventListener('visibilitychange', () => pauseFor('hidden', document.hidden));
   game.follow();
-  addEventListener('resize', replaceAll);
-  document.addEventListener('fullscreenchange', replaceAll);
-  // Texts are set anew when the last letters have come.
-  document.fonts.addEventListener('loadingdone', replaceAll);
-  performance.mark('title');
-  tellLasting();
+  addEventListener('resize', refit);
+  document.fonts.addEventListener('loadingdone', refit);
   import('./slots.mjs'); // so that it is there
   import('./offline.mjs').then(({ startOffline }) => startOffline());
 }

@@ -1,72 +1,58 @@
 // The menu bar of a screen and the menus that hang from it.
 import { send } from './game.mjs';
-import { make, makeButton } from './controls.mjs';
+import { make, makeButton } from './elements.mjs';
 
 let bar = null; // the one menu bar
+let tops = []; // its menus
 let open = null; // the menu that is open
 
 export const isMenuOpen = () => open !== null;
 export const menuBarHasKeys = () => Boolean(bar?.contains(document.activeElement));
 
-export function makeMenus(screen, menus, parent) {
-  const element = make('div', 'menu-bar', parent);
-  bar = element;
-  element.setAttribute('role', 'menubar');
-  element.setAttribute('aria-label', 'メニュー');
+export function makeMenus(menus, parent) {
+  bar = make('div', 'menu-bar', parent, { role: 'menubar', 'aria-label': 'メニュー' });
   for (const menu of menus) {
-    if (menu.parent < 0) makeTop(menu, element);
-    else makeItem(menu, screen.controls.get(menu.parent));
+    if (menu.parent < 0) makeTop(menu);
+    else makeItem(menu);
   }
-  element.addEventListener('focusout', (event) => {
-    if (!element.contains(event.relatedTarget)) closeMenu();
-  });
+  tops = menus.filter((menu) => menu.list);
+  bar.addEventListener('focusout', (event) => bar.contains(event.relatedTarget) || closeMenu());
 }
 
-function makeTop(menu, element) {
-  menu.holder = make('div', 'menu', element);
-  menu.holder.setAttribute('role', 'none');
-  menu.element = makeButton('menu-top', menu.holder, '', () => (open === menu ? closeMenu() : openMenu(menu)));
-  menu.element.tabIndex = -1;
-  menu.element.setAttribute('role', 'menuitem');
-  menu.element.setAttribute('aria-haspopup', 'menu');
-  menu.element.setAttribute('aria-expanded', 'false');
-  menu.list = make('div', 'menu-list', menu.holder);
-  menu.list.setAttribute('role', 'menu');
-  menu.list.hidden = true;
-  menu.items = [];
-  menu.element.dataset.name = menu.name;
+const item = ({ name }) => ({ role: 'menuitem', tabindex: -1, 'data-name': name });
+
+function makeTop(menu) {
+  const holder = make('div', 'menu', bar, { role: 'none' });
+  const turn = () => (open === menu ? closeMenu() : openMenu(menu));
+  const hangs = { 'aria-haspopup': 'menu', 'aria-expanded': false };
+  menu.element = makeButton('menu-top', holder, '', turn, { ...item(menu), ...hangs });
+  menu.list = make('div', 'menu-list', holder, { role: 'menu', hidden: '' });
   menu.element.addEventListener('pointerenter', (event) => {
     if (open && open !== menu && event.pointerType === 'mouse' && !menu.element.disabled) openMenu(menu);
   });
 }
 
-function makeItem(item, menu) {
-  item.element = makeButton('menu-item', menu.list, '', () => {
-    closeMenu();
-    document.activeElement?.blur();
-    send('ClickItem', item.id);
-  });
-  item.element.tabIndex = -1;
-  item.element.setAttribute('role', 'menuitem');
-  item.element.dataset.name = item.name;
-  item.element.addEventListener('pointerenter', (event) => {
-    if (event.pointerType === 'mouse') item.element.focus();
-  });
-  menu.items.push(item);
+function makeItem(control) {
+  const { list } = control.owner;
+  if (control.isLine) {
+    make('hr', '', list);
+    return;
+  }
+  const act = () => {
+    leaveMenu();
+    send('ClickItem', control.id);
+  };
+  control.element = makeButton('menu-item', list, '', act, item(control));
+  const follow = ({ pointerType }) => pointerType === 'mouse' && control.element.focus();
+  control.element.addEventListener('pointerenter', follow);
 }
 
-export function setMenuItem(item, values) {
-  if (values.text === '-' && item.element?.tagName === 'BUTTON') {
-    const line = make('hr', '');
-    line.setAttribute('role', 'separator');
-    item.element.replaceWith(line);
-    item.element = line;
-  }
-  if (!item.element) return;
-  item.element.hidden = !values.visible;
-  if (item.element.tagName === 'HR' || !values.visible) return;
-  item.element.textContent = values.text;
-  item.element.disabled = !values.enabled;
+export function setMenuItem({ element }, { text, visible, enabled }) {
+  if (!element) return;
+  element.hidden = !visible;
+  if (!visible) return;
+  element.textContent = text;
+  element.disabled = !enabled;
 }
 
 // The menu's own click runs when it opens.
@@ -76,70 +62,55 @@ function openMenu(menu) {
   if (menu.element.disabled) return;
   open = menu;
   menu.list.hidden = false;
-  menu.element.setAttribute('aria-expanded', 'true');
+  menu.element.setAttribute('aria-expanded', true);
   usable(menu)[0]?.focus();
 }
 
 export function closeMenu() {
   if (!open) return;
   open.list.hidden = true;
-  open.element.setAttribute('aria-expanded', 'false');
+  open.element.setAttribute('aria-expanded', false);
   open = null;
 }
 
-const usable = (menu) => menu.items.map((item) => item.element).filter((element) => element.tagName === 'BUTTON' && !element.disabled && !element.hidden);
-const tops = (screen) => [...screen.controls.values()].filter((menu) => menu.kind === 'menu' && menu.parent < 0 && menu.element && !menu.element.disabled && !menu.element.hidden);
+function leaveMenu() {
+  closeMenu();
+  document.activeElement?.blur();
+}
+
+const usable = (menu) => [...menu.list.querySelectorAll('[role=menuitem]:enabled:not([hidden])')];
+const usableTops = () => tops.filter(({ element }) => !element.disabled && !element.hidden);
 
 // Opens the first menu that can be used.
-export function openMenus(screen) {
-  const first = screen && tops(screen)[0];
-  if (first) openMenu(first);
+export function openMenus() {
+  if (bar?.closest('.active') && usableTops().length) openMenu(usableTops()[0]);
 }
 
 // A key that comes to the menus. Whether it was one of theirs.
-export function menuKey(screen, event) {
+export function menuKey(event) {
   if (!open) return false;
   const items = usable(open);
   const at = items.indexOf(document.activeElement);
-  const all = tops(screen);
-  const beside = (step) => all[(all.indexOf(open) + step + all.length) % all.length];
-  switch (event.key) {
-    case 'ArrowDown':
-      items[(at + 1) % items.length]?.focus();
-      return true;
-    case 'ArrowUp':
-      items[(at - 1 + items.length) % items.length]?.focus();
-      return true;
-    case 'Home':
-      items[0]?.focus();
-      return true;
-    case 'End':
-      items.at(-1)?.focus();
-      return true;
-    case 'ArrowLeft':
-      openMenu(beside(-1));
-      return true;
-    case 'ArrowRight':
-      openMenu(beside(1));
-      return true;
-    case 'Escape':
-    case 'Tab':
-      closeMenu();
-      document.activeElement?.blur();
-      return true;
-    case 'Enter':
-    case ' ':
-      if (!event.repeat) document.activeElement?.click();
-      return true;
-    default: {
-      if (event.key.length !== 1) return false;
-      const next = [...items.slice(at + 1), ...items].find((item) => item.textContent.startsWith(event.key));
-      next?.focus();
-      return true;
-    }
-  }
+  const beside = (all, i) => all[(i + all.length) % all.length];
+  const turn = (step) => openMenu(beside(usableTops(), usableTops().indexOf(open) + step));
+  const press = () => event.repeat || document.activeElement?.click();
+  const keys = {
+    ArrowDown: () => beside(items, at + 1)?.focus(),
+    ArrowUp: () => beside(items, at - 1)?.focus(),
+    Home: () => items[0]?.focus(),
+    End: () => items.at(-1)?.focus(),
+    ArrowLeft: () => turn(-1),
+    ArrowRight: () => turn(1),
+    Escape: leaveMenu,
+    Tab: leaveMenu,
+    Enter: press,
+    ' ': press,
+  };
+  if (!keys[event.key] && event.key.length !== 1) return false;
+  const begins = (item) => item.textContent.startsWith(event.key);
+  const follow = () => [...items.slice(at + 1), ...items].find(begins)?.focus();
+  (keys[event.key] ?? follow)();
+  return true;
 }
 
-addEventListener('pointerdown', (event) => {
-  if (open && !bar.contains(event.target)) closeMenu();
-}, true);
+addEventListener('pointerdown', (event) => open && !bar.contains(event.target) && closeMenu(), true);

@@ -1,36 +1,33 @@
 // The page without a network, and its next version.
 import { tell } from './bar.mjs';
+import { make } from './elements.mjs';
 import { otherForm } from './sound.mjs';
+
+const workers = navigator.serviceWorker;
 
 // A new version has come whole; it begins when the player says so, or when no tab is open any more.
 function offer(worker) {
-  const begin = () => {
-    navigator.serviceWorker.addEventListener('controllerchange', () => location.reload(), { once: true });
+  tell('新しい版があります。セーブしてから読み込みなおしてください。', '読み込みなおす', () => {
+    workers.addEventListener('controllerchange', () => location.reload(), { once: true });
     worker.postMessage('begin');
-  };
-  tell('新しい版があります。セーブしてから読み込みなおしてください。', '読み込みなおす', begin);
+  });
 }
 
-// What installing wants, with its large icons, is read when the game stands.
-function offerInstalling() {
-  const link = document.createElement('link');
-  Object.assign(link, { rel: 'manifest', href: 'manifest.webmanifest' });
-  document.head.append(link);
+function watch(worker) {
+  const look = () => {
+    if (worker.state === 'installed' && workers.controller) offer(worker);
+    if (worker.state === 'activated') document.body.dataset.offline = 'yes';
+  };
+  worker?.addEventListener('statechange', look);
+  if (worker) look();
 }
 
 export async function startOffline() {
-  offerInstalling();
-  const workers = navigator.serviceWorker;
-  const registration = await workers?.register(`./sw.js?without=${otherForm}`, { updateViaCache: 'none' }).catch(() => null);
+  // What installing wants, with its large icons, is read when the game stands.
+  make('link', '', document.head, { rel: 'manifest', href: 'manifest.webmanifest' });
+  const address = `./sw.js?without=${otherForm}`;
+  const registration = await workers?.register(address, { updateViaCache: 'none' }).catch(() => null);
   if (!registration) return;
-  const watch = (worker) => {
-    worker?.addEventListener('statechange', () => {
-      if (worker.state === 'installed' && workers.controller) offer(worker);
-      if (worker.state === 'activated') document.body.dataset.offline = 'yes';
-    });
-  };
-  if (registration.waiting && workers.controller) offer(registration.waiting);
-  if (registration.active) document.body.dataset.offline = 'yes';
-  watch(registration.installing);
+  for (const worker of [registration.waiting, registration.active, registration.installing]) watch(worker);
   registration.addEventListener('updatefound', () => watch(registration.installing));
 }

@@ -1,4 +1,4 @@
-// The player's files in the browser's database, one record each.
+// What the browser keeps: the player's files in its database, one record each, and small wishes.
 const place = new URL('.', location.href).pathname; // each copy of the game on a host keeps its own
 const store = 'files';
 let database = null;
@@ -28,7 +28,7 @@ export async function open() {
 }
 
 export const lasts = () => database !== null;
-export const slots = () => files;
+export const kept = () => files;
 
 // Replaces files, all of them or none. Done when they last.
 export async function replace(changes) {
@@ -41,16 +41,28 @@ export async function replace(changes) {
     });
   }
   for (const [name, bytes] of changes) files.set(name, bytes);
-  if (!asked) navigator.storage?.persist?.();
-  asked = true;
+  asked ||= Boolean(navigator.storage?.persist?.() ?? true);
 }
 
-// Keeps a file. Returns why it could not be, or nothing.
-export const keep = (name, bytes) =>
-  replace([[name, bytes]]).then(
-    () => '',
-    (error) => (error?.name === 'QuotaExceededError' ? '保存する場所がありません' : String(error?.message ?? error)),
-  );
+// The same; tells why it could not be, or nothing.
+export async function keep(changes) {
+  try {
+    await replace(changes);
+    return '';
+  } catch (error) {
+    if (error?.name === 'QuotaExceededError') return '保存する場所がありません';
+    return String(error?.message ?? error);
+  }
+}
+
+// Hands a file to the player.
+export function hand(name, bytes) {
+  const link = document.createElement('a');
+  link.href = URL.createObjectURL(new Blob([bytes]));
+  link.download = name;
+  link.click();
+  setTimeout(() => URL.revokeObjectURL(link.href), 60000);
+}
 
 // Claims the files for this tab, for as long as it is open. Whether it has got them.
 export const claim = (wishes) =>
@@ -60,3 +72,15 @@ export const claim = (wishes) =>
       return lock ? new Promise(() => {}) : undefined;
     });
   });
+
+// ---- wishes
+
+let wishes = null;
+try {
+  wishes = localStorage;
+} catch {
+  // not in this window
+}
+
+export const remembered = (name, otherwise) => wishes?.getItem(`orvane-${name}`) ?? otherwise;
+export const remember = (name, value) => wishes?.setItem(`orvane-${name}`, value);

@@ -1,35 +1,10 @@
 // Saves on their way out of the page and into it.
-import { checkSave, fileOf, follow, listSaves, putFile } from './game.mjs';
-import { make, makeButton } from './controls.mjs';
-import { makeDialog } from './windows.mjs';
-import { replace } from './saves.mjs';
-import { readZip, writeZip } from './zip.mjs';
+import { ask, askBytes, askTable, follow } from './game.mjs';
+import { makeDialog } from './boxes.mjs';
+import { make, makeButton } from './elements.mjs';
+import { hand, keep } from './saves.mjs';
 
-function hand(name, bytes) {
-  const link = make('a', '');
-  link.href = URL.createObjectURL(new Blob([bytes]));
-  link.download = name;
-  link.click();
-  setTimeout(() => URL.revokeObjectURL(link.href), 60000);
-}
-
-// All slots as one archive; given as pairs of a name and bytes.
-export const saveAll = (files) => hand('orvane-saves.zip', writeZip([...files].filter(([name]) => name.endsWith('.sav'))));
-
-// What a player has brought, as pairs of a name and bytes, or the sentence that says why it cannot be taken.
-async function read(file) {
-  const bytes = new Uint8Array(await file.arrayBuffer());
-  const isArchive = bytes[0] === 0x50 && bytes[1] === 0x4b;
-  const entries = isArchive ? await readZip(bytes) : [[file.name, bytes]];
-  if (!entries) return `${file.name}：ファイルが壊れています。`;
-  const saves = entries.map(([name, content]) => [name.split('/').at(-1), content]).filter(([name]) => !isArchive || /\.sav$/i.test(name));
-  if (!saves.length) return `${file.name}：セーブデータが入っていません。`;
-  for (const [name, content] of saves) {
-    const problem = checkSave(content);
-    if (problem) return `${name}：${problem}`;
-  }
-  return saves;
-}
+const mostBytes = 1 << 20; // of a file that is read; no saves take more
 
 // The dialog of all slots, for which the game stands still.
 export function openSlots(pauseFor) {
@@ -39,67 +14,46 @@ export function openSlots(pauseFor) {
     pauseFor('slots', false);
     follow();
   };
-  const dialog = makeDialog('page', 'セーブデータ', close);
-  dialog.dataset.name = 'Slots';
-  make('p', '', dialog).textContent = 'ファイルに書き出したデータは、ほかのブラウザやパソコンのOrvaneでも読み込めます。';
-  const list = make('ul', 'slots', dialog);
-  const message = make('p', 'message', dialog);
-  message.setAttribute('role', 'alert');
-  const picker = make('input', 'unseen', dialog);
-  Object.assign(picker, { type: 'file', tabIndex: -1 });
-  picker.setAttribute('aria-label', '読み込むファイル');
-  let wanted = null; // the slot that the file goes to, or null where its own name says
+  const dialog = makeDialog('page', 'Slots', 'セーブデータ', close);
+  dialog.append(document.getElementById('saves').content.cloneNode(true));
+  const [list, message, picker] = ['ul', '.message', 'input'].map((path) => dialog.querySelector(path));
+  const [all, many, last] = dialog.querySelectorAll('.choices button');
+  let slot = ''; // that the file goes to; where it is empty, names tell
 
   const show = () => {
     list.replaceChildren();
-    for (const { name, summary } of listSaves()) {
-      const row = make('li', '', list);
-      row.dataset.name = name;
+    for (const { name, summary } of askTable('ListSaves')) {
+      const row = make('li', '', list, { 'data-name': name });
       make('b', '', row).textContent = name.replace(/\.sav$/i, '');
       make('span', '', row).textContent = summary;
-      makeButton('push', row, '書き出す', () => hand(name, fileOf(name)), `${name}を書き出す`);
-      makeButton('push', row, '読み込む', () => pick(name), `${name}に読み込む`);
+      const write = () => hand(name, askBytes('FileOf', name));
+      makeButton('push', row, '書き出す', write, { 'aria-label': `${name}を書き出す` });
+      makeButton('push', row, '読み込む', () => pick(name), { 'aria-label': `${name}に読み込む` });
     }
   };
   const pick = (name) => {
-    wanted = name;
+    slot = name;
     picker.value = '';
     picker.accept = name ? '.sav' : '.zip,.sav';
     picker.click();
   };
-  const take = async (saves) => {
-    try {
-      await replace(saves);
-      for (const [name, bytes] of saves) putFile(name, bytes);
-      message.textContent = '読み込みました。';
-    } catch (error) {
-      message.textContent = `保存できません：${error.message}`;
-    }
+  const take = async (names) => {
+    const failure = await keep(names.map((name, i) => [name, askBytes('BroughtSave', i)]));
+    if (!failure) ask('TakeBrought');
+    message.textContent = failure ? `保存できません：${failure}` : '読み込みました。';
     show();
   };
   picker.addEventListener('change', async () => {
-    const saves = await read(picker.files[0]);
-    message.textContent = '';
-    if (typeof saves === 'string') {
-      message.textContent = saves;
-      return;
-    }
-    if (wanted && saves.length > 1) {
-      message.textContent = 'ひとつのセーブデータを選んでください。';
-      return;
-    }
-    const targets = wanted ? [[wanted, saves[0][1]]] : saves;
-    message.textContent = `${targets.map(([name]) => name).join('、')} を置きかえますか？`;
-    makeButton('push', message, '置きかえる', () => take(targets)).focus();
+    const [file] = picker.files;
+    const bytes = new Uint8Array(await file.slice(0, mostBytes).arrayBuffer());
+    const { problem, names } = askTable('Bring', file.name, bytes, bytes.length, slot);
+    message.textContent = problem || `${names.join('、')} を置きかえますか？`;
+    if (!problem) makeButton('push', message, '置きかえる', () => take(names)).focus();
   });
-  const choices = make('div', 'choices', dialog);
-  makeButton('push', choices, 'すべて書き出す', () => saveAll(listSaves().map(({ name }) => [name, fileOf(name)])));
-  makeButton('push', choices, 'まとめて読み込む', () => pick(null));
-  const last = makeButton('push', choices, '閉じる', close);
+  all.onclick = () => hand('orvane-saves.zip', askBytes('ArchiveOfSaves'));
+  many.onclick = () => pick('');
+  last.onclick = close;
   show();
   pauseFor('slots', true);
   dialog.showModal();
-  last.focus();
-  dialog.style.left = `${(innerWidth - dialog.offsetWidth) / 2}px`;
-  dialog.style.top = `${(innerHeight - dialog.offsetHeight) / 2}px`;
 }

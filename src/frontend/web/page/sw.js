@@ -12,9 +12,8 @@ const hasHash = (url) => /-[0-9a-f]{10}\.\w+$/.test(url);
 async function take(cache, file) {
   const url = new URL(file, scope).href;
   const known = hasHash(url) && (await caches.match(url));
-  const answer = known || (await fetch(url, { cache: hasHash(url) ? 'default' : 'reload' }));
-  if (!answer.ok) throw new Error(`${file}: ${answer.status}`);
-  await cache.put(url, answer);
+  if (known) await cache.put(url, known);
+  else await cache.add(new Request(url, { cache: hasHash(url) ? 'default' : 'reload' }));
 }
 
 async function keepAll() {
@@ -33,9 +32,9 @@ async function forgetOthers() {
 }
 
 async function answer(request) {
-  const isPage = request.mode === 'navigate';
+  const url = request.mode === 'navigate' ? new URL('index.html', scope).href : request.url;
   const cache = await caches.open(own);
-  return (await cache.match(isPage ? new URL('index.html', scope).href : request.url, { ignoreSearch: true })) ?? fetch(request);
+  return (await cache.match(url, { ignoreSearch: true })) ?? fetch(request);
 }
 
 addEventListener('install', (event) => event.waitUntil(keepAll()));

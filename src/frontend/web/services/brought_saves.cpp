@@ -1,0 +1,46 @@
+#include "src/frontend/web/services/brought_saves.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "src/frontend/web/services/save_check.h"
+
+namespace orvane {
+namespace {
+
+bool IsSaveName(const std::string& name) {
+  constexpr std::string_view ending = ".sav";
+  if (name.size() < ending.size()) return false;
+  return std::equal(ending.begin(), ending.end(), name.end() - ending.size(),
+                    [](char want, char has) { return std::tolower(has) == want; });
+}
+
+std::string WithoutFolders(const std::string& name) {
+  return name.substr(name.find_last_of('/') + 1);  // none: from the beginning
+}
+
+}  // namespace
+
+BroughtSaves ReadBrought(const std::string& name, std::string_view bytes, const std::string& slot) {
+  const auto refuse = [](const std::string& sentence) {
+    return BroughtSaves{.Problem = sentence, .Saves = {}};
+  };
+  NamedFiles saves{{slot.empty() ? name : slot, std::string(bytes)}};
+  if (LooksLikeZip(bytes)) {
+    const auto files = ReadZip(bytes);
+    if (!files) return refuse(name + "：ファイルが壊れています。");
+    saves = *files;
+  }
+  std::erase_if(saves, [](const auto& file) { return !IsSaveName(file.first); });
+  if (saves.empty()) return refuse(name + "：セーブデータが入っていません。");
+  for (auto& [path, content] : saves) {
+    const std::string problem = SaveProblem(content);
+    if (!problem.empty()) return refuse((saves.size() > 1 ? path : name) + "：" + problem);
+    path = WithoutFolders(path);
+  }
+  if (slot.empty()) return {.Problem = {}, .Saves = saves};
+  if (saves.size() > 1) return refuse("ひとつのセーブデータを選んでください。");
+  return {.Problem = {}, .Saves = {{slot, saves[0].second}}};
+}
+
+}  // namespace orvane

@@ -81,13 +81,14 @@ std::vector<std::string> FixedTexts(Program& program) {
   return fixed;
 }
 
-// The texts of the page, and what its scripts are, in which the parts of composed ones stand.
+// The texts of the page and its services, and their sources, in which the parts of composed ones
+// stand.
 std::vector<std::string> PageTexts(std::string& sources) {
   std::vector<std::string> found;
   for (const auto& entry :
-       std::filesystem::directory_iterator(ORVANE_SOURCE_FOLDER "/src/frontend/web/page")) {
+       std::filesystem::recursive_directory_iterator(ORVANE_SOURCE_FOLDER "/src/frontend/web")) {
     const std::string kind = entry.path().extension().string();
-    if (kind != ".mjs" && kind != ".html") continue;
+    if (kind != ".mjs" && kind != ".html" && kind != ".cpp") continue;
     const std::string words = ReadWholeFile(entry.path()).value();
     sources += words;
     auto more = kind == ".html" ? texts::PageTexts(words) : texts::Literals(words);

@@ -42,16 +42,17 @@ constexpr Lettering kJapanese = {{{{0, 128, 200, 32, "STAFF", 24, 7},
                                    {0, 256, 200, 32, "道具を作ったみなさん", 19, 0.4},
                                    {200, 256, 200, 32, "龍の狭間の龍たち", 20, 1.5},
                                    {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}}};
-constexpr Lettering kEnglish = {{{{0, 128, 200, 32, "STAFF", 24, 7},
-                                  {200, 128, 200, 32, "SPECIAL THANKS", 16.5, 2.8, 3.6},
-                                  {0, 288, 400, 32, "To you, who came all this way", 23, 1.2, 3.2}}},
-                                {{{0, 192, 200, 32, "Plan, Story, Program", 19, 0.4},
-                                  {200, 192, 200, 32, "Graphics, Maps", 19, 0.4},
-                                  {0, 224, 200, 32, "Music, Sound Effects", 19, 0.4},
-                                  {200, 224, 200, 32, "All Our Testers", 19, 0.4},
-                                  {0, 256, 200, 32, "All Our Toolmakers", 19, 0.4},
-                                  {200, 256, 200, 32, "The Rift's Dragons", 20, 0.6},
-                                  {0, 352, 400, 32, "Thank you! Until we meet again", 21, 1}}}};
+constexpr Lettering kEnglish = {
+    {{{0, 128, 200, 32, "STAFF", 24, 7},
+      {200, 128, 200, 32, "SPECIAL THANKS", 16.5, 2.8, 3.6},
+      {0, 288, 400, 32, "To you, who came all this way", 23, 1.2, 3.2}}},
+    {{{0, 192, 200, 32, "Plan, Story, Program", 19, 0.4},
+      {200, 192, 200, 32, "Graphics, Maps", 19, 0.4},
+      {0, 224, 200, 32, "Music, Sound Effects", 19, 0.4},
+      {200, 224, 200, 32, "All Our Testers", 19, 0.4},
+      {0, 256, 200, 32, "All Our Toolmakers", 19, 0.4},
+      {200, 256, 200, 32, "The Rift's Dragons", 20, 0.6},
+      {0, 352, 400, 32, "Thank you! Until we meet again", 21, 1}}}};
 constexpr const char* kSerif = "IPAPMincho";
 constexpr const char* kPlainFace = "IPAPGothic";
 constexpr uint32_t kWhite = 0xFFFFFF;

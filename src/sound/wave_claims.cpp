@@ -38,7 +38,7 @@ std::vector<std::uint8_t> ClipWaveClaims(std::span<const std::uint8_t> file) {
   std::vector<std::uint8_t> bytes(file.begin(), file.end());
   if (bytes.size() < kFirstPart || bytes.size() > std::numeric_limits<std::uint32_t>::max() ||
       !std::equal(kRiff.begin(), kRiff.end(), bytes.begin())) {
-    return bytes;
+    return {};
   }
   ClipPart(bytes, 0);
   for (size_t at = kFirstPart; bytes.size() - at >= kHeaderSize;) {

@@ -8,8 +8,8 @@
 namespace orvane {
 
 // The bytes of a WAV file, where no part is said to be longer than what is there. Who reads it
-// makes room for what a header says before it looks at the rest. What is no WAV file comes back as
-// it is.
+// makes room for what a header says before it looks at the rest. What does not begin as a WAV file
+// gives nothing.
 std::vector<std::uint8_t> ClipWaveClaims(std::span<const std::uint8_t> file);
 
 }  // namespace orvane

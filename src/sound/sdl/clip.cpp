@@ -26,6 +26,7 @@ constexpr double kMostSeconds = 120;
 
 std::shared_ptr<const Clip> ReadClip(std::span<const std::uint8_t> file, int rate) {
   const std::vector<std::uint8_t> checked = ClipWaveClaims(file);
+  if (checked.empty()) return nullptr;
   SDL_RWops* source = SDL_RWFromConstMem(checked.data(), static_cast<int>(checked.size()));
   if (source == nullptr) return nullptr;
   SDL_AudioSpec layout{};

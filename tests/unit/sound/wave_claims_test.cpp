@@ -35,7 +35,7 @@ TEST(WaveClaims, WhatIsTrueStays) {
   const Bytes whole = SmallWave();
   EXPECT_EQ(ClipWaveClaims(whole), whole);
   const Bytes noise{'n', 'o', 'i', 's', 'e', 255, 255, 255, 255, 255, 255, 255, 255, 255};
-  EXPECT_EQ(ClipWaveClaims(noise), noise);
+  EXPECT_TRUE(ClipWaveClaims(noise).empty());
   EXPECT_TRUE(ClipWaveClaims({}).empty());
 }
 
@@ -51,7 +51,7 @@ TEST(WaveClaims, EveryCutComesBackWithinItself) {
   const Bytes whole = SmallWave();
   for (size_t size = 0; size < whole.size(); ++size) {
     const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
-    EXPECT_EQ(ClipWaveClaims(cut).size(), size);
+    EXPECT_EQ(ClipWaveClaims(cut).size(), size < 12 ? 0 : size);
   }
 }
 
@@ -78,6 +78,8 @@ TEST(WaveClaims, NobodyMakesRoomForWhatIsNotThere) {
   for (const size_t at : {kRiffLength, kFormatLength, kDataLength}) {
     ReadClip(Claiming(at, 0xfffffff0), 44100);
   }
+  const Bytes whole = Claiming(kDataLength, 0xfffffff0);
+  ReadClip(std::span(whole).subspan(8), 44100);  // a reader may take it from "WAVE" on
   SDL_SetMemoryFunctions(ask, clear, ask_for_more, give_back);
   EXPECT_GT(largest, 0U);
   EXPECT_LT(largest, size_t{1} << 20);

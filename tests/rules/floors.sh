@@ -60,7 +60,7 @@ breaks_order() {
 # Headers of systems and libraries that single files or folders are there for.
 may_name() {
   case "$1" in
-    platform/posix/durable_file.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
+    platform/posix/replace_steps.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
     platform/windows/windows_api.h) echo "windows.h shellapi.h" ;;
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;

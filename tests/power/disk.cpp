@@ -25,6 +25,13 @@ std::string Disk::Read(const std::string& name) const {
   return found == names_.end() ? std::string() : files_.at(found->second).Now;
 }
 
+std::string Disk::NameOf(int file) const {
+  for (const auto& [name, number] : names_) {
+    if (number == file) return name;
+  }
+  return {};
+}
+
 std::size_t Disk::Left() const {
   std::size_t used = 0;
   for (const auto& [name, number] : names_) used += files_.at(number).Now.size();
@@ -98,12 +105,18 @@ void Disk::FlushNameOf(int file) {
   const auto goes_along = [&steps](const Naming& naming) {
     return std::find(steps.begin(), steps.end(), naming.Step) != steps.end();
   };
+  std::vector<std::string> changed;
   for (const Naming& naming : unflushed_names_) {
     if (!goes_along(naming)) continue;
     flushed_names_.erase(naming.Name);
     if (naming.File >= 0) flushed_names_[naming.Name] = naming.File;
+    changed.push_back(naming.Name);
   }
   std::erase_if(unflushed_names_, goes_along);
+  // What a name stood for before does not come back.
+  std::erase_if(unflushed_names_, [&changed](const Naming& naming) {
+    return std::find(changed.begin(), changed.end(), naming.Name) != changed.end();
+  });
 }
 
 std::string Disk::Remains(const File& file) {

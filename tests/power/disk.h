@@ -24,6 +24,8 @@ class Disk {
   bool Has(const std::string& name) const { return names_.contains(name); }
   // What a program reads now; empty where there is no such file.
   std::string Read(const std::string& name) const;
+  // What an open file is called now.
+  std::string NameOf(int file) const;
   // Bytes that there is room for.
   std::size_t Left() const;
 

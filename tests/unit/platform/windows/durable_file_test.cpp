@@ -198,6 +198,8 @@ TEST_F(DurableFileTest, AStepThatFailsLeavesTheOldRecordOrHasNoHarmToDo) {
       }
       ++refusals;
       EXPECT_EQ(failure, SystemMessage(ERROR_DISK_FULL));
+      // Where the last of it fails, to bring the name to the disk, nobody knows which one lasts.
+      if (Content() == kNewRecord) continue;
       ExpectOldRecord();
     }
     ExpectNewRecord();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <exception>
 #include <utility>
 
@@ -42,7 +41,7 @@ void WebGame::Send(const std::function<void(Program&)>& event) {
   try {
     event(*program_);
   } catch (const std::exception& failure) {
-    program_->TheStage().EndWithBox({failure.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
+    program_->Break(failure.what());
   }
 }
 
@@ -68,7 +67,7 @@ void WebGame::Kept(int number, const std::string& failure) {
   try {
     files_.Kept(number, failure);
   } catch (const std::exception& error) {
-    program_->TheStage().EndWithBox({error.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
+    program_->Break(error.what());
   }
 }
 

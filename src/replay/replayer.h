@@ -26,6 +26,7 @@ class Replayer {
   // `folder` is the game folder, from which come the files that everybody has; nothing is written
   // there. Throws BrokenReplay for bytes that are no replay.
   Replayer(std::string bytes, const Storage& folder);
+  Replayer(std::string bytes, const Storage&& folder) = delete;  // it outlives the replayer
   ~Replayer();
   Replayer(const Replayer&) = delete;
   Replayer& operator=(const Replayer&) = delete;

@@ -72,7 +72,6 @@ TEST_F(KeptPlayTest, NamesNoFileThatCannotBeWritten) {
 TEST_F(KeptPlayTest, TheFileLeadsToEveryEventBeforeItIsOver) {
   Start(folder_ / "mine");
   play_.Begin();
-  play_.TheProgram->KeyDown(Direction::Right);
   const int before = EventsIn(folder_ / "mine");
   for (int i = 1; i < 40; ++i) {
     play_.TheProgram->Tick(play_.TimerOf("Main", "Timer1"));

@@ -1,8 +1,20 @@
 #include "src/replay/bytes.h"
 
-#include <bit>
+#include <cstring>
 
 namespace orvane {
+namespace {
+
+// BitsOf, which not every compiler has that builds this.
+template <class To, class From>
+To BitsOf(From value) {
+  static_assert(sizeof(To) == sizeof(From));
+  To bits{};
+  std::memcpy(&bits, &value, sizeof bits);
+  return bits;
+}
+
+}  // namespace
 
 void ByteWriter::Number(uint64_t value) {
   constexpr uint64_t more = 0x80;
@@ -26,11 +38,11 @@ void ByteWriter::Fixed64(uint64_t value) {
 }
 
 void ByteWriter::Float(float value) {
-  Fixed32(std::bit_cast<uint32_t>(value));
+  Fixed32(BitsOf<uint32_t>(value));
 }
 
 void ByteWriter::Double(double value) {
-  Fixed64(std::bit_cast<uint64_t>(value));
+  Fixed64(BitsOf<uint64_t>(value));
 }
 
 void ByteWriter::Text(std::string_view text) {
@@ -76,11 +88,11 @@ uint64_t ByteReader::Fixed64() {
 }
 
 float ByteReader::Float() {
-  return std::bit_cast<float>(Fixed32());
+  return BitsOf<float>(Fixed32());
 }
 
 double ByteReader::Double() {
-  return std::bit_cast<double>(Fixed64());
+  return BitsOf<double>(Fixed64());
 }
 
 std::string_view ByteReader::Text() {

@@ -1,7 +1,6 @@
 #include "src/replay/recorder.h"
 
 #include <algorithm>
-#include <bit>
 #include <memory>
 #include <optional>
 
@@ -25,8 +24,9 @@ Mark MarkOf(PlayEvent::Kind kind) {
   return static_cast<Mark>(kind);
 }
 
-bool SameBits(float one, float other) {
-  return std::bit_cast<uint32_t>(one) == std::bit_cast<uint32_t>(other);
+// A draw is never -0 or no number, so equal ones have the same bits.
+bool SameDraw(float one, float other) {
+  return one == other;
 }
 
 }  // namespace
@@ -174,7 +174,7 @@ void Recorder::NoteSeed(float value, const SeededDraws& source, uint64_t drawn) 
   seedings_ = source.Seedings();
   // The seeds of the clock differ by the time that has passed, which is short.
   if (words.size() == counter + 1 && before.size() == words.size() && drawn == 0 &&
-      SameBits(next_, value)) {
+      SameDraw(next_, value)) {
     SeededDraws::Words next = before;
     const uint32_t delay = words[clock] - next[clock];
     next[clock] += delay;
@@ -188,7 +188,7 @@ void Recorder::NoteSeed(float value, const SeededDraws& source, uint64_t drawn) 
   out_.Number(words.size());
   for (const uint32_t word : words) out_.Number(word);
   out_.Number(drawn);
-  if (!SameBits(next_, value)) return NoteDraw(value, &source, drawn);
+  if (!SameDraw(next_, value)) return NoteDraw(value, &source, drawn);
   ++passed_;
   next_ = expected_.Draw();
 }
@@ -196,7 +196,7 @@ void Recorder::NoteSeed(float value, const SeededDraws& source, uint64_t drawn) 
 void Recorder::NoteDraw(float value, const SeededDraws* source, uint64_t drawn) {
   if (!Records()) return;
   const bool is_seeded = source != nullptr && source->Seedings() != seedings_;
-  if (!is_seeded && source != nullptr && seedings_ > 0 && SameBits(value, next_)) {
+  if (!is_seeded && source != nullptr && seedings_ > 0 && SameDraw(value, next_)) {
     ++passed_;
     next_ = expected_.Draw();
     return;

@@ -1,6 +1,6 @@
 #include "src/replay/sums.h"
 
-#include <bit>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -104,7 +104,7 @@ void AddValues(Sum& sum, const Control& control) {
 void AddControl(Sum& sum, const Control& control) {
   sum.Number((control.Visible ? 1 : 0) + (control.Enabled ? 2 : 0));
   for (const double edge : {control.At.Left, control.At.Top, control.At.Width, control.At.Height}) {
-    sum.Number(std::bit_cast<int64_t>(edge));
+    sum.Number(std::llround(edge * kTwipsPerPixel));
   }
   AddValues(sum, control);
 }

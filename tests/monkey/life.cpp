@@ -184,6 +184,8 @@ void Life::Act() {
     return Do([&](Program& p) { p.Tick(*burst_); });
   }
   if (begins_.IsStrong && !dice_.OnceIn(begins_.What == Start::Ending ? 5 : 2)) return HurryOn();
+  constexpr int between_errands = 40;
+  if (dice_.OnceIn(between_errands) && IsHome(*program_)) return RunErrand();
   const bool box = program_->TheStage().BoxStands();
   const int what = dice_.Between(0, 99);
   if (box && what < 40) {
@@ -218,6 +220,30 @@ void Life::HurryOn() {
                                     state.KeyRight == kTrue, state.KeyDown == kTrue};
   if (held.at(static_cast<size_t>(key))) return Do([&](Program& p) { p.Tick(walk); });
   Do([&](Program& p) { p.KeyDown(key); });
+}
+
+// What takes several steps that chance alone seldom finds: a save, things used, worn and thrown
+// away.
+void Life::RunErrand() {
+  constexpr int choices = 6;
+  const std::vector<const char*> menus = {"m11", "m12", "m12", "m21", "m22", "m22", "m33"};
+  Stage& stage = program_->TheStage();
+  Control& item = *stage.Find("Main")->Find(dice_.OneOf(menus));
+  Do([&](Program& p) { p.Click(item); });
+  for (int i = 0; i < choices && stage.IsRunning() && !dice_.OnceIn(10); ++i) {
+    if (stage.BoxStands()) {
+      const bool asks = stage.Boxes().back().Shown.Buttons == BoxButtons::YesNo;
+      Do([&](Program& p) { p.Answer(asks ? BoxAnswer::Yes : BoxAnswer::Ok); });
+      continue;
+    }
+    for (Control* control : std::vector<Control*>(stage.Active()->Controls())) {
+      const ControlKind kind = control->Kind();
+      const bool is_list = kind == ControlKind::List || kind == ControlKind::FileList;
+      if (stage.IsRunning() && (is_list || (kind == ControlKind::Button && dice_.OnceIn(3)))) {
+        ActOn(*control);
+      }
+    }
+  }
 }
 
 // What comes from the window's own controls, from outside, and at wrong times.

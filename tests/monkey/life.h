@@ -54,6 +54,7 @@ class Life {
   void ActOn(Control& control);
   void ActOnList(Control& list, int rows);
   void HurryOn();
+  void RunErrand();
   void Meddle();
   void GoHome();
 

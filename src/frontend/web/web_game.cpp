@@ -12,7 +12,8 @@ WebGame::WebGame(Page& page, std::optional<uint32_t> seed)
     : page_(page), files_(page), sound_(page), chance_(seed) {}
 
 void WebGame::Begin() {
-  program_ = std::make_unique<Program>(Services{sound_, chance_, files_});
+  program_ = std::make_unique<Program>(play_.TheServices());
+  play_.Watch(*program_);
   Stage& stage = program_->TheStage();
   mirror_.emplace(stage);
   ticks_.emplace(stage);

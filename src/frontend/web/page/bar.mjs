@@ -1,4 +1,5 @@
 // What belongs to the page rather than to the game: its bar, notices, and pages at the end.
+import { askBytes } from './game.mjs';
 import { isTouched, make, makeButton } from './elements.mjs';
 import { claim, hand, kept, lasts, remember, remembered } from './saves.mjs';
 
@@ -46,7 +47,9 @@ function showLast(state, title, sentence) {
 export function showEnd(status) {
   document.body.dataset.status = status;
   const sentence = status === 0 ? 'ゲームは終わりました。' : 'ゲームはエラーで終わりました。';
-  showLast('ended', 'Orvane', `${sentence}セーブデータはそのままです。`);
+  const page = showLast('ended', 'Orvane', `${sentence}セーブデータはそのままです。`);
+  if (status === 0) return;
+  makeButton('push', page, 'ここまでの操作の記録を書き出す', () => hand('error.replay', askBytes('Replay')));
 }
 
 export function showCrash(error) {

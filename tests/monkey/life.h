@@ -7,7 +7,7 @@
 #include <string>
 
 #include "src/game/program.h"
-#include "src/replay/recorder.h"
+#include "src/replay/play_recorder.h"
 #include "tests/monkey/starts.h"
 #include "tests/monkey/world.h"
 
@@ -67,7 +67,7 @@ class Life {
   WildSound sound_;
   WildChance luck_;
   Beginning begins_;
-  Recorder recorder_;
+  PlayRecorder recorder_;
   std::unique_ptr<Program> program_;
   int actions_ = 0;
   Reached reached_;

@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "src/game/play_event.h"
-#include "src/replay/recorder.h"
+#include "src/replay/play_recorder.h"
 
 namespace orvane {
 
@@ -42,7 +42,7 @@ class KeptPlay : public PlayWatcher {
   void Write();
   void FollowError();
 
-  Recorder recorder_;
+  PlayRecorder recorder_;
   Program* program_ = nullptr;
   std::optional<std::filesystem::path> record_;
   std::filesystem::path after_error_;

@@ -11,7 +11,7 @@
 #include "src/game/program.h"
 #include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
-#include "src/replay/recorder.h"
+#include "src/replay/play_recorder.h"
 
 namespace orvane::test {
 
@@ -38,7 +38,7 @@ class RecordedPlay {
   }
 
   void Start() {
-    TheRecorder = std::make_unique<Recorder>(Services{Sound, Luck, Files});
+    TheRecorder = std::make_unique<PlayRecorder>(Services{Sound, Luck, Files});
     TheProgram = std::make_unique<Program>(TheRecorder->TheServices());
     TheRecorder->Watch(*TheProgram);
     TheProgram->SetWatcher(TheRecorder.get());
@@ -90,7 +90,7 @@ class RecordedPlay {
   RestlessSound Sound;
   PlayersChance Luck{{}};
   MemoryStorage Files;
-  std::unique_ptr<Recorder> TheRecorder;
+  std::unique_ptr<PlayRecorder> TheRecorder;
   std::unique_ptr<Program> TheProgram;
 };
 

@@ -144,7 +144,7 @@ TEST_F(ReplayTest, KeepsDrawsThatNoGeneratorMade) {
     float value_ = 0;
   };
   Dictated luck;
-  Recorder recorder({play_.Sound, luck, play_.Files});
+  PlayRecorder recorder({play_.Sound, luck, play_.Files});
   play_.TheProgram = std::make_unique<Program>(recorder.TheServices());
   recorder.Watch(*play_.TheProgram);
   play_.TheProgram->SetWatcher(&recorder);

@@ -1,4 +1,4 @@
-#include "src/replay/recorder.h"
+#include "src/replay/play_recorder.h"
 
 #include <algorithm>
 #include <memory>
@@ -31,16 +31,16 @@ bool SameDraw(float one, float other) {
 
 }  // namespace
 
-Recorder::Recorder(const Services& services)
+PlayRecorder::PlayRecorder(const Services& services)
     : sound_(*this, services.Sound), chance_(*this, services.Luck), files_(*this, services.Files) {
   bytes_ = std::string(kReplayHead) + "version " + ORVANE_VERSION + "\n";
 }
 
-void Recorder::Stop() {
+void PlayRecorder::Stop() {
   whole_ = closed_ && whole_;
 }
 
-void Recorder::BeginEvent() {
+void PlayRecorder::BeginEvent() {
   ticks_ = 0;
   commands_ = 0;
   passed_ = 0;
@@ -48,19 +48,19 @@ void Recorder::BeginEvent() {
   if (bytes_.size() > kMostBytes) Stop();
 }
 
-void Recorder::PutName(const std::string& name) {
+void PlayRecorder::PutName(const std::string& name) {
   const auto [at, is_new] = names_.try_emplace(name, names_.size());
   out_.Number(at->second);
   if (is_new) out_.Text(name);
 }
 
-void Recorder::PutControl(Mark mark, const PlayEvent& event) {
+void PlayRecorder::PutControl(Mark mark, const PlayEvent& event) {
   Put(mark);
   PutName(event.On->Owner().Name());
   PutName(event.On->Name());
 }
 
-void Recorder::PutTick(const PlayEvent& event) {
+void PlayRecorder::PutTick(const PlayEvent& event) {
   const unsigned ticks = event.On == ticking_ ? ticks_ : 0;
   BeginEvent();
   if (ticks > 0 && ticks < kMostTicks) {
@@ -79,7 +79,7 @@ void Recorder::PutTick(const PlayEvent& event) {
   ticks_ = 1;
 }
 
-void Recorder::Comes(const PlayEvent& event) {
+void PlayRecorder::Comes(const PlayEvent& event) {
   using Kind = PlayEvent::Kind;
   if (!Records()) return;
   if (event.What == Kind::Tick) return PutTick(event);
@@ -110,7 +110,7 @@ void Recorder::Comes(const PlayEvent& event) {
   }
 }
 
-void Recorder::Went() {
+void PlayRecorder::Went() {
   if (!Records() || events_ < kEventsToSum) return;
   events_ = 0;
   BeginNote();
@@ -118,7 +118,7 @@ void Recorder::Went() {
   out_.Fixed32(static_cast<uint32_t>(SumOfState(*program_)));
 }
 
-void Recorder::Close(bool with_contents) {
+void PlayRecorder::Close(bool with_contents) {
   if (!Records()) return;
   BeginNote();
   if (with_contents) {
@@ -134,13 +134,13 @@ void Recorder::Close(bool with_contents) {
 
 // ---- sound
 
-std::string Recorder::SoundTap::Send(const std::string& command) {
+std::string PlayRecorder::SoundTap::Send(const std::string& command) {
   std::string reply = device_.Send(command);
   recorder_.NoteReply(command, reply);
   return reply;
 }
 
-void Recorder::NoteReply(const std::string& command, const std::string& reply) {
+void PlayRecorder::NoteReply(const std::string& command, const std::string& reply) {
   if (!Records()) return;
   std::string& last = replies_[command];
   if (last != reply) {
@@ -155,7 +155,7 @@ void Recorder::NoteReply(const std::string& command, const std::string& reply) {
 
 // ---- chance
 
-float Recorder::ChanceTap::Draw() {
+float PlayRecorder::ChanceTap::Draw() {
   const SeededDraws* source = luck_.Source();
   const uint64_t drawn = source != nullptr ? source->Drawn() : 0;
   const float value = luck_.Draw();
@@ -163,7 +163,7 @@ float Recorder::ChanceTap::Draw() {
   return value;
 }
 
-void Recorder::NoteSeed(float value, const SeededDraws& source, uint64_t drawn) {
+void PlayRecorder::NoteSeed(float value, const SeededDraws& source, uint64_t drawn) {
   constexpr size_t clock = 2;
   constexpr size_t counter = 3;
   const SeededDraws::Words before = expected_.LastSeed();
@@ -193,7 +193,7 @@ void Recorder::NoteSeed(float value, const SeededDraws& source, uint64_t drawn) 
   next_ = expected_.Draw();
 }
 
-void Recorder::NoteDraw(float value, const SeededDraws* source, uint64_t drawn) {
+void PlayRecorder::NoteDraw(float value, const SeededDraws* source, uint64_t drawn) {
   if (!Records()) return;
   const bool is_seeded = source != nullptr && source->Seedings() != seedings_;
   if (!is_seeded && source != nullptr && seedings_ > 0 && SameDraw(value, next_)) {
@@ -214,29 +214,29 @@ void Recorder::NoteDraw(float value, const SeededDraws* source, uint64_t drawn) 
 
 // ---- files
 
-std::optional<std::string> Recorder::FileTap::Read(const std::string& name) const {
+std::optional<std::string> PlayRecorder::FileTap::Read(const std::string& name) const {
   auto bytes = files_.Read(name);
   recorder_.NoteFile(name, bytes ? &*bytes : nullptr);
   return bytes;
 }
 
-std::shared_ptr<const std::string> Recorder::FileTap::Open(const std::string& name) const {
+std::shared_ptr<const std::string> PlayRecorder::FileTap::Open(const std::string& name) const {
   auto bytes = files_.Open(name);
   recorder_.NoteFile(name, bytes.get());
   return bytes;
 }
 
-bool Recorder::FileTap::Exists(const std::string& name) const {
+bool PlayRecorder::FileTap::Exists(const std::string& name) const {
   return Read(name).has_value();
 }
 
-std::vector<std::string> Recorder::FileTap::List(const std::string& pattern) const {
+std::vector<std::string> PlayRecorder::FileTap::List(const std::string& pattern) const {
   auto names = files_.List(pattern);
   recorder_.NoteNames(pattern, names);
   return names;
 }
 
-void Recorder::NoteFile(const std::string& name, const std::string* bytes) {
+void PlayRecorder::NoteFile(const std::string& name, const std::string* bytes) {
   if (!Records()) return;
   const Known found = bytes == nullptr ? Known() : Known{true, bytes->size(), SumOfBytes(*bytes)};
   const auto [known, is_new] = known_.try_emplace(name, found);
@@ -254,7 +254,7 @@ void Recorder::NoteFile(const std::string& name, const std::string* bytes) {
   contents_[{found.Length, found.Sum}] = *bytes;
 }
 
-void Recorder::NoteNames(const std::string& pattern, const std::vector<std::string>& names) {
+void PlayRecorder::NoteNames(const std::string& pattern, const std::vector<std::string>& names) {
   if (!Records()) return;
   const auto [known, is_new] = listed_.try_emplace(pattern, names);
   if (!is_new && known->second == names) return;
@@ -266,8 +266,8 @@ void Recorder::NoteNames(const std::string& pattern, const std::vector<std::stri
   for (const std::string& name : names) PutName(name);
 }
 
-void Recorder::FileTap::Replace(const std::string& name, const std::string& bytes,
-                                Outcome outcome) {
+void PlayRecorder::FileTap::Replace(const std::string& name, const std::string& bytes,
+                                    Outcome outcome) {
   const int number = ++recorder_.replacements_;
   recorder_.waiting_.push_back(number);
   const auto in_call = std::make_shared<bool>(true);
@@ -287,7 +287,7 @@ void Recorder::FileTap::Replace(const std::string& name, const std::string& byte
   *in_call = false;
 }
 
-void Recorder::Kept(int number, const std::string& failure, const Storage::Outcome& outcome) {
+void PlayRecorder::Kept(int number, const std::string& failure, const Storage::Outcome& outcome) {
   const auto at = std::find(waiting_.begin(), waiting_.end(), number);
   if (Records()) {
     BeginEvent();

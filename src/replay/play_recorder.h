@@ -20,12 +20,12 @@ namespace orvane {
 class Program;
 
 // A play is recorded from its start on, since nothing else can be gone back to: a few kB a minute.
-class Recorder : public PlayWatcher {
+class PlayRecorder : public PlayWatcher {
  public:
   // The services are those that a program would be given; they outlive the recorder.
-  explicit Recorder(const Services& services);
-  Recorder(const Recorder&) = delete;
-  Recorder& operator=(const Recorder&) = delete;
+  explicit PlayRecorder(const Services& services);
+  PlayRecorder(const PlayRecorder&) = delete;
+  PlayRecorder& operator=(const PlayRecorder&) = delete;
 
   // What the program is given instead. The recorder outlives the program.
   Services TheServices() { return {sound_, chance_, files_}; }
@@ -50,29 +50,29 @@ class Recorder : public PlayWatcher {
  private:
   class SoundTap : public SoundDevice {
    public:
-    SoundTap(Recorder& recorder, SoundDevice& device) : recorder_(recorder), device_(device) {}
+    SoundTap(PlayRecorder& recorder, SoundDevice& device) : recorder_(recorder), device_(device) {}
     std::string Send(const std::string& command) override;
 
    private:
-    Recorder& recorder_;
+    PlayRecorder& recorder_;
     SoundDevice& device_;
   };
 
   class ChanceTap : public Chance {
    public:
-    ChanceTap(Recorder& recorder, Chance& chance) : recorder_(recorder), luck_(chance) {}
+    ChanceTap(PlayRecorder& recorder, Chance& chance) : recorder_(recorder), luck_(chance) {}
     float Draw() override;
     void Reseed() override { luck_.Reseed(); }
     const SeededDraws* Source() const override { return luck_.Source(); }
 
    private:
-    Recorder& recorder_;
+    PlayRecorder& recorder_;
     Chance& luck_;
   };
 
   class FileTap : public Storage {
    public:
-    FileTap(Recorder& recorder, Storage& files) : recorder_(recorder), files_(files) {}
+    FileTap(PlayRecorder& recorder, Storage& files) : recorder_(recorder), files_(files) {}
     std::string FolderName() const override { return files_.FolderName(); }
     std::optional<std::string> Read(const std::string& name) const override;
     std::shared_ptr<const std::string> Open(const std::string& name) const override;
@@ -81,7 +81,7 @@ class Recorder : public PlayWatcher {
     void Replace(const std::string& name, const std::string& bytes, Outcome outcome) override;
 
    private:
-    Recorder& recorder_;
+    PlayRecorder& recorder_;
     Storage& files_;
   };
 

@@ -25,11 +25,12 @@ may_include() {
     core) echo "base platform ui" ;;
     field | battle | screens | ending) echo "$plain" ;;
     game) echo "$plain field battle screens ending" ;;
+    replay) echo "$plain game" ;;
     sound) echo "base platform" ;;
-    frontend/shared) echo "$plain game" ;;
-    frontend/script) echo "$plain field battle screens ending game frontend/shared" ;;
-    frontend/desktop | frontend/windows) echo "$plain field battle screens ending game sound frontend/shared" ;;
-    frontend/web) echo "$plain game frontend/shared" ;;
+    frontend/shared) echo "$plain game replay" ;;
+    frontend/script) echo "$plain field battle screens ending game replay frontend/shared" ;;
+    frontend/desktop | frontend/windows) echo "$plain field battle screens ending game replay sound frontend/shared" ;;
+    frontend/web) echo "$plain game replay frontend/shared" ;;
   esac
 }
 
@@ -83,7 +84,7 @@ floor_of() {
   esac
 }
 
-for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
+for floor in base platform ui core field battle screens ending game replay sound frontend/shared frontend/script \
   frontend/desktop frontend/web frontend/windows; do
   [ -d "$floor" ] || continue
   allowed=" $floor $(may_include "$floor") "

@@ -28,13 +28,14 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       options.WantsHelp = true;
       continue;
     }
-    if (name != "--folder" && name != "--scale" && name != "--seed") {
+    if (name != "--folder" && name != "--scale" && name != "--seed" && name != "--record") {
       options.Error = "unknown option " + name;
     } else if (i + 1 == arguments.size()) {
       options.Error = name + " needs a value";
     } else {
       const std::string& value = arguments[++i];
       if (name == "--folder") options.Folder = PathOf(value);
+      if (name == "--record") options.Record = PathOf(value);
       if (name == "--scale") {
         options.Scale = ReadDecimal(value);
         if (!options.Scale || !(*options.Scale >= 0.5 && *options.Scale <= 8)) {
@@ -55,6 +56,7 @@ std::string HelpText() {
          "  --folder DIR  the game folder (\"game\" beside the program, or the player's own)\n"
          "  --scale N     size of the windows (chosen by the screen)\n"
          "  --seed N      the same chances in every run, for tests\n"
+         "  --record FILE records the play, for orvane-script --replay\n"
          "  --help        this text\n";
 }
 

@@ -59,7 +59,7 @@ void Furnish(CalmBox& shown, const Box& box) {
   shown.setIcon(QMessageBox::NoIcon);
   shown.setTextFormat(Qt::PlainText);
   shown.setWindowTitle(QString::fromStdString(box.Title));
-  shown.setText(QString::fromStdString(box.Text));
+  shown.setText(QString::fromStdString(ShownText(box)));
   QPushButton* first = nullptr;
   QPushButton* last = nullptr;
   for (const BoxChoice& choice : ChoicesOf(box.Buttons)) {

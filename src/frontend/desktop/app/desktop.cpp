@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMetaObject>
-#include <cstdlib>
 #include <exception>
 #include <memory>
 #include <utility>
@@ -83,7 +82,7 @@ void Desktop::Try(const std::function<void(Program&)>& event) {
   try {
     event(program_);
   } catch (const std::exception& failure) {
-    program_.TheStage().EndWithBox({failure.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
+    program_.Break(failure.what());
   }
 }
 

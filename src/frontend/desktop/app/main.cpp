@@ -17,6 +17,7 @@
 #include "src/frontend/desktop/paint/look.h"
 #include "src/frontend/desktop/windows/toolkit_scale.h"
 #include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/kept_play.h"
 #include "src/frontend/shared/options.h"
 #include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
@@ -102,7 +103,9 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   SoundEngine sound;
   PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);
-  Program program({sound, chance, files});
+  KeptPlay play({sound, chance, files}, options.Record, home.Folder / kReplayAfterError);
+  Program program(play.TheServices());
+  play.Watch(program);
   const auto zoom_for = [&](const ScreenFacts& screen) {
     return ChooseZoom(options, program, screen);
   };

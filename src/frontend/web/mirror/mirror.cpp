@@ -260,7 +260,7 @@ std::string Mirror::BoxesNow() const {
       {
         Json json(entry, Json::Form::Object);
         json.Add("number", box.Number);
-        json.Add("text", box.Shown.Text);
+        json.Add("text", ShownText(box.Shown));
         json.Add("title", box.Shown.Title);
         json.AddRaw("choices", choices);
         json.Add("closing", static_cast<int>(AnswerOfClosing(box.Shown.Buttons)));

@@ -1,7 +1,6 @@
 #include "src/frontend/windows/app/front.h"
 
 #include <cmath>
-#include <cstdlib>
 #include <exception>
 #include <vector>
 
@@ -83,7 +82,7 @@ void Front::Try(const std::function<void(Program&)>& event) {
   try {
     event(program_);
   } catch (const std::exception& failure) {
-    program_.TheStage().EndWithBox({failure.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
+    program_.Break(failure.what());
   }
 }
 

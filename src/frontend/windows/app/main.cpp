@@ -4,6 +4,7 @@
 #include <string>
 
 #include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/kept_play.h"
 #include "src/frontend/shared/options.h"
 #include "src/frontend/windows/app/boxes.h"
 #include "src/frontend/windows/app/front.h"
@@ -42,7 +43,9 @@ int RunGame(const Options& options) {
   SoundEngine sound;
   PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);
-  Program program({sound, chance, files});
+  KeptPlay play({sound, chance, files}, options.Record, home.Folder / kReplayAfterError);
+  Program program(play.TheServices());
+  play.Watch(program);
   Front front(program, options.Scale, instance.Name());
   front.TellOfPainting([&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
   return front.Run();

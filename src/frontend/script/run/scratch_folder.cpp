@@ -68,15 +68,13 @@ ScratchFolder::ScratchFolder(const files::path& original) {
   try {
     CopyFolder(original, path_);
   } catch (const std::exception& failed) {
-    std::error_code ignored;
-    files::remove_all(path_, ignored);
+    RemoveFolder(path_);
     throw ScriptError("a game folder that can be copied", failed.what());
   }
 }
 
 ScratchFolder::~ScratchFolder() {
-  std::error_code ignored;
-  files::remove_all(path_, ignored);
+  RemoveFolder(path_);
 }
 
 files::path ScratchFolder::Inside(const std::string& name) const {

@@ -1,9 +1,12 @@
-#include "src/frontend/windows/input/pad_device.h"
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "src/frontend/shared/pad_source.h"
+#include "src/frontend/windows/system/windows_api.h"
 
 // After the system's first header.
 #include <xinput.h>
-
-#include <utility>
 
 namespace orvane {
 namespace {
@@ -24,7 +27,22 @@ constexpr DWORD kPads = 4;
 
 using GetState = DWORD(WINAPI*)(DWORD, XINPUT_STATE*);
 
-}  // namespace
+// By the system's library for pads, which is looked for when this is made: not every system has it.
+class PadDevice : public PadSource {
+ public:
+  PadDevice();
+  ~PadDevice() override;
+  PadDevice(const PadDevice&) = delete;
+  PadDevice& operator=(const PadDevice&) = delete;
+
+  std::optional<PadState> Read() override;
+
+ private:
+  HMODULE library_ = nullptr;
+  FARPROC get_state_ = nullptr;
+  DWORD pad_ = 0;  // of those that the library counts
+  PadStick stick_;
+};
 
 PadDevice::PadDevice() {
   for (const wchar_t* name : {L"xinput1_4.dll", L"xinput9_1_0.dll"}) {
@@ -54,6 +72,12 @@ std::optional<PadState> PadDevice::Read() {
   // Up is positive there.
   stick_.Add(seen.Gamepad.sThumbLX / furthest, -seen.Gamepad.sThumbLY / furthest, state);
   return state;
+}
+
+}  // namespace
+
+std::unique_ptr<PadSource> OpenPads() {
+  return std::make_unique<PadDevice>();
 }
 
 }  // namespace orvane

@@ -31,29 +31,24 @@ using GetState = DWORD(WINAPI*)(DWORD, XINPUT_STATE*);
 class PadDevice : public PadSource {
  public:
   PadDevice();
-  ~PadDevice() override;
-  PadDevice(const PadDevice&) = delete;
-  PadDevice& operator=(const PadDevice&) = delete;
 
   std::optional<PadState> Read() override;
 
  private:
-  HMODULE library_ = nullptr;
   FARPROC get_state_ = nullptr;
   DWORD pad_ = 0;  // of those that the library counts
   PadStick stick_;
 };
 
 PadDevice::PadDevice() {
+  // It stays to the program's end: a thread of its own goes on in it for a moment after the last
+  // call.
+  HMODULE library = nullptr;
   for (const wchar_t* name : {L"xinput1_4.dll", L"xinput9_1_0.dll"}) {
-    library_ = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (library_ != nullptr) break;
+    library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (library != nullptr) break;
   }
-  if (library_ != nullptr) get_state_ = GetProcAddress(library_, "XInputGetState");
-}
-
-PadDevice::~PadDevice() {
-  if (library_ != nullptr) FreeLibrary(library_);
+  if (library != nullptr) get_state_ = GetProcAddress(library, "XInputGetState");
 }
 
 std::optional<PadState> PadDevice::Read() {

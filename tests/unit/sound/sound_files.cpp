@@ -101,8 +101,7 @@ Folder::Folder() : path_(MakeTemporaryFolder("orvane-sound-")) {
 }
 
 Folder::~Folder() {
-  std::error_code error;
-  std::filesystem::remove_all(path_, error);
+  RemoveFolder(path_);
 }
 
 void Folder::Write(const std::string& name, const Bytes& bytes) const {

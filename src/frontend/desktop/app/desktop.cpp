@@ -3,29 +3,13 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMetaObject>
-#include <exception>
 #include <memory>
 #include <utility>
 
 #include "src/frontend/desktop/app/signals.h"
+#include "src/frontend/shared/raised.h"
 
 namespace orvane {
-
-namespace {
-
-// Sets a flag while it lives.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-};
-
-}  // namespace
 
 Desktop::Desktop(Program& program, const Zoom& zoom)
     : program_(program),
@@ -55,7 +39,7 @@ int Desktop::Run() {
   QMetaObject::invokeMethod(
       this, [this] { Follow(); }, Qt::QueuedConnection);
   // Pads are looked for when the title stands: finding them takes longer than showing it.
-  QTimer::singleShot(500, this, [this] { pad_.Start(std::make_unique<PadDevice>()); });
+  QTimer::singleShot(500, this, [this] { pad_.Start(OpenPads()); });
   QCoreApplication::exec();
   return program_.ExitStatus();
 }
@@ -63,7 +47,7 @@ int Desktop::Run() {
 void Desktop::Send(const std::function<void(Program&)>& event) {
   // What widgets report while they are being brought up to date is no event of the player's.
   if (following_ || held_) return;
-  if (!program_.HasEnded()) Try(event);
+  if (!program_.HasEnded()) ActOn(program_, event);
   Follow();
 }
 
@@ -74,16 +58,6 @@ void Desktop::Painted(const Screen& screen) {
 void Desktop::Resized(const Screen& screen) {
   windows_.ShareGiven(screen);
   if (!windows_.Suit(zoom_)) RescaleLater();
-}
-
-void Desktop::Try(const std::function<void(Program&)>& event) {
-  // The game handles the errors that bad data can lead to. What else may come, such as want of
-  // memory, must not fly through the toolkit's loop, which cannot stand it.
-  try {
-    event(program_);
-  } catch (const std::exception& failure) {
-    program_.Break(failure.what());
-  }
 }
 
 void Desktop::Follow() {

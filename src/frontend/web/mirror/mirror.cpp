@@ -220,7 +220,7 @@ void Mirror::FollowControls(std::string& out, std::string& pixels) {
       WriteValues(*shown.Model, number, values);
       if (comes || values != shown.Values) {
         shown.Values = values;
-        if (const std::string meaning = MeaningOf(*shown.Model); !meaning.empty()) {
+        if (const std::string meaning = SpokenMeaning(*shown.Model); !meaning.empty()) {
           values.pop_back();
           Json more(values, Json::Form::Rest);
           more.Add("meaning", meaning);

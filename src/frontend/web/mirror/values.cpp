@@ -199,10 +199,4 @@ void WriteValues(const Control& control, int id, std::string& out) {
   WriteKind(control, json);
 }
 
-std::string MeaningOf(const Control& control) {
-  if (control.Kind() != ControlKind::Label) return {};
-  const std::string whose = SpokenName(control);
-  return whose.empty() ? CaptionBeside(control) : whose;
-}
-
 }  // namespace orvane

@@ -57,11 +57,31 @@ Refusal WhyNot(const Control& control) {
 
 }  // namespace
 
+// While it lives an event is carried out. The watcher hears of it unless it is part of another.
+class Program::Told {
+ public:
+  Told(Program& program, const PlayEvent& event) : program_(program) {
+    tells_ = program.watcher_ != nullptr && program.told_ == 0 && !program.HasEnded();
+    ++program.told_;
+    if (tells_) program.watcher_->Comes(event);
+  }
+  ~Told() {
+    --program_.told_;
+    if (tells_) program_.watcher_->Went();
+  }
+  Told(const Told&) = delete;
+  Told& operator=(const Told&) = delete;
+
+ private:
+  Program& program_;
+  bool tells_;
+};
+
 Program::Program(const Services& services) : parts_(std::make_unique<Parts>(services)) {
   TheStage().OnResume([this] {
-    if (!entered_) Enter({});
+    if (!entered_) Run({});
   });
-  Enter([this] { parts_->game.stage.Show(parts_->game.Main); });
+  Run([this] { parts_->game.stage.Show(parts_->game.Main); });
 }
 
 Program::~Program() = default;
@@ -84,6 +104,11 @@ std::string Program::TextOfError() const {
 }
 
 void Program::Enter(const Handler& handler) {
+  if (watcher_ != nullptr) watcher_->Meddled();
+  Run(handler);
+}
+
+void Program::Run(const Handler& handler) {
   if (!TheStage().IsRunning()) return;
   const Entry entry(entered_);
   try {
@@ -105,7 +130,7 @@ Refusal Program::Reach(Screen& screen) {
   if (!screen.IsVisible()) return screen.Name() + " is hidden";
   if (!TheStage().TakesInput(screen))
     return "a box or a modal screen stands before " + screen.Name();
-  Enter([&] { TheStage().Activate(screen); });
+  Run([&] { TheStage().Activate(screen); });
   if (HasEnded()) return "the program has ended";
   return TheStage().TakesInput(screen) ? Refusal() : screen.Name() + " has gone";
 }
@@ -116,28 +141,31 @@ Refusal Program::Reach(Control& control) {
 }
 
 Refusal Program::Click(Control& control) {
+  const Told told(*this, {.What = PlayEvent::Kind::Click, .On = &control});
   if (control.Kind() == ControlKind::Menu) {
     auto& item = static_cast<MenuItem&>(control);
     if (Refusal refusal = Reach(control); !refusal.empty()) return refusal;
     if (item.IsSeparator()) return item.Name() + " is a separator";
-    if (MenuItem* menu = MenuOf(item)) Enter([&] { RunClick(*menu); });
+    if (MenuItem* menu = MenuOf(item)) Run([&] { RunClick(*menu); });
     return ClickItem(item);
   }
   if (Refusal refusal = Reach(control); !refusal.empty()) return refusal;
   if (ClickHandler(control) == nullptr) return control.Name() + " is not there to be clicked";
   if (!CanClick(control)) return control.Name() + " is covered";
-  Enter([&] { RunClick(control); });
+  Run([&] { RunClick(control); });
   return {};
 }
 
 Refusal Program::ClickItem(MenuItem& item) {
+  const Told told(*this, {.What = PlayEvent::Kind::ClickItem, .On = &item});
   if (Refusal refusal = Reach(item); !refusal.empty()) return refusal;
   if (item.IsSeparator()) return item.Name() + " is a separator";
-  Enter([&] { RunClick(item); });
+  Run([&] { RunClick(item); });
   return {};
 }
 
 Refusal Program::ClickAt(Control& control, double x, double y) {
+  const Told told(*this, {.What = PlayEvent::Kind::ClickAt, .On = &control, .X = x, .Y = y});
   if (Refusal refusal = Reach(control); !refusal.empty()) return refusal;
   const double border = control.Border();
   if (x < 0 || y < 0 || x >= control.At.Width - 2 * border || y >= control.At.Height - 2 * border) {
@@ -146,11 +174,12 @@ Refusal Program::ClickAt(Control& control, double x, double y) {
   const Place place = PlaceOnScreen(control);
   const Control* front =
       ControlAt(control.Owner(), {place.Left + border + x, place.Top + border + y});
-  if (front != nullptr && CanUse(*front)) Enter([&] { RunClick(*front); });
+  if (front != nullptr && CanUse(*front)) Run([&] { RunClick(*front); });
   return {};
 }
 
 Refusal Program::Choose(Control& list, int row) {
+  const Told told(*this, {.What = PlayEvent::Kind::Choose, .On = &list, .Number = row});
   if (Refusal refusal = Reach(list); !refusal.empty()) return refusal;
   if (!CanClick(list)) return list.Name() + " is covered";
   const auto choose = [&](ListValues& values, const Handler& handler) -> Refusal {
@@ -158,7 +187,7 @@ Refusal Program::Choose(Control& list, int row) {
       return list.Name() + " has no row " + std::to_string(row);
     }
     values.ListIndex = row;
-    Enter([&] {
+    Run([&] {
       if (handler) handler();
     });
     return {};
@@ -175,22 +204,25 @@ Refusal Program::Choose(Control& list, int row) {
 }
 
 Refusal Program::SelectTab(TabStrip& tabs, int tab) {
+  const Told told(*this, {.What = PlayEvent::Kind::SelectTab, .On = &tabs, .Number = tab});
   if (Refusal refusal = Reach(tabs); !refusal.empty()) return refusal;
   if (tab < 0 || tab >= tabs.TabCount()) return tabs.Name() + " has no tab " + std::to_string(tab);
   if (tab == tabs.Tab()) return {};  // the open one is there already, enabled or not
   if (!tabs.TabEnabled(tab))
     return "tab " + std::to_string(tab) + " of " + tabs.Name() + " is disabled";
-  Enter([&] { tabs.SetTab(tab); });
+  Run([&] { tabs.SetTab(tab); });
   return {};
 }
 
 Refusal Program::EnterText(TextBox& field, const std::string& text) {
+  const Told told(*this, {.What = PlayEvent::Kind::EnterText, .On = &field, .Text = text});
   if (Refusal refusal = Reach(field); !refusal.empty()) return refusal;
   field.Text = text;
   return {};
 }
 
 Refusal Program::Slide(Slider& slider, int value) {
+  const Told told(*this, {.What = PlayEvent::Kind::Slide, .On = &slider, .Number = value});
   if (Refusal refusal = Reach(slider); !refusal.empty()) return refusal;
   if (value < slider.Min || value > slider.Max) return slider.Name() + " does not go that far";
   slider.Value = value;
@@ -198,47 +230,49 @@ Refusal Program::Slide(Slider& slider, int value) {
 }
 
 Refusal Program::Press(Screen& screen) {
+  const Told told(*this, {.What = PlayEvent::Kind::Press, .Where = &screen});
   if (Refusal refusal = Reach(screen); !refusal.empty()) return refusal;
-  Enter([&] { TheStage().Press(screen); });
+  Run([&] { TheStage().Press(screen); });
   return {};
 }
 
 Refusal Program::Close(Screen& screen) {
+  const Told told(*this, {.What = PlayEvent::Kind::Close, .Where = &screen});
   if (Refusal refusal = Reach(screen); !refusal.empty()) return refusal;
-  Enter([&] { TheStage().Close(screen); });
+  Run([&] { TheStage().Close(screen); });
   return {};
 }
 
 Refusal Program::Confirm(Screen& screen) {
+  const Told told(*this, {.What = PlayEvent::Kind::Confirm, .Where = &screen});
   if (screen.EnterButton == nullptr) return screen.Name() + " has no button for Enter";
   return Click(*screen.EnterButton);
 }
 
 Refusal Program::GoBack(Screen& screen) {
+  const Told told(*this, {.What = PlayEvent::Kind::GoBack, .Where = &screen});
   if (Refusal refusal = Reach(screen); !refusal.empty()) return refusal;
-  ListBox* front = nullptr;
-  for (Control* control : screen.Controls()) {
-    if (control->Kind() != ControlKind::List || !CanClick(*control)) continue;
-    auto* list = static_cast<ListBox*>(control);
-    if (list->BackRow >= 0 && list->BackRow < list->ListCount()) front = list;
+  Control* back = WayBack(screen);
+  if (back == nullptr) return screen.Name() + " has no way back";
+  if (back->Kind() == ControlKind::List) {
+    return Choose(*back, static_cast<const ListBox*>(back)->BackRow);
   }
-  if (front != nullptr) return Choose(*front, front->BackRow);
-  for (CommandButton* button : screen.BackButtons) {
-    if (CanClick(*button)) return Click(*button);
-  }
-  return screen.Name() + " has no way back";
+  return Click(*back);
 }
 
 Refusal Program::Activate(Screen& screen) {
+  const Told told(*this, {.What = PlayEvent::Kind::Activate, .Where = &screen});
   return Reach(screen);
 }
 
 void Program::KeyDown(Direction key) {
-  if (KeysReachMain()) Enter([&] { DirectionDown(TheState(), key); });
+  const Told told(*this, {.What = PlayEvent::Kind::KeyDown, .Number = static_cast<int>(key)});
+  if (KeysReachMain()) Run([&] { DirectionDown(TheState(), key); });
 }
 
 void Program::KeyUp(Direction key) {
-  if (KeysReachMain()) Enter([&] { DirectionUp(TheState(), key); });
+  const Told told(*this, {.What = PlayEvent::Kind::KeyUp, .Number = static_cast<int>(key)});
+  if (KeysReachMain()) Run([&] { DirectionUp(TheState(), key); });
 }
 
 bool Program::KeysReachMain() {
@@ -248,10 +282,12 @@ bool Program::KeysReachMain() {
 
 void Program::Tick(Timer& timer) {
   if (!timer.Ticks() || timer.InTick || !TheStage().TimeRuns()) return;
-  Enter([&] { TheStage().Tick(timer); });
+  const Told told(*this, {.What = PlayEvent::Kind::Tick, .On = &timer});
+  Run([&] { TheStage().Tick(timer); });
 }
 
 Refusal Program::Answer(BoxAnswer answer) {
+  const Told told(*this, {.What = PlayEvent::Kind::Answer, .Number = static_cast<int>(answer)});
   Stage& stage = TheStage();
   if (!stage.BoxStands()) return "no box stands";
   if (!Offers(stage.Boxes().back().Shown.Buttons, answer)) return "the box has no such button";
@@ -260,15 +296,23 @@ Refusal Program::Answer(BoxAnswer answer) {
     return {};
   }
   if (!stage.TimeRuns()) return "the program stands still";
-  Enter([&] { stage.Answer(answer); });
+  Run([&] { stage.Answer(answer); });
   return {};
 }
 
 void Program::EndHold() {
+  if (TheStage().HeldFor() == 0) return;
+  const Told told(*this, {.What = PlayEvent::Kind::EndHold});
   TheStage().EndHold();
 }
 
+void Program::Break(const std::string& what) {
+  TheStage().EndWithBox({what, kErrorTitle, BoxButtons::Ok}, kErrorStatus);
+  if (watcher_ != nullptr) watcher_->Went();
+}
+
 void Program::End(int status) {
+  const Told told(*this, {.What = PlayEvent::Kind::End, .Number = status});
   TheStage().EndProgram(status);
 }
 

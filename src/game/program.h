@@ -9,6 +9,7 @@
 #include "src/base/direction.h"
 #include "src/base/error.h"
 #include "src/core/state.h"
+#include "src/game/play_event.h"
 #include "src/platform/services.h"
 #include "src/ui/controls.h"
 #include "src/ui/stage.h"
@@ -30,6 +31,9 @@ class Program {
 
   Stage& TheStage();
   State& TheState();
+
+  // Who is told of every event from now on; null for nobody. The watcher outlives the program.
+  void SetWatcher(PlayWatcher* watcher) { watcher_ = watcher; }
 
   // True after quit, game over, the ending or an error. No event does anything from then on.
   bool HasEnded() const;
@@ -75,8 +79,8 @@ class Program {
   // Answers the box in front, and so runs what follows.
   Refusal Answer(BoxAnswer answer);
 
-  // Runs code as an event does: no other handler is running then, and a run-time error in it stops
-  // the program with its box.
+  // Runs code as an event does, for who does more than a player can: no other handler is running
+  // then, and a run-time error in it stops the program with its box.
   void Enter(const Handler& handler);
 
   // One tick of a timer; nothing when it is off, its last tick has not come to its end, or time
@@ -86,12 +90,19 @@ class Program {
   // The hold that the last handler has asked for (Stage::HeldFor) is over.
   void EndHold();
 
+  // Stops the program with a box that says what has gone wrong outside of the game's own rules, as
+  // want of memory does.
+  void Break(const std::string& what);
+
   // Ends the program from outside, as the end of a session does, with this exit status.
   void End(int status);
 
  private:
   struct Parts;
+  class Told;
 
+  // Runs a part of an event.
+  void Run(const Handler& handler);
   // Brings the screen to the front; says why not.
   Refusal Reach(Screen& screen);
   // The same, and the control can be used.
@@ -103,6 +114,8 @@ class Program {
   std::optional<RunError> error_;
   std::unique_ptr<Parts> parts_;
   bool entered_ = false;  // a handler runs
+  PlayWatcher* watcher_ = nullptr;
+  int told_ = 0;  // events that run, one within another
 };
 
 }  // namespace orvane

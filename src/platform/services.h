@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "src/platform/seeded_draws.h"
 #include "src/platform/storage.h"
 
 namespace orvane {
@@ -23,6 +24,9 @@ class Chance {
   virtual float Draw() = 0;
   // Seeds the generator from the clock.
   virtual void Reseed() = 0;
+  // The generator behind the draws, so that who records them need only note its seeds; null where
+  // there is none. A draw may come from elsewhere all the same.
+  virtual const SeededDraws* Source() const { return nullptr; }
 };
 
 // All of them, owned by the front end; they outlive the program.

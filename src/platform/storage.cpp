@@ -8,12 +8,27 @@ namespace orvane {
 namespace {
 
 bool Matches(std::string_view name, std::string_view pattern) {
-  if (pattern.empty()) return name.empty();
-  if (pattern.front() == '*') {
-    return Matches(name, pattern.substr(1)) || (!name.empty() && Matches(name.substr(1), pattern));
+  size_t at = 0;
+  size_t wanted = 0;
+  // The last star, and where in the name what it stands for ends so far. To try again from there is
+  // enough: what an earlier star stands for need never grow for a later one.
+  size_t star = pattern.size();
+  size_t end = 0;
+  while (at < name.size()) {
+    if (wanted < pattern.size() && pattern[wanted] == '*') {
+      star = wanted++;
+      end = at;
+    } else if (wanted < pattern.size() && pattern[wanted] == name[at]) {
+      ++wanted;
+      ++at;
+    } else if (star < pattern.size()) {
+      wanted = star + 1;
+      at = ++end;
+    } else {
+      return false;
+    }
   }
-  return !name.empty() && name.front() == pattern.front() &&
-         Matches(name.substr(1), pattern.substr(1));
+  return pattern.find_first_not_of('*', wanted) == std::string_view::npos;
 }
 
 }  // namespace

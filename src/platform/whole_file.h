@@ -1,4 +1,4 @@
-// Reading a whole file.
+// Reading and writing a whole file.
 #pragma once
 
 #include <filesystem>
@@ -9,5 +9,9 @@ namespace orvane {
 
 // All bytes of a file; nothing if it is missing, a folder, or cannot be read to its end.
 std::optional<std::string> ReadWholeFile(const std::filesystem::path& path);
+
+// Writes a file that can be made again: what is cut short stays so, and what stood there is gone.
+// Returns whether all of it is written.
+bool WriteWholeFile(const std::filesystem::path& path, const std::string& bytes);
 
 }  // namespace orvane

@@ -10,7 +10,7 @@ JobThread::JobThread(std::function<void()> when_idle, std::chrono::milliseconds 
 JobThread::~JobThread() {
   {
     const std::scoped_lock lock(mutex_);
-    stop_ = true;
+    leaving_.request_stop();
   }
   changed_.notify_all();
   thread_.join();
@@ -30,16 +30,16 @@ void JobThread::Finish() {
 }
 
 void JobThread::Run() {
-  const auto wanted = [this] { return stop_ || !jobs_.empty(); };
+  const auto wanted = [this] { return leaving_.stop_requested() || !jobs_.empty(); };
   std::unique_lock lock(mutex_);
-  while (!stop_) {
+  while (!leaving_.stop_requested()) {
     std::function<void()> job;
     if (when_idle_) {
       if (!changed_.wait_for(lock, pause_, wanted)) job = std::exchange(when_idle_, nullptr);
     } else {
       changed_.wait(lock, wanted);
     }
-    if (stop_) break;
+    if (leaving_.stop_requested()) break;
     if (!job) {
       if (jobs_.empty()) continue;
       job = std::move(jobs_.front());

@@ -6,12 +6,13 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <stop_token>
 #include <thread>
 
 namespace orvane {
 
-// Carries out jobs one after the other on a thread of its own. Destroying it waits for the job
-// that runs and drops the others.
+// Carries out jobs one after the other on a thread of its own. Destroying it drops those that have
+// not begun and waits for the one that runs, which Leaving asks to come to its end.
 class JobThread {
  public:
   // `when_idle` runs once, when there has been nothing to do for `pause`.
@@ -21,6 +22,8 @@ class JobThread {
   JobThread& operator=(const JobThread&) = delete;
 
   void Post(std::function<void()> job);
+  // For jobs that take long: whether nobody waits for the outcome any more.
+  std::stop_token Leaving() const { return leaving_.get_token(); }
   // Waits until all jobs posted so far are done.
   void Finish();
 
@@ -33,7 +36,7 @@ class JobThread {
   std::condition_variable changed_;
   std::deque<std::function<void()>> jobs_;
   bool busy_ = false;
-  bool stop_ = false;
+  std::stop_source leaving_;
   std::thread thread_;  // last: it runs as soon as it is made
 };
 

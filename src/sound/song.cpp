@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 
 #include "src/sound/midi_bytes.h"
 #include "src/sound/tempo_map.h"
@@ -16,6 +17,8 @@ constexpr std::uint8_t kMetaEnd = 0x2f;
 constexpr std::uint8_t kMetaTempo = 0x51;
 // Beyond it times would leave what the tempo map can count; no piece comes near.
 constexpr std::int64_t kMostTicks = std::int64_t{1} << 32;
+// Nobody can hear more, and to read it must not take longer than a player waits.
+constexpr size_t kMostEvents = size_t{1} << 19;
 
 struct TimedEvent {
   std::int64_t Tick = 0;
@@ -67,7 +70,7 @@ bool ReadTrack(MidiBytes bytes, Tracks& tracks) {
       return false;
     }
     if (running >= 0xf0) running = 0;
-    if (bytes.Broken()) return false;
+    if (bytes.Broken() || tracks.Events.size() + tracks.Tempos.size() > kMostEvents) return false;
   }
   return !bytes.Broken();
 }
@@ -148,12 +151,15 @@ std::optional<Patch> PatchReader::Read(const SongEvent& event) {
 
 std::vector<Patch> PatchesOf(const Song& song) {
   std::vector<Patch> patches;
+  std::bitset<kPrograms*(kDrumBank + 1)> named;
   PatchReader reader;
   for (const SongEvent& event : song.Events) {
     const std::optional<Patch> patch = reader.Read(event);
-    if (patch && std::find(patches.begin(), patches.end(), *patch) == patches.end()) {
-      patches.push_back(*patch);
-    }
+    if (!patch) continue;
+    const auto place = static_cast<size_t>(patch->Bank * kPrograms + patch->Program);
+    if (named.test(place)) continue;
+    named.set(place);
+    patches.push_back(*patch);
   }
   return patches;
 }

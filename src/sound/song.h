@@ -30,6 +30,8 @@ struct Song {
 constexpr int kNoteOn = 9;
 constexpr int kControl = 11;
 constexpr int kProgram = 12;
+// Instruments of a bank.
+constexpr int kPrograms = 128;
 // The channel of the drums, and the bank that a sound font keeps them in.
 constexpr int kDrumChannel = 9;
 constexpr int kDrumBank = 128;
@@ -51,7 +53,8 @@ class PatchReader {
   std::array<int, 16> banks_{};
 };
 
-// Reads a standard MIDI file of format 0 or 1. Anything that is cut off or malformed gives nothing.
+// Reads a standard MIDI file of format 0 or 1. Anything that is cut off or malformed gives nothing,
+// and so does a file of more than half a million events.
 std::optional<Song> ReadSong(std::span<const std::uint8_t> file);
 
 // The instruments that a song asks for, each once.

@@ -11,6 +11,9 @@ constexpr double kLeadSeconds = 0.15;
 // Of a very short piece only this part, so that it does not end before it has well begun.
 constexpr double kLeadPart = 0.125;
 constexpr float kFadeSeconds = 0.25F;
+// More than any beginning of a piece has in a block; what is beyond it waits for the next ones, so
+// that no file can keep the sound from coming out.
+constexpr int kMostEventsOfBlock = 256;
 
 }  // namespace
 
@@ -62,9 +65,11 @@ void SongPlayer::SendDue(Synth& synth) {
   }
   const std::vector<SongEvent>& events = piece_->Notes.Events;
   const double until = static_cast<double>(position_ + kBlockFrames) / rate_;
-  // At the last block everything that is left must go out, the last keys up above all.
+  // At the last block what is left goes out, the last keys up above all.
   const bool last = position_ + kBlockFrames >= length_;
-  for (; next_ < events.size() && (last || events[next_].Seconds < until); ++next_) {
+  for (int sent = 0; sent < kMostEventsOfBlock && next_ < events.size() &&
+                     (last || events[next_].Seconds < until);
+       ++sent, ++next_) {
     synth.Send(bank_, events[next_]);
   }
   if (last) synth.ReleaseKeys(bank_);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "src/platform/file_stamp.h"
 #include "src/platform/music_places.h"
 #include "src/platform/path_text.h"
 #include "src/platform/sound_channels.h"
@@ -91,12 +92,15 @@ class SoundEngine::Machine {
     if (log_) log_->Write(what);
   }
 
+  // Whether the channel has its sound now. A file that was found broken is not read again before it
+  // changes: music that cannot be opened is asked for at every tick.
   bool Open(size_t channel, const std::string& path);
   void WaitUntilReady() { jobs_.Finish(); }
   Mixer& Channels() { return mixer_; }
   bool& IsOpen(size_t channel) { return open_.at(channel); }
 
  private:
+  bool Load(size_t channel, const std::string& path);
   // These run on the job thread.
   void OpenOutput();
   void OpenSynth();
@@ -104,6 +108,7 @@ class SoundEngine::Machine {
 
   const SoundOptions options_;
   std::array<bool, Mixer::Channels> open_{};
+  std::array<std::optional<FileStamp>, Mixer::Channels> broken_{};
   bool audible_ = true;
   bool synth_asked_ = false;
   std::unique_ptr<Synth> synth_;
@@ -138,14 +143,24 @@ void SoundEngine::Machine::Prepare(Piece& piece, const std::string& follower) {
     // Now, as the field's first bar may wait a moment and a battle's may not; and first, as what
     // was kept first is the first to go.
     if (const auto next = follower.empty() ? nullptr : ReadPiece(ReadSound(follower), follower)) {
-      synth_->Prepare(*next);
+      synth_->Prepare(*next, jobs_.Leaving());
     }
-    synth_->Prepare(piece);
+    synth_->Prepare(piece, jobs_.Leaving());
   }
   piece.Ready.store(true, std::memory_order_release);
 }
 
 bool SoundEngine::Machine::Open(size_t channel, const std::string& path) {
+  const std::optional<FileStamp> stamp = StampOf(path);
+  std::optional<FileStamp>& broken = broken_.at(channel);
+  if (!stamp || stamp == broken) return false;
+  broken.reset();
+  if (Load(channel, path)) return true;
+  if (IsSettled(*stamp)) broken = stamp;
+  return false;
+}
+
+bool SoundEngine::Machine::Load(size_t channel, const std::string& path) {
   const std::vector<std::uint8_t> file = ReadSound(path);
   if (file.empty()) return false;
   const auto number = static_cast<int>(channel);

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <mutex>
+#include <stop_token>
 #include <string>
 
 #include "src/sound/limiter.h"
@@ -25,8 +26,8 @@ class Synth {
   Synth& operator=(const Synth&) = delete;
 
   // For any thread that may wait: reads what a piece needs and keeps it, with what the pieces last
-  // asked for need, in memory.
-  void Prepare(const Piece& piece);
+  // asked for need, in memory. What has not been read when it is asked to stop stays unread.
+  void Prepare(const Piece& piece, const std::stop_token& stop = {});
 
   // The rest is the audio thread's. It gets its turn to send only if nothing is just being read,
   // and never waits for it.

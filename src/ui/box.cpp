@@ -26,4 +26,8 @@ BoxAnswer AnswerOfClosing(BoxButtons buttons) {
   return BoxAnswer::Ok;
 }
 
+std::string ShownText(const Box& box) {
+  return box.Note.empty() ? box.Text : box.Text + "\n\n" + box.Note;
+}
+
 }  // namespace orvane

@@ -14,7 +14,11 @@ struct Box {
   std::string Text{};
   std::string Title{};
   BoxButtons Buttons = BoxButtons::Ok;
+  std::string Note{};  // what the front end adds to the text of its own accord; mostly nothing
 };
+
+// What a player reads in a box: its text and, apart from it, the note.
+std::string ShownText(const Box& box);
 
 // What follows the answer to a box; empty where nothing does.
 using AnswerHandler = std::function<void(BoxAnswer)>;

@@ -119,4 +119,18 @@ bool CanClick(const Control& control) {
   return control.Kind() == ControlKind::Menu || FreePoint(control).has_value();
 }
 
+Control* WayBack(const Screen& screen) {
+  ListBox* front = nullptr;
+  for (Control* control : screen.Controls()) {
+    if (control->Kind() != ControlKind::List || !CanClick(*control)) continue;
+    auto* list = static_cast<ListBox*>(control);
+    if (list->BackRow >= 0 && list->BackRow < list->ListCount()) front = list;
+  }
+  if (front != nullptr) return front;
+  for (CommandButton* button : screen.BackButtons) {
+    if (CanClick(*button)) return button;
+  }
+  return nullptr;
+}
+
 }  // namespace orvane

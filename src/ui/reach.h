@@ -39,4 +39,8 @@ bool CanUse(const Control& control);
 // Whether a player can click it: he can use it, and some part of it is not covered.
 bool CanClick(const Control& control);
 
+// What Escape does on a screen: the list in front that has a way back, whose BackRow it chooses, or
+// the first of the BackButtons that can be clicked, which it presses; null where it does nothing.
+Control* WayBack(const Screen& screen);
+
 }  // namespace orvane

@@ -108,6 +108,10 @@ void Stage::Ask(Box box, AnswerHandler then) {
   if (IsRunning()) boxes_.push_back({std::move(box), ++boxes_asked_, std::move(then), ticking_});
 }
 
+void Stage::AddNote(const std::string& note) {
+  if (BoxStands()) boxes_.back().Shown.Note = note;
+}
+
 void Stage::Answer(BoxAnswer answer) {
   if (boxes_.empty()) return;
   const StandingBox answered = std::move(boxes_.back());

@@ -64,6 +64,8 @@ class Stage {
   const std::vector<StandingBox>& Boxes() const { return boxes_; }
   int BoxCount() const { return static_cast<int>(boxes_.size()); }
   bool BoxStands() const { return !boxes_.empty(); }
+  // Adds a note to the box in front; nothing where none stands.
+  void AddNote(const std::string& note);
   // Takes the box in front away and runs what follows its answer; nothing where none stands.
   void Answer(BoxAnswer answer);
 

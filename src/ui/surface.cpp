@@ -291,11 +291,16 @@ void FillBox(Surface& surface, int x1, int y1, int x2, int y2, Colour colour) {
 }
 
 void DrawCircle(Surface& surface, int centre_x, int centre_y, int radius, Colour colour) {
-  if (radius < 0) return;
-  const Bounds part{std::max(0, centre_x - radius), std::max(0, centre_y - radius),
-                    std::min(surface.Width(), centre_x + radius + 1),
-                    std::min(surface.Height(), centre_y + radius + 1)};
+  if (radius < 0 || radius > kLargestRadius) return;
+  const auto within = [](std::int64_t edge, int limit) {
+    return static_cast<int>(std::clamp<std::int64_t>(edge, 0, limit));
+  };
+  const std::int64_t half = radius;
+  const Bounds part{
+      within(centre_x - half, surface.Width()), within(centre_y - half, surface.Height()),
+      within(centre_x + half + 1, surface.Width()), within(centre_y + half + 1, surface.Height())};
   if (part.IsEmpty()) return;
+  // From here on the circle's square touches the surface: no sum leaves its range.
   SurfaceWriter writer(surface, part);
   const auto plot = [&](int x, int y) {
     if (surface.Contains(x, y)) writer.Row(y)[x] = colour;

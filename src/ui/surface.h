@@ -112,7 +112,11 @@ void StretchBlt(Surface& destination, const Rect& target, const Surface& source,
 // Fills the rectangle that has these two pixels as opposite corners, both included; clipped.
 void FillBox(Surface& surface, int x1, int y1, int x2, int y2, Colour colour);
 
-// Draws a circle's outline, one pixel wide; clipped. A negative radius draws nothing.
+// The largest circle that is drawn.
+constexpr int kLargestRadius = 32767;
+
+// Draws a circle's outline, one pixel wide; clipped. A negative radius draws nothing, and so does
+// one beyond the largest.
 void DrawCircle(Surface& surface, int centre_x, int centre_y, int radius, Colour colour);
 
 }  // namespace orvane

@@ -6,12 +6,13 @@ set -u
 
 # shellcheck source=tests/process/x_session.sh
 . "$(dirname "$(realpath "$0")")/x_session.sh"
+# shellcheck source=tests/process/costs.sh
+. "$here/costs.sh"
 program=$(realpath "$1")
 player=$(realpath "$3")
 scale=2
 keep_shots_in "$2"
 bad=0
-battle_period=15  # as a new game has it
 
 # judge WHAT FOUND UNIT GOAL LIMIT
 judge() {
@@ -21,7 +22,6 @@ judge() {
   printf '%-44s %9s %-3s goal %6s, limit %6s: %s\n' "$1" "$2" "$3" "$4" "$5" "$verdict"
 }
 
-memory() { awk '/^VmRSS/ { printf "%.1f", $2 / 1024 }' "/proc/$game_pid/status"; }
 # Processor time so far of all threads, in ns. The counts in stat are sampled, and miss a program that
 # works for less than a sample at a time.
 used() { cat "/proc/$game_pid/task/"*/schedstat | awk '{ sum += $1 } END { printf "%d", sum }'; }
@@ -34,31 +34,16 @@ load_over() {
   awk "BEGIN { printf \"%.2f\", ($after - $before) / 1e7 / $1 }"
 }
 
-# How long the program takes until its window is on the screen, in ms; the best of three starts.
-start_time() {
-  local best=999999 begin took
-  for _ in 1 2 3; do
-    begin=$(date +%s%N)
-    start_game --folder "$folder" --scale "$scale" --seed 26
-    until has_window Orvane; do sleep 0.005; done
-    took=$((($(date +%s%N) - begin) / 1000000))
-    [ "$took" -lt "$best" ] && best=$took
-    stop_game
-  done
-  echo "$best"
-}
-
 # tick_error NAME PERIOD: how far the median distance of a timer's ticks is from its period, in ms.
 tick_error() {
-  awk -v name="$1" -v period="$2" '$1 == name && $2 == period { if (last) print $3 - last; last = $3 }' \
-    "$shots/ticks.txt" | sort -n |
+  distances "$shots/ticks.txt" "$1" "$2" |
     awk -v period="$2" '{ all[NR] = $1 }
       END { m = all[int((NR + 1) / 2)] - period; printf "%.2f", NR == 0 ? 999 : m < 0 ? -m : m }'
 }
 
 open_display 1400x1120
 make_folder
-judge "start to title, best of three" "$(start_time)" ms 60 1000
+judge "start to title, best of three" "$(start_time --folder "$folder" --scale "$scale")" ms 60 1000
 export ORVANE_TICKS=$shots/ticks.txt
 start_game --folder "$folder" --scale "$scale" --seed 26
 see_title

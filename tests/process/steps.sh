@@ -71,6 +71,22 @@ ask_to_quit() {
   wait_for 5 "the focus of the quit question" has_focus ゲームの終了
 }
 
+# hold_under_question KEY: a key that is released while a box has the keyboard does not leave the party walking.
+hold_under_question() {
+  local before
+  # shellcheck disable=SC2086
+  before=$(sum Orvane $field)
+  xdotool keydown "$1"
+  # shellcheck disable=SC2086
+  wait_for 5 "a step before the question" changes "$before" Orvane $field
+  ask_to_quit
+  shot question
+  xdotool keyup "$1"
+  xdotool key Escape
+  closes ゲームの終了
+  wait_for 3 "the party's halt after the question" is_still
+}
+
 quit_game() {
   ask_to_quit
   xdotool key Return

@@ -28,13 +28,6 @@ grows_to() {
   wait_for 5 "the focus at $1 per cent" has_focus Orvane
 }
 
-# covers TITLE: the whole screen, without a frame.
-covers() {
-  local left top width height
-  measure "$1"
-  [ "$left $top $width $height" = "0 0 $screen_width $screen_height" ]
-}
-
 # What is beside the scene on the full screen is black from the left edge to the right one.
 is_black_beside() {
   local side
@@ -43,21 +36,6 @@ is_black_beside() {
     [ "$(convert "$shots/full.png" -gravity $side -crop 20x900+0+0 +repage -format '%[fx:maxima]' info:)" = 0 ] ||
       return 1
   done
-}
-
-# A key that is released while a box has the keyboard does not leave the party walking.
-hold_key_under_box() {
-  local before
-  # shellcheck disable=SC2086
-  before=$(sum Orvane $field)
-  xdotool keydown Right
-  # shellcheck disable=SC2086
-  wait_for 5 "a step before the question" changes "$before" Orvane $field
-  ask_to_quit
-  xdotool keyup Right
-  xdotool key Escape
-  closes ゲームの終了
-  wait_for 3 "the party's halt after the question" is_still
 }
 
 # is_at LEFT TOP: the window's inside, to some pixels for its frame.
@@ -135,7 +113,7 @@ listen 30 "the opening"
 shot 2-field
 hold Left
 hold Right
-hold_key_under_box
+hold_under_question Right
 see_edges
 keys ctrl+minus
 grows_to 200

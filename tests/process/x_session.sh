@@ -3,9 +3,9 @@
 #   program  the game
 #   player   the script player, where the test makes saves of its own
 #   scale    pixels of the screen to one of the game; percent says so where that is no whole number
-# and, where held keys are to repeat, keys_repeat=yes.
+# and, where held keys are to repeat, keys_repeat=yes; where the full screen is asked about, screen_width and screen_height.
 # Ends with 77, which counts as skipped, where a tool is missing.
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154  # variables of the tests that source it
 
 here=$(dirname "$(realpath "${BASH_SOURCE[0]}")")
 # need_tools TOOLS...
@@ -145,6 +145,13 @@ measure() {
   width=$(sed -n 's/.*Width: *//p' <<<"$facts")
   height=$(sed -n 's/.*Height: *//p' <<<"$facts")
   : "${left:=0}" "${top:=0}" "${width:=0}" "${height:=0}"
+}
+
+# covers TITLE: the whole screen of screen_width and screen_height, without a frame.
+covers() {
+  local left top width height
+  measure "$1"
+  [ "$left $top $width $height" = "0 0 $screen_width $screen_height" ]
 }
 
 # The height of the first screen, which has a menu bar above.

@@ -25,11 +25,12 @@ may_include() {
     core) echo "base platform ui" ;;
     field | battle | screens | ending) echo "$plain" ;;
     game) echo "$plain field battle screens ending" ;;
+    replay) echo "$plain game" ;;
     sound) echo "base platform" ;;
-    frontend/shared) echo "$plain game" ;;
-    frontend/script) echo "$plain field battle screens ending game frontend/shared" ;;
-    frontend/desktop | frontend/windows) echo "$plain field battle screens ending game sound frontend/shared" ;;
-    frontend/web) echo "$plain game frontend/shared" ;;
+    frontend/shared) echo "$plain game replay" ;;
+    frontend/script) echo "$plain field battle screens ending game replay frontend/shared" ;;
+    frontend/desktop | frontend/windows) echo "$plain field battle screens ending game replay sound frontend/shared" ;;
+    frontend/web) echo "$plain game replay frontend/shared" ;;
   esac
 }
 
@@ -60,7 +61,7 @@ breaks_order() {
 # Headers of systems and libraries that single files or folders are there for.
 may_name() {
   case "$1" in
-    platform/posix/durable_file.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
+    platform/posix/replace_steps.cpp) echo "fcntl.h sys/stat.h unistd.h" ;;
     platform/windows/windows_api.h) echo "windows.h shellapi.h" ;;
     sound/sdl/*) echo "SDL.h dlfcn.h" ;;
     sound/fluid/*) echo "fluidsynth.h" ;;
@@ -72,7 +73,7 @@ may_name() {
 
 standard=" algorithm array atomic bit bitset cctype cerrno charconv chrono cmath concepts condition_variable cstddef cstdint \
 cstdio cstdlib cstring deque exception filesystem fstream functional future initializer_list iterator limits list map \
-memory mutex numeric optional random set span sstream stdexcept string string_view system_error thread tuple \
+memory mutex numeric optional random set span sstream stdexcept stop_token string string_view system_error thread tuple \
 type_traits unordered_map unordered_set utility variant vector ios iosfwd istream locale ostream iomanip ranges compare "
 
 # The floor that a path of ours belongs to: its folder, and for front ends the one below it.
@@ -83,7 +84,7 @@ floor_of() {
   esac
 }
 
-for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
+for floor in base platform ui core field battle screens ending game replay sound frontend/shared frontend/script \
   frontend/desktop frontend/web frontend/windows; do
   [ -d "$floor" ] || continue
   allowed=" $floor $(may_include "$floor") "

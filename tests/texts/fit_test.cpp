@@ -17,7 +17,7 @@
 #include "src/frontend/desktop/paint/look.h"
 #include "src/frontend/desktop/paint/text_paint.h"
 #include "src/frontend/desktop/views/view_factory.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/text_fit.h"
 #include "src/game/program.h"
 #include "src/platform/folder_storage.h"

@@ -70,6 +70,7 @@ std::vector<std::string> FixedTexts(Program& program) {
        {ErrorKind::Overflow, ErrorKind::Subscript, ErrorKind::File, ErrorKind::Type}) {
     fixed.push_back(ErrorText(RunError(kind, "Item.dat")));
   }
+  fixed.emplace_back("ここまでの操作の記録：\nreplay");  // of KeptPlay
   fixed.push_back(SaveProblem("short"));
   fixed.push_back(SaveProblem(std::string(kSaveFileSize, '\xFF')));
   GameRecord record = program.TheState();

@@ -1,6 +1,6 @@
 #!/bin/bash
 # The scenarios by the script player as WebAssembly in node, in one process: they come out as with the player of this
-# machine, test for test. And the player's own test.
+# machine, test for test. And the player's own test, and the kept replays.
 #   scenarios.sh PLAYER NODE_PLAYER
 set -u
 player=$(realpath "$1") node_player=$(realpath "$2")
@@ -15,4 +15,5 @@ if [ "$status" -ne 0 ] || [ "$there" != "$here" ]; then
   diff <(echo "$here") <(echo "$there")
   exit 1
 fi
+../replays/replays.sh "$node_player" || exit 1
 selftest/run.sh "$node_player"

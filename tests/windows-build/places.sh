@@ -16,12 +16,6 @@ is_scaled() {
   [ "$width" = $(($2 * $3)) ]
 }
 
-covers() {
-  local left top width height
-  measure "$1"
-  [ "$left $top $width $height" = "0 0 $screen_width $screen_height" ]
-}
-
 # see_at DPI: pictures in whole pixels, whatever the system's own controls are enlarged by; the zoom keys; a dialog
 # and a box, which are looked at.
 see_at() {

@@ -6,34 +6,20 @@ set -u
 
 # shellcheck source=tests/windows-build/session.sh
 . "$(dirname "$(realpath "$0")")/session.sh"
+# shellcheck source=tests/process/costs.sh
+. "$here/costs.sh"
 built=$(realpath "$1")
 player=$(realpath "$3")
 keep_shots_in "$2"
 bad=0
-battle_period=15  # as a new game has it
-
-# How long the program takes until its window is on the screen, in ms; the best of three starts.
-start_time() {
-  local best=999999 begin took
-  for _ in 1 2 3; do
-    begin=$(date +%s%N)
-    start_game --scale 2 --seed 26
-    until has_window Orvane; do sleep 0.005; done
-    took=$((($(date +%s%N) - begin) / 1000000))
-    [ "$took" -lt "$best" ] && best=$took
-    stop_game
-  done
-  echo "$best"
-}
 
 lines() { wc -l <"$ticks"; }
 
 # judge WHERE NAME PERIOD FROM LONGEST: the ticks of a timer since that line of the record. The median of their distances
 # is the period, or up to 2 ms more, and none is longer than that.
 judge() {
-  tail -n "+$4" "$ticks" | tr -d '\r' |
-    awk -v name="$2" -v period="$3" '$1 == name && $2 == period { if (last) print $3 - last; last = $3 }' |
-    sort -n | awk -v where="$1" -v period="$3" -v longest="$5" '{ all[NR] = $1 }
+  distances <(tail -n "+$4" "$ticks") "$2" "$3" |
+    awk -v where="$1" -v period="$3" -v longest="$5" '{ all[NR] = $1 }
       END {
         median = all[int((NR + 1) / 2)]
         printf "%-24s %4d ticks, median %.2f ms, middle nine tenths %.2f to %.2f, all %.2f to %.2f\n", where, NR,
@@ -45,12 +31,12 @@ judge() {
 open_display 1400x1120
 install_game "$built" "$run_folder/place"
 make_saves parties.lua
-echo "size: $(stat -c %s "$place/Orvane.exe") bytes; start: $(start_time) ms"
+echo "size: $(stat -c %s "$place/Orvane.exe") bytes; start: $(start_time --scale 2) ms"
 ticks=$run_folder/ticks.txt
 ORVANE_TICKS=Z:${ticks//\//\\} start_game --scale 1 --seed 26
 see_title
 load_save 1
-awk '/^VmRSS/ { printf "memory: %.1f MB\n", $2 / 1024 }' "/proc/$game_pid/status"
+echo "memory: $(memory) MB"
 from=$(lines)
 sleep 3
 judge "in the field" Timer1 33 "$from" 500

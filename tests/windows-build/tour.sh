@@ -96,22 +96,6 @@ load_again() {
   wait_for 5 "the focus of the field" has_focus Orvane
 }
 
-# A key that is released while a box has the keyboard does not leave the party walking; the box comes over the field.
-hold_key_under_box() {
-  local before
-  # shellcheck disable=SC2086
-  before=$(sum Orvane $field)
-  xdotool keydown Left
-  # shellcheck disable=SC2086
-  wait_for 5 "a step before the question" changes "$before" Orvane $field
-  ask_to_quit
-  shot 12-question
-  xdotool keyup Left
-  xdotool key Escape
-  closes ゲームの終了
-  wait_for 3 "the party's halt after the question" is_still
-}
-
 # The second start brings the first to the front, and ends.
 start_twice() {
   local status=0
@@ -136,6 +120,6 @@ win_battle
 save_and_kill
 load_again
 start_twice
-hold_key_under_box
+hold_under_question Left
 quit_game
 echo "under wine: named, walked, fought, saved, killed and loaded, every screen seen"

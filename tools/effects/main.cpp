@@ -1,6 +1,5 @@
 // orvane-effects: makes a WAV file from a recipe.
 #include <exception>
-#include <fstream>
 #include <iostream>
 #include <optional>
 
@@ -21,10 +20,7 @@ int main(int count, char** words) {
   try {
     orvane::effects::Wav wav;
     wav.Samples = orvane::effects::Finish(orvane::effects::Mix(orvane::effects::ReadRecipe(*text)));
-    std::ofstream out(words[2], std::ios::binary);
-    out << orvane::effects::WriteWav(wav);
-    out.close();
-    if (!out) {
+    if (!orvane::WriteWholeFile(words[2], orvane::effects::WriteWav(wav))) {
       std::cerr << words[2] << ": cannot be written\n";
       return 1;
     }

@@ -9,10 +9,12 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "src/platform/whole_file.h"
 #include "tools/paint/png_file.h"
 
 namespace orvane {
@@ -81,7 +83,7 @@ void RunFiles(const std::filesystem::path& folder, const std::string& target) {
     files[name.generic_string()] = WholeFile(entry.path());
   }
   std::filesystem::create_directories(std::filesystem::path(target).parent_path());
-  std::ofstream out(target);
+  std::ostringstream out;
   out << "// Made by orvane-embed from the game folder.\n#include "
          "\"src/frontend/web/content.h\"\n\n"
          "namespace orvane {\n\nstd::vector<ContentFile> AllContentFiles() {\n  return {\n";
@@ -91,8 +93,7 @@ void RunFiles(const std::filesystem::path& folder, const std::string& target) {
     out << ", " << bytes.size() << "},\n";
   }
   out << "  };\n}\n\n}  // namespace orvane\n";
-  out.close();
-  if (!out) throw std::runtime_error(target + ": cannot write");
+  if (!WriteWholeFile(target, out.str())) throw std::runtime_error(target + ": cannot write");
 }
 
 void RunTexts(const std::string& target, const std::vector<std::string>& catalogues) {
@@ -114,7 +115,7 @@ void RunTexts(const std::string& target, const std::vector<std::string>& catalog
 
 void Run(const std::string& target, const std::vector<std::string>& files) {
   std::filesystem::create_directories(std::filesystem::path(target).parent_path());
-  std::ofstream out(target);
+  std::ostringstream out;
   out << "// Made by orvane-embed from the picture sheets.\n#include \"src/core/sheet_data.h\"\n\n"
          "namespace orvane {\n\nstd::vector<SheetData> AllSheetData() {\n  return {\n";
   for (const std::string& file : files) {
@@ -124,8 +125,7 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
     out << "},\n";
   }
   out << "  };\n}\n\n}  // namespace orvane\n";
-  out.close();
-  if (!out) throw std::runtime_error(target + ": cannot write");
+  if (!WriteWholeFile(target, out.str())) throw std::runtime_error(target + ": cannot write");
 }
 
 }  // namespace

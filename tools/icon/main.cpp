@@ -3,12 +3,11 @@
 #include <cstdint>
 #include <cstdio>
 #include <exception>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "src/platform/whole_file.h"
 #include "tools/paint/png_file.h"
 
 namespace orvane {
@@ -43,11 +42,6 @@ std::string Pixels(const paint::Image& image) {
   return bytes;
 }
 
-std::string WholeFile(const std::string& name) {
-  std::ifstream file(name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 void Run(const std::string& target, const std::vector<std::string>& files) {
   constexpr size_t head_size = 6;
   constexpr size_t entry_size = 16;
@@ -61,7 +55,7 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
     if (image.Width != image.Height || image.Width > kLargest) {
       throw std::runtime_error(file + ": not a square of up to 256 pixels");
     }
-    const std::string bytes = image.Width == kLargest ? WholeFile(file) : Pixels(image);
+    const std::string bytes = image.Width == kLargest ? ReadWholeFile(file).value() : Pixels(image);
     Append(head, static_cast<size_t>(image.Width % kLargest), 1);
     Append(head, static_cast<size_t>(image.Height % kLargest), 1);
     Append(head, 0, 2);  // no palette
@@ -71,10 +65,7 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
     Append(head, head_size + files.size() * entry_size + pictures.size(), 4);
     pictures += bytes;
   }
-  std::ofstream out(target, std::ios::binary);
-  out << head << pictures;
-  out.close();
-  if (!out) throw std::runtime_error(target + ": cannot write");
+  if (!WriteWholeFile(target, head + pictures)) throw std::runtime_error(target + ": cannot write");
 }
 
 }  // namespace

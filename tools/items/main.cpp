@@ -3,7 +3,6 @@
 //   orvane-items check TABLE.csv            prints what is wrong; exit 1 when anything is
 #include <cstdio>
 #include <exception>
-#include <fstream>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -45,11 +44,9 @@ int Run(const std::vector<std::string>& words) {
     std::printf("%s: 50 items, no fault\n", words[1].c_str());
     return 0;
   }
-  const std::string records = WriteRecords(items);
-  std::ofstream stream(words[2], std::ios::binary);
-  stream.write(records.data(), static_cast<std::streamsize>(records.size()));
-  stream.close();
-  if (!stream) throw std::runtime_error(words[2] + ": cannot write");
+  if (!WriteWholeFile(words[2], WriteRecords(items))) {
+    throw std::runtime_error(words[2] + ": cannot write");
+  }
   return 0;
 }
 

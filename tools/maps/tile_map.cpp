@@ -1,6 +1,5 @@
 #include "tools/maps/tile_map.h"
 
-#include <fstream>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -42,10 +41,7 @@ std::string ReadFile(const std::string& file) {
 }
 
 void WriteFile(const std::string& file, std::string_view text) {
-  std::ofstream stream(file, std::ios::binary);
-  stream.write(text.data(), static_cast<std::streamsize>(text.size()));
-  stream.close();
-  if (!stream) throw std::runtime_error(file + ": cannot write");
+  if (!WriteWholeFile(file, std::string(text))) throw std::runtime_error(file + ": cannot write");
 }
 
 }  // namespace orvane::maps

@@ -1,8 +1,8 @@
 // orvane-music: makes a standard MIDI file from a score.
 #include <exception>
-#include <fstream>
 #include <iostream>
 #include <optional>
+#include <string>
 
 #include "src/platform/whole_file.h"
 #include "tools/music/performance.h"
@@ -18,10 +18,8 @@ int Run(const std::string& score_file, const std::string& midi_file) {
   try {
     const orvane::music::Score score = orvane::music::ReadScore(*text);
     const orvane::music::Sheet sheet = orvane::music::WriteOut(score);
-    std::ofstream out(midi_file, std::ios::binary);
-    out << orvane::music::WriteMidi(orvane::music::Perform(sheet));
-    out.close();
-    if (!out) {
+    const std::string midi = orvane::music::WriteMidi(orvane::music::Perform(sheet));
+    if (!orvane::WriteWholeFile(midi_file, midi)) {
       std::cerr << midi_file << ": cannot be written\n";
       return 1;
     }

@@ -3,12 +3,12 @@
 // a game; the copies for the load screen are empty, so that it looks like an empty slot.
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "src/core/map.h"
 #include "src/core/new_game.h"
 #include "src/core/save_file.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane {
 namespace {
@@ -36,10 +36,7 @@ int MakeSlots(const std::filesystem::path& folder) {
     const std::filesystem::path file =
         folder / ("Save" + std::string(slot < 10 ? "0" : "") + number + ".sav");
     if (std::filesystem::exists(file)) continue;
-    std::ofstream out(file, std::ios::binary);
-    out << bytes;
-    out.close();
-    if (!out) {
+    if (!WriteWholeFile(file, bytes)) {
       std::fprintf(stderr, "orvane-saves: cannot write %s\n", file.string().c_str());
       return 1;
     }

@@ -11,11 +11,12 @@ host=$(realpath build)
 }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+commit=$(git rev-parse HEAD)
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct "$commit")
 export SOURCE_DATE_EPOCH CCACHE_DISABLE=1
 for place in one another; do
   mkdir "$work/$place"
-  git archive HEAD | tar -x -C "$work/$place"
+  git archive "$commit" | tar -x -C "$work/$place"
   (
     cd "$work/$place"
     cmake --preset windows -DORVANE_TESTS=OFF -DORVANE_HOST_BUILD="$host"

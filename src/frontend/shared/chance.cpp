@@ -3,24 +3,31 @@
 #include <chrono>
 
 namespace orvane {
+namespace {
 
-PlayersChance::PlayersChance(std::optional<uint32_t> seed)
-    : generator_(seed.value_or(0)), fixed_(seed.has_value()) {
-  Reseed();
+int64_t Milliseconds() {
+  using std::chrono::duration_cast;
+  return duration_cast<std::chrono::milliseconds>(
+             std::chrono::system_clock::now().time_since_epoch())
+      .count();
 }
 
-float PlayersChance::Draw() {
-  // 24 bits fit a float exactly, so the quotient never rounds up to 1.
-  return static_cast<float>(generator_() >> 8) / 16777216.0F;
+}  // namespace
+
+PlayersChance::PlayersChance(std::optional<uint32_t> seed)
+    : fixed_(seed.has_value()), first_(Milliseconds()) {
+  if (seed) draws_.Seed({*seed});
+  Reseed();
 }
 
 void PlayersChance::Reseed() {
   if (fixed_) return;
-  const auto now =
-      static_cast<uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
-  // The game reseeds several times within one tick of a coarse clock; the counter tells them apart.
-  std::seed_seq sources{static_cast<uint32_t>(now), static_cast<uint32_t>(now >> 32), ++reseeds_};
-  generator_.seed(sources);
+  // The clock as it was first and what has passed since, so that one seed is close to the next and
+  // takes little room in a record. The game reseeds several times within one tick of a coarse
+  // clock; the counter tells them apart.
+  const auto first = static_cast<uint64_t>(first_);
+  draws_.Seed({static_cast<uint32_t>(first), static_cast<uint32_t>(first >> 32),
+               static_cast<uint32_t>(Milliseconds() - first_), ++reseeds_});
 }
 
 }  // namespace orvane

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <random>
 
 #include "src/platform/services.h"
 
@@ -14,12 +13,14 @@ class PlayersChance : public Chance {
   // With a seed, the draws are the same in every run and Reseed does nothing.
   explicit PlayersChance(std::optional<uint32_t> seed);
 
-  float Draw() override;
+  float Draw() override { return draws_.Draw(); }
   void Reseed() override;
+  const SeededDraws* Source() const override { return &draws_; }
 
  private:
-  std::mt19937 generator_;
+  SeededDraws draws_;
   bool fixed_;
+  int64_t first_ = 0;  // when it was made, in ms of the system's clock
   uint32_t reseeds_ = 0;
 };
 

@@ -28,7 +28,8 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       options.WantsHelp = true;
       continue;
     }
-    if (name != "--folder" && name != "--scale" && name != "--seed" && name != "--language") {
+    if (name != "--folder" && name != "--scale" && name != "--seed" && name != "--record" &&
+        name != "--language") {
       options.Error = "unknown option " + name;
     } else if (i + 1 == arguments.size()) {
       options.Error = name + " needs a value";
@@ -36,6 +37,7 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       const std::string& value = arguments[++i];
       if (name == "--folder") options.Folder = PathOf(value);
       if (name == "--language") options.Language = value;
+      if (name == "--record") options.Record = PathOf(value);
       if (name == "--scale") {
         options.Scale = ReadDecimal(value);
         if (!options.Scale || !(*options.Scale >= 0.5 && *options.Scale <= 8)) {
@@ -58,6 +60,7 @@ std::string HelpText() {
          "en\n"
          "  --scale N     size of the windows (chosen by the screen)\n"
          "  --seed N      the same chances in every run, for tests\n"
+         "  --record FILE records the play, for orvane-script --replay\n"
          "  --help        this text\n";
 }
 

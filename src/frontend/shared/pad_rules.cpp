@@ -28,6 +28,14 @@ void PadRules::Follow(const PadState& state, double now) {
   }
 }
 
+int PadRules::Read(PadSource& source, bool in_front, double now) {
+  constexpr int often_ms = 10;
+  const auto state = source.Read();
+  const bool ours = state && in_front;
+  Follow(ours ? *state : PadState{}, now);
+  return ours ? often_ms : kPadSeldomMs;
+}
+
 void PadRules::LetGo(const PadState& state) {
   // A release outside the game's window is handed in when keys reach it again.
   if (!hands_.ReachesWindow()) return;

@@ -3,14 +3,13 @@
 
 #include <array>
 
+#include "src/frontend/shared/pad_source.h"
 #include "src/frontend/shared/pad_state.h"
 #include "src/game/program.h"
 
 namespace orvane {
 
-// How often a pad is read, in ms: while it is plugged in and the program is in front, and
-// otherwise.
-constexpr int kPadOftenMs = 10;
+// How often a pad is looked for, in ms, while none is plugged in or the program is not in front.
 constexpr int kPadSeldomMs = 1000;
 
 // What a pad's buttons come to, carried out by the front end.
@@ -45,6 +44,10 @@ class PadRules {
 
   // Takes in what is held down at `now`, in ms of a clock that does not go back.
   void Follow(const PadState& state, double now);
+
+  // Reads a pad and takes that in; what is pressed while another program is in front is not for
+  // this one. Returns in how many ms to read it again.
+  int Read(PadSource& source, bool in_front, double now);
 
  private:
   void LetGo(const PadState& state);

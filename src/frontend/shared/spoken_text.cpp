@@ -118,4 +118,10 @@ std::string CaptionBeside(const Control& control) {
   return TrimAll(static_cast<const Label*>(nearest)->Caption);
 }
 
+std::string SpokenMeaning(const Control& control) {
+  if (control.Kind() != ControlKind::Label) return {};
+  const std::string whose = SpokenName(control);
+  return whose.empty() ? CaptionBeside(control) : whose;
+}
+
 }  // namespace orvane

@@ -20,4 +20,9 @@ std::string SpokenText(const Screen& screen, const Translator& texts);
 // nothing does.
 std::string CaptionBeside(const Control& control);
 
+// Whose or what the number is that a label shows: a text is its own name, but does not say that.
+// Nothing for other controls. Finding out takes longer than to
+// find out what else has changed of a control.
+std::string SpokenMeaning(const Control& control);
+
 }  // namespace orvane

@@ -3,12 +3,23 @@
 #include <algorithm>
 #include <cmath>
 
+#include "src/ui/screen.h"
+#include "src/ui/stage.h"
+
 namespace orvane {
 namespace {
 
 constexpr double kHalfStep = 0.5;
 
 }  // namespace
+
+std::vector<Extent> InsidesOf(const Stage& stage) {
+  std::vector<Extent> insides;
+  for (const Screen* screen : stage.Screens()) {
+    insides.push_back({double(screen->Width), double(screen->Height)});
+  }
+  return insides;
+}
 
 Zoom::Zoom(const ScreenFacts& screen, std::optional<double> start,
            const std::vector<Extent>& windows)

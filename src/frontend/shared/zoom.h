@@ -8,6 +8,8 @@
 
 namespace orvane {
 
+class Stage;
+
 // The screen that the game opens on.
 struct ScreenFacts {
   Extent Whole;      // in the screen's own pixels
@@ -16,6 +18,9 @@ struct ScreenFacts {
       1;  // pixels of the screen to one of the game, as the player's own settings have it
   double Factor = 1;  // by which the desktop enlarges everything before the toolkit does
 };
+
+// The insides of all windows that a game may open, in its own pixels.
+std::vector<Extent> InsidesOf(const Stage& stage);
 
 class Zoom {
  public:

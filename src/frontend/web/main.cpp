@@ -369,6 +369,11 @@ EXPORT const char* FileOf(const char* name) {
   return Give(Game().Files().Files[name]);
 }
 
+// The record of the play, which tells who mends the game how an error came about.
+EXPORT const char* Replay() {
+  return Give(Game().Replay());
+}
+
 // All slots, as JSON: their names and what they are of.
 EXPORT const char* ListSaves() {
   std::string out;

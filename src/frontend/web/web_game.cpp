@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <exception>
 #include <utility>
 
@@ -15,7 +14,8 @@ WebGame::WebGame(Page& page, std::optional<uint32_t> seed, const Translator& tex
     : page_(page), files_(page), sound_(page), chance_(seed), texts_(texts) {}
 
 void WebGame::Begin() {
-  program_ = std::make_unique<Program>(Services{sound_, chance_, files_});
+  program_ = std::make_unique<Program>(play_.TheServices());
+  play_.Watch(*program_);
   Stage& stage = program_->TheStage();
   mirror_.emplace(stage, texts_);
   ticks_.emplace(stage);
@@ -46,7 +46,7 @@ void WebGame::Send(const std::function<void(Program&)>& event) {
   try {
     event(*program_);
   } catch (const std::exception& failure) {
-    program_->TheStage().EndWithBox({failure.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
+    program_->Break(failure.what());
   }
 }
 
@@ -72,7 +72,7 @@ void WebGame::Kept(int number, const std::string& failure) {
   try {
     files_.Kept(number, failure);
   } catch (const std::exception& error) {
-    program_->TheStage().EndWithBox({error.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
+    program_->Break(error.what());
   }
 }
 

@@ -9,6 +9,7 @@
 
 #include "src/frontend/shared/chance.h"
 #include "src/frontend/shared/focus_order.h"
+#include "src/frontend/shared/kept_play.h"
 #include "src/frontend/shared/pad_rules.h"
 #include "src/frontend/shared/tick_times.h"
 #include "src/frontend/shared/walking_keys.h"
@@ -40,6 +41,8 @@ class WebGame : private PadHands {
   void Begin();
 
   Program& TheProgram() { return *program_; }
+  // The record of the play, as KeptPlay has it.
+  const std::string& Replay() const { return play_.Bytes(); }
   Mirror& TheMirror() { return *mirror_; }
 
   // What has changed for the page to show, as Mirror::Changes has it; nothing while it is held.
@@ -92,6 +95,7 @@ class WebGame : private PadHands {
   PageSound sound_;
   PlayersChance chance_;
   const Translator& texts_;
+  KeptPlay play_{{sound_, chance_, files_}, {}, {}};
   std::unique_ptr<Program> program_;
   std::optional<Mirror> mirror_;
   std::optional<TickTimes> ticks_;

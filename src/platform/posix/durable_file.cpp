@@ -1,76 +1,68 @@
 #include "src/platform/durable_file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
-#include <cstdio>
 #include <optional>
 
+#include "src/platform/posix/replace_steps.h"
 #include "src/platform/system_message.h"
 
 namespace orvane {
 namespace {
 
-constexpr mode_t kNewFile = 0644;
-constexpr mode_t kModeBits = 07777;
-constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-
-bool WriteAll(int file, const std::string& bytes) {
+int WriteAll(int file, const std::string& bytes, ReplaceSteps& steps) {
   size_t done = 0;
   while (done < bytes.size()) {
-    const ssize_t count = write(file, bytes.data() + done, bytes.size() - done);
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return false;
-    done += static_cast<size_t>(count);
+    size_t count = 0;
+    const int error = steps.Write(file, bytes.data() + done, bytes.size() - done, count);
+    if (error == EINTR) continue;
+    if (error != 0) return error;
+    if (count == 0) return EIO;
+    done += count;
   }
-  return true;
+  return 0;
 }
 
 // Writes the bytes to a file of that mode, or of a new file's where there is none to keep.
-bool WriteAndFlush(const std::string& path, const std::string& bytes, std::optional<mode_t> mode) {
-  const int file =
-      open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode.value_or(kNewFile));
-  if (file < 0) return false;
-  const bool written =
-      (!mode || fchmod(file, *mode) == 0) && WriteAll(file, bytes) && fsync(file) == 0;
-  const int reason = errno;
-  const bool closed = close(file) == 0;
-  if (!written) errno = reason;
-  return closed && written;
+int WriteAndFlush(const std::string& name, const std::string& bytes, std::optional<unsigned> mode,
+                  ReplaceSteps& steps) {
+  int file = -1;
+  if (const int error = steps.Create(name, mode, file); error != 0) return error;
+  int error = WriteAll(file, bytes, steps);
+  if (error == 0) error = steps.Flush(file);
+  const int closing = steps.Close(file);
+  return error != 0 ? error : closing;
 }
 
-// A rename lasts only once the folder that holds the name is on the disk.
-void FlushFolderOf(const std::string& path) {
-  const size_t slash = path.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-  const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (handle < 0) return;
-  fsync(handle);
-  close(handle);
+// A rename lasts only once the folder that holds the name is on the disk. Where that cannot be
+// asked for, it comes by itself.
+int FlushFolderOf(const std::string& name, ReplaceSteps& steps) {
+  const size_t slash = name.rfind('/');
+  const int error = steps.FlushFolder(slash == std::string::npos ? "." : name.substr(0, slash + 1));
+  return error == EINVAL || error == ENOTSUP || error == ENOSYS || error == EACCES ? 0 : error;
 }
 
 }  // namespace
 
-std::string ReplaceFileDurably(const std::filesystem::path& path, const std::string& bytes) {
+std::string ReplaceFileBySteps(const std::filesystem::path& path, const std::string& bytes,
+                               ReplaceSteps& steps) {
   const std::string& name = path.native();
-  struct stat old {};
-  std::optional<mode_t> mode;
-  if (stat(name.c_str(), &old) == 0) {
-    // A rename would not ask the old file. One that nobody may write is locked for root as well.
-    if ((old.st_mode & kAnyWrite) == 0 || faccessat(AT_FDCWD, name.c_str(), W_OK, AT_EACCESS) != 0)
-      return SystemMessage(EACCES);
-    mode = old.st_mode & kModeBits;
-  }
+  std::optional<unsigned> mode;
+  // A rename would not ask the old file.
+  if (const int error = steps.AskToWrite(name, mode); error != 0) return SystemMessage(error);
   const std::string fresh = name + ".new";
-  if (!WriteAndFlush(fresh, bytes, mode) || std::rename(fresh.c_str(), name.c_str()) != 0) {
-    const int reason = errno;
-    unlink(fresh.c_str());
-    return SystemMessage(reason);
+  int error = WriteAndFlush(fresh, bytes, mode, steps);
+  if (error == 0) error = steps.Rename(fresh, name);
+  if (error != 0) {
+    steps.Delete(fresh);
+    return SystemMessage(error);
   }
-  FlushFolderOf(name);
-  return {};
+  error = FlushFolderOf(name, steps);
+  return error == 0 ? std::string() : SystemMessage(error);
+}
+
+std::string ReplaceFileDurably(const std::filesystem::path& path, const std::string& bytes) {
+  ReplaceSteps steps;
+  return ReplaceFileBySteps(path, bytes, steps);
 }
 
 }  // namespace orvane

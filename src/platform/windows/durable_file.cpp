@@ -41,6 +41,12 @@ bool IsUnknown(DWORD error) {
          error == ERROR_INVALID_LEVEL;
 }
 
+// Brings what was written to the disk; where that cannot be asked for, it comes by itself.
+DWORD Flush(HANDLE file, ReplaceSteps& steps) {
+  const DWORD error = steps.Flush(file);
+  return IsUnknown(error) ? DWORD{ERROR_SUCCESS} : error;
+}
+
 DWORD WriteAll(HANDLE file, const std::string& bytes, ReplaceSteps& steps) {
   size_t done = 0;
   while (done < bytes.size()) {
@@ -50,7 +56,7 @@ DWORD WriteAll(HANDLE file, const std::string& bytes, ReplaceSteps& steps) {
     if (count == 0) return ERROR_WRITE_FAULT;
     done += count;
   }
-  return steps.Flush(file);
+  return Flush(file, steps);
 }
 
 // Writes the bytes under one name and gives them the other.
@@ -60,19 +66,20 @@ DWORD WriteAndRename(const std::wstring& fresh, const std::wstring& name, const 
   DWORD error = Insist(steps, &IsHeld, [&] { return steps.Create(fresh, file); });
   if (error != ERROR_SUCCESS) return error;
   error = WriteAll(file, bytes, steps);
-  if (error == ERROR_SUCCESS) {
+  const bool is_written = error == ERROR_SUCCESS;
+  if (is_written) {
     error = Insist(steps, &NameIsHeld, [&] { return steps.RenameOpen(file, name); });
-    // The new name lasts once it is on the disk; where that cannot be asked for, it comes by
-    // itself.
-    if (error == ERROR_SUCCESS) steps.Flush(file);
+    if (error == ERROR_SUCCESS) {
+      // The new name lasts once it is on the disk.
+      error = Flush(file, steps);
+      steps.Close(file);
+      return error;
+    }
   }
-  const bool has_name = error == ERROR_SUCCESS;
-  const bool is_written = has_name || IsUnknown(error);
   const DWORD closing = steps.Close(file);
-  if (has_name) return ERROR_SUCCESS;
-  if (is_written && closing != ERROR_SUCCESS) return closing;
-  if (is_written) error = Insist(steps, &NameIsHeld, [&] { return steps.Move(fresh, name); });
-  return error;
+  if (!is_written || !IsUnknown(error)) return error;
+  if (closing != ERROR_SUCCESS) return closing;
+  return Insist(steps, &NameIsHeld, [&] { return steps.Move(fresh, name); });
 }
 
 }  // namespace

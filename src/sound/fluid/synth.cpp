@@ -16,9 +16,12 @@ constexpr int kBankChannels = 16;
 constexpr int kPlayChannels = Synth::Banks * kBankChannels;
 // Channels that never play: choosing an instrument on one keeps its samples in memory. As many as
 // two pieces use, so that field and battle find theirs ready, and no more: one may take a megabyte.
-constexpr int kKeepers = 20;
-// The synth has its channels by sixteens.
-constexpr int kChannels = kPlayChannels + 32;
+constexpr size_t kUsualKeepers = 20;
+// A piece with more of them keeps all its own, up to so many; those behind play as one of these.
+constexpr size_t kMostOfPiece = 48;
+// The synth has its channels by sixteens; there is one keeper more while one makes room for
+// another.
+constexpr int kChannels = kPlayChannels + 64;
 constexpr int kPolyphony = 128;
 // The pieces are balanced against the effects at this gain.
 constexpr double kGain = 1.2;
@@ -56,8 +59,11 @@ struct Synth::Parts {
   // The instrument that the font has in a patch's place.
   Patch Resolve(const Patch& patch) const;
   void Select(int channel, const Patch& patch) const;
-  // Reads an instrument and keeps it, and the ones last asked for with it, in memory.
-  void Keep(const Patch& patch);
+  // Reads an instrument that the font has and keeps it in memory, and with it the ones last asked
+  // for, `most` in all.
+  void Keep(const Patch& wanted, size_t most);
+  // Whether a channel can play an instrument that the font has without reading anything.
+  bool IsReady(int channel, const Patch& patch) const;
 
   fluid_settings_t* Settings = nullptr;
   fluid_synth_t* Voices = nullptr;
@@ -113,8 +119,7 @@ void Synth::Parts::Select(int channel, const Patch& patch) const {
   fluid_synth_program_select(Voices, channel, Font, patch.Bank, patch.Program);
 }
 
-void Synth::Parts::Keep(const Patch& patch) {
-  const Patch wanted = Resolve(patch);
+void Synth::Parts::Keep(const Patch& wanted, size_t most) {
   const auto found = std::find(Kept.begin(), Kept.end(), wanted);
   if (found != Kept.end()) {
     const auto keeper = Keepers.begin() + (found - Kept.begin());
@@ -122,21 +127,39 @@ void Synth::Parts::Keep(const Patch& patch) {
     std::rotate(found, found + 1, Kept.end());
     return;
   }
-  int channel = kPlayChannels + static_cast<int>(Kept.size());
-  if (Kept.size() == kKeepers) {
-    channel = Keepers.front();
-    Keepers.erase(Keepers.begin());
-    Kept.erase(Kept.begin());
-  }
+  int channel = kPlayChannels;
+  while (std::find(Keepers.begin(), Keepers.end(), channel) != Keepers.end()) ++channel;
   Select(channel, wanted);
   Keepers.push_back(channel);
   Kept.push_back(wanted);
+  while (Kept.size() > most) {
+    fluid_synth_unset_program(Voices, Keepers.front());
+    Keepers.erase(Keepers.begin());
+    Kept.erase(Kept.begin());
+  }
 }
 
-void Synth::Prepare(const Piece& piece) {
+bool Synth::Parts::IsReady(int channel, const Patch& patch) const {
+  if (std::find(Kept.begin(), Kept.end(), patch) != Kept.end()) return true;
+  int font = 0;
+  Patch now;
+  return fluid_synth_get_program(Voices, channel, &font, &now.Bank, &now.Program) == FLUID_OK &&
+         font == Font && now == patch;
+}
+
+void Synth::Prepare(const Piece& piece, const std::stop_token& stop) {
+  std::vector<Patch> wanted;
   for (const Patch& patch : PatchesOf(piece.Notes)) {
+    if (wanted.size() == kMostOfPiece || stop.stop_requested()) break;
     const std::scoped_lock turn(turn_);
-    parts_->Keep(patch);
+    const Patch found = parts_->Resolve(patch);
+    // A font that lacks a bank has the same instrument for many patches.
+    if (std::find(wanted.begin(), wanted.end(), found) == wanted.end()) wanted.push_back(found);
+  }
+  for (const Patch& patch : wanted) {
+    if (stop.stop_requested()) return;
+    const std::scoped_lock turn(turn_);
+    parts_->Keep(patch, std::max(kUsualKeepers, wanted.size()));
   }
 }
 
@@ -144,7 +167,10 @@ void Synth::Send(int bank, const SongEvent& event) {
   const int channel = bank * kBankChannels + event.Channel();
   Parts::Bank& state = parts_->BankStates.at(static_cast<size_t>(bank));
   if (const std::optional<Patch> patch = state.Patches.Read(event)) {
-    parts_->Select(channel, parts_->Resolve(*patch));
+    // To read one now would make the sound wait. Prepare has left out what is beyond its measure.
+    const Patch found = parts_->Resolve(*patch);
+    if (parts_->IsReady(channel, found)) return parts_->Select(channel, found);
+    if (!parts_->Kept.empty()) parts_->Select(channel, parts_->Kept.back());
     return;
   }
   const int bend = event.First | (event.Second << 7);

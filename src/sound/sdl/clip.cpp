@@ -3,6 +3,9 @@
 #include <SDL.h>
 
 #include <algorithm>
+#include <vector>
+
+#include "src/sound/wave_claims.h"
 
 namespace orvane {
 namespace {
@@ -22,7 +25,9 @@ constexpr double kMostSeconds = 120;
 }  // namespace
 
 std::shared_ptr<const Clip> ReadClip(std::span<const std::uint8_t> file, int rate) {
-  SDL_RWops* source = SDL_RWFromConstMem(file.data(), static_cast<int>(file.size()));
+  const std::vector<std::uint8_t> checked = ClipWaveClaims(file);
+  if (checked.empty()) return nullptr;
+  SDL_RWops* source = SDL_RWFromConstMem(checked.data(), static_cast<int>(checked.size()));
   if (source == nullptr) return nullptr;
   SDL_AudioSpec layout{};
   Uint8* bytes = nullptr;

@@ -88,13 +88,14 @@ Synth::Synth(std::unique_ptr<Parts> parts) : parts_(std::move(parts)) {}
 
 Synth::~Synth() = default;
 
-void Synth::Prepare(const Piece& piece) {
+void Synth::Prepare(const Piece& piece, const std::stop_token& stop) {
   // No other thread adds to them.
   if (parts_->Find(piece.Name) != nullptr) return;
   const auto file = FindRecording(piece.Name);
   auto source = std::make_unique<Parts::Source>();
   source->Name = piece.Name;
   for (auto& decoder : source->Decoders) {
+    if (stop.stop_requested()) return;
     decoder = Decoder::Open(file, parts_->Rate);
     if (!decoder) return;
   }

@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/app/instance.h"
+#include "src/frontend/shared/instance.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>

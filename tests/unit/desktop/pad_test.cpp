@@ -8,8 +8,8 @@
 #include <QPushButton>
 #include <QSlider>
 
-#include "src/frontend/desktop/windows/events.h"
 #include "src/frontend/desktop/windows/windows.h"
+#include "src/frontend/shared/events.h"
 #include "src/game/program.h"
 #include "tests/unit/desktop/test_services.h"
 
@@ -24,35 +24,35 @@ PadState With(std::initializer_list<PadButton> buttons) {
 
 // A pad that SDL itself makes up, plugged in and out like a real one.
 TEST(PadDevice, ReadsAPadThatComesAndGoes) {
-  PadDevice device;
-  ASSERT_FALSE(device.Read().has_value()) << "a real pad is plugged in";
+  const std::unique_ptr<PadSource> device = OpenPads();
+  ASSERT_FALSE(device->Read().has_value()) << "a real pad is plugged in";
   const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
   ASSERT_GE(number, 0) << SDL_GetError();
   SDL_Joystick* pad = SDL_JoystickOpen(number);
   ASSERT_NE(pad, nullptr);
-  ASSERT_TRUE(device.Read().has_value());
-  EXPECT_EQ(*device.Read(), PadState{});
+  ASSERT_TRUE(device->Read().has_value());
+  EXPECT_EQ(*device->Read(), PadState{});
   SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_A, 1);
   SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_DPAD_UP, 1);
-  EXPECT_EQ(device.Read(), With({PadButton::Accept, PadButton::Up}));
+  EXPECT_EQ(device->Read(), With({PadButton::Accept, PadButton::Up}));
   SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_A, 0);
   SDL_JoystickSetVirtualButton(pad, SDL_CONTROLLER_BUTTON_DPAD_UP, 0);
   SDL_JoystickSetVirtualAxis(pad, SDL_CONTROLLER_AXIS_LEFTX, -30000);
-  EXPECT_EQ(device.Read(), With({PadButton::Left}));
+  EXPECT_EQ(device->Read(), With({PadButton::Left}));
   SDL_JoystickDetachVirtual(number);
-  EXPECT_FALSE(device.Read().has_value());
+  EXPECT_FALSE(device->Read().has_value());
   SDL_JoystickClose(pad);
 }
 
 // SDL keeps its events until they are asked for, and nothing here asks.
 TEST(PadDevice, LeavesNoEventsToPileUp) {
-  PadDevice device;
+  const std::unique_ptr<PadSource> device = OpenPads();
   const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
   ASSERT_GE(number, 0) << SDL_GetError();
   SDL_Joystick* pad = SDL_JoystickOpen(number);
   for (Sint16 way = 1000; way < 1050; ++way) {
     SDL_JoystickSetVirtualAxis(pad, SDL_CONTROLLER_AXIS_LEFTX, way);
-    ASSERT_TRUE(device.Read().has_value());
+    ASSERT_TRUE(device->Read().has_value());
   }
   EXPECT_FALSE(SDL_HasEvents(SDL_FIRSTEVENT, SDL_LASTEVENT));
   SDL_JoystickDetachVirtual(number);
@@ -258,7 +258,7 @@ TEST_F(PadInGame, TheMenuButtonOpensAMenuThatTheCrossAndTheOtherButtonsWork) {
 // From SDL's own pad to the keys of the field.
 TEST_F(PadInGame, APadThatIsPluggedInWalks) {
   Open("Main");
-  pad_.Start(std::make_unique<PadDevice>());
+  pad_.Start(OpenPads());
   const int number = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, 6, 15, 0);
   ASSERT_GE(number, 0) << SDL_GetError();
   SDL_Joystick* pad = SDL_JoystickOpen(number);

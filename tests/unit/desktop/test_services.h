@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/desktop/windows/window_events.h"
 #include "src/game/program.h"
 #include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
@@ -22,13 +22,13 @@ struct TestServices {
 };
 
 // Widgets report into the void.
-class NoEvents : public Events {
+class NoEvents : public WindowEvents {
  public:
   void Send(const std::function<void(Program&)>& /*event*/) override {}
 };
 
 // Widgets report to a program that a test has made; the test brings the windows up to date.
-class ToProgram : public Events {
+class ToProgram : public WindowEvents {
  public:
   explicit ToProgram(Program& program) : program_(program) {}
   void Send(const std::function<void(Program&)>& event) override { event(program_); }

@@ -7,7 +7,7 @@
 #include <QElapsedTimer>
 #include <functional>
 
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/ui/screen.h"
 #include "src/ui/stage.h"
 #include "src/ui/timer.h"

@@ -22,7 +22,7 @@ class PlayerFolderTest : public testing::Test {
     Write(installed_ / "Sound" / "Round1.mid", "tune");
     Write(installed_ / "Save01.sav", "empty");
   }
-  ~PlayerFolderTest() override { fs::remove_all(base_); }
+  ~PlayerFolderTest() override { RemoveFolder(base_); }
 
   static void Write(const fs::path& path, const std::string& bytes) {
     fs::create_directories(path.parent_path());

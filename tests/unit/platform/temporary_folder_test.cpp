@@ -2,10 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "src/platform/path_text.h"
 
 namespace orvane {
 namespace {
+
+namespace fs = std::filesystem;
 
 TEST(TemporaryFolder, IsANewOneEachTime) {
   const auto one = MakeTemporaryFolder("orvane-遊び の-");
@@ -21,6 +25,30 @@ TEST(TemporaryFolder, IsANewOneEachTime) {
 
 TEST(TemporaryFolder, ThrowsWhereNoneCanBeMade) {
   EXPECT_THROW(MakeTemporaryFolder("no/such/folder/"), std::filesystem::filesystem_error);
+}
+
+TEST(TemporaryFolder, GoesWithAllThatIsInIt) {
+  const auto folder = MakeTemporaryFolder("orvane-遊び の-");
+  fs::create_directories(folder / "one" / "記録");
+  fs::create_directories(folder / "two");
+  std::ofstream(folder / "one" / "記録" / "a") << "a";
+  std::ofstream(folder / "one" / "b") << "b";
+  RemoveFolder(folder);
+  EXPECT_FALSE(fs::exists(folder));
+  RemoveFolder(folder);
+}
+
+TEST(TemporaryFolder, LeavesWhatItsLinksLeadTo) {
+  const auto other = MakeTemporaryFolder("orvane-other-");
+  const auto folder = MakeTemporaryFolder("orvane-遊び の-");
+  std::ofstream(other / "a") << "a";
+  fs::create_hard_link(other / "a", folder / "hard");
+  std::error_code no_such_links;
+  fs::create_directory_symlink(other, folder / "soft", no_such_links);
+  RemoveFolder(folder);
+  EXPECT_FALSE(fs::exists(folder));
+  EXPECT_TRUE(fs::exists(other / "a"));
+  RemoveFolder(other);
 }
 
 }  // namespace

@@ -31,6 +31,14 @@ TEST_F(WholeFileTest, GivesEveryByteAsItIs) {
   EXPECT_EQ(Kept(""), "");
 }
 
+TEST_F(WholeFileTest, WritesEveryByteAsItIs) {
+  const std::string bytes("a\0\r\n\xFF\x1A", 6);
+  EXPECT_TRUE(WriteWholeFile(folder_ / "file", "something longer"));
+  EXPECT_TRUE(WriteWholeFile(folder_ / "file", bytes));
+  EXPECT_EQ(ReadWholeFile(folder_ / "file"), bytes);
+  EXPECT_FALSE(WriteWholeFile(folder_ / "none" / "file", bytes));
+}
+
 TEST_F(WholeFileTest, GivesLargeFilesWhole) {
   for (const size_t size : {65535u, 65536u, 65537u, 300000u}) {
     std::string bytes(size, 'x');

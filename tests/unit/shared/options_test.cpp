@@ -15,11 +15,13 @@ TEST(Options, WithoutArgumentsLeaveEverythingToTheProgram) {
 }
 
 TEST(Options, AreRead) {
-  const Options options = ReadOptions({"--folder", "/a b", "--scale", "1.5", "--seed", "7"});
+  const Options options =
+      ReadOptions({"--folder", "/a b", "--scale", "1.5", "--seed", "7", "--record", "/r"});
   EXPECT_EQ(options.Error, "");
   EXPECT_EQ(options.Folder, "/a b");
   EXPECT_EQ(options.Scale, 1.5);
   EXPECT_EQ(options.Seed, 7U);
+  EXPECT_EQ(options.Record, "/r");
 }
 
 TEST(Options, OfHelpWantHelp) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "src/sound/tempo_map.h"
 #include "tests/unit/sound/sound_files.h"
 
@@ -121,6 +123,34 @@ TEST(Song, PatchesAreNamedOnce) {
   ASSERT_TRUE(song);
   const std::vector<Patch> expected{{0, 0}, {0, 48}, {8, 5}, {kDrumBank, 0}};
   EXPECT_EQ(PatchesOf(*song), expected);
+}
+
+// Seconds of the processor's time that an action takes.
+template <class Action>
+double TimeOf(const Action& action) {
+  const std::clock_t begin = std::clock();
+  action();
+  return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+}
+
+TEST(Song, ManyPatchesTakeNoTime) {
+  const auto song = ReadSong(test::RestlessSong(160000));
+  ASSERT_TRUE(song);
+  std::vector<Patch> patches;
+  EXPECT_LT(TimeOf([&] { patches = PatchesOf(*song); }), 0.1);
+  EXPECT_EQ(patches.size(), 128U * 128U);
+  const Patch last{127, 127};
+  EXPECT_EQ(patches.back(), last);
+}
+
+TEST(Song, MoreThanAnyoneCanHearIsRefused) {
+  EXPECT_TRUE(ReadSong(test::RestlessSong(170000)));
+  EXPECT_FALSE(ReadSong(test::RestlessSong(180000)));
+  Bytes tempos;
+  for (int i = 0; i < 530000; ++i) {
+    for (const int byte : {0, 0xff, 0x51, 0}) tempos.push_back(static_cast<std::uint8_t>(byte));
+  }
+  EXPECT_FALSE(ReadSong(Join({MidiHeader(0, 1, 96), MidiTrack(tempos)})));
 }
 
 TEST(TempoMap, StaysExactOverAnHour) {

@@ -76,6 +76,64 @@ TEST_F(SoundEngineTest, MissingAndBrokenFilesDoNotOpen) {
   EXPECT_EQ(LevelOf(Pull(engine, 0.1)), 0);
 }
 
+// A file's bytes are changed while its time and size stay, so that only one who reads it again
+// would see it.
+TEST_F(SoundEngineTest, ABrokenFileIsReadAgainOnlyWhenItHasChanged) {
+  SoundEngine engine(ForCaller());
+  const test::Bytes song = test::SimpleSong(1);
+  const std::filesystem::path file = PathOf(folder_.Path()) / "Sound" / "Round3.mid";
+  const auto long_ago = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+  folder_.Write("Round3.mid", test::Bytes(song.size()));
+  std::filesystem::last_write_time(file, long_ago);
+  EXPECT_EQ(Open(engine, "Round3.mid", "bgm3"), "");
+  folder_.Write("Round3.mid", song);
+  std::filesystem::last_write_time(file, long_ago);
+  EXPECT_EQ(Open(engine, "Round3.mid", "bgm3"), "");
+  std::filesystem::last_write_time(file, long_ago + std::chrono::seconds(1));
+  EXPECT_EQ(Open(engine, "Round3.mid", "bgm3"), "1");
+}
+
+// What was written a moment ago may be written again within the same tick of the file's clock.
+TEST_F(SoundEngineTest, AFileThatWasJustWrittenIsReadAgain) {
+  SoundEngine engine(ForCaller());
+  const test::Bytes song = test::SimpleSong(1);
+  const std::filesystem::path file = PathOf(folder_.Path()) / "Sound" / "Round3.mid";
+  folder_.Write("Round3.mid", test::Bytes(song.size()));
+  const auto now = std::filesystem::last_write_time(file);
+  EXPECT_EQ(Open(engine, "Round3.mid", "bgm3"), "");
+  folder_.Write("Round3.mid", song);
+  std::filesystem::last_write_time(file, now);
+  EXPECT_EQ(Open(engine, "Round3.mid", "bgm3"), "1");
+}
+
+double Seconds(std::chrono::steady_clock::duration time) {
+  return std::chrono::duration<double>(time).count();
+}
+
+TEST_F(SoundEngineTest, LeavingDoesNotWaitForInstruments) {
+  folder_.Write("Round1.mid", test::RestlessSong(170000));
+  folder_.Write("Battle1.mid", test::RestlessSong(170000));
+  std::chrono::steady_clock::time_point begin;
+  {
+    SoundEngine engine(ForCaller());
+    EXPECT_EQ(Open(engine, "Round1.mid", "bgm1"), "1");
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    begin = std::chrono::steady_clock::now();
+  }
+  EXPECT_LT(Seconds(std::chrono::steady_clock::now() - begin), 3);
+}
+
+TEST_F(SoundEngineTest, NoPieceKeepsTheSoundFromComingOut) {
+  folder_.Write("Round1.mid", test::RestlessSong(170000));
+  SoundEngine engine(ForCaller());
+  EXPECT_EQ(Open(engine, "Round1.mid", "bgm1"), "1");
+  engine.Send(PlayCommand("bgm1"));
+  engine.WaitUntilReady();
+  const auto begin = std::chrono::steady_clock::now();
+  Pull(engine, 0.1);
+  EXPECT_LT(Seconds(std::chrono::steady_clock::now() - begin), 10);
+}
+
 TEST_F(SoundEngineTest, UnknownCommandsAndChannelsAnswerNothing) {
   SoundEngine engine(ForCaller());
   EXPECT_EQ(Open(engine, "Cut.wav", "snd11"), "");

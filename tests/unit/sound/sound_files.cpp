@@ -55,6 +55,17 @@ Bytes SimpleSong(int bars) {
   return Join({MidiHeader(1, 1, 96), MidiTrack(events)});
 }
 
+Bytes RestlessSong(int choices) {
+  Bytes events;
+  for (int i = 0; i < choices; ++i) {
+    const auto bank = static_cast<std::uint8_t>(i / 128 % 128);
+    const auto program = static_cast<std::uint8_t>(i % 128);
+    const Bytes choice{0, 0xb0, 0, bank, 0, 0xc0, program, 0, 0x90, 60, 100};
+    events.insert(events.end(), choice.begin(), choice.end());
+  }
+  return Join({MidiHeader(0, 1, 96), MidiTrack(events, 96)});
+}
+
 Bytes Wave(int rate, int channels, const std::vector<std::int16_t>& samples) {
   const auto size = static_cast<std::uint32_t>(2 * samples.size());
   const auto frame = static_cast<std::uint32_t>(2 * channels);
@@ -90,8 +101,7 @@ Folder::Folder() : path_(MakeTemporaryFolder("orvane-sound-")) {
 }
 
 Folder::~Folder() {
-  std::error_code error;
-  std::filesystem::remove_all(path_, error);
+  RemoveFolder(path_);
 }
 
 void Folder::Write(const std::string& name, const Bytes& bytes) const {

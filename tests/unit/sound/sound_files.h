@@ -25,6 +25,9 @@ Bytes Join(const std::vector<Bytes>& parts);
 // One channel, 120 beats a minute, 96 ticks a beat: a bar of four notes of a beat each, two seconds
 // long, `bars` times over.
 Bytes SimpleSong(int bars);
+// One track that asks for instrument after instrument, all 16,384 of them in turn, `choices` in
+// all, within a beat, and for each a note.
+Bytes RestlessSong(int choices);
 // A WAV file of 16 bits.
 Bytes Wave(int rate, int channels, const std::vector<std::int16_t>& samples);
 // Frames of full scale that swing at that many Hz.

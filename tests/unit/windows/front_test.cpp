@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <map>
+#include <string_view>
 #include <utility>
 
 #include "src/core/save_file.h"
@@ -68,6 +70,19 @@ class FrontTest : public testing::Test {
     return front_.Run();
   }
   static HWND Window() { return FindWindowW(L"Orvane", L"Orvane"); }
+  // The first field of the dialog for the names; the one that was made last lies on top.
+  static HWND Field() {
+    HWND field = nullptr;
+    EnumChildWindows(FindWindowW(L"Orvane", L"名前の入力"), &TakeField,
+                     reinterpret_cast<LPARAM>(&field));
+    return field;
+  }
+  static BOOL CALLBACK TakeField(HWND window, LPARAM field) {
+    std::array<wchar_t, 16> kind{};
+    GetClassNameW(window, kind.data(), static_cast<int>(kind.size()));
+    if (std::wstring_view(kind.data()) == L"Edit") *reinterpret_cast<HWND*>(field) = window;
+    return TRUE;
+  }
   static SIZE Inside() {
     RECT inside;
     GetClientRect(Window(), &inside);
@@ -133,6 +148,24 @@ TEST_F(FrontTest, OtherDotsToTheInchLayTheWindowOutAnew) {
     EXPECT_EQ(Inside().cx, kWidth);
     EXPECT_EQ(Inside().cy, kHeight);
     front_.SessionEnds();
+  });
+  Run();
+}
+
+// The letters of an input method come as messages.
+TEST_F(FrontTest, AnInputMethodWritesIntoAField) {
+  After(200, [this] {
+    front_.Send([this](Program& program) { program.Click(On("Main", "Command1")); });
+    After(300, [this] {
+      const HWND field = Field();
+      ASSERT_NE(field, nullptr);
+      SendMessageW(field, EM_SETSEL, 0, -1);
+      for (const wchar_t letter : {L'龍', L'の'}) PostMessageW(field, WM_IME_CHAR, letter, 1);
+    });
+    After(800, [this] {
+      EXPECT_EQ(static_cast<TextBox&>(On("InputName", "Text1(0)")).Text, "龍の");
+      front_.SessionEnds();
+    });
   });
   Run();
 }

@@ -1,10 +1,11 @@
 // One game for each game folder.
-#include "src/frontend/windows/app/instance.h"
+#include "src/frontend/shared/instance.h"
 
 #include <gtest/gtest.h>
 
 #include "src/frontend/windows/app/message_window.h"
 #include "src/platform/path_text.h"
+#include "src/platform/windows/wide_text.h"
 
 namespace orvane {
 namespace {
@@ -24,7 +25,8 @@ TEST(InstanceTest, AFolderIsFreeAgain) {
 TEST(InstanceTest, TheFirstIsCalled) {
   const Instance first(PathOf("C:/called/game"));
   bool called = false;
-  const MessageWindow window(first.Name(), [&](UINT message) { called = message == kCallMessage; });
+  const MessageWindow window(Wide(first.Name()),
+                             [&](UINT message) { called = message == kCallMessage; });
   Instance(PathOf("C:/called/game")).CallFirst();
   MSG message;
   while (PeekMessageW(&message, window.Handle(), 0, 0, PM_REMOVE) != FALSE) {

@@ -56,8 +56,9 @@ class CalmBox : public QMessageBox {
 
 // Gives a box its texts.
 void Inscribe(QMessageBox& shown, const Box& box, const Translator& texts) {
-  shown.setWindowTitle(QString::fromStdString(texts.Of(box.Title)));
-  shown.setText(QString::fromStdString(texts.Of(box.Text)));
+  const Box shown_as = texts.Of(box);
+  shown.setWindowTitle(QString::fromStdString(shown_as.Title));
+  shown.setText(QString::fromStdString(ShownText(shown_as)));
   const QList<QAbstractButton*> buttons = shown.buttons();
   for (const BoxChoice& choice : ChoicesOf(box.Buttons)) {
     for (QAbstractButton* button : buttons) {

@@ -4,31 +4,14 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMetaObject>
-#include <cstdlib>
-#include <exception>
 #include <memory>
 #include <utility>
 
 #include "src/frontend/desktop/app/signals.h"
+#include "src/frontend/shared/raised.h"
 #include "src/frontend/shared/texts/lettered_sheets.h"
 
 namespace orvane {
-
-namespace {
-
-// Sets a flag while it lives.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-};
-
-}  // namespace
 
 Desktop::Desktop(Program& program, const Zoom& zoom, Translator& texts)
     : program_(program),
@@ -61,7 +44,7 @@ int Desktop::Run() {
   QMetaObject::invokeMethod(
       this, [this] { Follow(); }, Qt::QueuedConnection);
   // Pads are looked for when the title stands: finding them takes longer than showing it.
-  QTimer::singleShot(500, this, [this] { pad_.Start(std::make_unique<PadDevice>()); });
+  QTimer::singleShot(500, this, [this] { pad_.Start(OpenPads()); });
   QCoreApplication::exec();
   return program_.ExitStatus();
 }
@@ -69,7 +52,7 @@ int Desktop::Run() {
 void Desktop::Send(const std::function<void(Program&)>& event) {
   // What widgets report while they are being brought up to date is no event of the player's.
   if (following_ || held_) return;
-  if (!program_.HasEnded()) Try(event);
+  if (!program_.HasEnded()) ActOn(program_, event);
   Follow();
 }
 
@@ -104,16 +87,6 @@ void Desktop::ShowLanguage(const std::string& code) {
   const Raised following(following_);
   windows_.Retranslate();
   boxes_.Retranslate(program_.TheStage());
-}
-
-void Desktop::Try(const std::function<void(Program&)>& event) {
-  // The game handles the errors that bad data can lead to. What else may come, such as want of
-  // memory, must not fly through the toolkit's loop, which cannot stand it.
-  try {
-    event(program_);
-  } catch (const std::exception& failure) {
-    program_.TheStage().EndWithBox({failure.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
-  }
 }
 
 void Desktop::Follow() {

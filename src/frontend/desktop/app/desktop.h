@@ -11,7 +11,7 @@
 #include "src/frontend/desktop/app/tick_server.h"
 #include "src/frontend/desktop/input/keys.h"
 #include "src/frontend/desktop/input/pad.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/desktop/windows/window_events.h"
 #include "src/frontend/desktop/windows/windows.h"
 #include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
@@ -20,7 +20,7 @@ class QKeyEvent;
 
 namespace orvane {
 
-class Desktop : public QObject, public Events {
+class Desktop : public QObject, public WindowEvents {
  public:
   // Opens the windows of a program, which must outlive it, with the scale of `zoom`, which is set,
   // and with the texts that `texts` gives.
@@ -52,7 +52,6 @@ class Desktop : public QObject, public Events {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void Try(const std::function<void(Program&)>& event);
   void Follow();
   void FollowBoxes();
   // Whether the game is held; sees to the end of a hold that has just been asked for.

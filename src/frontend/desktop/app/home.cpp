@@ -1,10 +1,9 @@
-#include "src/frontend/desktop/app/home.h"
+#include "src/frontend/shared/home.h"
 
 #include <cstdlib>
 #include <system_error>
 
 #include "src/platform/path_text.h"
-#include "src/platform/player_folder.h"
 #include "src/platform/program_path.h"
 
 namespace orvane {
@@ -26,6 +25,7 @@ std::filesystem::path DataFolder() {
 
 }  // namespace
 
+// Installed for all, the player's own is $XDG_DATA_HOME/orvane/game.
 Home FindHome() {
   std::error_code failed;
   const auto program = ProgramPath().parent_path();
@@ -33,15 +33,11 @@ Home FindHome() {
   const auto installed = program.parent_path() / "share" / "orvane" / "game";
   if (program.empty() || std::filesystem::exists(beside, failed) ||
       !std::filesystem::is_directory(installed, failed)) {
-    return {beside, {}};
+    return {beside, {}, {}};
   }
   const auto data = DataFolder();
-  return {data.empty() ? data : data / "orvane" / "game", installed};
-}
-
-std::string MakeReady(const Home& home) {
-  if (home.Folder.empty()) return "neither XDG_DATA_HOME nor HOME names a folder";
-  return home.Installed.empty() ? std::string() : PreparePlayerFolder(home.Installed, home.Folder);
+  if (data.empty()) return {{}, installed, "neither XDG_DATA_HOME nor HOME names a folder"};
+  return {data / "orvane" / "game", installed, {}};
 }
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/app/instance.h"
+#include "src/frontend/shared/instance.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,28 +52,39 @@ bool IsStillNamed(int file, const std::string& name) {
 
 }  // namespace
 
-Instance::Instance(const std::filesystem::path& folder) : name_(LockName(folder)) {
+struct Instance::Lock {
+  int File = -1;
+  bool IsFirst = true;
+};
+
+Instance::Instance(const std::filesystem::path& folder)
+    : name_(LockName(folder)), lock_(std::make_unique<Lock>()) {
+  int& file = lock_->File;
   do {
-    if (file_ >= 0) close(file_);
-    file_ = open(name_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, kOwnAndKept);
-    if (file_ < 0) return;
+    if (file >= 0) close(file);
+    file = open(name_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, kOwnAndKept);
+    if (file < 0) return;
     const struct flock lock = WholeFile();
-    if (fcntl(file_, F_SETLK, &lock) != 0) {
-      first_ = errno != EACCES && errno != EAGAIN;
+    if (fcntl(file, F_SETLK, &lock) != 0) {
+      lock_->IsFirst = errno != EACCES && errno != EAGAIN;
       return;
     }
-  } while (!IsStillNamed(file_, name_));
+  } while (!IsStillNamed(file, name_));
 }
 
 Instance::~Instance() {
-  if (file_ < 0) return;
-  if (first_) unlink(name_.c_str());
-  close(file_);
+  if (lock_->File < 0) return;
+  if (lock_->IsFirst) unlink(name_.c_str());
+  close(lock_->File);
+}
+
+bool Instance::IsFirst() const {
+  return lock_->IsFirst;
 }
 
 void Instance::CallFirst() const {
   struct flock lock = WholeFile();
-  if (file_ < 0 || fcntl(file_, F_GETLK, &lock) != 0) return;
+  if (lock_->File < 0 || fcntl(lock_->File, F_GETLK, &lock) != 0) return;
   // A game that this process cannot see, one in another container, has no number here.
   if (lock.l_type != F_UNLCK && lock.l_pid > 0) kill(lock.l_pid, kCallSignal);
 }

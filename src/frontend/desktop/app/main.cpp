@@ -10,14 +10,15 @@
 #include "src/frontend/desktop/access/spoken.h"
 #include "src/frontend/desktop/app/boxes.h"
 #include "src/frontend/desktop/app/desktop.h"
-#include "src/frontend/desktop/app/home.h"
-#include "src/frontend/desktop/app/instance.h"
 #include "src/frontend/desktop/app/preferences.h"
 #include "src/frontend/desktop/app/signals.h"
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/look.h"
 #include "src/frontend/desktop/windows/toolkit_scale.h"
 #include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/home.h"
+#include "src/frontend/shared/instance.h"
+#include "src/frontend/shared/kept_play.h"
 #include "src/frontend/shared/options.h"
 #include "src/frontend/shared/texts/language_choice.h"
 #include "src/frontend/shared/zoom.h"
@@ -74,11 +75,7 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& /*context*/,
 Zoom ChooseZoom(const Options& options, Program& program, const ScreenFacts& screen) {
   std::optional<double> start = options.Scale;
   if (!start && ScaleIsFixed()) start = screen.Scale;
-  std::vector<Extent> windows;
-  for (const Screen* each : program.TheStage().Screens()) {
-    windows.push_back({double(each->Width), double(each->Height)});
-  }
-  return Zoom(screen, start, windows);
+  return Zoom(screen, start, InsidesOf(program.TheStage()));
 }
 
 // The game cannot start: says so in a box and on the terminal.
@@ -93,7 +90,7 @@ int TellProblem(const std::string& problem, int argument_count, char** arguments
 
 int RunGame(const Options& options, Translator& texts, int argument_count, char** arguments) {
   HoldSignals();
-  const Home home = options.Folder ? Home{*options.Folder, {}} : FindHome();
+  const Home home = options.Folder ? Home{*options.Folder, {}, {}} : FindHome();
   const Instance instance(home.Folder);
   if (!instance.IsFirst()) {
     instance.CallFirst();
@@ -104,7 +101,9 @@ int RunGame(const Options& options, Translator& texts, int argument_count, char*
   SoundEngine sound;
   PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);
-  Program program({sound, chance, files});
+  KeptPlay play({sound, chance, files}, options.Record, home.Folder / kReplayAfterError);
+  Program program(play.TheServices());
+  play.Watch(program);
   const auto zoom_for = [&](const ScreenFacts& screen) {
     return ChooseZoom(options, program, screen);
   };

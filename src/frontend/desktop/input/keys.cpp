@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "src/frontend/desktop/input/keyboard.h"
-#include "src/frontend/desktop/windows/events.h"
 #include "src/frontend/desktop/x11/x11.h"
+#include "src/frontend/shared/events.h"
 
 namespace orvane {
 namespace {
@@ -35,13 +35,8 @@ bool IsTyping() {
 }  // namespace
 
 Keys::Keys(Events& events, std::function<bool()> reaches)
-    : walking_(
-          {std::move(reaches), &MenuBarHasKeys, &AskKeyboard, [&events](Direction key, bool down) {
-             events.Send([key, down](Program& program) {
-               if (down) return program.KeyDown(key);
-               return program.KeyUp(key);
-             });
-           }}) {
+    : walking_({std::move(reaches), &MenuBarHasKeys, &AskKeyboard,
+                [&events](Direction key, bool down) { SendArrow(events, key, down); }}) {
   QCoreApplication::instance()->installEventFilter(this);
 }
 

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "src/frontend/desktop/input/keyboard.h"
-#include "src/frontend/desktop/windows/events.h"
 #include "src/frontend/desktop/windows/screen_window.h"
+#include "src/frontend/shared/events.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -55,12 +55,9 @@ void Pad::Start(std::unique_ptr<PadSource> source) {
 }
 
 void Pad::Look() {
-  const auto state = source_->Read();
-  // What is pressed for another program is not for this one.
-  const bool ours = QApplication::applicationState() == Qt::ApplicationActive;
-  const int pace = state && ours ? kPadOftenMs : kPadSeldomMs;
+  const bool in_front = QApplication::applicationState() == Qt::ApplicationActive;
+  const int pace = rules_.Read(*source_, in_front, static_cast<double>(clock_.elapsed()));
   if (timer_.interval() != pace) timer_.start(pace);
-  rules_.Follow(state && ours ? *state : PadState{}, static_cast<double>(clock_.elapsed()));
 }
 
 bool Pad::ReachesGame() const {
@@ -68,10 +65,7 @@ bool Pad::ReachesGame() const {
 }
 
 void Pad::Walk(Direction direction, bool down) {
-  events_.Send([direction, down](Program& program) {
-    if (down) return program.KeyDown(direction);
-    return program.KeyUp(direction);
-  });
+  SendArrow(events_, direction, down);
 }
 
 void Pad::Move(Direction direction) {

@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 
-#include "src/frontend/desktop/input/pad_device.h"
 #include "src/frontend/shared/pad_rules.h"
 
 namespace orvane {

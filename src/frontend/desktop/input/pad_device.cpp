@@ -1,8 +1,10 @@
-#include "src/frontend/desktop/input/pad_device.h"
-
 #include <SDL.h>
 
+#include <memory>
+#include <optional>
 #include <utility>
+
+#include "src/frontend/shared/pad_source.h"
 
 namespace orvane {
 namespace {
@@ -23,7 +25,23 @@ double Axis(SDL_GameController* controller, SDL_GameControllerAxis axis) {
   return SDL_GameControllerGetAxis(controller, axis) / 32767.0;
 }
 
-}  // namespace
+// By SDL.
+class PadDevice : public PadSource {
+ public:
+  PadDevice();
+  ~PadDevice() override;
+  PadDevice(const PadDevice&) = delete;
+  PadDevice& operator=(const PadDevice&) = delete;
+
+  std::optional<PadState> Read() override;
+
+ private:
+  void Find();
+
+  bool started_;
+  SDL_GameController* controller_ = nullptr;
+  PadStick stick_;
+};
 
 PadDevice::PadDevice() {
   // The windows are not SDL's, so that for SDL the program is always in the background.
@@ -62,6 +80,12 @@ void PadDevice::Find() {
   for (int i = 0; controller_ == nullptr && i < SDL_NumJoysticks(); ++i) {
     if (SDL_IsGameController(i) != SDL_FALSE) controller_ = SDL_GameControllerOpen(i);
   }
+}
+
+}  // namespace
+
+std::unique_ptr<PadSource> OpenPads() {
+  return std::make_unique<PadDevice>();
 }
 
 }  // namespace orvane

@@ -7,8 +7,8 @@
 
 #include "src/frontend/desktop/input/keyboard.h"
 #include "src/frontend/desktop/paint/fonts.h"
-#include "src/frontend/desktop/windows/events.h"
 #include "src/frontend/shared/caption_fit.h"
+#include "src/frontend/shared/events.h"
 #include "src/game/program.h"
 
 namespace orvane {

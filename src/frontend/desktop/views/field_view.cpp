@@ -1,6 +1,6 @@
 #include "src/frontend/desktop/views/field_view.h"
 
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/game/program.h"
 
 namespace orvane {

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "src/frontend/desktop/paint/text_paint.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 
 namespace orvane {
 namespace {

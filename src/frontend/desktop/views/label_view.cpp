@@ -6,7 +6,7 @@
 
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/text_paint.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/text_fit.h"
 
 namespace orvane {

@@ -11,7 +11,7 @@
 #include <utility>
 
 #include "src/frontend/desktop/paint/text_paint.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/game/program.h"
 
 namespace orvane {

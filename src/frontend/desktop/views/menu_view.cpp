@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "src/frontend/desktop/views/control_view.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/game/program.h"
 
 namespace orvane {

@@ -5,7 +5,7 @@
 
 #include "src/frontend/desktop/access/spoken.h"
 #include "src/frontend/desktop/paint/surface_image.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/spoken_text.h"
 #include "src/game/program.h"
 

@@ -2,7 +2,7 @@
 
 #include <QSignalBlocker>
 
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/game/program.h"
 
 namespace orvane {

@@ -4,7 +4,7 @@
 #include <QSignalBlocker>
 #include <QStyleOptionTabWidgetFrame>
 
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/focus_order.h"
 #include "src/game/program.h"
 

@@ -8,54 +8,48 @@
 #include "src/frontend/desktop/views/picture_view.h"
 #include "src/frontend/desktop/views/slider_view.h"
 #include "src/frontend/desktop/views/tabs_view.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/spoken_names.h"
 #include "src/frontend/shared/spoken_text.h"
+#include "src/ui/visit_control.h"
 
 namespace orvane {
 namespace {
 
-std::unique_ptr<ControlView> MakeKind(Control& control, QWidget* parent, Events& events) {
-  switch (control.Kind()) {
-    case ControlKind::Label:
-      return std::make_unique<LabelView>(static_cast<Label&>(control), parent, events);
-    case ControlKind::Button:
-      return std::make_unique<ButtonView>(static_cast<CommandButton&>(control), parent, events);
-    case ControlKind::Picture:
-      return std::make_unique<PictureView>(static_cast<PictureBox&>(control), parent, events);
-    case ControlKind::List: {
-      auto& list = static_cast<ListBox&>(control);
-      return std::make_unique<ListView>(list, list, parent, events);
-    }
-    case ControlKind::FileList: {
-      auto& list = static_cast<FileListBox&>(control);
-      return std::make_unique<ListView>(list, list, parent, events);
-    }
-    case ControlKind::Tabs:
-      return std::make_unique<TabsView>(static_cast<TabStrip&>(control), parent, events);
-    case ControlKind::Field:
-      return std::make_unique<FieldView>(static_cast<TextBox&>(control), parent, events);
-    case ControlKind::Slider:
-      return std::make_unique<SliderView>(static_cast<Slider&>(control), parent, events);
-    case ControlKind::Frame:
-      return std::make_unique<FrameView>(static_cast<Frame&>(control), parent, events);
-    case ControlKind::Menu:
-    case ControlKind::Timer:
-      break;
-  }
-  return nullptr;
-}
+using Made = std::unique_ptr<ControlView>;
 
-// A text is its own name; what a number is the number of, the text does not say.
-std::string Meaning(const Control& control) {
-  const std::string whose = SpokenName(control);
-  return whose.empty() ? CaptionBeside(control) : whose;
-}
+// Makes a view for each kind, on this widget.
+struct Maker {
+  QWidget* On;
+  Events& TheEvents;
+
+  Made operator()(Label& label) const { return Make<LabelView>(label); }
+  Made operator()(Frame& frame) const { return Make<FrameView>(frame); }
+  Made operator()(CommandButton& button) const { return Make<ButtonView>(button); }
+  Made operator()(PictureBox& picture) const { return Make<PictureView>(picture); }
+  Made operator()(ListBox& list) const { return MakeList(list); }
+  Made operator()(FileListBox& list) const { return MakeList(list); }
+  Made operator()(TabStrip& tabs) const { return Make<TabsView>(tabs); }
+  Made operator()(TextBox& field) const { return Make<FieldView>(field); }
+  Made operator()(Slider& slider) const { return Make<SliderView>(slider); }
+  Made operator()(MenuItem& /*item*/) const { return nullptr; }
+  Made operator()(Timer& /*timer*/) const { return nullptr; }
+
+ private:
+  template <class View, class Model>
+  Made Make(Model& model) const {
+    return std::make_unique<View>(model, On, TheEvents);
+  }
+  template <class List>
+  Made MakeList(List& list) const {
+    return std::make_unique<ListView>(list, list, On, TheEvents);
+  }
+};
 
 }  // namespace
 
 std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Events& events) {
-  auto view = MakeKind(control, parent, events);
+  auto view = VisitControl(control, Maker{parent, events});
   if (view == nullptr) return view;
   view->Widget()->setObjectName(ToQt(control.Name()));
   NameForReaders(*view, events.Texts());
@@ -65,7 +59,7 @@ std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Events&
 void NameForReaders(ControlView& view, const Translator& texts) {
   const Control& control = view.Model();
   if (control.Kind() == ControlKind::Label) {
-    view.Widget()->setAccessibleDescription(ToQt(texts.Of(Meaning(control))));
+    view.Widget()->setAccessibleDescription(ToQt(texts.Of(SpokenMeaning(control))));
   } else {
     view.SetSpokenName(ToQt(texts.Of(SpokenName(control))));
   }

@@ -4,14 +4,14 @@
 #include <QPaintEvent>
 
 #include "src/frontend/desktop/views/control_view.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/desktop/windows/window_events.h"
 #include "src/frontend/shared/spoken_text.h"
 #include "src/game/program.h"
 #include "src/ui/reach.h"
 
 namespace orvane {
 
-ClientArea::ClientArea(Screen& screen, Events& events) : screen_(screen), events_(events) {
+ClientArea::ClientArea(Screen& screen, WindowEvents& events) : screen_(screen), events_(events) {
   setFixedSize(screen.Width, screen.Height);
   setAutoFillBackground(true);
   NameForReaders();

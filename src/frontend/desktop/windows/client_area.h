@@ -9,11 +9,11 @@
 
 namespace orvane {
 
-class Events;
+class WindowEvents;
 
 class ClientArea : public QWidget, public Spoken {
  public:
-  ClientArea(Screen& screen, Events& events);
+  ClientArea(Screen& screen, WindowEvents& events);
 
   // Brings the surface up to date; `all` when it may have been made afresh.
   void Follow(bool all);
@@ -32,7 +32,7 @@ class ClientArea : public QWidget, public Spoken {
 
  private:
   Screen& screen_;
-  Events& events_;
+  WindowEvents& events_;
   SurfaceImage image_;
   Announcer announcer_;
 };

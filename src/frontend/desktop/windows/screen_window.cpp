@@ -15,7 +15,7 @@
 
 #include "src/frontend/desktop/input/keyboard.h"
 #include "src/frontend/desktop/views/view_factory.h"
-#include "src/frontend/desktop/windows/events.h"
+#include "src/frontend/desktop/windows/window_events.h"
 #include "src/frontend/desktop/x11/x11.h"
 #include "src/game/program.h"
 
@@ -55,7 +55,7 @@ QPointF CentreOf(const QWidget& window) {
 
 }  // namespace
 
-ScreenWindow::ScreenWindow(Screen& screen, Events& events)
+ScreenWindow::ScreenWindow(Screen& screen, WindowEvents& events)
     : screen_(screen), events_(events), client_(new ClientArea(screen, events)) {
   setObjectName(ToQt(screen.Name()));
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |

@@ -25,7 +25,7 @@ struct Setting {
 
 class ScreenWindow : public QMainWindow {
  public:
-  ScreenWindow(Screen& screen, Events& events);
+  ScreenWindow(Screen& screen, WindowEvents& events);
 
   Screen& Model() const { return screen_; }
   // Null where the screen has no menus.
@@ -77,7 +77,7 @@ class ScreenWindow : public QMainWindow {
   void MeasureGiven();
 
   Screen& screen_;
-  Events& events_;
+  WindowEvents& events_;
   ClientArea* client_;
   std::unique_ptr<MenuView> menu_;
   std::vector<std::unique_ptr<ControlView>> views_;

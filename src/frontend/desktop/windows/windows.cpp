@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-Windows::Windows(Stage& stage, Events& events, const Zoom& zoom)
+Windows::Windows(Stage& stage, WindowEvents& events, const Zoom& zoom)
     : stage_(stage), scale_(zoom.ScaleFor({})) {
   for (Screen* screen : stage.Screens()) {
     windows_.push_back(std::make_unique<ScreenWindow>(*screen, events));

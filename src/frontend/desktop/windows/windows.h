@@ -14,7 +14,7 @@ namespace orvane {
 class Windows {
  public:
   // The windows start with the scale that is set.
-  Windows(Stage& stage, Events& events, const Zoom& zoom);
+  Windows(Stage& stage, WindowEvents& events, const Zoom& zoom);
 
   // Brings all that can be seen up to date.
   void Follow();

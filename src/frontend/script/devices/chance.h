@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
-#include <random>
 
 #include "src/platform/services.h"
 
@@ -16,6 +15,7 @@ class ScriptChance : public Chance {
   float Draw() override;
   // Does nothing: a script's runs repeat.
   void Reseed() override {}
+  const SeededDraws* Source() const override { return &draws_; }
 
   // Queues a value; it must be in [0, 1) as a single-precision number too.
   void Queue(float value) { queue_.push_back(value); }
@@ -25,7 +25,7 @@ class ScriptChance : public Chance {
 
  private:
   std::deque<float> queue_;
-  std::mt19937 generator_;
+  SeededDraws draws_;
 };
 
 }  // namespace orvane

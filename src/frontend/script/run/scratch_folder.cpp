@@ -1,12 +1,12 @@
 #include "src/frontend/script/run/scratch_folder.h"
 
-#include <fstream>
 #include <system_error>
 
 #include "src/frontend/script/names/value.h"
 #include "src/frontend/script/run/script_error.h"
 #include "src/platform/path_text.h"
 #include "src/platform/temporary_folder.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane {
 namespace {
@@ -68,15 +68,13 @@ ScratchFolder::ScratchFolder(const files::path& original) {
   try {
     CopyFolder(original, path_);
   } catch (const std::exception& failed) {
-    std::error_code ignored;
-    files::remove_all(path_, ignored);
+    RemoveFolder(path_);
     throw ScriptError("a game folder that can be copied", failed.what());
   }
 }
 
 ScratchFolder::~ScratchFolder() {
-  std::error_code ignored;
-  files::remove_all(path_, ignored);
+  RemoveFolder(path_);
 }
 
 files::path ScratchFolder::Inside(const std::string& name) const {
@@ -96,10 +94,7 @@ void ScratchFolder::Write(const std::string& name, const std::string& bytes) {
   std::error_code ignored;
   if (IsLink(path)) files::remove(path, ignored);
   files::create_directories(path.parent_path(), ignored);
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (!file) throw ScriptError("a file that can be written", Quoted(name));
+  if (!WriteWholeFile(path, bytes)) throw ScriptError("a file that can be written", Quoted(name));
   files_->Written(name, bytes);
 }
 

@@ -77,7 +77,8 @@ std::string RunText(lua_State* lua, const std::string& file, std::string text) {
 
 }  // namespace
 
-void RunScript(const std::string& file, const std::filesystem::path& game_folder, Tally& tally) {
+void RunScript(const std::string& file, const std::filesystem::path& game_folder,
+               const std::filesystem::path& record, Tally& tally) {
   const std::optional<std::string> text = ReadWholeFile(PathOf(file));
   if (!text) return tally.Break(file + ":1: expected a script that can be read, found none");
   const StateOwner state(luaL_newstate());
@@ -86,6 +87,7 @@ void RunScript(const std::string& file, const std::filesystem::path& game_folder
   RemoveUnwanted(state.get());
   LookBeside(state.get(), file);
   Session session(state.get(), game_folder, tally);
+  if (!record.empty()) session.RecordTo(record);
   SetSession(state.get(), &session);
   RegisterCalls(state.get());
   const std::string failure = RunText(state.get(), file, *text);

@@ -40,7 +40,14 @@ void Session::Start(const StartOptions& options) {
 }
 
 void Session::MakeProgram() {
-  program_ = std::make_unique<Program>(Services{Sound, Luck, folder_->Files()});
+  Services services{Sound, Luck, folder_->Files()};
+  if (record_) {
+    std::filesystem::path file = *record_;
+    if (++recorded_ > 1) file += "." + std::to_string(recorded_);
+    play_ = std::make_unique<KeptPlay>(services, file, std::filesystem::path());
+  }
+  program_ = std::make_unique<Program>(play_ ? play_->TheServices() : services);
+  if (play_) play_->Watch(*program_);
   names_ = std::make_unique<Names>(program_->TheState(), program_->TheStage());
   timers_ = std::make_unique<TimerQueue>(program_->TheStage(), Pacing::AsAsked);
 }
@@ -71,7 +78,9 @@ void Session::ClearQueues() {
 void Session::EndProgram() {
   timers_.reset();
   names_.reset();
+  if (play_ && program_) play_->Finish();
   program_.reset();
+  play_.reset();
   Sound.Silence();
 }
 

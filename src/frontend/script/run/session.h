@@ -16,6 +16,7 @@
 #include "src/frontend/script/run/clock.h"
 #include "src/frontend/script/run/scratch_folder.h"
 #include "src/frontend/script/run/tally.h"
+#include "src/frontend/shared/kept_play.h"
 #include "src/game/program.h"
 #include "src/ui/timer_queue.h"
 
@@ -63,6 +64,10 @@ class Session {
   // Fires one tick of a timer.
   void Tick(Timer& timer);
 
+  // Records the programs that start from now on, each in a file of its own: the first in this one,
+  // the next in the same with ".2" behind its name, and so on.
+  void RecordTo(const std::filesystem::path& file) { record_ = file; }
+
   // How often a program or a folder has been made: tells whether a test has made one.
   int Starts() const { return starts_; }
   // Whether a script runs within an event of the program: while a box stands.
@@ -102,6 +107,9 @@ class Session {
   std::filesystem::path game_folder_;
   std::unique_ptr<ScratchFolder> folder_;
   bool prepared_ = false;  // the folder waits for a start
+  std::optional<std::filesystem::path> record_;
+  int recorded_ = 0;
+  std::unique_ptr<KeptPlay> play_;  // while programs are recorded
   std::unique_ptr<Program> program_;
   std::unique_ptr<Names> names_;
   std::unique_ptr<TimerQueue> timers_;

@@ -100,6 +100,12 @@ std::string Translator::Of(const Control& control, std::string_view text) const 
   return is_name ? std::string(text) : Of(text);
 }
 
+Box Translator::Of(const Box& box) const {
+  Box shown = box;
+  for (std::string* text : {&shown.Text, &shown.Title, &shown.Note}) *text = Of(*text);
+  return shown;
+}
+
 std::string Translator::Find(std::string_view text) const {
   const std::string bare = Trim(text);
   const auto exact = texts_.find(bare);

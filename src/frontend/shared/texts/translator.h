@@ -9,6 +9,7 @@
 
 #include "src/frontend/shared/texts/catalogue.h"
 #include "src/frontend/shared/texts/pattern.h"
+#include "src/ui/box.h"
 #include "src/ui/control.h"
 
 namespace orvane {
@@ -34,6 +35,8 @@ class Translator {
   std::string Of(std::string_view text) const;
   // The same for a text of a control: one that the player has given a hero stays as it is.
   std::string Of(const Control& control, std::string_view text) const;
+  // A box with its texts as they are shown.
+  Box Of(const Box& box) const;
   // The texts of the catalogue that the translation is made of: the one that gives it, and those
   // that give its parts; nothing where none does.
   std::vector<std::string> SourcesOf(std::string_view text) const;

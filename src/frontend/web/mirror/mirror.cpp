@@ -220,7 +220,7 @@ void Mirror::FollowControls(std::string& out, std::string& pixels) {
       WriteValues(*shown.Model, number, texts_, values);
       if (comes || values != shown.Values) {
         shown.Values = values;
-        if (const std::string meaning = MeaningOf(*shown.Model, texts_); !meaning.empty()) {
+        if (const std::string meaning = texts_.Of(SpokenMeaning(*shown.Model)); !meaning.empty()) {
           values.pop_back();
           Json more(values, Json::Form::Rest);
           more.Add("meaning", meaning);
@@ -260,7 +260,7 @@ std::string Mirror::BoxesNow() const {
       {
         Json json(entry, Json::Form::Object);
         json.Add("number", box.Number);
-        json.Add("text", texts_.Of(box.Shown.Text));
+        json.Add("text", ShownText(texts_.Of(box.Shown)));
         json.Add("title", texts_.Of(box.Shown.Title));
         json.AddRaw("choices", choices);
         json.Add("closing", static_cast<int>(AnswerOfClosing(box.Shown.Buttons)));

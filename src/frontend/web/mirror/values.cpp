@@ -202,10 +202,4 @@ void WriteValues(const Control& control, int id, const Translator& texts, std::s
   WriteKind(control, texts, json);
 }
 
-std::string MeaningOf(const Control& control, const Translator& texts) {
-  if (control.Kind() != ControlKind::Label) return {};
-  const std::string whose = SpokenName(control);
-  return texts.Of(whose.empty() ? CaptionBeside(control) : whose);
-}
-
 }  // namespace orvane

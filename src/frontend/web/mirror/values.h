@@ -25,8 +25,4 @@ void WriteNature(const Control& control, const Standing& standing, std::string& 
 // Writes what may change, as it is now. Of a control that is not to be seen that is all.
 void WriteValues(const Control& control, int id, const Translator& texts, std::string& out);
 
-// Of a text that is a number whose number it is, for screen readers; nothing where it speaks for
-// itself. Finding out takes longer than all the rest.
-std::string MeaningOf(const Control& control, const Translator& texts);
-
 }  // namespace orvane

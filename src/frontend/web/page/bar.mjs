@@ -1,4 +1,5 @@
 // What belongs to the page rather than to the game: its bar, notices, and pages at the end.
+import { askBytes } from './game.mjs';
 import { isTouched, make, makeButton } from './elements.mjs';
 import { claim, hand, kept, lasts, remember, remembered } from './saves.mjs';
 
@@ -45,14 +46,13 @@ function showLast(state, title, sentence) {
 
 export function showEnd(status) {
   document.body.dataset.status = status;
-  const sentence = status === 0 ? 'ゲームは終わりました。' : 'ゲームはエラーで終わりました。';
-  showLast('ended', 'Orvane', `${sentence}セーブデータはそのままです。`);
+  const page = showLast('ended', 'Orvane', `ゲームは${status === 0 ? '' : 'エラーで'}終わりました。セーブデータはそのままです。`);
+  if (status !== 0) makeButton('push', page, 'ここまでの操作の記録を書き出す', () => hand('error.replay', askBytes('Replay')));
 }
 
 export function showCrash(error) {
   console.error(error);
-  const sentence = 'ゲームが動かなくなりました。セーブしたデータは残っています。';
-  const page = showLast('crashed', '申しわけありません', sentence);
+  const page = showLast('crashed', '申しわけありません', 'ゲームが動かなくなりました。セーブしたデータは残っています。');
   make('pre', '', page).textContent = `${error?.message ?? error}\n${error?.stack ?? ''}`;
 }
 

@@ -78,7 +78,7 @@ void BoxWindow::MakeControls() {
   SetWindowTextW(window_, Wide(box_.Title).c_str());
   SendMessageW(window_, WM_SETICON, ICON_SMALL,
                reinterpret_cast<LPARAM>(ProgramIcon(GetSystemMetrics(SM_CXSMICON))));
-  text_ = MakeChild(window_, WC_STATICW, WideLines(box_.Text), SS_NOPREFIX, -1);
+  text_ = MakeChild(window_, WC_STATICW, WideLines(ShownText(box_)), SS_NOPREFIX, -1);
   for (const BoxChoice& choice : ChoicesOf(box_.Buttons)) {
     const auto index = static_cast<int>(buttons_.size());
     const DWORD kind = index == 0 ? BS_DEFPUSHBUTTON | WS_GROUP : BS_PUSHBUTTON;
@@ -97,7 +97,7 @@ void BoxWindow::LayOut(HWND owner) {
   const auto px = [dpi](int own) { return MulDiv(own, static_cast<int>(dpi), 96); };
   const HFONT old = std::exchange(font_, MessageFont(dpi));
   if (old != nullptr) DeleteObject(old);
-  const SIZE text = SizeOf(window_, font_, WideLines(box_.Text), px(kWidestText));
+  const SIZE text = SizeOf(window_, font_, WideLines(ShownText(box_)), px(kWidestText));
   const SIZE title = SizeOf(window_, font_, Wide(box_.Title), 10 * px(kWidestText));
   const auto count = static_cast<int>(buttons_.size());
   const int buttons = count * px(kButtonWidth) + (count - 1) * px(kGap);

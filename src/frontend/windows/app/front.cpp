@@ -1,11 +1,8 @@
 #include "src/frontend/windows/app/front.h"
 
 #include <cmath>
-#include <cstdlib>
-#include <exception>
-#include <vector>
 
-#include "src/frontend/windows/app/instance.h"
+#include "src/frontend/shared/raised.h"
 #include "src/frontend/windows/windows/display.h"
 
 namespace orvane {
@@ -14,18 +11,6 @@ namespace {
 
 constexpr UINT kRingMessage = WM_APP + 2;
 constexpr UINT kDisplayMessage = WM_APP + 3;
-
-// Sets a flag while it lives.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-};
 
 }  // namespace
 
@@ -73,18 +58,8 @@ void Front::Take(UINT message) {
 void Front::Send(const std::function<void(Program&)>& event) {
   // What controls report while they are being brought up to date is no event of the player's.
   if (following_ || held_until_) return;
-  if (!program_.HasEnded()) Try(event);
+  if (!program_.HasEnded()) ActOn(program_, event);
   Follow();
-}
-
-void Front::Try(const std::function<void(Program&)>& event) {
-  // The game handles the errors that bad data can lead to. What else may come, such as want of
-  // memory, must not fly through the system's calls.
-  try {
-    event(program_);
-  } catch (const std::exception& failure) {
-    program_.TheStage().EndWithBox({failure.what(), "Orvane", BoxButtons::Ok}, EXIT_FAILURE);
-  }
 }
 
 void Front::Follow() {
@@ -208,11 +183,7 @@ bool Front::KeysReachGame() const {
 }
 
 Zoom Front::MakeZoom(HWND window) const {
-  std::vector<Extent> windows;
-  for (const Screen* each : program_.TheStage().Screens()) {
-    windows.push_back({double(each->Width), double(each->Height)});
-  }
-  return Zoom(FactsOf(window), scale_, windows);
+  return Zoom(FactsOf(window), scale_, InsidesOf(program_.TheStage()));
 }
 
 void Front::DisplayChanged() {

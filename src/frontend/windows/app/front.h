@@ -15,12 +15,13 @@
 #include "src/frontend/windows/app/message_window.h"
 #include "src/frontend/windows/input/keys.h"
 #include "src/frontend/windows/input/pad.h"
+#include "src/frontend/windows/windows/window_events.h"
 #include "src/frontend/windows/windows/windows.h"
 #include "src/game/program.h"
 
 namespace orvane {
 
-class Front : public Events {
+class Front : public WindowEvents {
  public:
   // Opens the windows of a program, which must outlive it, in this scale or the one that suits the
   // display. `name` is what a second start calls it by.
@@ -46,7 +47,6 @@ class Front : public Events {
 
  private:
   void Take(UINT message);
-  void Try(const std::function<void(Program&)>& event);
   void Follow();
   void FollowWindows();
   void LeaveSystemLoop();

@@ -1,9 +1,8 @@
-#include "src/frontend/windows/app/home.h"
+#include "src/frontend/shared/home.h"
 
 #include <cstdlib>
 
 #include "src/frontend/windows/system/windows_api.h"
-#include "src/platform/player_folder.h"
 #include "src/platform/program_path.h"
 
 namespace orvane {
@@ -27,17 +26,16 @@ std::filesystem::path LocalData() {
 
 }  // namespace
 
+// The player's own lies among the local application data.
 Home FindHome() {
   const auto beside = ProgramPath().parent_path() / L"game";
   std::error_code failed;
-  if (!std::filesystem::is_directory(beside, failed) || CanBeWritten(beside)) return {beside, {}};
+  if (!std::filesystem::is_directory(beside, failed) || CanBeWritten(beside)) {
+    return {beside, {}, {}};
+  }
   const auto data = LocalData();
-  return {data.empty() ? data : data / L"Orvane" / L"game", beside};
-}
-
-std::string MakeReady(const Home& home) {
-  if (home.Folder.empty()) return "LOCALAPPDATA names no folder";
-  return home.Installed.empty() ? std::string() : PreparePlayerFolder(home.Installed, home.Folder);
+  if (data.empty()) return {{}, beside, "LOCALAPPDATA names no folder"};
+  return {data / L"Orvane" / L"game", beside, {}};
 }
 
 }  // namespace orvane

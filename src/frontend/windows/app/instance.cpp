@@ -1,4 +1,4 @@
-#include "src/frontend/windows/app/instance.h"
+#include "src/frontend/shared/instance.h"
 
 #include <array>
 #include <cstdint>
@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "src/frontend/windows/app/message_window.h"
+#include "src/platform/windows/wide_text.h"
 
 namespace orvane {
 namespace {
@@ -32,22 +33,32 @@ uint64_t Hash(const std::wstring& text) {
   return hash;
 }
 
-std::wstring NameOf(const std::filesystem::path& folder) {
-  std::array<wchar_t, 32> name{};
+std::string NameOf(const std::filesystem::path& folder) {
+  std::array<char, 32> name{};
   const auto hash = static_cast<unsigned long long>(Hash(OneSpelling(folder)));
-  std::swprintf(name.data(), name.size(), L"Orvane-%016llx", hash);
+  std::snprintf(name.data(), name.size(), "Orvane-%016llx", hash);
   return name.data();
 }
 
 }  // namespace
 
-Instance::Instance(const std::filesystem::path& folder)
-    : name_(NameOf(folder)), mutex_(CreateMutexW(nullptr, FALSE, (L"Local\\" + name_).c_str())) {
-  first_ = GetLastError() != ERROR_ALREADY_EXISTS;
+struct Instance::Lock {
+  HANDLE Mutex;
+  bool IsFirst;
+};
+
+Instance::Instance(const std::filesystem::path& folder) : name_(NameOf(folder)) {
+  const HANDLE mutex = CreateMutexW(nullptr, FALSE, (L"Local\\" + Wide(name_)).c_str());
+  const bool is_first = GetLastError() != ERROR_ALREADY_EXISTS;
+  lock_ = std::make_unique<Lock>(Lock{mutex, is_first});
 }
 
 Instance::~Instance() {
-  if (mutex_ != nullptr) CloseHandle(mutex_);
+  if (lock_->Mutex != nullptr) CloseHandle(lock_->Mutex);
+}
+
+bool Instance::IsFirst() const {
+  return lock_->IsFirst;
 }
 
 void Instance::CallFirst() const {
@@ -55,7 +66,7 @@ void Instance::CallFirst() const {
   constexpr int tries = 50;
   constexpr DWORD pause_ms = 100;
   for (int i = 0; i < tries; ++i) {
-    if (const HWND first = MessageWindow::Find(name_)) {
+    if (const HWND first = MessageWindow::Find(Wide(name_))) {
       // Only the program in front may put another one there.
       DWORD process = 0;
       GetWindowThreadProcessId(first, &process);

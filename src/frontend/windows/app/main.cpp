@@ -4,15 +4,17 @@
 #include <string>
 
 #include "src/frontend/shared/chance.h"
+#include "src/frontend/shared/home.h"
+#include "src/frontend/shared/instance.h"
+#include "src/frontend/shared/kept_play.h"
 #include "src/frontend/shared/options.h"
 #include "src/frontend/windows/app/boxes.h"
 #include "src/frontend/windows/app/front.h"
-#include "src/frontend/windows/app/home.h"
-#include "src/frontend/windows/app/instance.h"
 #include "src/frontend/windows/paint/fonts.h"
 #include "src/game/program.h"
 #include "src/platform/arguments.h"
 #include "src/platform/folder_storage.h"
+#include "src/platform/windows/wide_text.h"
 #include "src/sound/sound_engine.h"
 
 namespace {
@@ -28,7 +30,7 @@ void PrepareControls() {
 }
 
 int RunGame(const Options& options) {
-  const Home home = options.Folder ? Home{*options.Folder, {}} : FindHome();
+  const Home home = options.Folder ? Home{*options.Folder, {}, {}} : FindHome();
   const Instance instance(home.Folder);
   if (!instance.IsFirst()) {
     instance.CallFirst();
@@ -42,8 +44,10 @@ int RunGame(const Options& options) {
   SoundEngine sound;
   PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);
-  Program program({sound, chance, files});
-  Front front(program, options.Scale, instance.Name());
+  KeptPlay play({sound, chance, files}, options.Record, home.Folder / kReplayAfterError);
+  Program program(play.TheServices());
+  play.Watch(program);
+  Front front(program, options.Scale, Wide(instance.Name()));
   front.TellOfPainting([&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
   return front.Run();
 }

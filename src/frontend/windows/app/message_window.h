@@ -8,6 +8,9 @@
 
 namespace orvane {
 
+// What a second start of the game sends to the first.
+constexpr UINT kCallMessage = WM_APP + 1;
+
 class MessageWindow : public OwnWindow {
  public:
   // `take` gets the messages from WM_APP on, and those of timers.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "src/frontend/windows/windows/events.h"
+#include "src/frontend/shared/events.h"
 
 namespace orvane {
 

@@ -9,6 +9,8 @@
 
 namespace orvane {
 
+class Events;
+
 // Carries out on a window's controls what FocusOrder says of them.
 class Focus {
  public:

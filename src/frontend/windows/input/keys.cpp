@@ -47,12 +47,7 @@ Keys::Keys(Events& events, std::function<bool()> reaches)
     : events_(events),
       // While the menu bar has the keys the system runs a loop of its own, which they do not leave.
       walking_({std::move(reaches), [] { return false; }, &AskKeyboard,
-                [&events](Direction key, bool down) {
-                  events.Send([key, down](Program& program) {
-                    if (down) return program.KeyDown(key);
-                    return program.KeyUp(key);
-                  });
-                }}) {}
+                [&events](Direction key, bool down) { SendArrow(events, key, down); }}) {}
 
 void Keys::Look() {
   walking_.Look();

@@ -3,8 +3,8 @@
 
 #include <functional>
 
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/walking_keys.h"
-#include "src/frontend/windows/windows/events.h"
 #include "src/frontend/windows/windows/screen_window.h"
 
 namespace orvane {

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "src/frontend/windows/input/pad_device.h"
 #include "src/frontend/windows/views/slider_view.h"
 #include "src/frontend/windows/windows/windows.h"
 #include "src/game/program.h"
@@ -34,19 +33,13 @@ void Pad::SetPace(UINT milliseconds) {
 }
 
 void Pad::Take() {
-  if (source_ == nullptr) source_ = std::make_unique<PadDevice>();
-  const auto state = source_->Read();
-  // What is pressed for another program is not for this one.
-  const bool ours = IsInFront();
-  SetPace(state && ours ? kPadOftenMs : kPadSeldomMs);
-  rules_.Follow(state && ours ? *state : PadState{}, static_cast<double>(GetTickCount64()));
+  if (source_ == nullptr) source_ = OpenPads();
+  const int pace = rules_.Read(*source_, IsInFront(), static_cast<double>(GetTickCount64()));
+  SetPace(static_cast<UINT>(pace));
 }
 
 void Pad::Walk(Direction direction, bool down) {
-  events_.Send([direction, down](Program& program) {
-    if (down) return program.KeyDown(direction);
-    return program.KeyUp(direction);
-  });
+  SendArrow(events_, direction, down);
 }
 
 void Pad::Move(Direction direction) {

@@ -4,10 +4,9 @@
 #include <functional>
 #include <memory>
 
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/pad_rules.h"
-#include "src/frontend/shared/pad_source.h"
 #include "src/frontend/windows/input/keys.h"
-#include "src/frontend/windows/windows/events.h"
 
 namespace orvane {
 

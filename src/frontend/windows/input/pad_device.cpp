@@ -1,9 +1,12 @@
-#include "src/frontend/windows/input/pad_device.h"
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "src/frontend/shared/pad_source.h"
+#include "src/frontend/windows/system/windows_api.h"
 
 // After the system's first header.
 #include <xinput.h>
-
-#include <utility>
 
 namespace orvane {
 namespace {
@@ -24,18 +27,28 @@ constexpr DWORD kPads = 4;
 
 using GetState = DWORD(WINAPI*)(DWORD, XINPUT_STATE*);
 
-}  // namespace
+// By the system's library for pads, which is looked for when this is made: not every system has it.
+class PadDevice : public PadSource {
+ public:
+  PadDevice();
+
+  std::optional<PadState> Read() override;
+
+ private:
+  FARPROC get_state_ = nullptr;
+  DWORD pad_ = 0;  // of those that the library counts
+  PadStick stick_;
+};
 
 PadDevice::PadDevice() {
+  // It stays to the program's end: a thread of its own goes on in it for a moment after the last
+  // call.
+  HMODULE library = nullptr;
   for (const wchar_t* name : {L"xinput1_4.dll", L"xinput9_1_0.dll"}) {
-    library_ = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (library_ != nullptr) break;
+    library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (library != nullptr) break;
   }
-  if (library_ != nullptr) get_state_ = GetProcAddress(library_, "XInputGetState");
-}
-
-PadDevice::~PadDevice() {
-  if (library_ != nullptr) FreeLibrary(library_);
+  if (library != nullptr) get_state_ = GetProcAddress(library, "XInputGetState");
 }
 
 std::optional<PadState> PadDevice::Read() {
@@ -54,6 +67,12 @@ std::optional<PadState> PadDevice::Read() {
   // Up is positive there.
   stick_.Add(seen.Gamepad.sThumbLX / furthest, -seen.Gamepad.sThumbLY / furthest, state);
   return state;
+}
+
+}  // namespace
+
+std::unique_ptr<PadSource> OpenPads() {
+  return std::make_unique<PadDevice>();
 }
 
 }  // namespace orvane

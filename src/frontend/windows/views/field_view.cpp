@@ -1,6 +1,6 @@
 #include "src/frontend/windows/views/field_view.h"
 
-#include "src/frontend/windows/windows/events.h"
+#include "src/frontend/windows/windows/window_events.h"
 #include "src/game/program.h"
 #include "src/platform/windows/wide_text.h"
 

@@ -1,7 +1,7 @@
 #include "src/frontend/windows/views/menu_view.h"
 
+#include "src/frontend/shared/events.h"
 #include "src/frontend/windows/system/captions.h"
-#include "src/frontend/windows/windows/events.h"
 #include "src/game/program.h"
 
 namespace orvane {

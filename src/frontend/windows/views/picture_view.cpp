@@ -4,7 +4,7 @@
 #include "src/frontend/shared/spoken_text.h"
 #include "src/frontend/windows/paint/scale.h"
 #include "src/frontend/windows/paint/text_paint.h"
-#include "src/frontend/windows/windows/events.h"
+#include "src/frontend/windows/windows/window_events.h"
 #include "src/game/program.h"
 #include "src/platform/windows/wide_text.h"
 

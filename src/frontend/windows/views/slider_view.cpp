@@ -1,7 +1,7 @@
 #include "src/frontend/windows/views/slider_view.h"
 
 #include "src/frontend/windows/paint/scale.h"
-#include "src/frontend/windows/windows/events.h"
+#include "src/frontend/windows/windows/window_events.h"
 #include "src/game/program.h"
 
 namespace orvane {

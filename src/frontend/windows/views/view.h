@@ -10,12 +10,12 @@
 
 namespace orvane {
 
-class Events;
+class WindowEvents;
 class Ground;
 
 // What all views share.
 struct Setting {
-  Events& TheEvents;
+  WindowEvents& TheEvents;
   Fonts& TheFonts;
   Speech& TheSpeech;
   double Scale = 1;  // pixels of the screen to one of the game

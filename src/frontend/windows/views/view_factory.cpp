@@ -10,54 +10,48 @@
 #include "src/frontend/windows/views/picture_view.h"
 #include "src/frontend/windows/views/slider_view.h"
 #include "src/frontend/windows/views/tabs_view.h"
+#include "src/ui/visit_control.h"
 
 namespace orvane {
 namespace {
 
-std::unique_ptr<View> MakeKind(Control& control, Ground& ground, const Setting& setting) {
-  switch (control.Kind()) {
-    case ControlKind::Label:
-      return std::make_unique<LabelView>(static_cast<Label&>(control), ground, setting);
-    case ControlKind::Button:
-      return std::make_unique<ButtonView>(static_cast<CommandButton&>(control), ground, setting);
-    case ControlKind::Picture:
-      return std::make_unique<PictureView>(static_cast<PictureBox&>(control), ground, setting);
-    case ControlKind::List: {
-      auto& list = static_cast<ListBox&>(control);
-      return std::make_unique<ListView>(list, list, ground, setting);
-    }
-    case ControlKind::FileList: {
-      auto& list = static_cast<FileListBox&>(control);
-      return std::make_unique<ListView>(list, list, ground, setting);
-    }
-    case ControlKind::Tabs:
-      return std::make_unique<TabsView>(static_cast<TabStrip&>(control), ground, setting);
-    case ControlKind::Field:
-      return std::make_unique<FieldView>(static_cast<TextBox&>(control), ground, setting);
-    case ControlKind::Slider:
-      return std::make_unique<SliderView>(static_cast<Slider&>(control), ground, setting);
-    case ControlKind::Frame:
-      return std::make_unique<FrameView>(static_cast<Frame&>(control), ground, setting);
-    case ControlKind::Menu:
-    case ControlKind::Timer:
-      break;
-  }
-  return nullptr;
-}
+using Made = std::unique_ptr<View>;
 
-// A text is its own name; what a number is the number of, the text does not say.
-std::string Meaning(const Control& control) {
-  const std::string whose = SpokenName(control);
-  return whose.empty() ? CaptionBeside(control) : whose;
-}
+// Makes a view for each kind, on this ground.
+struct Maker {
+  Ground& On;
+  const Setting& With;
+
+  Made operator()(Label& label) const { return Make<LabelView>(label); }
+  Made operator()(Frame& frame) const { return Make<FrameView>(frame); }
+  Made operator()(CommandButton& button) const { return Make<ButtonView>(button); }
+  Made operator()(PictureBox& picture) const { return Make<PictureView>(picture); }
+  Made operator()(ListBox& list) const { return MakeList(list); }
+  Made operator()(FileListBox& list) const { return MakeList(list); }
+  Made operator()(TabStrip& tabs) const { return Make<TabsView>(tabs); }
+  Made operator()(TextBox& field) const { return Make<FieldView>(field); }
+  Made operator()(Slider& slider) const { return Make<SliderView>(slider); }
+  Made operator()(MenuItem& /*item*/) const { return nullptr; }
+  Made operator()(Timer& /*timer*/) const { return nullptr; }
+
+ private:
+  template <class Kind, class Model>
+  Made Make(Model& model) const {
+    return std::make_unique<Kind>(model, On, With);
+  }
+  template <class List>
+  Made MakeList(List& list) const {
+    return std::make_unique<ListView>(list, list, On, With);
+  }
+};
 
 }  // namespace
 
 std::unique_ptr<View> MakeView(Control& control, Ground& ground, const Setting& setting) {
-  auto view = MakeKind(control, ground, setting);
+  auto view = VisitControl(control, Maker{ground, setting});
   if (view == nullptr) return view;
   if (control.Kind() == ControlKind::Label) {
-    setting.TheSpeech.SetDescription(view->Handle(), Meaning(control));
+    setting.TheSpeech.SetDescription(view->Handle(), SpokenMeaning(control));
   } else {
     setting.TheSpeech.SetName(view->Handle(), SpokenName(control));
   }

@@ -1,7 +1,7 @@
 #include "src/frontend/windows/windows/client_area.h"
 
 #include "src/frontend/shared/spoken_text.h"
-#include "src/frontend/windows/windows/events.h"
+#include "src/frontend/windows/windows/window_events.h"
 #include "src/game/program.h"
 #include "src/platform/windows/wide_text.h"
 #include "src/ui/reach.h"

@@ -6,7 +6,7 @@
 #include "src/frontend/windows/paint/scale.h"
 #include "src/frontend/windows/views/view_factory.h"
 #include "src/frontend/windows/windows/display.h"
-#include "src/frontend/windows/windows/events.h"
+#include "src/frontend/windows/windows/window_events.h"
 #include "src/game/program.h"
 #include "src/platform/windows/wide_text.h"
 
@@ -203,7 +203,7 @@ bool ScreenWindow::PaintNow() const {
 }
 
 LRESULT ScreenWindow::Take(UINT message, WPARAM w, LPARAM l) {
-  Events& events = setting_.TheEvents;
+  WindowEvents& events = setting_.TheEvents;
   switch (message) {
     case WM_ERASEBKGND: {
       RECT all;

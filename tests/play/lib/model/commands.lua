@@ -1,4 +1,5 @@
 -- What the buttons and lists of a battle do.
+local steps = require "lib.steps"
 local tables = require "lib.model.tables"
 
 local B = "Battle."
@@ -35,7 +36,7 @@ return function(Model)
   function Model:targets()
     local v = self.v
     self:row("List2", 0, "キャンセル")
-    local function padded(row) return tables.padded(tables.enemies[row][1], 16) end
+    local function padded(row) return steps.padded(tables.enemies[row][1], 16) end
     if v.BossFight == -1 then self:row("List2", 1, padded(v.Round - 1))
     elseif v.LastBossFight == -1 then self:row("List2", 1, padded(18))
     elseif v.EnemyKind == 13 then self:row("List2", 1, padded(13))

@@ -38,6 +38,4 @@ tables.enemies = {
   { "神龍", 150000, 350, 200, 0 },
 }
 
-function tables.padded(text, width) return text .. (" "):rep(width - utf8.len(text)) end
-
 return tables

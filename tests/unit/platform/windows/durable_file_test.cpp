@@ -134,7 +134,7 @@ class LastSteps : public WatchedSteps {
 class DurableFileTest : public testing::Test {
  protected:
   DurableFileTest() { std::ofstream(file_, std::ios::binary) << kOldRecord; }
-  ~DurableFileTest() override { std::filesystem::remove_all(folder_); }
+  ~DurableFileTest() override { RemoveFolder(folder_); }
 
   std::string Content() const { return ReadWholeFile(file_).value_or(""); }
   int FilesInFolder() const {
@@ -198,6 +198,8 @@ TEST_F(DurableFileTest, AStepThatFailsLeavesTheOldRecordOrHasNoHarmToDo) {
       }
       ++refusals;
       EXPECT_EQ(failure, SystemMessage(ERROR_DISK_FULL));
+      // Where the last of it fails, to bring the name to the disk, nobody knows which one lasts.
+      if (Content() == kNewRecord) continue;
       ExpectOldRecord();
     }
     ExpectNewRecord();

@@ -1,19 +1,12 @@
-// The way of every event into the game.
+// What windows report beside the player's events.
 #pragma once
 
-#include <functional>
+#include "src/frontend/shared/events.h"
 
 namespace orvane {
 
-class Program;
-class Screen;
-
-class Events {
+class WindowEvents : public Events {
  public:
-  virtual ~Events() = default;
-  // Lets an event act on the game, then brings everything on the screen up to date. Nothing happens
-  // once the game has ended, while it is held, or while the windows are being brought up to date.
-  virtual void Send(const std::function<void(Program&)>& event) = 0;
   // The system has made a window of the game's the active one.
   virtual void Activated(Screen& screen) = 0;
   // This program has become the one that the player works with, or another one.

@@ -1,5 +1,6 @@
-// Whether a planted fault is in force: the one that ORVANE_PLANTED names. With ORVANE_REACHED, a file, notes there which
-// were asked for. Put before every source file of the build with planted faults.
+// Whether a planted fault is in force: the one that ORVANE_PLANTED names. With ORVANE_REACHED, a
+// file, notes there which were asked for. Put before every source file of the build with planted
+// faults.
 #pragma once
 
 #include <array>

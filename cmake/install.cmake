@@ -39,12 +39,15 @@ install(FILES share/copyright README.md README.ja.md DESTINATION ${CMAKE_INSTALL
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME orvane)
 set(CPACK_PACKAGE_CONTACT "Orvane's developers <orvane@example.invalid>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "role-playing game in Japanese about two heroes and four dragons")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "role-playing game about two heroes and four dragons, in Japanese and English")
 set(CPACK_PACKAGE_DESCRIPTION
     "Two heroes have fallen into a training world and must beat the dragons that
 guard its way out. Walk over single-screen maps, open chests, train with
 books, and fight long hand-animated battles with ten techniques and ten
-spells. The game's language is Japanese.")
+spells. The game speaks Japanese and English.
+
+試練の世界に落ちた二人の主人公が、出口を守る龍たちに挑むRPG。十の技と十の魔法を駆使する、
+じっくり動くターン制バトル。日本語と英語で遊べます。")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/package_folders.cmake)

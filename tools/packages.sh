@@ -5,13 +5,13 @@
 clang_version=$(sed -nE 's/.*"clang\+\+-([0-9]+)".*/\1/p' "$(dirname "${BASH_SOURCE[0]}")/../CMakePresets.json")
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-qpa-plugins libxcb1-dev libsdl2-dev
-  libfluidsynth-dev libpng-dev libgl-dev)
+  libfluidsynth-dev libpng-dev libgl-dev gettext)
 play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libstb-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
   xvfb openbox xdotool weston x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
   dpkg-dev file desktop-file-utils appstream)
-web_packages=(g++ cmake ninja-build pkg-config libsdl2-dev libfluidsynth-dev libpng-dev libstb-dev emscripten node-acorn nodejs
-  fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
+web_packages=(g++ cmake ninja-build pkg-config gettext libsdl2-dev libfluidsynth-dev libpng-dev libstb-dev emscripten node-acorn
+  nodejs fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 web_test_packages=(chromium firefox-esr dpkg-dev)
 package_packages=(dpkg-dev file)
 sound_packages=(opus-tools lame vorbis-tools) # for the sounds that are rendered ahead
@@ -34,6 +34,7 @@ libxcb1-dev               libxcb-devel              libxcb-devel              li
 libsdl2-dev               SDL2-devel                SDL2-devel                sdl2
 libfluidsynth-dev         fluidsynth-devel          fluidsynth-devel          fluidsynth
 libpng-dev                libpng-devel              libpng16-devel            libpng
+gettext                   gettext                   gettext-tools             gettext
 libgl-dev                 mesa-libGL-devel          Mesa-libGL-devel          libglvnd
 fonts-ipafont-gothic      ipa-gothic-fonts          ipa-gothic-fonts          otf-ipafont
 fonts-ipafont-mincho      ipa-mincho-fonts          ipa-mincho-fonts          -

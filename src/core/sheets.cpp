@@ -61,13 +61,21 @@ std::map<std::string, Surface, std::less<>> FindAll() {
   return sheets;
 }
 
+const std::map<std::string, Surface, std::less<>>& Sheets() {
+  static const std::map<std::string, Surface, std::less<>> sheets = FindAll();
+  return sheets;
+}
+
 }  // namespace
 
 const Surface& Sheet(std::string_view name) {
-  static const std::map<std::string, Surface, std::less<>> sheets = FindAll();
-  const auto found = sheets.find(name);
-  if (found == sheets.end()) throw RunError(ErrorKind::File, std::string(name));
+  const auto found = Sheets().find(name);
+  if (found == Sheets().end()) throw RunError(ErrorKind::File, std::string(name));
   return found->second;
+}
+
+bool HasSheet(std::string_view name) {
+  return Sheets().contains(name);
 }
 
 }  // namespace orvane

@@ -12,4 +12,7 @@ namespace orvane {
 // drawn on.
 const Surface& Sheet(std::string_view name);
 
+// Whether there is a sheet of that name.
+bool HasSheet(std::string_view name);
+
 }  // namespace orvane

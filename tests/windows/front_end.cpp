@@ -7,6 +7,11 @@ namespace {
 
 double usual_scale = 1;
 
+Translator& UsualTexts() {
+  static Translator texts;
+  return texts;
+}
+
 Zoom ChooseZoom(const Opening& opening, Program& program) {
   std::vector<Extent> windows;
   for (const Screen* each : program.TheStage().Screens()) {
@@ -27,6 +32,18 @@ void SetUsualScale(double scale) {
   usual_scale = scale;
 }
 
+const std::string& UsualLanguage() {
+  return UsualTexts().Language();
+}
+
+void SetUsualLanguage(const std::string& code) {
+  UsualTexts().Choose(code);
+}
+
+std::string Shown(const std::string& text) {
+  return UsualTexts().Of(text);
+}
+
 const ScreenFacts& TheScreen() {
   static const ScreenFacts screen = AskScreen().value_or(ScreenFacts{});
   return screen;
@@ -36,7 +53,8 @@ FrontEnd::FrontEnd(const Opening& opening)
     : chance_(opening.Seed),
       files_(opening.Folder),
       program_({sound_, chance_, files_}),
-      desktop_(program_, ChooseZoom(opening, program_)) {
+      desktop_(program_, ChooseZoom(opening, program_), texts_) {
+  desktop_.ShowLanguage(UsualLanguage());
   Send([](Program&) {});
 }
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "src/frontend/desktop/access/spoken.h"
 #include "src/frontend/desktop/app/desktop.h"
@@ -25,6 +26,11 @@ namespace orvane::test {
 // to one.
 double UsualScale();
 void SetUsualScale(double scale);
+
+// The language that games are opened in, the game's own unless set, and what it shows for a text.
+const std::string& UsualLanguage();
+void SetUsualLanguage(const std::string& code);
+std::string Shown(const std::string& text);
 
 // How a game is opened.
 struct Opening {
@@ -47,12 +53,15 @@ class FrontEnd {
   Program& Running() { return program_; }
   // An event that brings the windows up to date afterwards.
   void Send(const std::function<void(Program&)>& event) { desktop_.Send(event); }
+  // The game's front end itself.
+  Desktop& TheDesktop() { return desktop_; }
 
  private:
   NoSound sound_;
   PlayersChance chance_;
   FolderStorage files_;
   Program program_;
+  Translator texts_;
   Desktop desktop_;
 };
 

@@ -98,8 +98,10 @@ void LooksAsKept(QWidget& window, const std::string& name) {
     QWindowSystemInterface::handleLeaveEvent(window.windowHandle());
   }
   Session::Settle();
-  const QString place =
-      QString::number(window.devicePixelRatio()) + "x/" + QString::fromStdString(name) + ".png";
+  const QString language =
+      UsualLanguage() == kOwnLanguage ? "" : "-" + QString::fromStdString(UsualLanguage());
+  const QString place = QString::number(window.devicePixelRatio()) + "x" + language + "/" +
+                        QString::fromStdString(name) + ".png";
   if (KeepsNew()) {
     QTest::qWait(kRest);
     QDir().mkpath(QFileInfo(kShots + place).path());

@@ -12,7 +12,7 @@ namespace orvane::test {
 bool CanCompare();
 
 // Fails the test unless the window comes to look, pixel by pixel, like the picture NAME.png of its
-// scale in tests/windows/shots. What it looks like instead goes to the folder
+// scale and language in tests/windows/shots. What it looks like instead goes to the folder
 // screenshots/windows of the build. With ORVANE_KEEP_LOOKS set, keeps what it looks like as the new
 // picture.
 void LooksAsKept(QWidget& window, const std::string& name);

@@ -1,21 +1,26 @@
 // Tests in the game's windows, on a screen that nobody sees: the toolkit's offscreen platform.
-//   orvane-windows-test [--screen=WIDTHxHEIGHT[@DPI]] [--scale=SCALE] [GoogleTest's options]
+//   orvane-windows-test [--screen=WIDTHxHEIGHT[@DPI]] [--scale=SCALE] [--language=CODE]
+//     [GoogleTest's options]
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <cstdio>
+#include <string>
 
 #include "tests/windows/front_end.h"
 
 namespace {
+
+constexpr const char* kLanguage = "--language=";
 
 struct Options {
   int Width = 1920;
   int Height = 1200;
   int Dpi = 96;  // that the desktop's settings say of the screen
   double Scale = 1;
+  std::string Language;
   bool AreRead = true;
 };
 
@@ -25,7 +30,10 @@ Options ReadOptions(int count, char** words) {
     const bool is_screen = std::sscanf(words[i], "--screen=%dx%d@%d", &options.Width,
                                        &options.Height, &options.Dpi) >= 2;
     const bool is_scale = std::sscanf(words[i], "--scale=%lf", &options.Scale) == 1;
-    options.AreRead = options.AreRead && (is_screen || is_scale);
+    const std::string word = words[i];
+    const bool is_language = word.starts_with(kLanguage);
+    if (is_language) options.Language = word.substr(std::string(kLanguage).size());
+    options.AreRead = options.AreRead && (is_screen || is_scale || is_language);
   }
   return options;
 }
@@ -54,10 +62,13 @@ int main(int count, char** words) {
   testing::InitGoogleTest(&count, words);
   const Options options = ReadOptions(count, words);
   if (!options.AreRead) {
-    std::fputs("orvane-windows-test [--screen=WIDTHxHEIGHT[@DPI]] [--scale=SCALE]\n", stderr);
+    std::fputs(
+        "orvane-windows-test [--screen=WIDTHxHEIGHT[@DPI]] [--scale=SCALE] [--language=CODE]\n",
+        stderr);
     return 2;
   }
   orvane::test::SetUsualScale(options.Scale);
+  orvane::test::SetUsualLanguage(options.Language);
   const QTemporaryDir folder;
   QFile file(folder.filePath("screen.json"));
   if (!file.open(QFile::WriteOnly) || file.write(Configuration(options)) < 0) return 2;

@@ -61,7 +61,8 @@ QString TextOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   return {};
 }
 
-const QAction* FindAction(const QList<QAction*>& actions, const std::string& caption) {
+const QAction* FindAction(const QList<QAction*>& actions, const std::string& own) {
+  const std::string caption = orvane::test::Shown(own);
   for (const QAction* action : actions) {
     if (action->text() == QString::fromStdString(caption)) return action;
   }
@@ -247,7 +248,8 @@ void Session::CloseWindow(const std::string& screen) {
   Settle();
 }
 
-void Session::Answer(const QString& title, const std::function<void(QMessageBox&)>& reply) {
+void Session::Answer(const QString& own, const std::function<void(QMessageBox&)>& reply) {
+  const QString title = QString::fromStdString(orvane::test::Shown(own.toStdString()));
   QPointer<QMessageBox> box;
   Until("the box " + title.toStdString(), [&] {
     box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -27,6 +27,7 @@ class Session {
   Session& operator=(const Session&) = delete;
 
   Program& Running() { return front_end_.Running(); }
+  Desktop& TheDesktop() { return front_end_.TheDesktop(); }
   State& Facts() { return Running().TheState(); }
 
   // An event that no player makes, after which the windows are brought up to date.
@@ -85,8 +86,8 @@ class Session {
   // The window's own close control.
   void CloseWindow(const std::string& screen);
 
-  // Waits for a message box with this title, which `reply` answers by its keys or its buttons, and
-  // for its end.
+  // Waits for a message box with this title, in the game's own language, which `reply` answers by
+  // its keys or its buttons, and for its end.
   static void Answer(const QString& title, const std::function<void(QMessageBox&)>& reply);
   static void Answer(const QString& title, Qt::Key key);
 

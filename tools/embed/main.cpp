@@ -2,6 +2,7 @@
 // string literal - octal escapes compile far faster than arrays of numbers - in the form that
 // SheetReader reads.
 // orvane-embed --files FOLDER OUT.cpp: does so with a game folder, but for its sounds, as it is.
+// orvane-embed --texts OUT.cpp LANGUAGE.mo ...: does so with catalogues as msgfmt makes them.
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -67,14 +68,19 @@ void WriteLiteral(std::ostream& out, const std::string& bytes) {
   }
 }
 
+std::string WholeFile(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(in), {}};
+  if (!in) throw std::runtime_error(path.string() + ": cannot read");
+  return bytes;
+}
+
 void RunFiles(const std::filesystem::path& folder, const std::string& target) {
   std::map<std::string, std::string> files;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
     const auto name = entry.path().lexically_relative(folder);
     if (!entry.is_regular_file() || name.begin()->string() == "Sound") continue;
-    std::ifstream in(entry.path(), std::ios::binary);
-    files[name.generic_string()] = {std::istreambuf_iterator<char>(in), {}};
-    if (!in) throw std::runtime_error(entry.path().string() + ": cannot read");
+    files[name.generic_string()] = WholeFile(entry.path());
   }
   std::filesystem::create_directories(std::filesystem::path(target).parent_path());
   std::ostringstream out;
@@ -88,6 +94,23 @@ void RunFiles(const std::filesystem::path& folder, const std::string& target) {
   }
   out << "  };\n}\n\n}  // namespace orvane\n";
   if (!WriteWholeFile(target, out.str())) throw std::runtime_error(target + ": cannot write");
+}
+
+void RunTexts(const std::string& target, const std::vector<std::string>& catalogues) {
+  std::filesystem::create_directories(std::filesystem::path(target).parent_path());
+  std::ofstream out(target);
+  out << "// Made by orvane-embed from the catalogues.\n#include "
+         "\"src/frontend/shared/texts/catalogue.h\"\n\n"
+         "namespace orvane {\n\nstd::vector<CatalogueData> AllCatalogues() {\n  return {\n";
+  for (const std::string& catalogue : catalogues) {
+    const std::string bytes = WholeFile(catalogue);
+    out << "      {\"" << std::filesystem::path(catalogue).stem().string() << "\", {";
+    WriteLiteral(out, bytes);
+    out << ", " << bytes.size() << "}},\n";
+  }
+  out << "  };\n}\n\n}  // namespace orvane\n";
+  out.close();
+  if (!out) throw std::runtime_error(target + ": cannot write");
 }
 
 void Run(const std::string& target, const std::vector<std::string>& files) {
@@ -111,6 +134,10 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
 int main(int count, char** words) {
   try {
     if (count < 2) throw std::runtime_error("usage: orvane-embed OUT.cpp SHEET.png ...");
+    if (count >= 3 && std::string(words[1]) == "--texts") {
+      orvane::RunTexts(words[2], std::vector<std::string>(words + 3, words + count));
+      return 0;
+    }
     if (count == 4 && std::string(words[1]) == "--files") {
       orvane::RunFiles(words[2], words[3]);
       return 0;

@@ -26,18 +26,33 @@ struct Strip {
   double Rim = 4.2;  // of coloured letters: twice how far the dark goes beyond them
 };
 
-// Strips with an image of their own; the mask lies right below the image.
-constexpr std::array<Strip, 3> kColoured{
-    {{0, 128, 200, 32, "STAFF", 24, 7},
-     {200, 128, 200, 32, "SPECIAL THANKS", 16.5, 2.8, 3.6},
-     {0, 288, 400, 32, "最後まで旅してくれたあなたへ", 24, 1.5}}};
-constexpr std::array<Strip, 7> kPlain{{{0, 192, 200, 32, "企画・脚本・プログラム", 19, 0.4},
-                                       {200, 192, 200, 32, "グラフィック・マップ", 19, 0.4},
-                                       {0, 224, 200, 32, "音楽・効果音", 19, 2},
-                                       {200, 224, 200, 32, "テストプレイのみなさん", 19, 0.4},
-                                       {0, 256, 200, 32, "道具を作ったみなさん", 19, 0.4},
-                                       {200, 256, 200, 32, "龍の狭間の龍たち", 20, 1.5},
-                                       {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}};
+// Strips with an image of their own, of which the mask lies right below the image, and plain ones.
+struct Lettering {
+  std::array<Strip, 3> Coloured;
+  std::array<Strip, 7> Plain;
+};
+
+constexpr Lettering kJapanese = {{{{0, 128, 200, 32, "STAFF", 24, 7},
+                                   {200, 128, 200, 32, "SPECIAL THANKS", 16.5, 2.8, 3.6},
+                                   {0, 288, 400, 32, "最後まで旅してくれたあなたへ", 24, 1.5}}},
+                                 {{{0, 192, 200, 32, "企画・脚本・プログラム", 19, 0.4},
+                                   {200, 192, 200, 32, "グラフィック・マップ", 19, 0.4},
+                                   {0, 224, 200, 32, "音楽・効果音", 19, 2},
+                                   {200, 224, 200, 32, "テストプレイのみなさん", 19, 0.4},
+                                   {0, 256, 200, 32, "道具を作ったみなさん", 19, 0.4},
+                                   {200, 256, 200, 32, "龍の狭間の龍たち", 20, 1.5},
+                                   {0, 352, 400, 32, "ありがとう　また会う日まで", 21, 2}}}};
+constexpr Lettering kEnglish = {
+    {{{0, 128, 200, 32, "STAFF", 24, 7},
+      {200, 128, 200, 32, "SPECIAL THANKS", 16.5, 2.8, 3.6},
+      {0, 288, 400, 32, "To you, who came all this way", 23, 1.2, 3.2}}},
+    {{{0, 192, 200, 32, "Plan, Story, Program", 19, 0.4},
+      {200, 192, 200, 32, "Graphics, Maps", 19, 0.4},
+      {0, 224, 200, 32, "Music, Sound Effects", 19, 0.4},
+      {200, 224, 200, 32, "All Our Testers", 19, 0.4},
+      {0, 256, 200, 32, "All Our Toolmakers", 19, 0.4},
+      {200, 256, 200, 32, "The Rift's Dragons", 20, 0.6},
+      {0, 352, 400, 32, "Thank you! Until we meet again", 21, 1}}}};
 constexpr const char* kSerif = "IPAPMincho";
 constexpr const char* kPlainFace = "IPAPGothic";
 constexpr uint32_t kWhite = 0xFFFFFF;
@@ -97,16 +112,24 @@ void PaintPlain(Image& sheet, const Strip& strip) {
   }
 }
 
-}  // namespace
-
-Image PaintCredits() {
+Image PaintLettering(const Lettering& lettering) {
   Image sheet(402, 386, 0);
   Drawing title(400, 64);
   DrawTitleLetters(title);
   PutPair(sheet, title, 0, 0, 400, 64);
-  for (const Strip& strip : kColoured) PaintColoured(sheet, strip);
-  for (const Strip& strip : kPlain) PaintPlain(sheet, strip);
+  for (const Strip& strip : lettering.Coloured) PaintColoured(sheet, strip);
+  for (const Strip& strip : lettering.Plain) PaintPlain(sheet, strip);
   return sheet;
+}
+
+}  // namespace
+
+Image PaintCredits() {
+  return PaintLettering(kJapanese);
+}
+
+Image PaintEnglishCredits() {
+  return PaintLettering(kEnglish);
 }
 
 }  // namespace orvane::paint::panel

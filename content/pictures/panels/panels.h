@@ -13,6 +13,7 @@ Image PaintVictoryPanel();   // 336 x 93, coloured text
 Image PaintFaceMan();        // 48 x 48
 Image PaintFaceWoman();      // 48 x 48
 Image PaintCredits();        // 402 x 386, title, headings, names and their masks
+Image PaintEnglishCredits();
 // The window's icon, `size` pixels square.
 Image PaintIcon(int size);
 

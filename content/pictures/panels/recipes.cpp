@@ -13,6 +13,7 @@ void AddPanelRecipes(std::vector<Recipe>& recipes) {
   recipes.push_back({"face_man", panel::PaintFaceMan});
   recipes.push_back({"face_woman", panel::PaintFaceWoman});
   recipes.push_back({"credits", panel::PaintCredits});
+  recipes.push_back({"credits_en", panel::PaintEnglishCredits});
   for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
     recipes.push_back({"icon_" + std::to_string(size), [size] { return panel::PaintIcon(size); }});
   }

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "src/frontend/shared/texts/translator.h"
 #include "src/game/program.h"
 
 namespace orvane {
@@ -13,6 +14,11 @@ class Events {
   // Lets an event act on the game, then brings everything on the screen up to date. Nothing happens
   // once the game has ended, while it is held, or while the windows are being brought up to date.
   virtual void Send(const std::function<void(Program&)>& event) = 0;
+  // What texts are shown as: themselves, unless the player has chosen another language.
+  virtual const Translator& Texts() const {
+    static const Translator own;
+    return own;
+  }
 };
 
 // An arrow key is pressed or let go in the game's window.

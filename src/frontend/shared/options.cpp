@@ -28,13 +28,15 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
       options.WantsHelp = true;
       continue;
     }
-    if (name != "--folder" && name != "--scale" && name != "--seed" && name != "--record") {
+    if (name != "--folder" && name != "--scale" && name != "--seed" && name != "--record" &&
+        name != "--language") {
       options.Error = "unknown option " + name;
     } else if (i + 1 == arguments.size()) {
       options.Error = name + " needs a value";
     } else {
       const std::string& value = arguments[++i];
       if (name == "--folder") options.Folder = PathOf(value);
+      if (name == "--language") options.Language = value;
       if (name == "--record") options.Record = PathOf(value);
       if (name == "--scale") {
         options.Scale = ReadDecimal(value);
@@ -54,6 +56,8 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
 std::string HelpText() {
   return "Usage: orvane [options]\n"
          "  --folder DIR  the game folder (\"game\" beside the program, or the player's own)\n"
+         "  --language L  the language of the game: ja, or one of those that it has been given, as "
+         "en\n"
          "  --scale N     size of the windows (chosen by the screen)\n"
          "  --seed N      the same chances in every run, for tests\n"
          "  --record FILE records the play, for orvane-script --replay\n"

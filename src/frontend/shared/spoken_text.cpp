@@ -66,15 +66,15 @@ bool HasWords(const std::string& text) {
   return std::any_of(signs.begin(), signs.end(), IsWord);
 }
 
-std::string LinesOn(const Screen& screen, const Control* holder) {
+std::string LinesOn(const Screen& screen, const Control* holder, const Translator& texts) {
   std::vector<std::string> lines;
   for (const Control* control : screen.Controls()) {
     if (control->Parent() != holder || control->Kind() != ControlKind::Label) continue;
     const std::string text = TrimAll(static_cast<const Label*>(control)->Caption);
     if (!HasWords(text) || !IsShown(*control)) continue;
-    std::string line = SpokenName(*control);
-    if (!line.empty()) line += kColon;
-    line += text;
+    std::string line = texts.Of(SpokenName(*control));
+    if (!line.empty()) line += texts.Of(kColon);
+    line += texts.Of(*control, text);
     // A title and its shadow are one.
     if (std::find(lines.begin(), lines.end(), line) == lines.end()) lines.push_back(line);
   }
@@ -93,15 +93,15 @@ bool IsCaption(const Control& control) {
 
 }  // namespace
 
-std::string SpokenText(const PictureBox& picture) {
-  return IsShown(picture) ? LinesOn(picture.Owner(), &picture) : std::string();
+std::string SpokenText(const PictureBox& picture, const Translator& texts) {
+  return IsShown(picture) ? LinesOn(picture.Owner(), &picture, texts) : std::string();
 }
 
-std::string SpokenText(const Screen& screen) {
-  std::string words = LinesOn(screen, nullptr);
+std::string SpokenText(const Screen& screen, const Translator& texts) {
+  std::string words = LinesOn(screen, nullptr, texts);
   const bool has_credits = screen.OwnSurface != nullptr;
   if (!has_credits) return words;
-  return words.empty() ? kCredits : words;
+  return words.empty() ? texts.Of(kCredits) : words;
 }
 
 std::string CaptionBeside(const Control& control) {

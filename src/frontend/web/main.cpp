@@ -4,10 +4,13 @@
 #include <array>
 #include <cstdlib>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "src/frontend/shared/text_fit.h"
+#include "src/frontend/shared/texts/language_choice.h"
 #include "src/frontend/web/content.h"
 #include "src/frontend/web/mirror/json.h"
 #include "src/frontend/web/page_scale.h"
@@ -53,6 +56,7 @@ class ScriptPage : public Page {
 // One page, one game.
 struct Whole {
   ScriptPage Scripts;
+  Translator Texts;
   std::unique_ptr<WebGame> Game;
   std::string Given;     // the last text or bytes that the scripts have asked for
   BroughtSaves Brought;  // what the player has brought last
@@ -110,10 +114,38 @@ EXPORT void Make(double seed, const char* speed) {
   setenv("ORVANE_SPEED", speed, 1);
   std::optional<uint32_t> fixed;
   if (seed >= 0) fixed = static_cast<uint32_t>(seed);
-  TheWhole().Game = std::make_unique<WebGame>(TheWhole().Scripts, fixed);
+  TheWhole().Game = std::make_unique<WebGame>(TheWhole().Scripts, fixed, TheWhole().Texts);
   for (const ContentFile& file : AllContentFiles()) {
     Game().Files().Files[file.Name] = std::string(file.Bytes, file.Size);
   }
+}
+
+// ---- the language
+
+// What is shown for a text of the page's own.
+EXPORT const char* Shown(const char* text) {
+  return Give(TheWhole().Texts.Of(text));
+}
+
+// The names of the languages by their codes.
+EXPORT const char* Languages() {
+  const Translator& texts = TheWhole().Texts;
+  std::string out;
+  {
+    Json json(out, Json::Form::Object);
+    for (const std::string& code : texts.Languages()) json.Add(code.c_str(), texts.NameOf(code));
+  }
+  return Give(out);
+}
+
+// Shows the first language that there is of those wished for, their codes with commas between;
+// returns its code.
+EXPORT const char* ChooseLanguage(const char* wishes) {
+  std::istringstream list(wishes);
+  std::vector<std::string> codes;
+  for (std::string code; std::getline(list, code, ',');) codes.push_back(code);
+  TheWhole().Texts.Choose(BestLanguage(TheWhole().Texts, codes));
+  return TheWhole().Texts.Language().c_str();
 }
 
 EXPORT void PutFile(const char* name, const char* bytes, int size) {

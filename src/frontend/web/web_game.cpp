@@ -6,16 +6,18 @@
 #include <exception>
 #include <utility>
 
+#include "src/frontend/shared/texts/lettered_sheets.h"
+
 namespace orvane {
 
-WebGame::WebGame(Page& page, std::optional<uint32_t> seed)
-    : page_(page), files_(page), sound_(page), chance_(seed) {}
+WebGame::WebGame(Page& page, std::optional<uint32_t> seed, const Translator& texts)
+    : page_(page), files_(page), sound_(page), chance_(seed), texts_(texts) {}
 
 void WebGame::Begin() {
   program_ = std::make_unique<Program>(play_.TheServices());
   play_.Watch(*program_);
   Stage& stage = program_->TheStage();
-  mirror_.emplace(stage);
+  mirror_.emplace(stage, texts_);
   ticks_.emplace(stage);
   first_ = stage.Active();
   for (const Screen* screen : stage.Screens()) orders_.emplace(screen, FocusOrder(*screen));
@@ -27,7 +29,9 @@ void WebGame::Begin() {
 }
 
 const std::string& WebGame::Changes() {
-  return HeldFor() > 0 ? nothing_ : mirror_->Changes();
+  if (HeldFor() > 0) return nothing_;
+  LetterSheets(program_->TheStage(), texts_);
+  return mirror_->Changes();
 }
 
 int WebGame::HeldFor() const {

@@ -30,8 +30,8 @@ struct KeyFacts {
 
 class WebGame : private PadHands {
  public:
-  // Starts the program over these files; the page must outlive it.
-  WebGame(Page& page, std::optional<uint32_t> seed);
+  // Starts the program over these files; the page and the texts must outlive it.
+  WebGame(Page& page, std::optional<uint32_t> seed, const Translator& texts);
   WebGame(const WebGame&) = delete;
   WebGame& operator=(const WebGame&) = delete;
 
@@ -94,6 +94,7 @@ class WebGame : private PadHands {
   PageStorage files_;
   PageSound sound_;
   PlayersChance chance_;
+  const Translator& texts_;
   KeptPlay play_{{sound_, chance_, files_}, {}, {}};
   std::unique_ptr<Program> program_;
   std::optional<Mirror> mirror_;

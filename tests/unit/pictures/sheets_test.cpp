@@ -86,10 +86,14 @@ TEST(Sheets, EffectsArePairsOfPictureAndMask) {
 }
 
 TEST(Sheets, CreditsArePairsAndWhiteStrips) {
-  const Surface& sheet = Sheet("credits");
-  for (const SpritePair& pair : CreditPairs()) EXPECT_THAT(PairFaults(sheet, pair), IsEmpty());
-  for (const WhiteStrip& strip : CreditStrips()) EXPECT_THAT(StripFaults(sheet, strip), IsEmpty());
-  EXPECT_THAT(OutsideFaults(sheet, CreditPairs(), CreditStrips()), IsEmpty());
+  for (const char* name : {"credits", "credits_en"}) {
+    SCOPED_TRACE(name);
+    const Surface& sheet = Sheet(name);
+    for (const SpritePair& pair : CreditPairs()) EXPECT_THAT(PairFaults(sheet, pair), IsEmpty());
+    for (const WhiteStrip& strip : CreditStrips())
+      EXPECT_THAT(StripFaults(sheet, strip), IsEmpty());
+    EXPECT_THAT(OutsideFaults(sheet, CreditPairs(), CreditStrips()), IsEmpty());
+  }
 }
 
 }  // namespace

@@ -37,27 +37,28 @@ class SpokenTextTest : public testing::Test {
 
   Stage stage_;
   Page page_{stage_};
+  Translator own_;
 };
 
 TEST_F(SpokenTextTest, IsALineForEachTextThatHasWordsAndIsNoShadow) {
-  EXPECT_EQ(SpokenText(page_.Scene), "龍が いる\n１２");
+  EXPECT_EQ(SpokenText(page_.Scene, own_), "龍が いる\n１２");
 }
 
 TEST_F(SpokenTextTest, LeavesOutWhatCannotBeSeen) {
   page_.Number.Visible = false;
-  EXPECT_EQ(SpokenText(page_.Scene), "龍が いる");
+  EXPECT_EQ(SpokenText(page_.Scene, own_), "龍が いる");
   page_.Scene.Visible = false;
-  EXPECT_EQ(SpokenText(page_.Scene), "");
+  EXPECT_EQ(SpokenText(page_.Scene, own_), "");
 }
 
 TEST_F(SpokenTextTest, SignsAloneAreNoWords) {
   for (const char* signs : {"", "　", "↓", "・・・", "…", "「」", "！？", "＊", "- - -"}) {
     page_.Number.Caption = signs;
-    EXPECT_EQ(SpokenText(page_.Scene), "龍が いる") << signs;
+    EXPECT_EQ(SpokenText(page_.Scene, own_), "龍が いる") << signs;
   }
   for (const char* words : {"x", "7", "７", "ア", "ｱ", "ー", "龍", "é", "々"}) {
     page_.Number.Caption = words;
-    EXPECT_EQ(SpokenText(page_.Scene), std::string("龍が いる\n") + words) << words;
+    EXPECT_EQ(SpokenText(page_.Scene, own_), std::string("龍が いる\n") + words) << words;
   }
 }
 

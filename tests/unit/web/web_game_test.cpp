@@ -39,7 +39,8 @@ class WebGameTest : public testing::Test {
   }
 
   PaperPage page_;
-  WebGame game_{page_, 26};
+  Translator texts_;
+  WebGame game_{page_, 26, texts_};
 };
 
 TEST_F(WebGameTest, TellsAllAtFirstAndThenWhatHasChanged) {

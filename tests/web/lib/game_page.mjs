@@ -36,7 +36,9 @@ export class GamePage {
     });
     if (viewport) await self.page.setViewport(viewport);
     await before?.(self.page);
-    await self.page.goto(address + query);
+    // What browsers of tests say of their languages differs; the game's own is shown unless a test asks for another.
+    const language = /language=/.test(query) ? '' : `${query.includes('?') ? '&' : '?'}language=ja`;
+    await self.page.goto(address + query + language);
     await self.waitForState('running');
     return self;
   }

@@ -54,22 +54,35 @@ class CalmBox : public QMessageBox {
   }
 };
 
+// Gives a box its texts.
+void Inscribe(QMessageBox& shown, const Box& box, const Translator& texts) {
+  const Box shown_as = texts.Of(box);
+  shown.setWindowTitle(QString::fromStdString(shown_as.Title));
+  shown.setText(QString::fromStdString(ShownText(shown_as)));
+  const QList<QAbstractButton*> buttons = shown.buttons();
+  for (const BoxChoice& choice : ChoicesOf(box.Buttons)) {
+    for (QAbstractButton* button : buttons) {
+      if (button->property(kAnswer).toInt() != int(choice.Answer)) continue;
+      button->setText(QString::fromStdString(texts.Of(choice.Caption)));
+    }
+  }
+}
+
 // Gives a box its texts and buttons.
-void Furnish(CalmBox& shown, const Box& box) {
+void Furnish(CalmBox& shown, const Box& box, const Translator& texts) {
   shown.setIcon(QMessageBox::NoIcon);
   shown.setTextFormat(Qt::PlainText);
-  shown.setWindowTitle(QString::fromStdString(box.Title));
-  shown.setText(QString::fromStdString(ShownText(box)));
   QPushButton* first = nullptr;
   QPushButton* last = nullptr;
   for (const BoxChoice& choice : ChoicesOf(box.Buttons)) {
-    last = shown.addButton(QString::fromUtf8(choice.Caption), RoleOf(choice.Answer));
+    last = shown.addButton(QString(), RoleOf(choice.Answer));
     last->setProperty(kAnswer, int(choice.Answer));
     shown.Watch(last);
     if (first == nullptr) first = last;
   }
   shown.setDefaultButton(first);
   shown.setEscapeButton(last);
+  Inscribe(shown, box, texts);
   WidenForTitle(shown);
 }
 
@@ -100,9 +113,18 @@ bool MessageBoxes::Follow(const Stage& stage, QWidget* parent) {
   return gone > 0;
 }
 
+void MessageBoxes::Retranslate(const Stage& stage) {
+  for (const StandingBox& box : stage.Boxes()) {
+    const auto found = shown_.find(box.Number);
+    if (found != shown_.end() && found->second != nullptr) {
+      Inscribe(*found->second, box.Shown, texts_);
+    }
+  }
+}
+
 QMessageBox* MessageBoxes::Open(const StandingBox& box, QWidget* parent) {
   auto* shown = new CalmBox(parent);
-  Furnish(*shown, box.Shown);
+  Furnish(*shown, box.Shown, texts_);
   QObject::connect(
       shown, &QMessageBox::finished, shown, [this, shown, buttons = box.Shown.Buttons] {
         const QAbstractButton* pressed = shown->clickedButton();
@@ -115,7 +137,7 @@ QMessageBox* MessageBoxes::Open(const StandingBox& box, QWidget* parent) {
 
 void ShowProblem(const std::string& sentence) {
   CalmBox box;
-  Furnish(box, {sentence, "Orvane", BoxButtons::Ok});
+  Furnish(box, {sentence, "Orvane", BoxButtons::Ok}, Translator());
   QObject::connect(&box, &QMessageBox::finished, QCoreApplication::instance(),
                    &QCoreApplication::quit);
   box.show();

@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 
+#include "src/frontend/shared/texts/translator.h"
 #include "src/ui/stage.h"
 
 namespace orvane {
@@ -14,7 +15,8 @@ namespace orvane {
 class MessageBoxes {
  public:
   // `answer` takes the player's answer to the box in front.
-  explicit MessageBoxes(std::function<void(BoxAnswer)> answer) : answer_(std::move(answer)) {}
+  MessageBoxes(const Translator& texts, std::function<void(BoxAnswer)> answer)
+      : texts_(texts), answer_(std::move(answer)) {}
   ~MessageBoxes();
   MessageBoxes(const MessageBoxes&) = delete;
   MessageBoxes& operator=(const MessageBoxes&) = delete;
@@ -22,10 +24,13 @@ class MessageBoxes {
   // Shows the boxes that have come to stand, in front of `parent`, which may be null, and takes
   // down those that stand no more. Returns whether one has been taken down.
   bool Follow(const Stage& stage, QWidget* parent);
+  // Gives the boxes that stand their texts anew: the language has changed.
+  void Retranslate(const Stage& stage);
 
  private:
   QMessageBox* Open(const StandingBox& box, QWidget* parent);
 
+  const Translator& texts_;
   std::function<void(BoxAnswer)> answer_;
   std::map<int, QPointer<QMessageBox>> shown_;  // by the number on the stage
 };

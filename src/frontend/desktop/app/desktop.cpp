@@ -2,21 +2,25 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMetaObject>
 #include <memory>
 #include <utility>
 
 #include "src/frontend/desktop/app/signals.h"
 #include "src/frontend/shared/raised.h"
+#include "src/frontend/shared/texts/lettered_sheets.h"
 
 namespace orvane {
 
-Desktop::Desktop(Program& program, const Zoom& zoom)
+Desktop::Desktop(Program& program, const Zoom& zoom, Translator& texts)
     : program_(program),
       first_(program.TheStage().Active()),
       zoom_(zoom),
+      texts_(texts),
       windows_(program.TheStage(), *this, zoom),
-      boxes_([this](BoxAnswer answer) { Send([answer](Program& game) { game.Answer(answer); }); }),
+      boxes_(texts,
+             [this](BoxAnswer answer) { Send([answer](Program& game) { game.Answer(answer); }); }),
       ticks_(program.TheStage(), *this),
       keys_(*this, [this] { return KeysReachGame(); }),
       pad_(*this, [this] { return KeysReachGame(); }) {
@@ -26,6 +30,7 @@ Desktop::Desktop(Program& program, const Zoom& zoom)
   states_.setInterval(settled_ms);
   QObject::connect(&states_, &QTimer::timeout, this, [this] { TakeState(); });
   QCoreApplication::instance()->installEventFilter(this);
+  QLocale::setDefault(QLocale(QString::fromStdString(texts_.Language())));
   OnEndSignals([this] { End(); });
   OnCallSignal([this] { ComeToFront(); });
 }
@@ -60,9 +65,34 @@ void Desktop::Resized(const Screen& screen) {
   if (!windows_.Suit(zoom_)) RescaleLater();
 }
 
+void Desktop::OfferLanguages(const QPoint& at) {
+  languages_.clear();
+  languages_.setAccessibleName(QString::fromStdString(texts_.Of("言語")));
+  for (const std::string& code : texts_.Languages()) {
+    QAction* action = languages_.addAction(QString::fromStdString(texts_.NameOf(code)));
+    action->setCheckable(true);
+    action->setChecked(code == texts_.Language());
+    QObject::connect(action, &QAction::triggered, this, [this, code] {
+      ShowLanguage(code);
+      if (chosen_) chosen_(code);
+    });
+  }
+  languages_.popup(at);
+}
+
+void Desktop::ShowLanguage(const std::string& code) {
+  texts_.Choose(code);
+  // What screen readers are told of the language.
+  QLocale::setDefault(QLocale(QString::fromStdString(texts_.Language())));
+  const Raised following(following_);
+  windows_.Retranslate();
+  boxes_.Retranslate(program_.TheStage());
+}
+
 void Desktop::Follow() {
   if (IsHeld()) return;
   if (!program_.HasEnded()) {
+    LetterSheets(program_.TheStage(), texts_);
     FollowWindows();
     FollowBoxes();
     ticks_.Arm();

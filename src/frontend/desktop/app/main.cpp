@@ -10,6 +10,7 @@
 #include "src/frontend/desktop/access/spoken.h"
 #include "src/frontend/desktop/app/boxes.h"
 #include "src/frontend/desktop/app/desktop.h"
+#include "src/frontend/desktop/app/preferences.h"
 #include "src/frontend/desktop/app/signals.h"
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/look.h"
@@ -19,6 +20,7 @@
 #include "src/frontend/shared/instance.h"
 #include "src/frontend/shared/kept_play.h"
 #include "src/frontend/shared/options.h"
+#include "src/frontend/shared/texts/language_choice.h"
 #include "src/frontend/shared/zoom.h"
 #include "src/game/program.h"
 #include "src/platform/arguments.h"
@@ -86,7 +88,7 @@ int TellProblem(const std::string& problem, int argument_count, char** arguments
   return EXIT_FAILURE;
 }
 
-int RunGame(const Options& options, int argument_count, char** arguments) {
+int RunGame(const Options& options, Translator& texts, int argument_count, char** arguments) {
   HoldSignals();
   const Home home = options.Folder ? Home{*options.Folder, {}, {}} : FindHome();
   const Instance instance(home.Folder);
@@ -113,7 +115,8 @@ int RunGame(const Options& options, int argument_count, char** arguments) {
   SetUpSpeech();
   const Zoom zoom = zoom_for(AskScreen().value_or(ScreenFacts{}));
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());
-  Desktop desktop(program, zoom);
+  Desktop desktop(program, zoom, texts);
+  desktop.TellOfLanguage(PreferLanguage);
   desktop.TellOfPainting(
       [&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
   return desktop.Run();
@@ -128,6 +131,11 @@ int main(int argument_count, char** arguments) {
       Complain(options.Error);
       return kBadCommandLine;
     }
+    Translator texts;
+    if (const std::string problem = LanguageProblem(texts, options.Language); !problem.empty()) {
+      Complain(problem);
+      return kBadCommandLine;
+    }
     if (options.WantsHelp) {
       std::fputs(HelpText().c_str(), stdout);
       return EXIT_SUCCESS;
@@ -139,7 +147,10 @@ int main(int argument_count, char** arguments) {
       return kNoDisplay;
     }
     qInstallMessageHandler(OnToolkitMessage);
-    return RunGame(options, argument_count, arguments);
+    texts.Choose(BestLanguage(
+        texts, {options.Language, qEnvironmentVariable("ORVANE_LANGUAGE").toStdString(),
+                PreferredLanguage()}));
+    return RunGame(options, texts, argument_count, arguments);
   } catch (const std::exception& failure) {
     Complain(failure.what());
     return EXIT_FAILURE;

@@ -59,6 +59,7 @@ class Button : public QPushButton {
 ButtonView::ButtonView(CommandButton& model, QWidget* parent, Events& events)
     : ControlView(model, new Button(parent)),
       model_(model),
+      events_(events),
       widget_(static_cast<QPushButton*>(Widget())) {
   QObject::connect(widget_, &QPushButton::clicked, widget_, [&model, &events] {
     events.Send([&model](Program& program) { program.Click(model); });
@@ -68,7 +69,7 @@ ButtonView::ButtonView(CommandButton& model, QWidget* parent, Events& events)
 void ButtonView::FollowValues(bool all) {
   if (!all && seen_ == model_.Caption) return;
   seen_ = model_.Caption;
-  static_cast<Button*>(widget_)->SetCaption(seen_);
+  static_cast<Button*>(widget_)->SetCaption(events_.Texts().Of(model_, seen_));
 }
 
 }  // namespace orvane

@@ -16,6 +16,7 @@ class ButtonView : public ControlView {
 
  private:
   CommandButton& model_;
+  Events& events_;
   QPushButton* widget_;
   std::string seen_;
 };

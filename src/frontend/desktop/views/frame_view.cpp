@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "src/frontend/desktop/paint/text_paint.h"
+#include "src/frontend/shared/events.h"
 
 namespace orvane {
 namespace {
@@ -40,15 +41,16 @@ class FrameWidget : public QGroupBox {
 
 }  // namespace
 
-FrameView::FrameView(Frame& model, QWidget* parent)
+FrameView::FrameView(Frame& model, QWidget* parent, Events& events)
     : ControlView(model, new FrameWidget(parent)),
       model_(model),
+      events_(events),
       widget_(static_cast<QGroupBox*>(Widget())) {}
 
 void FrameView::FollowValues(bool all) {
   if (!all && seen_ == model_.Caption) return;
   seen_ = model_.Caption;
-  widget_->setTitle(ToQt(seen_));
+  widget_->setTitle(ToQt(events_.Texts().Of(model_, seen_)));
 }
 
 }  // namespace orvane

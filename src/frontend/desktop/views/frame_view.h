@@ -9,13 +9,14 @@ namespace orvane {
 
 class FrameView : public ControlView {
  public:
-  FrameView(Frame& model, QWidget* parent);
+  FrameView(Frame& model, QWidget* parent, Events& events);
 
  protected:
   void FollowValues(bool all) override;
 
  private:
   Frame& model_;
+  Events& events_;
   QGroupBox* widget_;
   std::string seen_;
 };

@@ -6,6 +6,7 @@
 
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/text_paint.h"
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/text_fit.h"
 
 namespace orvane {
@@ -40,11 +41,10 @@ class LabelWidget : public QLabel {
     setAttribute(Qt::WA_TransparentForMouseEvents);
   }
 
-  void Show(const LabelValues& values) {
+  void Show(const LabelValues& values, const QString& text) {
     colour_ = QColor::fromRgb(values.ForeColor);
     alignment_ = AlignmentFlag(values.Alignment);
     setFont(DesktopFont(values.Face));
-    const QString text = ToQt(values.Caption);
     if (this->text() != text) {
       setText(text);
       TellReaders();
@@ -72,15 +72,16 @@ class LabelWidget : public QLabel {
   int alignment_ = Qt::AlignLeft;
 };
 
-LabelView::LabelView(Label& model, QWidget* parent)
+LabelView::LabelView(Label& model, QWidget* parent, Events& events)
     : ControlView(model, new LabelWidget(parent)),
       model_(model),
+      events_(events),
       widget_(static_cast<LabelWidget*>(Widget())) {}
 
 void LabelView::FollowValues(bool all) {
   if (!all && Same(seen_, model_)) return;
   seen_ = model_;
-  widget_->Show(seen_);
+  widget_->Show(seen_, ToQt(events_.Texts().Of(model_, seen_.Caption)));
 }
 
 QRect LabelView::Box(const Place& place) const {

@@ -9,7 +9,7 @@ class LabelWidget;
 
 class LabelView : public ControlView {
  public:
-  LabelView(Label& model, QWidget* parent);
+  LabelView(Label& model, QWidget* parent, Events& events);
 
  protected:
   void FollowValues(bool all) override;
@@ -17,6 +17,7 @@ class LabelView : public ControlView {
 
  private:
   Label& model_;
+  Events& events_;
   LabelWidget* widget_;
   LabelValues seen_;
 };

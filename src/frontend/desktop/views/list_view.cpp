@@ -62,7 +62,7 @@ class ListWidget : public QListWidget {
 
   void SetRows(const std::vector<std::string>& rows) {
     clear();
-    for (const std::string& row : rows) addItem(ToQt(row));
+    for (const std::string& row : rows) addItem(ToQt(events_.Texts().Of(model_, row)));
   }
 
   void Select(int row) {
@@ -128,6 +128,7 @@ class ListWidget : public QListWidget {
 ListView::ListView(Control& model, ListValues& values, QWidget* parent, Events& events)
     : ControlView(model, new ListWidget(parent, model, events)),
       values_(values),
+      events_(events),
       widget_(static_cast<ListWidget*>(Widget())) {}
 
 void ListView::FollowValues(bool all) {

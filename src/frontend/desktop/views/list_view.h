@@ -16,6 +16,7 @@ class ListView : public ControlView {
 
  private:
   ListValues& values_;
+  Events& events_;
   ListWidget* widget_;
   ListValues seen_;
 };

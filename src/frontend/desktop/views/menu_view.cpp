@@ -20,7 +20,7 @@ void MenuBar::paintEvent(QPaintEvent* event) {
   }
 }
 
-MenuView::MenuView(Screen& screen, QMenuBar& bar, Events& events) : bar_(bar) {
+MenuView::MenuView(Screen& screen, QMenuBar& bar, Events& events) : bar_(bar), events_(events) {
   for (Control* control : screen.Controls()) {
     if (control->Kind() != ControlKind::Menu) continue;
     auto& item = static_cast<MenuItem&>(*control);
@@ -59,7 +59,8 @@ void MenuView::Follow() {
     // Setting what is set already costs nothing: an action compares.
     entry.Action->setEnabled(entry.Model->Enabled);
     entry.Action->setVisible(entry.Model->Visible);
-    if (!entry.Model->IsSeparator()) entry.Action->setText(ToQtCaption(entry.Model->Caption));
+    if (entry.Model->IsSeparator()) continue;
+    entry.Action->setText(ToQtCaption(events_.Texts().Of(*entry.Model, entry.Model->Caption)));
   }
 }
 

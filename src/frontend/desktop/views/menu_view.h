@@ -39,6 +39,7 @@ class MenuView {
   void AddItem(MenuItem& item, Events& events);
 
   QMenuBar& bar_;
+  Events& events_;
   std::vector<Entry> entries_;
 };
 

@@ -26,7 +26,7 @@ class PictureWidget : public QWidget, public Spoken {
 
   void Announce() { announcer_.Follow(*this); }
 
-  QString Text() const override { return ToQt(SpokenText(model_)); }
+  QString Text() const override { return ToQt(SpokenText(model_, events_.Texts())); }
   bool IsButton() const override { return bool(model_.OnClick); }
   void Press() override {
     events_.Send([this](Program& program) { program.Click(model_); });

@@ -38,7 +38,7 @@ class TabsWidget : public QWidget {
 }  // namespace
 
 TabsView::TabsView(TabStrip& model, QWidget* parent, Events& events)
-    : ControlView(model, new TabsWidget(parent)), model_(model) {
+    : ControlView(model, new TabsWidget(parent)), model_(model), events_(events) {
   for (int pane = 0; pane < model.TabCount(); ++pane) panes_.push_back(new QWidget(Widget()));
   bar_ = new QTabBar(Widget());
   bar_->setDrawBase(false);
@@ -59,10 +59,11 @@ QWidget* TabsView::Ground(int pane) const {
 void TabsView::FollowValues(bool /*all*/) {
   const QSignalBlocker quiet(bar_);
   for (int tab = 0; tab < bar_->count(); ++tab) {
-    const QString caption = ToQtCaption(model_.TabCaption(tab));
+    const std::string text = events_.Texts().Of(model_, model_.TabCaption(tab));
+    const QString caption = ToQtCaption(text);
     if (bar_->tabText(tab) != caption) {
       bar_->setTabText(tab, caption);
-      panes_[static_cast<size_t>(tab)]->setAccessibleName(ToQt(model_.TabCaption(tab)));
+      panes_[static_cast<size_t>(tab)]->setAccessibleName(ToQt(text));
     }
     if (bar_->isTabEnabled(tab) != model_.TabEnabled(tab)) {
       bar_->setTabEnabled(tab, model_.TabEnabled(tab));

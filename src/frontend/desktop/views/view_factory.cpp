@@ -8,6 +8,7 @@
 #include "src/frontend/desktop/views/picture_view.h"
 #include "src/frontend/desktop/views/slider_view.h"
 #include "src/frontend/desktop/views/tabs_view.h"
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/spoken_names.h"
 #include "src/frontend/shared/spoken_text.h"
 #include "src/ui/visit_control.h"
@@ -22,8 +23,8 @@ struct Maker {
   QWidget* On;
   Events& TheEvents;
 
-  Made operator()(Label& label) const { return std::make_unique<LabelView>(label, On); }
-  Made operator()(Frame& frame) const { return std::make_unique<FrameView>(frame, On); }
+  Made operator()(Label& label) const { return Make<LabelView>(label); }
+  Made operator()(Frame& frame) const { return Make<FrameView>(frame); }
   Made operator()(CommandButton& button) const { return Make<ButtonView>(button); }
   Made operator()(PictureBox& picture) const { return Make<PictureView>(picture); }
   Made operator()(ListBox& list) const { return MakeList(list); }
@@ -51,12 +52,17 @@ std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Events&
   auto view = VisitControl(control, Maker{parent, events});
   if (view == nullptr) return view;
   view->Widget()->setObjectName(ToQt(control.Name()));
-  if (control.Kind() == ControlKind::Label) {
-    view->Widget()->setAccessibleDescription(ToQt(SpokenMeaning(control)));
-  } else {
-    view->SetSpokenName(ToQt(SpokenName(control)));
-  }
+  NameForReaders(*view, events.Texts());
   return view;
+}
+
+void NameForReaders(ControlView& view, const Translator& texts) {
+  const Control& control = view.Model();
+  if (control.Kind() == ControlKind::Label) {
+    view.Widget()->setAccessibleDescription(ToQt(texts.Of(SpokenMeaning(control))));
+  } else {
+    view.SetSpokenName(ToQt(texts.Of(SpokenName(control))));
+  }
 }
 
 }  // namespace orvane

@@ -14,7 +14,7 @@ namespace orvane {
 ClientArea::ClientArea(Screen& screen, WindowEvents& events) : screen_(screen), events_(events) {
   setFixedSize(screen.Width, screen.Height);
   setAutoFillBackground(true);
-  setAccessibleName(ToQt(screen.Caption));
+  NameForReaders();
 }
 
 void ClientArea::Follow(bool all) {
@@ -25,7 +25,11 @@ void ClientArea::Follow(bool all) {
 }
 
 QString ClientArea::Text() const {
-  return ToQt(SpokenText(screen_));
+  return ToQt(SpokenText(screen_, events_.Texts()));
+}
+
+void ClientArea::NameForReaders() {
+  setAccessibleName(ToQt(events_.Texts().Of(screen_.Caption)));
 }
 
 void ClientArea::Press() {

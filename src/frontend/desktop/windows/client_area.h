@@ -18,6 +18,9 @@ class ClientArea : public QWidget, public Spoken {
   // Brings the surface up to date; `all` when it may have been made afresh.
   void Follow(bool all);
 
+  // Tells screen readers what it is called, in the language that is shown.
+  void NameForReaders();
+
   bool IsPicture() const override { return screen_.OwnSurface != nullptr; }
   QString Text() const override;
   bool IsButton() const override { return IsPicture(); }

@@ -1,6 +1,7 @@
 #include "src/frontend/desktop/windows/screen_window.h"
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPaintEvent>
@@ -67,10 +68,8 @@ ScreenWindow::ScreenWindow(Screen& screen, WindowEvents& events)
   if (has_menu) {
     setMenuBar(new MenuBar);
     menuBar()->setNativeMenuBar(false);  // in the window on every desktop
-    menuBar()->setAccessibleName("メニュー");
     menu_ = std::make_unique<MenuView>(screen, *menuBar(), events);
   }
-  setContextMenuPolicy(Qt::NoContextMenu);
   setCentralWidget(new Backing(client_));
   // A scene's window can be made larger than the scene, which then stands in the middle.
   layout()->setSizeConstraint(screen.IsScene ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
@@ -79,6 +78,7 @@ ScreenWindow::ScreenWindow(Screen& screen, WindowEvents& events)
   resized_.setInterval(settled_ms);
   QObject::connect(&resized_, &QTimer::timeout, this, [this] { MeasureGiven(); });
   MakeViews();
+  Retranslate();
 }
 
 void ScreenWindow::MakeViews() {
@@ -100,7 +100,7 @@ void ScreenWindow::MakeViews() {
 }
 
 void ScreenWindow::FollowTitle() {
-  const QString title = ToQt(screen_.Caption);
+  const QString title = ToQt(events_.Texts().Of(screen_.Caption));
   if (windowTitle() != title) setWindowTitle(title);
 }
 
@@ -118,6 +118,15 @@ void ScreenWindow::FollowAll() {
   if (menu_ != nullptr) menu_->Follow();
   client_->Follow(true);
   for (const auto& view : views_) view->FollowAll();
+}
+
+void ScreenWindow::Retranslate() {
+  if (menu_ != nullptr) menuBar()->setAccessibleName(ToQt(events_.Texts().Of("メニュー")));
+  client_->NameForReaders();
+  for (const auto& view : views_) NameForReaders(*view, events_.Texts());
+  QWidget* before = focusWidget();
+  FollowAll();
+  keys_to_->Follow(before);
 }
 
 void ScreenWindow::Present(ScreenWindow* over, const Setting& setting) {
@@ -235,6 +244,13 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
   // The game decides whether the window goes.
   event->ignore();
   events_.Send([this](Program& program) { program.Close(screen_); });
+}
+
+void ScreenWindow::contextMenuEvent(QContextMenuEvent* event) {
+  // A press on a film of the screen's own means something else.
+  const bool is_mouse = event->reason() == QContextMenuEvent::Mouse;
+  if (screen_.OwnSurface != nullptr && is_mouse) return event->ignore();
+  events_.OfferLanguages(event->globalPos());
 }
 
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {

@@ -35,6 +35,9 @@ class ScreenWindow : public QMainWindow {
   // Brings the window's title, menus and controls up to date.
   void Follow();
 
+  // Shows all texts anew: the language may have changed.
+  void Retranslate();
+
   // Shows the window over the middle of `over`, or of the screen where that is null; where it has
   // been before, it comes back to that place. It stands before the backdrop.
   void Present(ScreenWindow* over, const Setting& setting);
@@ -57,6 +60,8 @@ class ScreenWindow : public QMainWindow {
  protected:
   // Tells of painting.
   bool event(QEvent* event) override;
+  // Offers the languages where nothing else is asked of a right click or of the key for menus.
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   // Keys that the control which has the keyboard has no use for.

@@ -3,6 +3,8 @@
 
 #include "src/frontend/shared/events.h"
 
+class QPoint;
+
 namespace orvane {
 
 class WindowEvents : public Events {
@@ -11,6 +13,8 @@ class WindowEvents : public Events {
   virtual void Painted(const Screen& /*screen*/) {}
   // The window manager has given a screen's window another size than it asked for.
   virtual void Resized(const Screen& /*screen*/) {}
+  // The player asks for the choice of languages, at a point of the display.
+  virtual void OfferLanguages(const QPoint& /*at*/) {}
 };
 
 }  // namespace orvane

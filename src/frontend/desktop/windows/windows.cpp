@@ -44,6 +44,10 @@ void Windows::Follow() {
   active_ = stage_.Active();
 }
 
+void Windows::Retranslate() {
+  for (const auto& window : windows_) window->Retranslate();
+}
+
 void Windows::Rescale(const Zoom& zoom) {
   full_screen_ = zoom.IsFullScreen();
   FollowBackdrop();

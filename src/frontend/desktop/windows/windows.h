@@ -18,6 +18,8 @@ class Windows {
 
   // Brings all that can be seen up to date.
   void Follow();
+  // Shows all texts anew: the language has changed.
+  void Retranslate();
   // Whether the windows are as large as the player wants those that are visible to be.
   bool Suit(const Zoom& zoom) const;
   // Makes them so. None of them may be within a handler: all are taken down and put back.

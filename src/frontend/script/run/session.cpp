@@ -106,6 +106,7 @@ bool Session::HasEnded() {
 void Session::Run(const Handler& event) {
   const int stood = program_ == nullptr ? 0 : program_->TheStage().BoxCount();
   event();
+  if (program_ != nullptr) shown_.Look(*program_);
   Settle(stood);
   if (HasEnded()) Sound.Silence();
 }
@@ -115,6 +116,7 @@ void Session::Settle(int boxes_before) {
   const Stage& stage = program_->TheStage();
   PassHold();
   while (stage.BoxCount() > boxes_before || (stage.BoxStands() && !stage.IsRunning())) {
+    shown_.Look(*program_);
     const Box box = stage.Boxes().back().Shown;
     if (!stage.IsRunning()) {
       Boxes.KeepError(box);

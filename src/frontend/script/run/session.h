@@ -10,6 +10,7 @@
 
 #include "src/frontend/script/devices/boxes.h"
 #include "src/frontend/script/devices/chance.h"
+#include "src/frontend/script/devices/shown_texts.h"
 #include "src/frontend/script/devices/sound_log.h"
 #include "src/frontend/script/names/names.h"
 #include "src/frontend/script/run/clock.h"
@@ -112,6 +113,7 @@ class Session {
   std::unique_ptr<Program> program_;
   std::unique_ptr<Names> names_;
   std::unique_ptr<TimerQueue> timers_;
+  ShownTexts shown_;
   int starts_ = 0;
   int depth_ = 0;
 };

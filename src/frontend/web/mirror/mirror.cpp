@@ -55,14 +55,14 @@ int StopOf(const FocusOrder& order, const Control* control) {
 }
 
 // What a canvas with words on it is called.
-std::string CalledOf(const std::string& name, const std::string& words) {
+std::string CalledOf(const std::string& name, const std::string& words, const Translator& texts) {
   if (name.empty()) return words.empty() ? "Orvane" : words;
-  return words.empty() ? name : name + "：" + words;
+  return words.empty() ? name : name + texts.Of("：") + words;
 }
 
 }  // namespace
 
-Mirror::Mirror(const Stage& stage) : stage_(stage) {
+Mirror::Mirror(const Stage& stage, const Translator& texts) : stage_(stage), texts_(texts) {
   for (Screen* screen : stage.Screens()) {
     const int number = static_cast<int>(screens_.size());
     screens_.push_back({.Model = screen});
@@ -185,7 +185,7 @@ void Mirror::FollowScreens(std::string& out) {
         json.Add("active", stage_.Active() == &screen);
         json.Add("modal", screen.IsModal());
         json.Add("blocked", IsBlocked(screen));
-        json.Add("caption", screen.Caption);
+        json.Add("caption", texts_.Of(screen.Caption));
       }
       shown.Visible = screen.IsVisible();
       if (values == shown.Values) continue;
@@ -217,10 +217,10 @@ void Mirror::FollowControls(std::string& out, std::string& pixels) {
       const bool comes = !screen.Visible;
       const int number = static_cast<int>(i);
       values.clear();
-      WriteValues(*shown.Model, number, values);
+      WriteValues(*shown.Model, number, texts_, values);
       if (comes || values != shown.Values) {
         shown.Values = values;
-        if (const std::string meaning = SpokenMeaning(*shown.Model); !meaning.empty()) {
+        if (const std::string meaning = texts_.Of(SpokenMeaning(*shown.Model)); !meaning.empty()) {
           values.pop_back();
           Json more(values, Json::Form::Rest);
           more.Add("meaning", meaning);
@@ -250,7 +250,7 @@ std::string Mirror::BoxesNow() const {
           std::string button;
           {
             Json json(button, Json::Form::Object);
-            json.Add("caption", choice.Caption);
+            json.Add("caption", texts_.Of(choice.Caption));
             json.Add("answer", static_cast<int>(choice.Answer));
           }
           each.AddRaw(button);
@@ -260,8 +260,8 @@ std::string Mirror::BoxesNow() const {
       {
         Json json(entry, Json::Form::Object);
         json.Add("number", box.Number);
-        json.Add("text", ShownText(box.Shown));
-        json.Add("title", box.Shown.Title);
+        json.Add("text", ShownText(texts_.Of(box.Shown)));
+        json.Add("title", texts_.Of(box.Shown.Title));
         json.AddRaw("choices", choices);
         json.Add("closing", static_cast<int>(AnswerOfClosing(box.Shown.Buttons)));
       }
@@ -284,8 +284,8 @@ void Mirror::FollowWords(std::string& out) {
   std::string list;
   {
     Json all(list, Json::Form::List);
-    const auto tell = [&all](const char* whose, int number, const std::string& name,
-                             std::string words, std::string& told) {
+    const auto tell = [&all, this](const char* whose, int number, const std::string& name,
+                                   std::string words, std::string& told) {
       if (words == told) return;
       told = std::move(words);
       std::string entry;
@@ -293,7 +293,7 @@ void Mirror::FollowWords(std::string& out) {
         Json json(entry, Json::Form::Object);
         json.Add(whose, number);
         json.Add("text", told);
-        json.Add("called", CalledOf(name, told));
+        json.Add("called", CalledOf(name, told, texts_));
       }
       all.AddRaw(entry);
     };
@@ -301,13 +301,13 @@ void Mirror::FollowWords(std::string& out) {
       ShownControl& shown = controls_[i];
       if (!touched_[static_cast<size_t>(shown.Screen)]) continue;
       if (shown.Model->Kind() != ControlKind::Picture) continue;
-      tell("control", static_cast<int>(i), SpokenName(*shown.Model),
-           SpokenText(static_cast<PictureBox&>(*shown.Model)), shown.Words);
+      tell("control", static_cast<int>(i), texts_.Of(SpokenName(*shown.Model)),
+           SpokenText(static_cast<PictureBox&>(*shown.Model), texts_), shown.Words);
     }
     for (size_t i = 0; i < screens_.size(); ++i) {
       ShownScreen& shown = screens_[i];
       if (!touched_[i] || shown.Model->OwnSurface == nullptr) continue;
-      tell("screen", static_cast<int>(i), {}, SpokenText(*shown.Model), shown.Words);
+      tell("screen", static_cast<int>(i), {}, SpokenText(*shown.Model, texts_), shown.Words);
     }
   }
   if (list != "[]") out = list;

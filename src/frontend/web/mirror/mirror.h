@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "src/frontend/shared/surface_copy.h"
+#include "src/frontend/shared/texts/translator.h"
 #include "src/ui/stage.h"
 
 namespace orvane {
@@ -16,7 +17,7 @@ namespace orvane {
 class Mirror {
  public:
   // The stage must outlive it.
-  explicit Mirror(const Stage& stage);
+  Mirror(const Stage& stage, const Translator& texts);
 
   Screen* ScreenOf(int number) const;
   Control* ControlOf(int number) const;
@@ -59,6 +60,7 @@ class Mirror {
   std::string BoxesNow() const;
 
   const Stage& stage_;
+  const Translator& texts_;
   std::vector<ShownScreen> screens_;
   std::vector<ShownControl> controls_;
   std::map<const Control*, int> numbers_;

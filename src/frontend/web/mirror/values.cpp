@@ -21,11 +21,12 @@ std::string HexColour(Colour colour) {
   return text;
 }
 
-std::string TextList(const std::vector<std::string>& texts) {
+std::string TextList(const Control& control, const std::vector<std::string>& rows,
+                     const Translator& texts) {
   std::string out;
   {
     Json list(out, Json::Form::List);
-    for (const std::string& text : texts) list.Add(std::string_view(text));
+    for (const std::string& row : rows) list.Add(std::string_view(texts.Of(control, row)));
   }
   return out;
 }
@@ -79,22 +80,23 @@ std::string StyleOf(const Control& control, int id) {
   return style.Text();
 }
 
-void WriteLabel(const Label& label, Json& json) {
+void WriteLabel(const Label& label, const Translator& texts, Json& json) {
+  const std::string text = texts.Of(label, label.Caption);
   const int size = PixelSize(label.Face);
-  json.Add("text", label.Caption);
+  json.Add("text", text);
   json.Add("face", FaceName(label.Face));
   json.Add("size", size);
   json.Add("bold", label.Face.Bold);
-  json.Add("oneLine", IsOneLine(label.Caption, label.At.Height, size));
+  json.Add("oneLine", IsOneLine(text, label.At.Height, size));
 }
 
-void WriteList(const ListValues& values, Json& json) {
-  json.AddRaw("rows", TextList(values.Rows));
+void WriteList(const Control& list, const ListValues& values, const Translator& texts, Json& json) {
+  json.AddRaw("rows", TextList(list, values.Rows, texts));
   json.Add("row", values.ListIndex);
 }
 
-void WriteTabs(const TabStrip& tabs, Json& json) {
-  json.AddRaw("captions", TextList(tabs.Captions));
+void WriteTabs(const TabStrip& tabs, const Translator& texts, Json& json) {
+  json.AddRaw("captions", TextList(tabs, tabs.Captions, texts));
   std::string can_open;
   {
     Json list(can_open, Json::Form::List);
@@ -112,24 +114,25 @@ void WriteSlider(const Slider& slider, Json& json) {
   json.Add("value", slider.Value);
 }
 
-void WriteKind(const Control& control, Json& json) {
+void WriteKind(const Control& control, const Translator& texts, Json& json) {
   switch (control.Kind()) {
     case ControlKind::Label:
-      return WriteLabel(static_cast<const Label&>(control), json);
+      return WriteLabel(static_cast<const Label&>(control), texts, json);
     case ControlKind::Button:
-      return json.Add("text", static_cast<const CommandButton&>(control).Caption);
+      return json.Add("text",
+                      texts.Of(control, static_cast<const CommandButton&>(control).Caption));
     case ControlKind::Frame:
-      return json.Add("text", static_cast<const Frame&>(control).Caption);
+      return json.Add("text", texts.Of(control, static_cast<const Frame&>(control).Caption));
     case ControlKind::Menu:
-      return json.Add("text", static_cast<const MenuItem&>(control).Caption);
+      return json.Add("text", texts.Of(control, static_cast<const MenuItem&>(control).Caption));
     case ControlKind::Field:
       return json.Add("text", static_cast<const TextBox&>(control).Text);
     case ControlKind::List:
-      return WriteList(static_cast<const ListBox&>(control), json);
+      return WriteList(control, static_cast<const ListBox&>(control), texts, json);
     case ControlKind::FileList:
-      return WriteList(static_cast<const FileListBox&>(control), json);
+      return WriteList(control, static_cast<const FileListBox&>(control), texts, json);
     case ControlKind::Tabs:
-      return WriteTabs(static_cast<const TabStrip&>(control), json);
+      return WriteTabs(static_cast<const TabStrip&>(control), texts, json);
     case ControlKind::Slider:
       return WriteSlider(static_cast<const Slider&>(control), json);
     case ControlKind::Picture:
@@ -185,7 +188,7 @@ void WriteNature(const Control& control, const Standing& standing, std::string& 
   }
 }
 
-void WriteValues(const Control& control, int id, std::string& out) {
+void WriteValues(const Control& control, int id, const Translator& texts, std::string& out) {
   Json json(out, Json::Form::Object);
   json.Add("id", id);
   json.Add("visible", control.Visible);
@@ -196,7 +199,7 @@ void WriteValues(const Control& control, int id, std::string& out) {
     json.Add("width", control.At.Width);
     json.Add("height", control.At.Height);
   }
-  WriteKind(control, json);
+  WriteKind(control, texts, json);
 }
 
 }  // namespace orvane

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "src/frontend/shared/texts/translator.h"
 #include "src/ui/controls.h"
 
 namespace orvane {
@@ -18,10 +19,10 @@ struct Standing {
 };
 
 // Writes what never changes of a control: its kind, name and border, and what screen readers call
-// it.
+// it in the game's own language.
 void WriteNature(const Control& control, const Standing& standing, std::string& out);
 
 // Writes what may change, as it is now. Of a control that is not to be seen that is all.
-void WriteValues(const Control& control, int id, std::string& out);
+void WriteValues(const Control& control, int id, const Translator& texts, std::string& out);
 
 }  // namespace orvane

@@ -46,7 +46,9 @@ function showLast(state, title, sentence) {
 
 export function showEnd(status) {
   document.body.dataset.status = status;
-  const page = showLast('ended', 'Orvane', `ゲームは${status === 0 ? '' : 'エラーで'}終わりました。セーブデータはそのままです。`);
+  const good = 'ゲームは終わりました。セーブデータはそのままです。';
+  const bad = 'ゲームはエラーで終わりました。セーブデータはそのままです。';
+  const page = showLast('ended', 'Orvane', status === 0 ? good : bad);
   if (status !== 0) makeButton('push', page, 'ここまでの操作の記録を書き出す', () => hand('error.replay', askBytes('Replay')));
 }
 

@@ -7,6 +7,7 @@ import { showCrash, showEnd, startBar, waitForTurn } from './bar.mjs';
 import { countLines } from './controls.mjs';
 import { program, stored, table, turn } from './early.mjs';
 import { apply, describe, refit } from './windows.mjs';
+import { startWords } from './words.mjs';
 
 const wishes = new URLSearchParams(location.search);
 
@@ -24,6 +25,7 @@ async function start() {
     countLines,
   };
   const [mine, sounds] = await Promise.all([turn, table, game.load(program, page)]);
+  startWords(wishes.get('language'));
   if (!mine) await waitForTurn();
   const lengths = sound.know(sounds);
   const seed = Number(wishes.get('seed') ?? -1);

@@ -114,7 +114,7 @@ void PictureView::FollowValues(bool all) {
 void PictureView::Announce() {
   Speech& speech = TheSetting().TheSpeech;
   if (!speech.IsHeard()) return;
-  const std::string text = SpokenText(model_);
+  const std::string text = SpokenText(model_, Translator());
   if (text == told_) return;
   told_ = text;
   speech.SetDescription(Handle(), text);

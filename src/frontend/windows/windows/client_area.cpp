@@ -25,7 +25,7 @@ void ClientArea::Follow(bool all) {
 void ClientArea::Announce() {
   Speech& speech = setting_.TheSpeech;
   if (!speech.IsHeard()) return;
-  const std::string text = SpokenText(screen_);
+  const std::string text = SpokenText(screen_, Translator());
   if (text == told_) return;
   told_ = text;
   speech.SetDescription(Handle(), text);

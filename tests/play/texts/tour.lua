@@ -1,0 +1,147 @@
+-- Shows what a bot's journey leaves out: the story as it is read, and what the game says to those who do things
+-- that it refuses. tests/texts/journey.sh looks at the texts.
+local steps = require "lib.steps"
+
+local function read_line()
+  tick("Main.Timer3")
+  expect(get("Main.Label8.Visible"), true)
+  click("Main.Picture1")
+end
+
+test("all of the story is read", function()
+  start()
+  steps.enter_names()
+  for _ = 1, 20 do read_line() end
+  for _, scene in ipairs { { 21, 22 }, { 24, 26 }, { 28, 30 }, { 32, 44 } } do
+    for line = scene[1], scene[2] do
+      steps.arena()
+      set("StoryNo", line)
+      set("BossFight", -1)
+      set("Main.Timer3.Enabled", true)
+      tick("Main.Timer3")
+    end
+  end
+end)
+
+test("names are asked for", function()
+  start()
+  click("Main.Command1")
+  answer("OK", "OK", "OK")
+  click("InputName.OKButton")
+  enter("InputName.Text1(0)", "カイ")
+  enter("InputName.Text1(1)", "カイ")
+  click("InputName.OKButton")
+  enter("InputName.Text1(1)", "カイカイカイカイ")
+  click("InputName.OKButton")
+  expect(#boxes(), 3)
+  close("InputName")
+  answer("Cancel")
+  click("Main.m14")
+end)
+
+test("files are asked for", function()
+  start()
+  click("Main.m11")
+  answer("OK")
+  click("Load.OKButton")
+  choose("Load.File1", 0)
+  close("Load")
+  steps.field()
+  click("Main.m12")
+  choose("Save.File1", 0)
+  answer("No")
+  click("Save.OKButton")
+end)
+
+test("the screens of the menus are opened", function()
+  steps.field()
+  steps.learn_all()
+  set("WazaUse[0]", 999)
+  set("Items[0]", 47)
+  set("Items[1]", 1)
+  set("Items[2]", 50)
+  for _, each in ipairs { { "m32", "Chardata" }, { "m33", "Custom" }, { "m35", "Version" }, { "m21", "Wepon" } } do
+    click("Main." .. each[1])
+    if each[2] == "Chardata" or each[2] == "Wepon" then
+      tab(each[2] .. ".SSTab1", 1)
+      tab(each[2] .. ".SSTab1", 0)
+    end
+    close(each[2])
+  end
+  click("Main.m22")
+  choose("Item.List1", 1)
+  answer("Cancel")
+  click("Item.Command2")
+  choose("Item.List1", 0)
+  set("ItemRec.Kind", 0)
+  answer("OK")
+  click("Item.Command1")
+  choose("Item.List1", 0)
+  click("Item.Command1")
+  expect(active(), "ItemUse")
+end)
+
+test("the bag is full before either kind of chest", function()
+  for _, place in ipairs { { tile = 36, a = 3, b = 3 }, { tile = 103, a = 3, b = 4 } } do
+    steps.field()
+    steps.flatten()
+    set("MapA", place.a)
+    set("MapB", place.b)
+    set("ItemCount", 20)
+    set("MapTile[12][6]", place.tile)
+    steps.put(200, 100)
+    answer("OK")
+    tick("Main.Timer1")
+    expect(#boxes(), 1)
+  end
+end)
+
+test("an item is got, and a recovery point found", function()
+  steps.field()
+  steps.flatten()
+  set("MapA", 3)
+  set("MapB", 3)
+  set("MapTile[12][6]", 36)
+  steps.put(200, 100)
+  tick("Main.Timer1")
+  tick("Main.Timer2")
+  click("Main.Picture1")
+  set("MapTile[12][6]", 135)
+  tick("Main.Timer1")
+  tick("Main.Timer2")
+  expect(get("Main.Label6(0).Caption"), "HP・MP全回復！")
+end)
+
+test("commands are refused", function()
+  steps.arena()
+  set("Items[0]", 1)
+  set("WazaKnown[1]", -1)
+  set("MP[0]", 0)
+  steps.battle_with(3, 2)
+  click("Battle.Command3")
+  answer("OK", "OK", "OK", "OK")
+  choose("Battle.List1", 10)
+  choose("Battle.List1", 2)
+  choose("Battle.List1", 0)
+  set("EnemyAlive[0]", 0)
+  click("Battle.Command1")
+  choose("Battle.List2", 1)
+  choose("Battle.List2", 0)
+  click("Battle.Command4")
+  choose("Battle.List3", 1)
+  expect(#boxes(), 4)
+end)
+
+test("the party falls", function()
+  steps.arena()
+  steps.battle_with(3, 1)
+  set("HeroFainted[1]", -1)
+  set("HP[1]", 0)
+  set("HP[0]", 1)
+  answer("OK")
+  for _ = 1, 50 do
+    if ended() then break end
+    if get("Battle.Timer1.Enabled") then tick("Battle.Timer1") else steps.strike(1) end
+  end
+  expect(ended(), true)
+end)

@@ -83,7 +83,7 @@ class LanguagesTest : public testing::Test {
 
 TEST_F(LanguagesTest, TheGameOpensInJapanese) {
   Do([](Program& /*program*/) {});
-  EXPECT_NE(Within(Main(), L"Button", "はじめから"), nullptr);
+  EXPECT_NE(Within(Main(), L"Button", "始めから"), nullptr);
   EXPECT_EQ(Within(Main(), L"Button", "New Game"), nullptr);
   EXPECT_NE(Top("名前の入力"), nullptr);
   EXPECT_EQ(ItemOf(GetMenu(Main()), 0, MF_BYPOSITION), "ファイル");
@@ -108,9 +108,9 @@ TEST_F(LanguagesTest, AChoiceShowsAtOnceAndIsTold) {
   EXPECT_EQ(chosen, std::vector<std::string>{"en"});
   EXPECT_NE(Within(Main(), L"Button", "New Game"), nullptr);
   EXPECT_EQ(ItemOf(GetMenu(Main()), 0, MF_BYPOSITION), "File");
-  EXPECT_EQ(static_cast<CommandButton&>(On("Main", "Command1")).Caption, "はじめから");
+  EXPECT_EQ(static_cast<CommandButton&>(On("Main", "Command1")).Caption, "始めから");
   Choose(kJapanese);
-  EXPECT_NE(Within(Main(), L"Button", "はじめから"), nullptr);
+  EXPECT_NE(Within(Main(), L"Button", "始めから"), nullptr);
   EXPECT_EQ(ItemOf(GetMenu(Main()), 0, MF_BYPOSITION), "ファイル");
 }
 

@@ -25,8 +25,9 @@ set(built ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 set(host_player ${ORVANE_HOST_BUILD}/bin/orvane-script)
 add_test(NAME windows-unit COMMAND ${here}/units.sh $<TARGET_FILE:orvane-windows-unit> ${shots}/units)
 add_test(NAME windows-tour COMMAND ${here}/tour.sh ${built} ${shots}/tour ${host_player})
+add_test(NAME windows-language COMMAND ${here}/language.sh ${built} ${shots}/language ${host_player})
 add_test(NAME windows-places COMMAND ${here}/places.sh ${built} ${shots}/places)
 add_test(NAME windows-ticks COMMAND ${here}/ticks.sh ${built} ${shots}/ticks ${host_player})
 add_test(NAME windows-sound COMMAND ${here}/sound.sh ${built} ${shots}/minute.wav ${host_player})
-set_tests_properties(windows-unit windows-tour windows-places windows-ticks windows-sound PROPERTIES
-                     SKIP_RETURN_CODE 77 TIMEOUT 400 COST 60)
+set_tests_properties(windows-unit windows-tour windows-language windows-places windows-ticks windows-sound
+                     PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 400 COST 60)

@@ -40,10 +40,11 @@ class BoxesTest : public testing::Test {
   Stage stage_;
   std::vector<std::string> answers_;
   int enabled_ = 0;
-  MessageBoxes boxes_{[this](BoxAnswer answer) {
-    stage_.Answer(answer);
-    Follow();
-  }};
+  Translator texts_;
+  MessageBoxes boxes_{texts_, [this](BoxAnswer answer) {
+                        stage_.Answer(answer);
+                        Follow();
+                      }};
 };
 
 TEST_F(BoxesTest, TheOneInFrontIsAnsweredFirst) {

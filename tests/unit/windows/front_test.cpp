@@ -102,7 +102,8 @@ class FrontTest : public testing::Test {
 
   QuietServices services_ = Built();
   Program program_{services_.All()};
-  Front front_{program_, 1.0, L"front test"};
+  Translator texts_;
+  Front front_{program_, texts_, 1.0, L"front test"};
   int ticks_ = 0;
 };
 

@@ -62,7 +62,8 @@ TEST(SpokenTest, PicturesAreCalledByTheirNames) {
   services.Files.Files["Item.dat"] =
       FolderStorage(ORVANE_GAME_FOLDER).Read("Item.dat").value_or("");
   Program program(services.All());
-  const Front front(program, 1.0, L"spoken test");
+  Translator texts;
+  const Front front(program, texts, 1.0, L"spoken test");
   Names names;
   EnumThreadWindows(GetCurrentThreadId(), &CollectWithin, reinterpret_cast<LPARAM>(&names));
   int count = 0;

@@ -48,17 +48,17 @@ SIZE SizeOf(HWND window, HFONT font, const std::wstring& text, int widest) {
   return {box.right, box.bottom};
 }
 
-HWND MakeChild(HWND window, const wchar_t* kind, const std::wstring& text, DWORD style,
-               int number) {
-  return CreateWindowExW(0, kind, text.c_str(), style | WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, window,
+HWND MakeChild(HWND window, const wchar_t* kind, DWORD style, int number) {
+  return CreateWindowExW(0, kind, L"", style | WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, window,
                          reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)),
                          GetModuleHandleW(nullptr), nullptr);
 }
 
 }  // namespace
 
-BoxWindow::BoxWindow(const Box& box, HWND owner, bool active, std::function<void(BoxAnswer)> answer)
-    : box_(box), answer_(std::move(answer)) {
+BoxWindow::BoxWindow(const Box& box, const Translator& texts, HWND owner, bool active,
+                     std::function<void(BoxAnswer)> answer)
+    : box_(box), texts_(texts), answer_(std::move(answer)) {
   Template shape;
   shape.Dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_NOIDLEMSG;
   window_ = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &shape.Dialog, owner,
@@ -75,18 +75,33 @@ BoxWindow::~BoxWindow() {
 }
 
 void BoxWindow::MakeControls() {
-  SetWindowTextW(window_, Wide(box_.Title).c_str());
   SendMessageW(window_, WM_SETICON, ICON_SMALL,
                reinterpret_cast<LPARAM>(ProgramIcon(GetSystemMetrics(SM_CXSMICON))));
-  text_ = MakeChild(window_, WC_STATICW, WideLines(ShownText(box_)), SS_NOPREFIX, -1);
-  for (const BoxChoice& choice : ChoicesOf(box_.Buttons)) {
-    const auto index = static_cast<int>(buttons_.size());
+  text_ = MakeChild(window_, WC_STATICW, SS_NOPREFIX, -1);
+  const auto count = static_cast<int>(ChoicesOf(box_.Buttons).size());
+  for (int index = 0; index < count; ++index) {
     const DWORD kind = index == 0 ? BS_DEFPUSHBUTTON | WS_GROUP : BS_PUSHBUTTON;
-    buttons_.push_back(MakeChild(window_, WC_BUTTONW, WideCaption(choice.Caption),
-                                 kind | WS_TABSTOP, kFirstButton + index));
+    buttons_.push_back(MakeChild(window_, WC_BUTTONW, kind | WS_TABSTOP, kFirstButton + index));
   }
+  Inscribe();
   SendMessageW(window_, DM_SETDEFID, kFirstButton, 0);
   SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+}
+
+void BoxWindow::Inscribe() {
+  shown_ = texts_.Of(box_);
+  SetWindowTextW(window_, Wide(shown_.Title).c_str());
+  SetWindowTextW(text_, WideLines(ShownText(shown_)).c_str());
+  const std::span<const BoxChoice> choices = ChoicesOf(box_.Buttons);
+  for (size_t i = 0; i < buttons_.size(); ++i) {
+    SetWindowTextW(buttons_[i], WideCaption(texts_.Of(choices[i].Caption)).c_str());
+  }
+}
+
+void BoxWindow::Retranslate() {
+  Inscribe();
+  LayOut(GetWindow(window_, GW_OWNER));
+  InvalidateRect(window_, nullptr, TRUE);
 }
 
 void BoxWindow::LayOut(HWND owner) {
@@ -97,8 +112,8 @@ void BoxWindow::LayOut(HWND owner) {
   const auto px = [dpi](int own) { return MulDiv(own, static_cast<int>(dpi), 96); };
   const HFONT old = std::exchange(font_, MessageFont(dpi));
   if (old != nullptr) DeleteObject(old);
-  const SIZE text = SizeOf(window_, font_, WideLines(ShownText(box_)), px(kWidestText));
-  const SIZE title = SizeOf(window_, font_, Wide(box_.Title), 10 * px(kWidestText));
+  const SIZE text = SizeOf(window_, font_, WideLines(ShownText(shown_)), px(kWidestText));
+  const SIZE title = SizeOf(window_, font_, Wide(shown_.Title), 10 * px(kWidestText));
   const auto count = static_cast<int>(buttons_.size());
   const int buttons = count * px(kButtonWidth) + (count - 1) * px(kGap);
   const int width = std::max({static_cast<int>(text.cx) + 2 * px(kMargin),

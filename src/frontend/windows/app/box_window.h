@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "src/frontend/shared/texts/translator.h"
 #include "src/frontend/windows/system/windows_api.h"
 #include "src/ui/box.h"
 
@@ -13,7 +14,9 @@ class BoxWindow {
  public:
   // Shows the box over the middle of its owner, or of the display where that is null. `active`
   // tells whether it takes the keyboard as it comes; `answer` is told what the player presses.
-  BoxWindow(const Box& box, HWND owner, bool active, std::function<void(BoxAnswer)> answer);
+  // `texts` has the language of the box, and outlives it.
+  BoxWindow(const Box& box, const Translator& texts, HWND owner, bool active,
+            std::function<void(BoxAnswer)> answer);
   ~BoxWindow();
   BoxWindow(const BoxWindow&) = delete;
   BoxWindow& operator=(const BoxWindow&) = delete;
@@ -22,6 +25,8 @@ class BoxWindow {
 
   // Takes a message of the loop, if it is one of the box's keys.
   bool TakeKey(const MSG& message) const;
+  // Shows its texts anew, in another language.
+  void Retranslate();
   // Puts the keyboard on its first button.
   void ComeToFront() const;
 
@@ -29,11 +34,14 @@ class BoxWindow {
   static INT_PTR CALLBACK Receive(HWND window, UINT message, WPARAM w, LPARAM l);
   INT_PTR Take(UINT message, WPARAM w, LPARAM l);
   void MakeControls();
+  void Inscribe();
   void LayOut(HWND owner);
   void Answer(int number);
   LRESULT PaintGround(HDC context) const;
 
-  Box box_;
+  const Box box_;
+  const Translator& texts_;
+  Box shown_;  // the box with its texts as they are shown
   std::function<void(BoxAnswer)> answer_;
   HWND window_ = nullptr;
   HWND text_ = nullptr;

@@ -32,7 +32,7 @@ void MessageBoxes::Follow(const Stage& stage, HWND owner, const std::function<vo
   for (const StandingBox& box : stage.Boxes()) {
     if (shown_.contains(box.Number)) continue;
     const HWND under = Front() != nullptr ? Front()->Handle() : owner;
-    shown_[box.Number] = std::make_unique<BoxWindow>(box.Shown, under, in_front, answer_);
+    shown_[box.Number] = std::make_unique<BoxWindow>(box.Shown, texts_, under, in_front, answer_);
   }
   const BoxWindow* front = Front();
   for (const auto& [number, box] : shown_) {
@@ -42,6 +42,10 @@ void MessageBoxes::Follow(const Stage& stage, HWND owner, const std::function<vo
   if (front != nullptr && in_front) front->ComeToFront();
   // Windows behind may belong to a box that goes; the newest goes first.
   while (!gone.empty()) gone.pop_back();
+}
+
+void MessageBoxes::Retranslate() const {
+  for (const auto& [number, box] : shown_) box->Retranslate();
 }
 
 void ShowProblem(const std::string& sentence) {

@@ -13,8 +13,10 @@ namespace orvane {
 
 class MessageBoxes {
  public:
-  // `answer` takes the player's answer to the box in front.
-  explicit MessageBoxes(std::function<void(BoxAnswer)> answer) : answer_(std::move(answer)) {}
+  // `answer` takes the player's answer to the box in front; `texts` has the language of the boxes,
+  // and outlives them.
+  MessageBoxes(const Translator& texts, std::function<void(BoxAnswer)> answer)
+      : texts_(texts), answer_(std::move(answer)) {}
 
   // Shows the boxes that have come to stand, in front of `owner`, which may be null, and takes down
   // those that stand no more. The one in front takes input. `enable` lets those input through that
@@ -22,10 +24,14 @@ class MessageBoxes {
   // program.
   void Follow(const Stage& stage, HWND owner, const std::function<void()>& enable);
 
+  // Shows those that stand anew, in another language.
+  void Retranslate() const;
+
   // The box in front, or null.
   const BoxWindow* Front() const;
 
  private:
+  const Translator& texts_;
   std::function<void(BoxAnswer)> answer_;
   std::map<int, std::unique_ptr<BoxWindow>> shown_;  // by the number on the stage
 };

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "src/frontend/shared/raised.h"
+#include "src/frontend/shared/texts/lettered_sheets.h"
 #include "src/frontend/windows/windows/display.h"
 
 namespace orvane {
@@ -14,13 +15,16 @@ constexpr UINT kDisplayMessage = WM_APP + 3;
 
 }  // namespace
 
-Front::Front(Program& program, std::optional<double> scale, const std::wstring& name)
+Front::Front(Program& program, Translator& texts, std::optional<double> scale,
+             const std::wstring& name)
     : program_(program),
+      texts_(texts),
       first_(program.TheStage().Active()),
       scale_(scale),
       zoom_(MakeZoom(nullptr)),
       windows_(program.TheStage(), setting_),
-      boxes_([this](BoxAnswer answer) { Send([answer](Program& game) { game.Answer(answer); }); }),
+      boxes_(texts,
+             [this](BoxAnswer answer) { Send([answer](Program& game) { game.Answer(answer); }); }),
       messages_(name, [this](UINT message) { Take(message); }),
       alarm_(messages_.Handle(), kRingMessage),
       times_(program.TheStage()),
@@ -62,10 +66,19 @@ void Front::Send(const std::function<void(Program&)>& event) {
   Follow();
 }
 
+void Front::ChooseLanguage(const std::string& code) {
+  texts_.Choose(code);
+  language_changed_ = true;
+  if (chosen_) chosen_(code);
+  // While the game is held nothing changes on the screen.
+  if (!following_ && !held_until_) Follow();
+}
+
 void Front::Follow() {
   if (IsHeld()) return;
   const Stage& stage = program_.TheStage();
   if (!program_.HasEnded()) {
+    LetterSheets(stage, texts_);
     FollowWindows();
     LeaveSystemLoop();
     Arm();
@@ -83,6 +96,10 @@ void Front::FollowWindows() {
   const Raised following(following_);
   windows_.Follow(zoom_);
   const Stage& stage = program_.TheStage();
+  if (std::exchange(language_changed_, false)) {
+    windows_.Retranslate();
+    boxes_.Retranslate();
+  }
   const ScreenWindow* active = windows_.Active();
   boxes_.Follow(stage, active == nullptr ? nullptr : active->Handle(), [this, &stage] {
     windows_.FollowInput();

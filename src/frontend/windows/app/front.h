@@ -23,9 +23,10 @@ namespace orvane {
 
 class Front : public WindowEvents {
  public:
-  // Opens the windows of a program, which must outlive it, in this scale or the one that suits the
-  // display. `name` is what a second start calls it by.
-  Front(Program& program, std::optional<double> scale, const std::wstring& name);
+  // Opens the windows of a program in this scale or the one that suits the display, and in the
+  // language of `texts`. Program and texts must outlive it. `name` is what a second start calls it
+  // by.
+  Front(Program& program, Translator& texts, std::optional<double> scale, const std::wstring& name);
   ~Front() override = default;
   Front(const Front&) = delete;
   Front& operator=(const Front&) = delete;
@@ -36,7 +37,12 @@ class Front : public WindowEvents {
   // Calls `tell` with every screen that has been painted.
   void TellOfPainting(std::function<void(const Screen&)> tell) { painted_ = std::move(tell); }
 
+  // Calls `tell` with the language that the player chooses.
+  void TellOfLanguage(std::function<void(const std::string&)> tell) { chosen_ = std::move(tell); }
+
   void Send(const std::function<void(Program&)>& event) override;
+  const Translator& Texts() const override { return texts_; }
+  void ChooseLanguage(const std::string& code) override;
   void Activated(Screen& screen) override;
   void ProgramActivated(bool active) override;
   void SystemLoops(bool begins) override;
@@ -69,6 +75,7 @@ class Front : public WindowEvents {
   PadSurroundings AroundPad();
 
   Program& program_;
+  Translator& texts_;
   const Screen* first_;          // the screen that the game opens with, which the keys belong to
   std::optional<double> scale_;  // as the command line has it
   const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
@@ -84,11 +91,13 @@ class Front : public WindowEvents {
   Keys keys_;
   Pad pad_;
   std::function<void(const Screen&)> painted_;
+  std::function<void(const std::string&)> chosen_;
   std::optional<double> held_until_;  // by Now
   const Screen* looped_ = nullptr;    // the active screen when the system's own loop began
   bool system_loops_ = false;
   bool display_changed_ = false;
   bool dots_changed_ = false;
+  bool language_changed_ = false;
   bool following_ = false;
 };
 

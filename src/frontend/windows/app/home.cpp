@@ -1,7 +1,8 @@
 #include "src/frontend/shared/home.h"
 
-#include <cstdlib>
+#include <system_error>
 
+#include "src/frontend/windows/app/local_folder.h"
 #include "src/frontend/windows/system/windows_api.h"
 #include "src/platform/program_path.h"
 
@@ -18,12 +19,6 @@ bool CanBeWritten(const std::filesystem::path& folder) {
   return true;
 }
 
-std::filesystem::path LocalData() {
-  const wchar_t* value = _wgetenv(L"LOCALAPPDATA");
-  const std::filesystem::path path = value != nullptr ? value : L"";
-  return path.is_absolute() ? path : std::filesystem::path();
-}
-
 }  // namespace
 
 // The player's own lies among the local application data.
@@ -33,9 +28,9 @@ Home FindHome() {
   if (!std::filesystem::is_directory(beside, failed) || CanBeWritten(beside)) {
     return {beside, {}, {}};
   }
-  const auto data = LocalData();
+  const auto data = LocalFolder();
   if (data.empty()) return {{}, beside, "LOCALAPPDATA names no folder"};
-  return {data / L"Orvane" / L"game", beside, {}};
+  return {data / L"game", beside, {}};
 }
 
 }  // namespace orvane

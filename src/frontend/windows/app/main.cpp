@@ -8,8 +8,10 @@
 #include "src/frontend/shared/instance.h"
 #include "src/frontend/shared/kept_play.h"
 #include "src/frontend/shared/options.h"
+#include "src/frontend/shared/texts/language_choice.h"
 #include "src/frontend/windows/app/boxes.h"
 #include "src/frontend/windows/app/front.h"
+#include "src/frontend/windows/app/preferences.h"
 #include "src/frontend/windows/paint/fonts.h"
 #include "src/game/program.h"
 #include "src/platform/arguments.h"
@@ -23,13 +25,18 @@ using namespace orvane;
 
 constexpr int kBadCommandLine = 2;
 
+std::string LanguageVariable() {
+  const wchar_t* value = _wgetenv(L"ORVANE_LANGUAGE");
+  return Utf8(value != nullptr ? value : L"");
+}
+
 void PrepareControls() {
   const INITCOMMONCONTROLSEX kinds = {sizeof kinds,
                                       ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
   InitCommonControlsEx(&kinds);
 }
 
-int RunGame(const Options& options) {
+int RunGame(const Options& options, Translator& texts) {
   const Home home = options.Folder ? Home{*options.Folder, {}, {}} : FindHome();
   const Instance instance(home.Folder);
   if (!instance.IsFirst()) {
@@ -47,7 +54,8 @@ int RunGame(const Options& options) {
   KeptPlay play({sound, chance, files}, options.Record, home.Folder / kReplayAfterError);
   Program program(play.TheServices());
   play.Watch(program);
-  Front front(program, options.Scale, Wide(instance.Name()));
+  Front front(program, texts, options.Scale, Wide(instance.Name()));
+  front.TellOfLanguage(PreferLanguage);
   front.TellOfPainting([&sound](const Screen& screen) { sound.Note("painted " + screen.Name()); });
   return front.Run();
 }
@@ -59,11 +67,17 @@ int Run() {
     ShowProblem(options.Error);
     return kBadCommandLine;
   }
+  Translator texts;
+  if (const std::string problem = LanguageProblem(texts, options.Language); !problem.empty()) {
+    ShowProblem(problem);
+    return kBadCommandLine;
+  }
   if (options.WantsHelp) {
     ShowProblem(HelpText());
     return EXIT_SUCCESS;
   }
-  return RunGame(options);
+  texts.Choose(BestLanguage(texts, {options.Language, LanguageVariable(), PreferredLanguage()}));
+  return RunGame(options, texts);
 }
 
 }  // namespace

@@ -28,12 +28,13 @@ void ButtonView::Fit() const {
   const HFONT font = TheSetting().TheFonts.Get({}, static_cast<int>(std::lround(own * Scale())));
   const HDC context = GetDC(Handle());
   const HGDIOBJ before = SelectObject(context, font);
-  const int width = TextWidth(context, Wide(seen_));
+  const std::string caption = Shown(seen_);
+  const int width = TextWidth(context, Wide(caption));
   SelectObject(context, before);
   ReleaseDC(Handle(), context);
   const bool is_too_wide = width > (model_.At.Width - 2 * margin) * Scale();
   Ask(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-  SetText(WideCaption(is_too_wide ? InTwoLines(seen_) : seen_));
+  SetText(WideCaption(is_too_wide ? InTwoLines(caption) : caption));
 }
 
 void ButtonView::FollowValues(bool all) {

@@ -53,7 +53,7 @@ FrameView::FrameView(Frame& model, Ground& ground, const Setting& setting)
 void FrameView::FollowValues(bool all) {
   if (!all && seen_ == model_.Caption) return;
   seen_ = model_.Caption;
-  ground_.SetTitle(seen_);
+  ground_.SetTitle(Shown(seen_));
 }
 
 }  // namespace orvane

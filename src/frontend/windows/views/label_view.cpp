@@ -58,9 +58,13 @@ void LabelView::FollowValues(bool all) {
   if (!all && stays && Same(seen_, model_)) return;
   const RECT before = Strip();
   if (visible_) InvalidateRect(ground_.Handle(), &before, FALSE);
-  // Readers hear of every text that is set.
-  if (all || seen_.Caption != model_.Caption) SetText(Wide(model_.Caption));
+  const bool words_changed = all || seen_.Caption != model_.Caption;
+  const std::string words = words_changed ? Shown(model_.Caption) : shown_.Caption;
   seen_ = model_;
+  shown_ = model_;
+  shown_.Caption = words;
+  // Readers hear of every text that is set.
+  if (words_changed) SetText(Wide(words));
   box_ = box;
   visible_ = model_.Visible;
   const RECT now = Strip();
@@ -71,7 +75,7 @@ void LabelView::Paint(HDC context, const RECT& part) const {
   const RECT strip = Strip();
   RECT common;
   if (!visible_ || IntersectRect(&common, &strip, &part) == FALSE) return;
-  PaintText(context, TheSetting().TheFonts, box_, seen_, Scale());
+  PaintText(context, TheSetting().TheFonts, box_, shown_, Scale());
 }
 
 }  // namespace orvane

@@ -25,7 +25,8 @@ class LabelView : public View {
   Label& model_;
   const Ground& ground_;
   LabelValues seen_;
-  RECT box_{};  // on the ground
+  LabelValues shown_;  // the same with the words that are painted
+  RECT box_{};         // on the ground
   bool visible_ = false;
 };
 

@@ -81,7 +81,7 @@ void ListView::SetRows() const {
   Ask(WM_SETREDRAW, FALSE);
   Ask(LB_RESETCONTENT);
   for (const std::string& row : values_.Rows) {
-    Ask(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(row).c_str()));
+    Ask(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(Shown(row)).c_str()));
   }
   Ask(WM_SETREDRAW, TRUE);
   InvalidateRect(Handle(), nullptr, TRUE);

@@ -1,5 +1,7 @@
 #include "src/frontend/windows/views/menu_view.h"
 
+#include <utility>
+
 #include "src/frontend/shared/events.h"
 #include "src/frontend/windows/system/captions.h"
 #include "src/game/program.h"
@@ -23,22 +25,28 @@ MenuView::MenuView(const Screen& screen, Events& events) : events_(events) {
   }
 }
 
+std::string MenuView::CaptionOf(const MenuItem& item) const {
+  return events_.Texts().Of(item, item.Caption);
+}
+
 void MenuView::AddTop(MenuItem& item) {
   if (bar_ == nullptr) bar_ = CreateMenu();
   const HMENU menu = CreatePopupMenu();
   const auto at = static_cast<UINT>(GetMenuItemCount(bar_));
-  AppendMenuW(bar_, MF_POPUP, reinterpret_cast<UINT_PTR>(menu), WideCaption(item.Caption).c_str());
-  entries_.push_back({&item, bar_, at, menu, item, {}});
+  const std::string caption = CaptionOf(item);
+  AppendMenuW(bar_, MF_POPUP, reinterpret_cast<UINT_PTR>(menu), WideCaption(caption).c_str());
+  entries_.push_back({&item, bar_, at, menu, caption, {}});
 }
 
 void MenuView::AddItem(MenuItem& item) {
   for (const Entry& entry : entries_) {
     if (entry.Model != item.Parent()) continue;
     const HMENU menu = entry.Opens;
+    const std::string caption = CaptionOf(item);
     const auto at = static_cast<UINT>(GetMenuItemCount(menu));
     AppendMenuW(menu, item.IsSeparator() ? MF_SEPARATOR : MF_STRING, kFirstNumber + entries_.size(),
-                WideCaption(item.Caption).c_str());
-    entries_.push_back({&item, menu, at, nullptr, item, {}});
+                WideCaption(caption).c_str());
+    entries_.push_back({&item, menu, at, nullptr, caption, {}});
     return;
   }
 }
@@ -47,10 +55,11 @@ void MenuView::Follow(HWND window) {
   bool bar_changed = false;
   for (Entry& entry : entries_) {
     const MenuItem& item = *entry.Model;
-    if (entry.SeenCommon.Enabled == item.Enabled && entry.Seen.Caption == item.Caption) continue;
+    std::string shown = CaptionOf(item);
+    if (entry.SeenCommon.Enabled == item.Enabled && entry.Shown == shown) continue;
     entry.SeenCommon = item;
-    entry.Seen = item;
-    std::wstring caption = WideCaption(item.Caption);
+    entry.Shown = std::move(shown);
+    std::wstring caption = WideCaption(entry.Shown);
     MENUITEMINFOW info{};
     info.cbSize = sizeof info;
     info.fMask = MIIM_STATE;

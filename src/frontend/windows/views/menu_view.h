@@ -31,12 +31,13 @@ class MenuView {
   struct Entry {
     MenuItem* Model = nullptr;
     HMENU In = nullptr;
-    UINT At = 0;            // its position there
-    HMENU Opens = nullptr;  // of a menu
-    MenuValues Seen{};
+    UINT At = 0;                // its position there
+    HMENU Opens = nullptr;      // of a menu
+    std::string Shown;          // its caption
     CommonValues SeenCommon{};  // it is made as one that is on
   };
 
+  std::string CaptionOf(const MenuItem& item) const;
   void AddTop(MenuItem& item);
   void AddItem(MenuItem& item);
 

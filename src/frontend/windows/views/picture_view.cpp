@@ -1,12 +1,10 @@
 #include "src/frontend/windows/views/picture_view.h"
 
-#include "src/frontend/shared/spoken_names.h"
 #include "src/frontend/shared/spoken_text.h"
 #include "src/frontend/windows/paint/scale.h"
 #include "src/frontend/windows/paint/text_paint.h"
 #include "src/frontend/windows/windows/window_events.h"
 #include "src/game/program.h"
-#include "src/platform/windows/wide_text.h"
 
 namespace orvane {
 namespace {
@@ -96,7 +94,6 @@ LRESULT PictureGround::Take(UINT message, WPARAM w, LPARAM l) {
 PictureView::PictureView(PictureBox& model, const Ground& ground, const Setting& setting)
     : View(model, setting), model_(model), ground_(model, ground, setting) {
   Adopt(ground_.Handle());
-  SetText(Wide(SpokenName(model)));
   setting.TheSpeech.SetRole(Handle(), model.OnClick ? Speech::Role::Button : Speech::Role::Picture);
 }
 
@@ -114,7 +111,7 @@ void PictureView::FollowValues(bool all) {
 void PictureView::Announce() {
   Speech& speech = TheSetting().TheSpeech;
   if (!speech.IsHeard()) return;
-  const std::string text = SpokenText(model_, Translator());
+  const std::string text = SpokenText(model_, TheSetting().TheEvents.Texts());
   if (text == told_) return;
   told_ = text;
   speech.SetDescription(Handle(), text);

@@ -99,7 +99,7 @@ void TabsView::PaintAll(HDC context) {
     box.top = is_open ? 0 : 2;
     PaintTab(Handle(), context, box,
              is_open ? TabLook::Open : (is_on ? TabLook::Closed : TabLook::Disabled));
-    const std::wstring caption = Wide(seen_.Captions[static_cast<size_t>(tab)]);
+    const std::wstring caption = Wide(Shown(seen_.Captions[static_cast<size_t>(tab)]));
     SetTextColor(context, GetSysColor(is_on ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
     DrawTextW(context, caption.c_str(), static_cast<int>(caption.size()), &box,
               DT_NOPREFIX | DT_SINGLELINE | DT_CENTER | DT_VCENTER);
@@ -133,7 +133,7 @@ void TabsView::FollowValues(bool all) {
   };
   if (!all && same() && Ask(TCM_GETCURSEL) == model_.Tab()) return;
   for (int tab = 0; tab < model_.TabCount(); ++tab) {
-    std::wstring caption = Wide(model_.TabCaption(tab));
+    std::wstring caption = Wide(Shown(model_.TabCaption(tab)));
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = caption.data();

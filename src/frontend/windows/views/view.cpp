@@ -3,6 +3,7 @@
 #include "src/frontend/windows/paint/scale.h"
 #include "src/frontend/windows/paint/text_paint.h"
 #include "src/frontend/windows/windows/ground.h"
+#include "src/frontend/windows/windows/window_events.h"
 
 namespace orvane {
 namespace {
@@ -86,6 +87,10 @@ void View::FollowCommon(bool all) {
 void View::SetDefaultFont() const {
   const HFONT font = setting_.TheFonts.Get({}, LetterPixels({}, Scale()));
   Ask(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+std::string View::Shown(std::string_view text) const {
+  return setting_.TheEvents.Texts().Of(model_, text);
 }
 
 RECT View::Inside() const {

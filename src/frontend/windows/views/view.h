@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "src/frontend/windows/access/speech.h"
 #include "src/frontend/windows/paint/fonts.h"
@@ -80,6 +81,8 @@ class View {
     return SendMessageW(handle_, message, w, l);
   }
   void SetText(const std::wstring& text) const { SetWindowTextW(handle_, text.c_str()); }
+  // What is shown for one of the control's texts, in the language that the player has chosen.
+  std::string Shown(std::string_view text) const;
   void SetDefaultFont() const;
   RECT Inside() const;  // the client area
 

@@ -10,6 +10,8 @@
 #include "src/frontend/windows/views/picture_view.h"
 #include "src/frontend/windows/views/slider_view.h"
 #include "src/frontend/windows/views/tabs_view.h"
+#include "src/frontend/windows/windows/window_events.h"
+#include "src/platform/windows/wide_text.h"
 #include "src/ui/visit_control.h"
 
 namespace orvane {
@@ -50,12 +52,21 @@ struct Maker {
 std::unique_ptr<View> MakeView(Control& control, Ground& ground, const Setting& setting) {
   auto view = VisitControl(control, Maker{ground, setting});
   if (view == nullptr) return view;
-  if (control.Kind() == ControlKind::Label) {
-    setting.TheSpeech.SetDescription(view->Handle(), SpokenMeaning(control));
-  } else {
-    setting.TheSpeech.SetName(view->Handle(), SpokenName(control));
-  }
+  NameForReaders(*view, setting);
   return view;
+}
+
+void NameForReaders(const View& view, const Setting& setting) {
+  const Translator& texts = setting.TheEvents.Texts();
+  const Control& control = view.Model();
+  if (control.Kind() == ControlKind::Label) {
+    setting.TheSpeech.SetDescription(view.Handle(), texts.Of(SpokenMeaning(control)));
+    return;
+  }
+  const std::string name = texts.Of(SpokenName(control));
+  setting.TheSpeech.SetName(view.Handle(), name);
+  // Pictures have no other use for the text of their windows.
+  if (control.Kind() == ControlKind::Picture) SetWindowTextW(view.Handle(), Wide(name).c_str());
 }
 
 }  // namespace orvane

@@ -11,7 +11,12 @@ namespace orvane {
 ClientArea::ClientArea(Screen& screen, HWND window, const Setting& setting)
     : screen_(screen), setting_(setting) {
   MakeWithin(window);
-  SetWindowTextW(Handle(), Wide(screen.Caption).c_str());
+  NameForReaders();
+}
+
+void ClientArea::NameForReaders() const {
+  const std::string name = setting_.TheEvents.Texts().Of(screen_.Caption);
+  SetWindowTextW(Handle(), Wide(name).c_str());
 }
 
 void ClientArea::Follow(bool all) {
@@ -25,7 +30,7 @@ void ClientArea::Follow(bool all) {
 void ClientArea::Announce() {
   Speech& speech = setting_.TheSpeech;
   if (!speech.IsHeard()) return;
-  const std::string text = SpokenText(screen_, Translator());
+  const std::string text = SpokenText(screen_, setting_.TheEvents.Texts());
   if (text == told_) return;
   told_ = text;
   speech.SetDescription(Handle(), text);

@@ -14,6 +14,8 @@ class ClientArea : public Ground {
 
   // Brings the surface up to date; `all` when it may have been made afresh.
   void Follow(bool all);
+  // Gives it its name in the language that is shown.
+  void NameForReaders() const;
 
  protected:
   void PaintGround(HDC context, const RECT& part) override;

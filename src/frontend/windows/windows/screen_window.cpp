@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "src/frontend/windows/paint/scale.h"
 #include "src/frontend/windows/views/view_factory.h"
 #include "src/frontend/windows/windows/display.h"
+#include "src/frontend/windows/windows/language_menu.h"
 #include "src/frontend/windows/windows/window_events.h"
 #include "src/game/program.h"
 #include "src/platform/windows/wide_text.h"
@@ -28,10 +30,14 @@ POINT MiddleOf(HWND window) {
 }  // namespace
 
 ScreenWindow::ScreenWindow(Screen& screen, const Setting& setting)
-    : screen_(screen), setting_(setting), menu_(screen, setting.TheEvents), title_(screen.Caption) {
+    : screen_(screen),
+      setting_(setting),
+      menu_(screen, setting.TheEvents),
+      title_(setting.TheEvents.Texts().Of(screen.Caption)) {
   const std::wstring title = Wide(title_);
   Make({.Text = title.c_str(), .Style = Style()});
   if (HasMenu()) SetMenu(Handle(), menu_.Bar());
+  AddLanguages(GetSystemMenu(Handle(), FALSE), setting.TheEvents.Texts());
   client_ = std::make_unique<ClientArea>(screen, Handle(), setting);
   MakeViews();
   // What has the keyboard shows it from the start, not only once a key has been used.
@@ -66,8 +72,9 @@ DWORD ScreenWindow::Style() const {
 }
 
 void ScreenWindow::FollowTitle() {
-  if (title_ == screen_.Caption) return;
-  title_ = screen_.Caption;
+  std::string title = setting_.TheEvents.Texts().Of(screen_.Caption);
+  if (title_ == title) return;
+  title_ = std::move(title);
   SetWindowTextW(Handle(), Wide(title_).c_str());
 }
 
@@ -86,6 +93,21 @@ void ScreenWindow::FollowAll() {
   menu_.Follow(Handle());
   client_->Follow(true);
   for (const auto& view : views_) view->FollowAll();
+}
+
+void ScreenWindow::Retranslate() {
+  MarkLanguage(GetSystemMenu(Handle(), FALSE), setting_.TheEvents.Texts());
+  client_->NameForReaders();
+  for (const auto& view : views_) NameForReaders(*view, setting_);
+  keys_to_->Look();
+  FollowAll();
+  keys_to_->Follow();
+}
+
+void ScreenWindow::OfferLanguages(POINT at) const {
+  WindowEvents& events = setting_.TheEvents;
+  const std::string code = AskLanguage(Handle(), at, events.Texts());
+  if (!code.empty()) events.ChooseLanguage(code);
 }
 
 void ScreenWindow::Present(const ScreenWindow* over, HWND backdrop, bool active) {
@@ -231,7 +253,24 @@ LRESULT ScreenWindow::Take(UINT message, WPARAM w, LPARAM l) {
         events.WantsFullScreen();
         return 0;
       }
+      if (const std::string code = LanguageOf(w, events.Texts()); !code.empty()) {
+        events.ChooseLanguage(code);
+        return 0;
+      }
       break;
+    case WM_CONTEXTMENU: {
+      // Without a place where it comes from a key.
+      const bool is_key = l == -1;
+      const POINT at = {GET_X_LPARAM(l), GET_Y_LPARAM(l)};
+      RECT inside;
+      GetWindowRect(client_->Handle(), &inside);
+      // On the title the system opens a menu of its own.
+      if (!is_key && PtInRect(&inside, at) == FALSE) break;
+      // A press on a film of the screen's own means something else.
+      if (!is_key && screen_.OwnSurface != nullptr) return 0;
+      OfferLanguages(is_key ? MiddleOf(inside) : at);
+      return 0;
+    }
     case WM_ACTIVATE:
       if (LOWORD(w) == WA_INACTIVE) break;
       events.Activated(screen_);

@@ -28,6 +28,9 @@ class ScreenWindow : public OwnWindow {
   // Brings the window's title, menus and controls up to date.
   void Follow();
 
+  // Shows everything anew, in another language.
+  void Retranslate();
+
   // Shows the window over the middle of `over`, or of the display where that is null; where it has
   // been before, it comes back to that place. While it covers the display it belongs to `backdrop`.
   // `active` tells whether it takes the keyboard as it comes.
@@ -50,6 +53,7 @@ class ScreenWindow : public OwnWindow {
   void MakeViews();
   void FollowTitle();
   void FollowAll();
+  void OfferLanguages(POINT at) const;
   void Centre(POINT middle) const;
   void CoverDisplay() const;
   SIZE WholeSize() const;

@@ -1,6 +1,8 @@
 // What windows report beside the player's events.
 #pragma once
 
+#include <string>
+
 #include "src/frontend/shared/events.h"
 
 namespace orvane {
@@ -19,6 +21,8 @@ class WindowEvents : public Events {
   virtual void DotsChanged() = 0;
   // The player wishes for the full screen.
   virtual void WantsFullScreen() = 0;
+  // The player wishes for another language, by its code.
+  virtual void ChooseLanguage(const std::string& code) = 0;
   // The session ends.
   virtual void SessionEnds() = 0;
 };

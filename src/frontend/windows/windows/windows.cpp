@@ -75,6 +75,10 @@ void Windows::Follow(const Zoom& zoom) {
   active_ = stage_.Active();
 }
 
+void Windows::Retranslate() const {
+  for (const auto& window : windows_) window->Retranslate();
+}
+
 void Windows::FollowInput() {
   const auto is_open = [this](const Screen& screen) {
     if (stage_.BoxStands()) return false;

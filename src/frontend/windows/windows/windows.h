@@ -17,6 +17,8 @@ class Windows {
 
   // Brings all that can be seen up to date, as large as the player wants it.
   void Follow(const Zoom& zoom);
+  // Shows all windows anew, in another language.
+  void Retranslate() const;
   // The next Follow lays all windows out, whatever they were.
   void LayOutAnew() { laid_out_ = false; }
   // Whether a screen takes no input because of a box or of another screen, and its window none.

@@ -138,7 +138,7 @@ std::string WriteZip(const NamedFiles& files) {
     Put(list, 4, out.size());
     list += name;
     Put(out, 4, kFileMark);
-    out += about + name + bytes;
+    out.append(about).append(name).append(bytes);
   }
   const size_t begin = out.size();
   out += list;

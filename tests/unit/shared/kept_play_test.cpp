@@ -12,7 +12,12 @@ namespace {
 class KeptPlayTest : public testing::Test {
  protected:
   KeptPlayTest() : folder_(MakeTemporaryFolder("orvane-kept-")) {}
-  ~KeptPlayTest() override { std::filesystem::remove_all(folder_); }
+  ~KeptPlayTest() override {
+    // A file that is open cannot go on every system.
+    play_.TheProgram.reset();
+    kept_.reset();
+    RemoveFolder(folder_);
+  }
 
   void Start(const std::optional<std::filesystem::path>& record) {
     kept_ = std::make_unique<KeptPlay>(Services{play_.Sound, play_.Luck, play_.Files}, record,

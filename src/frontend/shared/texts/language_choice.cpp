@@ -6,7 +6,7 @@ namespace orvane {
 
 std::string BestLanguage(const Translator& texts, const std::vector<std::string>& wishes) {
   for (const std::string& wish : wishes) {
-    const std::string code = LowerCase(wish.substr(0, wish.find_first_of("-_.")));
+    std::string code = LowerCase(wish.substr(0, wish.find_first_of("-_.")));
     if (texts.Has(code)) return code;
   }
   return kOwnLanguage;

@@ -117,7 +117,7 @@ for floor in base platform ui core field battle screens ending game replay sound
 done
 
 # The scripts of the page are small, every line counted, and no line is long for it.
-most_lines=1549 longest_line=120
+most_lines=1499 longest_line=120
 scripts=(frontend/web/page/*.*js)
 lines=$(cat "${scripts[@]}" 2>/dev/null | wc -l)
 [ "$lines" -le "$most_lines" ] || fault "frontend/web/page: $lines lines of scripts, more than $most_lines"

@@ -147,9 +147,9 @@ inBrowsers('a save lasts when the browser is killed half a second later', both, 
 inBrowsers('a second tab waits for the first', both, async ({ browser, open, server, pages }) => {
   const first = await open();
   const page = await browser.newPage();
-  await page.goto(server.address);
+  await page.goto(`${server.address}?language=ja`);
   await until('the second tab to wait', () => page.evaluate(() => document.body.dataset.state === 'waiting'));
-  assert.match(await page.$eval('.end', (element) => element.textContent), /別のタブ/);
+  assert.match(await page.$eval('.end:not([hidden])', (element) => element.textContent), /別のタブ/);
   first.assertNoProblems();
   pages.length = 0;
   await first.page.close();
@@ -165,11 +165,11 @@ inBrowsers('a crash shows what has happened, and hands out the saves', both, asy
   pages.length = 0; // what follows is one
   await game.page.evaluate(async (module) => (await import(module)).ask('NoSuchCall'), await game.moduleOf('game'));
   await game.waitForState('crashed');
-  assert.match(await game.page.$eval('.end', (element) => element.textContent), /動かなくなりました.*\w/s);
-  const out = await handed(game, () => game.page.$$eval('.end button', (buttons, name) => buttons.find(({ textContent }) => textContent.includes(name)).click(), firstSave));
+  assert.match(await game.page.$eval('.end:not([hidden])', (element) => element.textContent), /動かなくなりました.*\w/s);
+  const out = await handed(game, () => game.page.$$eval('.end:not([hidden]) button', (buttons, name) => buttons.find(({ textContent }) => textContent.includes(name)).click(), firstSave));
   assert.equal(out.name, firstSave);
   assert.deepEqual(new Uint8Array(out.bytes), bytes);
-  await game.page.click('.end button');
+  await game.page.click('.end:not([hidden]) button');
   await game.waitForState('running');
   await load(game, 0);
 });
@@ -197,6 +197,6 @@ inBrowsers('the end of the game, and a new one', both, async ({ open }) => {
   await game.answer('OK');
   await game.waitForState('ended');
   assert.equal(await game.page.evaluate(() => document.body.dataset.status), '0');
-  await game.page.click('.end button');
+  await game.page.click('.end:not([hidden]) button');
   await game.waitForState('running');
 });

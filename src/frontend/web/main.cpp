@@ -296,6 +296,12 @@ EXPORT void FollowKeys() {
   Game().FollowKeys();
 }
 
+// As WebGame::TakeThumb has it: the direction in which the cross is held, or -1.
+EXPORT int TakeThumb(double x, double y, int touches) {
+  const auto direction = Game().TakeThumb(x, y, touches != 0);
+  return direction ? static_cast<int>(*direction) : -1;
+}
+
 // `buttons` has a bit for each button of a pad as browsers number them.
 EXPORT void TakePad(int buttons, double x, double y) {
   constexpr std::array<int, kPadButtons> places{14, 12, 15, 13, 0, 1, 9, 4, 5};  // of PadButton
@@ -342,8 +348,9 @@ EXPORT double SqueezeLines(double width, double height, int size) {
 }
 
 // As PageScale has it. A screen that covers the display leaves no room for its title.
-EXPORT double ScaleFor(double width, double height, double zoom, int full_screen, int is_handheld,
-                       double title) {
+EXPORT double ScaleFor(double width, double height, double ratio, double zoom, int full_screen,
+                       int is_handheld) {
+  constexpr double title = 30;  // in the page's pixels, with the border
   std::vector<Extent> windows;
   std::vector<Span> shown;
   for (const Screen* screen : Game().TheProgram().TheStage().Screens()) {
@@ -354,9 +361,10 @@ EXPORT double ScaleFor(double width, double height, double zoom, int full_screen
     const double menu = shown.empty() ? kMenuHeight : 0;
     if (is_place) windows.push_back(inside);
     const bool is_bare = screen->IsScene && (full_screen != 0 || is_handheld != 0);
-    shown.push_back({{inside.Width, inside.Height + menu}, is_bare ? 0 : title});
+    shown.push_back({{inside.Width, inside.Height + menu}, is_bare ? 0 : title * ratio});
   }
-  return PageScale({{width, height}, zoom, full_screen != 0, is_handheld != 0}, windows, shown);
+  return PageScale({{width, height}, ratio, zoom, full_screen != 0, is_handheld != 0}, windows,
+                   shown);
 }
 
 // ---- saves

@@ -8,8 +8,9 @@
 namespace orvane {
 
 struct PageFacts {
-  Extent Room;      // for the game's windows, in the display's own pixels
-  double Zoom = 1;  // by which the player has enlarged the page since it came up
+  Extent Room;       // for the game's windows, in the display's own pixels
+  double Ratio = 1;  // the display's own pixels to one of the page
+  double Zoom = 1;   // by which the player has enlarged the page since it came up
   bool FullScreen = false;
   bool IsHandheld = false;  // a small display that is touched
 };

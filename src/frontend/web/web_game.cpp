@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <exception>
 #include <utility>
@@ -9,6 +10,11 @@
 #include "src/frontend/shared/texts/lettered_sheets.h"
 
 namespace orvane {
+namespace {
+
+constexpr uint32_t kFirstArrow = 37;  // the others follow in the order of Direction
+
+}  // namespace
 
 WebGame::WebGame(Page& page, std::optional<uint32_t> seed, const Translator& texts)
     : page_(page), files_(page), sound_(page), chance_(seed), texts_(texts) {}
@@ -77,14 +83,34 @@ void WebGame::Kept(int number, const std::string& failure) {
 }
 
 bool WebGame::TakeKey(uint32_t code, bool is_press, bool repeats, bool types) {
-  constexpr uint32_t first_arrow = 37;  // the others follow in the order of Direction
   constexpr std::array<uint32_t, 4> acting{13, 27, 32, 121};  // Enter, Escape, Space, F10
   KeyMeaning meaning{{}, std::find(acting.begin(), acting.end(), code) != acting.end(), types};
-  if (code >= first_arrow && code < first_arrow + 4) {
-    meaning.Arrow = static_cast<Direction>(code - first_arrow);
+  if (code >= kFirstArrow && code < kFirstArrow + 4) {
+    meaning.Arrow = static_cast<Direction>(code - kFirstArrow);
   }
   const auto time = static_cast<uint64_t>(page_.Now());
   return keys_->Take({code, is_press, repeats, time, WindowOfKeys()}, meaning);
+}
+
+std::optional<Direction> WebGame::TakeThumb(double x, double y, bool touches) {
+  constexpr double middle = 0.2;
+  std::optional<Direction> held;
+  if (touches) held = thumb_;
+  if (touches && std::hypot(x, y) >= middle) {
+    if (std::abs(x) > std::abs(y)) {
+      held = x < 0 ? Direction::Left : Direction::Right;
+    } else {
+      held = y < 0 ? Direction::Up : Direction::Down;
+    }
+  }
+  if (held == thumb_) return held;
+  const auto press = [this](bool is_press) {
+    if (thumb_) TakeKey(kFirstArrow + static_cast<uint32_t>(*thumb_), is_press, false, false);
+  };
+  press(false);
+  thumb_ = held;
+  press(true);
+  return held;
 }
 
 // What tells the windows apart that a key can come to: the box in front, a menu, or a screen.

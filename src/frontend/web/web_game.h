@@ -71,6 +71,9 @@ class WebGame : private PadHands {
   ListKeys& KeysOfList() { return list_keys_; }
   // Lets go what is no longer held down.
   void FollowKeys() { keys_->Follow(); }
+  // A thumb on the cross that stands for the arrow keys, -1 to 1 from its middle each way, or
+  // lifted. The direction that it holds: a thumb in the very middle goes on as before.
+  std::optional<Direction> TakeThumb(double x, double y, bool touches);
   // The game pad, as it is at this moment; the stick as PadStick takes it.
   void TakePad(PadState state, double x, double y);
 
@@ -107,6 +110,7 @@ class WebGame : private PadHands {
   ListKeys list_keys_;
   PadRules pad_{*this};
   PadStick stick_;
+  std::optional<Direction> thumb_;  // what the cross holds
   std::string nothing_;
 };
 

@@ -28,6 +28,19 @@ TEST(PageScaleTest, AHandheldIsFilled) {
   EXPECT_EQ(PageScale(page, kPlaces, kBare), 2);
 }
 
+// Menus are wide enough for fingers as far as the display's height leaves them room.
+TEST(PageScaleTest, AHandheldsMenusGrowAsTheRestShrinks) {
+  PageFacts page{{1170, 1170}};
+  page.IsHandheld = true;
+  page.Ratio = 3;
+  EXPECT_NEAR(PageScale(page, kPlaces, kBare), 1170 / 496.0, 0.001);
+  page.Room.Height = 780;
+  const double scale = 780 / 396.0;
+  EXPECT_NEAR(PageScale(page, kPlaces, kBare), (780 - 1.1 * (72 - 22 * scale)) / 396, 0.001);
+  page.Ratio = 1;
+  EXPECT_NEAR(PageScale(page, kPlaces, kBare), scale, 0.001);
+}
+
 TEST(PageScaleTest, ATinyPageShowsAllOfIt) {
   EXPECT_NEAR(PageScale({{320, 480}}, kPlaces, kShown), 320 / 496.0, 0.001);
   EXPECT_EQ(PageScale({{10, 10}}, kPlaces, kShown), 0.25);

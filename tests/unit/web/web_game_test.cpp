@@ -134,6 +134,20 @@ TEST_F(WebGameTest, TheKeysReachTheFieldOnlyWhileThePageHasThem) {
   EXPECT_EQ(state.KeyLeft, 0);
 }
 
+TEST_F(WebGameTest, AThumbHoldsTheKeyOnItsSide) {
+  const State& state = game_.TheProgram().TheState();
+  EXPECT_EQ(game_.TakeThumb(0.05, 0.1, true), std::nullopt);
+  EXPECT_EQ(game_.TakeThumb(-0.6, 0.5, true), Direction::Left);
+  EXPECT_EQ(state.KeyLeft, -1);
+  EXPECT_EQ(game_.TakeThumb(0.1, 0, true), Direction::Left);
+  EXPECT_EQ(state.KeyLeft, -1);
+  EXPECT_EQ(game_.TakeThumb(0.4, 0.5, true), Direction::Down);
+  EXPECT_EQ(state.KeyLeft, 0);
+  EXPECT_EQ(state.KeyDown, -1);
+  EXPECT_EQ(game_.TakeThumb(0.4, 0.5, false), std::nullopt);
+  EXPECT_EQ(state.KeyDown, 0);
+}
+
 TEST_F(WebGameTest, APadMovesWhereNothingWalks) {
   game_.Send([this](Program& program) { program.Click(Find<CommandButton>("Main", "Command1")); });
   PadState state{};

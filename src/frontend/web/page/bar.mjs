@@ -1,6 +1,6 @@
 // What belongs to the page rather than to the game: its bar, notices, and pages at the end.
 import { askBytes } from './game.mjs';
-import { isTouched, make, makeButton } from './elements.mjs';
+import { isTouched, makeButton } from './elements.mjs';
 import { claim, hand, kept, lasts, remember, remembered } from './saves.mjs';
 
 const notice = document.getElementById('notice');
@@ -12,33 +12,27 @@ export function tell(sentence, caption, act) {
   makeButton('', notice, caption, act);
 }
 
-// A quiet page in place of the game.
-function showPage(title, sentence) {
-  const page = make('section', 'end', document.body, { role: 'region', 'aria-label': title });
-  make('h1', '', page).textContent = title;
-  make('p', '', page).textContent = sentence;
-  return page;
-}
-
 // One tab plays. Others say so, and begin when they may.
 export async function waitForTurn() {
-  const sentence = 'ひとつのタブだけで遊べます。もうひとつのタブを閉じると、ここで始まります。';
-  const page = showPage('別のタブで遊んでいます', sentence);
+  const page = document.getElementById('waiting');
   document.body.dataset.state = 'waiting';
+  page.hidden = false;
   await claim({});
-  page.remove();
+  page.hidden = true;
 }
 
 // Takes the game away for a page that offers to start anew, and each of the saves.
-function showLast(state, title, sentence) {
+function showLast(state, name) {
   document.body.dataset.state = state;
   document.title = 'Orvane';
   document.getElementById('desktop').replaceChildren();
   document.querySelectorAll('dialog').forEach((dialog) => dialog.remove());
   document.exitFullscreen?.call(document).catch(() => {});
-  const page = showPage(title, sentence);
-  const row = make('div', 'choices', page);
-  makeButton('push', row, 'もう一度始める', () => location.reload()).focus();
+  const page = document.getElementById(name);
+  page.hidden = false;
+  const row = page.querySelector('.choices');
+  row.firstElementChild.onclick = () => location.reload();
+  row.firstElementChild.focus();
   // One by one, since what packs them together may be what has failed.
   for (const [name, bytes] of kept()) makeButton('push', row, `${name}を書き出す`, () => hand(name, bytes));
   return page;
@@ -46,16 +40,13 @@ function showLast(state, title, sentence) {
 
 export function showEnd(status) {
   document.body.dataset.status = status;
-  const good = 'ゲームは終わりました。セーブデータはそのままです。';
-  const bad = 'ゲームはエラーで終わりました。セーブデータはそのままです。';
-  const page = showLast('ended', 'Orvane', status === 0 ? good : bad);
-  if (status !== 0) makeButton('push', page, 'ここまでの操作の記録を書き出す', () => hand('error.replay', askBytes('Replay')));
+  showLast('ended', status === 0 ? 'ended' : 'failed');
+  document.getElementById('record').onclick = () => hand('error.replay', askBytes('Replay'));
 }
 
 export function showCrash(error) {
   console.error(error);
-  const page = showLast('crashed', '申しわけありません', 'ゲームが動かなくなりました。セーブしたデータは残っています。');
-  make('pre', '', page).textContent = `${error?.message ?? error}\n${error?.stack ?? ''}`;
+  showLast('crashed', 'crashed').querySelector('pre').textContent = `${error?.message ?? error}\n${error?.stack ?? ''}`;
 }
 
 // Keeps the screen awake while the game is played by touch.

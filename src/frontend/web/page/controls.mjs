@@ -73,11 +73,6 @@ const kinds = {
       const element = make('div', 'tabs');
       control.tabList = make('div', 'tab-list', element, { role: 'tablist', 'aria-label': control.spoken });
       control.panes = [];
-      control.onKey = ({ key }) => {
-        const step = { ArrowLeft: -1, ArrowRight: 1 }[key];
-        if (step) send('TurnTab', step);
-        return Boolean(step);
-      };
       return element;
     },
     set(control, { captions, canOpen, open }) {
@@ -181,8 +176,7 @@ export function setControl(control, values) {
   }
   element.style.cssText = values.style;
   if ('disabled' in element) element.disabled = !values.enabled;
-  else if (values.enabled) element.removeAttribute('aria-disabled');
-  else element.setAttribute('aria-disabled', true);
+  else element.ariaDisabled = values.enabled ? null : 'true';
   kinds[control.kind].set(control, values);
 }
 

@@ -73,10 +73,10 @@ export async function load(program, page) {
 }
 
 // Begins with empty slots. Returns the screens and controls that there are.
-export function begin({ lengths, seed, speed }, told) {
+export function begin({ sounds, seed, speed }, told) {
   Object.assign(followers, told);
   ask('Make', seed, speed);
-  for (const [name, length] of Object.entries(lengths)) ask('SetSoundLength', name, length);
+  for (const [name, { length }] of Object.entries(sounds)) ask('SetSoundLength', name, length);
   return askTable('Begin');
 }
 

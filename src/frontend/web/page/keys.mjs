@@ -1,13 +1,11 @@
 // The keyboard, game pads, and fingers.
 import { ask, send } from './game.mjs';
 import { frontBox } from './boxes.mjs';
-import { isTouched } from './elements.mjs';
+import { isTouched, pointIn } from './elements.mjs';
 import { closeMenu, isMenuOpen, menuBarHasKeys, menuKey, openMenus } from './menus.mjs';
 import { focused, moveFocus } from './windows.mjs';
 
 const arrows = ['ArrowLeft', 'ArrowUp', 'ArrowRight', 'ArrowDown']; // as the game counts directions
-
-const firstArrowCode = 37; // the others follow
 const cross = document.getElementById('cross');
 
 const inPage = () => Boolean(document.activeElement?.closest('#bar, dialog.page'));
@@ -53,7 +51,8 @@ function arrowKey(control, direction, event) {
   const sideways = direction % 2 === 0;
   const isSlider = control.kind === 'slider';
   if (event.isTrusted && (isSlider || (control.kind === 'field' && sideways))) return false;
-  if (isSlider && sideways) {
+  if (control.kind === 'tabs' && sideways) send('TurnTab', direction - 1);
+  else if (isSlider && sideways) {
     control.element[direction ? 'stepUp' : 'stepDown']();
     send('Slide', control.id, control.element.valueAsNumber);
   } else moveFocus(control, direction);
@@ -101,25 +100,11 @@ export function pad(what, how) {
 
 // ---- the cross for thumbs
 
-let walking = -1;
-
-function walk(direction) {
-  if (direction === walking) return;
+function slide(event, touches = true) {
+  const [x, y] = pointIn(cross, event, 2);
   tellKeys();
-  const press = (isPress) => walking >= 0 && ask('TakeKey', firstArrowCode + walking, isPress, false, false);
-  press(false);
-  walking = direction;
-  press(true);
-  [...cross.children].forEach((arm, i) => arm.classList.toggle('on', i === walking));
-}
-
-function slide(event) {
-  const box = cross.getBoundingClientRect();
-  const x = event.clientX - box.left - box.width / 2;
-  const y = event.clientY - box.top - box.height / 2;
-  if (Math.hypot(x, y) < box.width / 10) return;
-  if (Math.abs(x) > Math.abs(y)) walk(x < 0 ? 0 : 2);
-  else walk(y < 0 ? 1 : 3);
+  const way = ask('TakeThumb', x - 1, y - 1, touches);
+  [...cross.children].forEach((arm, i) => arm.classList.toggle('on', i === way));
 }
 
 // A finger that has missed a small button by little has meant it: what lies around it is looked at, ever further.
@@ -148,7 +133,8 @@ export function start() {
     slide(event);
   });
   cross.addEventListener('pointermove', (event) => cross.hasPointerCapture(event.pointerId) && slide(event));
-  for (const end of ['pointerup', 'pointercancel', 'lostpointercapture']) cross.addEventListener(end, () => walk(-1));
+  const lift = (event) => slide(event, false);
+  for (const end of ['pointerup', 'pointercancel', 'lostpointercapture']) cross.addEventListener(end, lift);
   document.getElementById('desktop').addEventListener('click', reachButton);
   addEventListener('contextmenu', (event) => event.target.closest('#desktop, #cross') && event.preventDefault());
 }

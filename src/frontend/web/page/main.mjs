@@ -27,10 +27,10 @@ async function start() {
   const [mine, sounds] = await Promise.all([turn, table, game.load(program, page)]);
   startWords(wishes.get('language'));
   if (!mine) await waitForTurn();
-  const lengths = sound.know(sounds);
+  sound.know(sounds);
   const seed = Number(wishes.get('seed') ?? -1);
   const speed = wishes.get('speed') ?? '1';
-  describe(game.begin({ lengths, seed, speed }, { apply, ended: showEnd, failed: showCrash }));
+  describe(game.begin({ sounds, seed, speed }, { apply, ended: showEnd, failed: showCrash }));
   game.pause('files', true);
   game.follow();
   performance.mark('title');

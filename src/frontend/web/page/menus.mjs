@@ -26,7 +26,7 @@ function makeTop(menu) {
   const turn = () => (open === menu ? closeMenu() : openMenu(menu));
   const hangs = { 'aria-haspopup': 'menu', 'aria-expanded': false };
   menu.element = makeButton('menu-top', holder, '', turn, { ...item(menu), ...hangs });
-  menu.list = make('div', 'menu-list', holder, { role: 'menu', hidden: '' });
+  menu.list = make('div', 'menu-list', holder, { role: 'menu' });
   menu.element.addEventListener('pointerenter', (event) => {
     if (open && open !== menu && event.pointerType === 'mouse' && !menu.element.disabled) openMenu(menu);
   });
@@ -61,14 +61,12 @@ function openMenu(menu) {
   send('Click', menu.id);
   if (menu.element.disabled) return;
   open = menu;
-  menu.list.hidden = false;
   menu.element.setAttribute('aria-expanded', true);
   usable(menu)[0]?.focus();
 }
 
 export function closeMenu() {
   if (!open) return;
-  open.list.hidden = true;
   open.element.setAttribute('aria-expanded', false);
   open = null;
 }

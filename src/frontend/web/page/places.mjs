@@ -3,9 +3,6 @@ import { ask } from './game.mjs';
 import { isTouched } from './elements.mjs';
 
 const desktop = document.getElementById('desktop');
-const titleHeight = 30; // in the page's pixels, with the border
-const menuHeight = 22; // in the game's pixels
-const fingerHeight = 24; // the least that a menu has on a touch screen, in the page's pixels
 
 const middleOf = ({ offsetLeft, offsetTop, offsetWidth, offsetHeight }) => ({
   x: offsetLeft + offsetWidth / 2,
@@ -53,15 +50,8 @@ let shownUnit = 0;
 // Chooses the scale by the room that there is. What stands keeps its middle.
 export function resize() {
   const ratio = devicePixelRatio;
-  const touched = isTouched();
-  document.body.classList.toggle('bare', fills.matches || touched);
-  const scaleFor = (height) => {
-    const room = [desktop.clientWidth * ratio, height * ratio];
-    return ask('ScaleFor', ...room, ratio / firstRatio, fills.matches, touched, titleHeight * ratio);
-  };
-  let scale = scaleFor(desktop.clientHeight);
-  const lack = touched ? fingerHeight - (menuHeight * scale) / ratio : 0;
-  if (lack > 0) scale = scaleFor(desktop.clientHeight - 1.1 * lack); // menus grow as the rest shrinks
+  const room = [desktop.clientWidth * ratio, desktop.clientHeight * ratio];
+  const scale = ask('ScaleFor', ...room, ratio, ratio / firstRatio, fills.matches, isTouched());
   if (scale <= 0 || scale / ratio === shownUnit) return;
   const middles = standing().map((element) => [element, middleOf(element)]);
   shownUnit = scale / ratio;

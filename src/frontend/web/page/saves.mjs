@@ -30,29 +30,24 @@ export async function open() {
 export const lasts = () => database !== null;
 export const kept = () => files;
 
-// Replaces files, all of them or none. Done when they last.
-export async function replace(changes) {
-  if (database) {
-    const work = database.transaction(store, 'readwrite', { durability: 'strict' });
-    for (const [name, bytes] of changes) work.objectStore(store).put(bytes, name);
-    await new Promise((done, failed) => {
-      work.oncomplete = done;
-      work.onabort = () => failed(work.error ?? new Error('aborted'));
-    });
-  }
-  for (const [name, bytes] of changes) files.set(name, bytes);
-  asked ||= Boolean(navigator.storage?.persist?.() ?? true);
-}
-
-// The same; tells why it could not be, or nothing.
+// Replaces files, all of them or none. Done when they last; tells why it could not be, or nothing.
 export async function keep(changes) {
   try {
-    await replace(changes);
-    return '';
+    if (database) {
+      const work = database.transaction(store, 'readwrite', { durability: 'strict' });
+      for (const [name, bytes] of changes) work.objectStore(store).put(bytes, name);
+      await new Promise((done, failed) => {
+        work.oncomplete = done;
+        work.onabort = () => failed(work.error ?? new Error('aborted'));
+      });
+    }
   } catch (error) {
     if (error?.name === 'QuotaExceededError') return '保存する場所がありません';
     return String(error?.message ?? error);
   }
+  for (const [name, bytes] of changes) files.set(name, bytes);
+  asked ||= Boolean(navigator.storage?.persist?.() ?? true);
+  return '';
 }
 
 // Hands a file to the player.

@@ -13,10 +13,9 @@ if (!document.createElement('audio').canPlayType('audio/ogg; codecs="opus"')) fo
 // What the files of the form that this browser does not want end with.
 export const otherForm = `.${forms[1]}`;
 
-// Takes in what sounds there are. Returns their lengths.
+// Takes in what sounds there are.
 export function know(sounds) {
   table = sounds;
-  return Object.fromEntries(Object.entries(table).map(([name, { length }]) => [name, length]));
 }
 
 async function decode(file) {

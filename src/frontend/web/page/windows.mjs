@@ -38,8 +38,7 @@ function makeWindow(screen) {
   const menus = screen.controls.filter((control) => control.kind === 'menu');
   if (menus.length) makeMenus(menus, element);
   screen.client = make('div', 'client', element);
-  screen.client.style.setProperty('--w', width);
-  screen.client.style.setProperty('--h', height);
+  screen.client.style.cssText = `--w:${width};--h:${height}`;
   screen.client.addEventListener('pointerdown', (event) => send('Press', id, ...pointIn(screen.client, event, width)));
   const activate = () => screen === active || frontBox() || send('Activate', id);
   element.addEventListener('pointerdown', activate, true);

@@ -8,7 +8,7 @@ const own = new WeakMap(); // of texts and labels, the game's own text and what 
 function say(holder, name) {
   const known = own.get(holder);
   const text = known?.shown === holder[name] ? known.text : holder[name];
-  const shown = askText('Shown', text);
+  const shown = askText('Shown', text) || text; // a game that has failed says nothing
   own.set(holder, { text, shown });
   if (holder[name] !== shown) holder[name] = shown;
 }

@@ -64,7 +64,7 @@ async function perform({ gameModule, windowsModule, boxesModule, savesModule }, 
       game.ask('Answer', answers[values[0]]);
       passHold();
       // What the answer has had kept comes before this; until it lasts the game stands.
-      await saves.replace([]);
+      await saves.keep([]);
       await pause();
     } else if (what === 'file') {
       const [name, bytes] = values;

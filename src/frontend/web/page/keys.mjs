@@ -7,7 +7,9 @@ import { focused, moveFocus } from './windows.mjs';
 
 const arrows = ['ArrowLeft', 'ArrowUp', 'ArrowRight', 'ArrowDown']; // as the game counts directions
 const cross = document.getElementById('cross');
-
+// At once: the windows have the room that is left.
+cross.hidden = !isTouched();
+document.body.classList.toggle('thumbs', isTouched());
 const inPage = () => Boolean(document.activeElement?.closest('#bar, dialog.page'));
 const hasKeys = () => document.hasFocus() && !document.hidden;
 
@@ -124,8 +126,6 @@ export function start() {
   addEventListener('keyup', (event) => take(event, false));
   for (const turn of ['blur', 'focus']) addEventListener(turn, tellKeys);
   addEventListener('gamepadconnected', () => (padFrame ||= requestAnimationFrame(readPads)));
-  cross.hidden = !isTouched();
-  document.body.classList.toggle('thumbs', isTouched());
   cross.addEventListener('pointerdown', (event) => {
     event.preventDefault();
     cross.setPointerCapture(event.pointerId);

@@ -33,7 +33,7 @@ bool SameDraw(float one, float other) {
 
 PlayRecorder::PlayRecorder(const Services& services)
     : sound_(*this, services.Sound), chance_(*this, services.Luck), files_(*this, services.Files) {
-  bytes_ = std::string(kReplayHead) + "version " + ORVANE_VERSION + "\n";
+  bytes_.append(kReplayHead).append("version ").append(ORVANE_VERSION).append("\n");
 }
 
 void PlayRecorder::Stop() {

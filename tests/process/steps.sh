@@ -93,9 +93,10 @@ quit_game() {
   game_ends "after the quit question"
 }
 
-find_battle() {
+# walk_into TITLE: to and fro until a battle comes, in a window of that title.
+walk_into() {
   local end=$((SECONDS + 120)) key
-  while lacks_window "BATTLE !"; do
+  while lacks_window "$1"; do
     [ $SECONDS -ge $end ] && fail "no battle came within 120 s of walking"
     for key in Left Right; do
       xdotool keydown $key
@@ -103,7 +104,11 @@ find_battle() {
       xdotool keyup $key
     done
   done
-  wait_for 5 "the battle's focus" has_focus "BATTLE !"
+  wait_for 5 "the battle's focus" has_focus "$1"
+}
+
+find_battle() {
+  walk_into "BATTLE !"
   wait_for 5 "the field's window away" lacks_window Orvane
   wait_for 10 "the battle's buttons" command_is_on 1
 }

@@ -45,7 +45,6 @@ quit_in_english() {
 
 # A save among the slots, and a battle in the field.
 fight_in_english() {
-  local end=$((SECONDS + 120)) key
   menu $file_menu 1
   opens "Load Game"
   click "Load Game" 40 40
@@ -55,15 +54,7 @@ fight_in_english() {
   wait_for 5 "the focus of the field" has_focus Orvane
   sleep 1
   shot field
-  while lacks_window "BATTLE!"; do
-    [ $SECONDS -ge $end ] && fail "no battle came within 120 s of walking"
-    for key in Left Right; do
-      xdotool keydown $key
-      sleep 0.6
-      xdotool keyup $key
-    done
-  done
-  wait_for 5 "the battle's focus" has_focus "BATTLE!"
+  walk_into "BATTLE!"
   wait_for 10 "the battle's buttons" is_on "BATTLE!" 48 328
   shot battle
   choose "BATTLE!" Down Return

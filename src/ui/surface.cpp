@@ -1,6 +1,7 @@
 #include "src/ui/surface.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -42,6 +43,11 @@ namespace {
 
 size_t Area(int width, int height) {
   return static_cast<size_t>(std::max(0, width)) * static_cast<size_t>(std::max(0, height));
+}
+
+uint64_t NextRevision() {
+  static std::atomic<uint64_t> last = 0;
+  return ++last;
 }
 
 Surface::Pixels Sized(Surface::Pixels pixels, size_t size) {
@@ -95,8 +101,14 @@ void Surface::Refresh() {
   } else {
     CopyUnshown();
   }
-  unshown_ = {};
-  ++revision_;
+  published_ = std::exchange(unshown_, {});
+  revision_before_ = std::exchange(revision_, NextRevision());
+}
+
+Bounds Surface::ChangedSince(uint64_t revision) const {
+  if (revision == revision_) return {};
+  if (revision == revision_before_) return published_;
+  return {0, 0, width_, height_};
 }
 
 void Surface::CopyUnshown() {

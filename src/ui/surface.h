@@ -78,8 +78,12 @@ class Surface {
 
   // The published pixels, none before the first Refresh; they stay in place until the next.
   const Pixels& Shown() const;
-  // Grows with every Refresh that changed something.
+  // What is shown has another number after every Refresh that changed something, which what other
+  // surfaces show does not have; 0 before the first.
   uint64_t Revision() const { return revision_; }
+  // Outside, what is shown is as it was at that revision: a part, if that was the one before, or
+  // else all.
+  Bounds ChangedSince(uint64_t revision) const;
 
  private:
   friend class SurfaceWriter;
@@ -97,6 +101,8 @@ class Surface {
   Bounds unshown_;                       // outside, nothing differs from what is shown
   Bounds touched_;
   uint64_t revision_ = 0;
+  uint64_t revision_before_ = 0;
+  Bounds published_;  // what the last Refresh has changed
 };
 
 // Copies `area` of the source, its top left corner at (x, y) of the destination, at scale 1. What

@@ -44,32 +44,32 @@ Rect SurfaceCopy::TakeAll(const Surface& surface) {
 }
 
 Rect SurfaceCopy::Follow(const Surface& surface, bool all) {
-  if (!all && revision_ == surface.Revision()) return {};
-  revision_ = surface.Revision();
   const int width = surface.Width();
   const int height = surface.Height();
+  const Bounds part = all ? Bounds{0, 0, width, height} : surface.ChangedSince(revision_);
+  if (part.IsEmpty()) return {};
+  revision_ = surface.Revision();
   // Until it is refreshed for the first time a surface has nothing to show.
-  const size_t size = static_cast<size_t>(width) * static_cast<size_t>(height);
-  if (surface.Shown().size() != size || size == 0) return {};
+  if (surface.Shown().empty()) return {};
   if (width != width_ || height != height_) return TakeAll(surface);
-  int top = height;
-  int bottom = -1;
-  int left = width;
-  int right = -1;
-  const Colour* shown = surface.Shown().data();
-  uint32_t* kept = pixels_.data();
-  for (int y = 0; y < height; ++y, shown += width, kept += width) {
+  return TakePart(surface, part);
+}
+
+Rect SurfaceCopy::TakePart(const Surface& surface, const Bounds& part) {
+  Bounds changed;
+  const int width = part.Right - part.Left;
+  const size_t begin =
+      static_cast<size_t>(part.Top) * static_cast<size_t>(width_) + static_cast<size_t>(part.Left);
+  const Colour* shown = surface.Shown().data() + begin;
+  uint32_t* kept = pixels_.data() + begin;
+  for (int y = part.Top; y < part.Bottom; ++y, shown += width_, kept += width_) {
     const int first = FirstDifference(kept, shown, width);
     if (first == width) continue;
     const int last = LastDifference(kept, shown, width);
     Copy(shown + first, kept + first, last + 1 - first);
-    left = std::min(left, first);
-    right = std::max(right, last);
-    top = std::min(top, y);
-    bottom = y;
+    changed.Include({part.Left + first, y, part.Left + last + 1, y + 1});
   }
-  if (bottom < 0) return {};
-  return {left, top, right + 1 - left, bottom + 1 - top};
+  return {changed.Left, changed.Top, changed.Right - changed.Left, changed.Bottom - changed.Top};
 }
 
 }  // namespace orvane

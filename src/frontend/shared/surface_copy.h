@@ -25,6 +25,7 @@ class SurfaceCopy {
 
  private:
   Rect TakeAll(const Surface& surface);
+  Rect TakePart(const Surface& surface, const Bounds& part);
 
   std::vector<uint32_t> pixels_;
   int width_ = 0;

@@ -91,6 +91,28 @@ TEST_F(SurfaceCopyTest, FindsEachSinglePixel) {
   ExpectSame();
 }
 
+TEST_F(SurfaceCopyTest, MissesNothingOfWhatWasPublishedWhileItDidNotLook) {
+  surface_.Refresh();
+  Follow();
+  Show(4, 5, 0xFFFFFF);
+  Show(30, 9, 0xFFFFFF);
+  EXPECT_EQ(Follow(), (Rect{4, 5, 27, 5}));
+  ExpectSame();
+}
+
+TEST_F(SurfaceCopyTest, AnotherSurfaceInItsPlaceIsLookedAtAsAWhole) {
+  surface_.Refresh();
+  Surface other = surface_;
+  Follow();
+  Show(4, 5, 0xFFFFFF);
+  Follow();
+  FillBox(other, 30, 9, 30, 9, 0x405060);
+  other.Refresh();
+  surface_ = other;
+  EXPECT_EQ(Follow(), (Rect{4, 5, 27, 5})) << "one pixel went, one came";
+  ExpectSame();
+}
+
 TEST_F(SurfaceCopyTest, ASurfaceOfAnotherSizeIsNewAsAWhole) {
   surface_.Refresh();
   Follow();

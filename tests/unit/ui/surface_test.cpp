@@ -234,6 +234,36 @@ TEST(Surface, RefreshShowsTheChangedPartAlone) {
   }
 }
 
+TEST(Surface, TellsWhatHasChangedSinceTheRevisionBefore) {
+  Surface surface(8, 8, 5);
+  EXPECT_EQ(surface.Revision(), 0U);
+  surface.Refresh();
+  const uint64_t first = surface.Revision();
+  FillBox(surface, 2, 3, 4, 5, 7);
+  EXPECT_TRUE(surface.ChangedSince(first).IsEmpty()) << "it is not shown yet";
+  surface.Refresh();
+  const uint64_t second = surface.Revision();
+  const Bounds part = surface.ChangedSince(first);
+  EXPECT_EQ(part.Left, 2);
+  EXPECT_EQ(part.Top, 3);
+  EXPECT_EQ(part.Right, 5);
+  EXPECT_EQ(part.Bottom, 6);
+  FillBox(surface, 0, 0, 0, 0, 7);
+  surface.Refresh();
+  EXPECT_EQ(surface.ChangedSince(first).Right, 8) << "of what is longer ago nothing is known";
+  EXPECT_EQ(surface.ChangedSince(second).Right, 1);
+  surface.Refresh();
+  EXPECT_EQ(surface.ChangedSince(second).Right, 1) << "nothing was drawn, so nothing was published";
+}
+
+TEST(Surface, NoTwoShowTheSameRevision) {
+  Surface one(4, 4);
+  Surface other = one;
+  one.Refresh();
+  other.Refresh();
+  EXPECT_NE(one.Revision(), other.Revision());
+}
+
 TEST(Surface, KnowsWithWhomItSharesPixels) {
   const Surface first(4, 4);
   Surface second = first;

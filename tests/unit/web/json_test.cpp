@@ -44,7 +44,10 @@ TEST(JsonTest, FractionsAreOfThousandthsAndAbsurdPlacesFarAway) {
     return out;
   };
   EXPECT_EQ(written(12), R"({"v":12})");
-  EXPECT_EQ(written(0.5).substr(0, 8), R"({"v":0.5)");
+  EXPECT_EQ(written(0.5), R"({"v":0.500})");
+  EXPECT_EQ(written(-0.0625), R"({"v":-0.063})");
+  EXPECT_EQ(written(-12.007), R"({"v":-12.007})");
+  EXPECT_EQ(written(-0.0001), R"({"v":0})");
   EXPECT_EQ(written(1e300), R"({"v":30000})");
   EXPECT_EQ(written(-1e300), R"({"v":-30000})");
   EXPECT_EQ(written(std::numeric_limits<double>::quiet_NaN()), R"({"v":30000})");

@@ -8,25 +8,27 @@
 
 namespace orvane {
 
-void Json::Add(std::string_view name, double value) {
-  constexpr double farthest = 30000;
-  constexpr double parts = 1000;
-  const double kept = std::isnan(value) ? farthest : std::clamp(value, -farthest, farthest);
-  const auto thousandths = std::lround(kept * parts);
-  Name(name);
-  if (thousandths % 1000 == 0) {
-    Number(thousandths / 1000);
-  } else {
-    out_ += std::to_string(static_cast<double>(thousandths) / parts);
-  }
-}
-
 // By far the most of what is written; printing would take several times as long.
-void Json::Number(long value) {
+void AppendNumber(std::string& out, int value) {
   constexpr size_t most_digits = 24;
   char digits[most_digits];
   const auto [end, failed] = std::to_chars(std::begin(digits), std::end(digits), value);
-  if (failed == std::errc()) out_.append(digits, static_cast<size_t>(end - digits));
+  if (failed == std::errc()) out.append(digits, static_cast<size_t>(end - digits));
+}
+
+void AppendNumber(std::string& out, double value) {
+  constexpr double farthest = 30000;
+  constexpr int parts = 1000;
+  const double kept = std::isnan(value) ? farthest : std::clamp(value, -farthest, farthest);
+  const int thousandths = static_cast<int>(std::lround(kept * double{parts}));
+  const int fraction = std::abs(thousandths % parts);
+  if (thousandths < 0 && thousandths > -parts) out += '-';
+  AppendNumber(out, thousandths / parts);
+  if (fraction == 0) return;
+  out += '.';
+  for (int part = parts / 10; part > 0; part /= 10) {
+    out += static_cast<char>('0' + fraction / part % 10);
+  }
 }
 
 void Json::Quote(std::string_view text) {

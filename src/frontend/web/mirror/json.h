@@ -6,6 +6,11 @@
 
 namespace orvane {
 
+// Writes a number behind what stands in `out`, with thousandths where it has a fraction; what no
+// page can show counts as far away.
+void AppendNumber(std::string& out, double value);
+void AppendNumber(std::string& out, int value);
+
 // Writes one object or list behind what stands in `out` already.
 class Json {
  public:
@@ -35,10 +40,12 @@ class Json {
   }
   void Add(std::string_view name, int value) {
     Name(name);
-    Number(value);
+    AppendNumber(out_, value);
   }
-  // The same with a fraction of thousandths; what no page can show counts as far away.
-  void Add(std::string_view name, double value);
+  void Add(std::string_view name, double value) {
+    Name(name);
+    AppendNumber(out_, value);
+  }
   // What stands in the text is JSON already.
   void AddRaw(std::string_view name, std::string_view json) {
     Name(name);
@@ -71,7 +78,6 @@ class Json {
     out_ += "\":";
   }
   void Quote(std::string_view text);
-  void Number(long value);
 
   std::string& out_;
   Form form_;

@@ -1,7 +1,6 @@
 #include "src/frontend/web/mirror/values.h"
 
 #include <algorithm>
-#include <sstream>
 
 #include "src/frontend/shared/faces.h"
 #include "src/frontend/shared/spoken_names.h"
@@ -39,16 +38,19 @@ const char* FaceName(const Font& face) {
 class Style {
  public:
   void Add(const char* name, const std::string& value) {
-    text_ += std::string(name) + ":" + value + ";";
+    Begin(name);
+    text_.append(value).append(";");
   }
   void Add(const char* name, double value) {
-    std::ostringstream out;
-    out << value;
-    Add(name, out.str());
+    Begin(name);
+    AppendNumber(text_, value);
+    text_ += ';';
   }
   const std::string& Text() const { return text_; }
 
  private:
+  void Begin(const char* name) { text_.append(name).append(":"); }
+
   std::string text_;
 };
 

@@ -5,6 +5,7 @@
 
 #include "src/base/cp932.h"
 #include "src/base/error.h"
+#include "src/base/little_endian.h"
 
 namespace orvane {
 namespace {
@@ -15,12 +16,8 @@ constexpr size_t kNameSize = 20;
 constexpr size_t kKindAt = 24;
 constexpr size_t kValueAt = 28;
 
-Int32 LittleEndian(std::string_view bytes, size_t at) {
-  uint32_t value = 0;
-  for (size_t i = 0; i < 4; ++i) {
-    value |= static_cast<uint32_t>(static_cast<unsigned char>(bytes[at + i])) << (8 * i);
-  }
-  return Int32(static_cast<int32_t>(value));
+Int32 NumberAt(std::string_view record, size_t at) {
+  return Int32(static_cast<int32_t>(FromLittleEndian(record.substr(at, 4))));
 }
 
 }  // namespace
@@ -39,8 +36,8 @@ void ItemFile::Read(int number, ItemRecord& buffer) const {
   const std::string_view record = std::string_view(*bytes_).substr(
       size_t{RecordSize} * static_cast<size_t>(number - 1), RecordSize);
   buffer.Name = FromCp932(record.substr(kNameAt, kNameSize));
-  buffer.Kind = LittleEndian(record, kKindAt);
-  buffer.Value = LittleEndian(record, kValueAt);
+  buffer.Kind = NumberAt(record, kKindAt);
+  buffer.Value = NumberAt(record, kValueAt);
 }
 
 }  // namespace orvane

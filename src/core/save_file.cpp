@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "src/base/cp932.h"
+#include "src/base/little_endian.h"
 #include "src/core/game.h"
 #include "src/core/state_table.h"
 
@@ -25,9 +26,8 @@ class Packer {
   std::string Bytes;
 
  private:
-  void Number(int value, int size) {
-    const auto bits = static_cast<uint32_t>(value);
-    for (int i = 0; i < size; ++i) Bytes += static_cast<char>(bits >> (8 * i) & 0xFF);
+  void Number(int value, size_t size) {
+    AppendLittleEndian(Bytes, static_cast<uint32_t>(value), size);
   }
 };
 
@@ -52,15 +52,7 @@ class Unpacker {
     bytes_.remove_prefix(taken.size());
     return taken;
   }
-  uint32_t Number(size_t size) {
-    uint32_t bits = 0;
-    int shift = 0;
-    for (const char byte : Take(size)) {
-      bits |= static_cast<uint32_t>(static_cast<unsigned char>(byte)) << shift;
-      shift += 8;
-    }
-    return bits;
-  }
+  uint64_t Number(size_t size) { return FromLittleEndian(Take(size)); }
 
   std::string_view bytes_;
 };

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "src/base/little_endian.h"
+
 namespace orvane {
 namespace {
 
@@ -29,12 +31,11 @@ void ByteWriter::Signed(int64_t value) {
 }
 
 void ByteWriter::Fixed32(uint32_t value) {
-  for (int shift = 0; shift < 32; shift += 8) Byte(value >> shift & 0xFF);
+  AppendLittleEndian(bytes_, value, sizeof value);
 }
 
 void ByteWriter::Fixed64(uint64_t value) {
-  Fixed32(static_cast<uint32_t>(value));
-  Fixed32(static_cast<uint32_t>(value >> 32));
+  AppendLittleEndian(bytes_, value, sizeof value);
 }
 
 void ByteWriter::Float(float value) {
@@ -48,6 +49,13 @@ void ByteWriter::Double(double value) {
 void ByteWriter::Text(std::string_view text) {
   Number(text.size());
   bytes_ += text;
+}
+
+std::string_view ByteReader::Take(uint64_t size) {
+  if (size > bytes_.size() - at_) throw BrokenReplay("it ends within an event");
+  const std::string_view taken = bytes_.substr(at_, static_cast<size_t>(size));
+  at_ += taken.size();
+  return taken;
 }
 
 unsigned ByteReader::Peek() const {
@@ -77,14 +85,11 @@ int64_t ByteReader::Signed() {
 }
 
 uint32_t ByteReader::Fixed32() {
-  uint32_t value = 0;
-  for (int shift = 0; shift < 32; shift += 8) value |= Byte() << shift;
-  return value;
+  return static_cast<uint32_t>(FromLittleEndian(Take(sizeof(uint32_t))));
 }
 
 uint64_t ByteReader::Fixed64() {
-  const uint64_t low = Fixed32();
-  return low | static_cast<uint64_t>(Fixed32()) << 32;
+  return FromLittleEndian(Take(sizeof(uint64_t)));
 }
 
 float ByteReader::Float() {
@@ -96,11 +101,7 @@ double ByteReader::Double() {
 }
 
 std::string_view ByteReader::Text() {
-  const uint64_t size = Number();
-  if (size > bytes_.size() - at_) throw BrokenReplay("it ends within a text");
-  const std::string_view text = bytes_.substr(at_, static_cast<size_t>(size));
-  at_ += text.size();
-  return text;
+  return Take(Number());
 }
 
 }  // namespace orvane

@@ -53,6 +53,8 @@ class ByteReader {
   std::string_view Text();
 
  private:
+  std::string_view Take(uint64_t size);
+
   std::string_view bytes_;
   size_t at_ = 0;
 };

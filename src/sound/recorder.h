@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <fstream>
 #include <string>
-#include <vector>
 
 namespace orvane {
 
@@ -29,7 +28,7 @@ class Recorder {
   int rate_;
   std::uint32_t frames_ = 0;
   std::uint32_t frames_at_header_ = 0;
-  std::vector<char> bytes_;
+  std::string bytes_;
 };
 
 }  // namespace orvane

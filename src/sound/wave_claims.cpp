@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <string>
 #include <string_view>
+
+#include "src/base/little_endian.h"
 
 namespace orvane {
 namespace {
@@ -15,20 +18,15 @@ constexpr size_t kHeaderSize = 8;
 // The whole begins with a header and the word "WAVE".
 constexpr size_t kFirstPart = kHeaderSize + kNameSize;
 
-std::uint32_t LengthAt(const std::vector<std::uint8_t>& bytes, size_t at) {
-  std::uint32_t length = 0;
-  for (size_t i = 0; i < 4; ++i) length |= std::uint32_t{bytes[at + i]} << (8 * i);
-  return length;
-}
-
 // Brings the length of the part at that place down to what is left behind its header. Returns it.
 size_t ClipPart(std::vector<std::uint8_t>& bytes, size_t at) {
   const size_t left = bytes.size() - at - kHeaderSize;
-  const size_t said = LengthAt(bytes, at + kNameSize);
+  const std::span<std::uint8_t> length(bytes.data() + at + kNameSize, kHeaderSize - kNameSize);
+  const auto said = static_cast<size_t>(FromLittleEndian(length));
   if (said <= left) return said;
-  for (size_t i = 0; i < 4; ++i) {
-    bytes[at + kNameSize + i] = static_cast<std::uint8_t>((left >> (8 * i)) & 0xffU);
-  }
+  std::string shorter;
+  AppendLittleEndian(shorter, left, length.size());
+  std::copy(shorter.begin(), shorter.end(), length.begin());
   return left;
 }
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <ctime>
 
+#include "src/base/little_endian.h"
 #include "tests/fuzz/memory.h"
 
 namespace orvane::fuzz {
@@ -12,14 +13,6 @@ namespace {
 
 constexpr double kMostSeconds = 1;
 constexpr std::size_t kMostMemory = std::size_t{256} << 20;
-
-std::uint32_t LittleEndian(std::string_view bytes) {
-  std::uint32_t number = 0;
-  for (size_t i = 0; i < bytes.size(); ++i) {
-    number |= std::uint32_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
-  }
-  return number;
-}
 
 }  // namespace
 
@@ -37,11 +30,11 @@ std::uint8_t Input::Byte() {
 }
 
 int Input::Short() {
-  return static_cast<std::int16_t>(LittleEndian(Take(2)));
+  return static_cast<std::int16_t>(FromLittleEndian(Take(2)));
 }
 
 int Input::Number() {
-  return static_cast<std::int32_t>(LittleEndian(Take(4)));
+  return static_cast<std::int32_t>(FromLittleEndian(Take(4)));
 }
 
 int Input::Coordinate() {
@@ -56,7 +49,7 @@ std::string Input::Text() {
 }
 
 std::string Input::File() {
-  return Take(LittleEndian(Take(2)));
+  return Take(FromLittleEndian(Take(2)));
 }
 
 std::string Input::Rest() {

@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "src/base/little_endian.h"
 #include "src/core/new_game.h"
 #include "src/core/save_file.h"
 #include "src/platform/path_text.h"
@@ -34,9 +35,9 @@ struct Folders {
 };
 
 // A text behind the number of its bytes, as Input::Text and Input::File take it.
-std::string Sized(const std::string& text, int bytes) {
+std::string Sized(const std::string& text, size_t bytes) {
   std::string sized;
-  for (int i = 0; i < bytes; ++i) sized += static_cast<char>((text.size() >> (8 * i)) & 0xffU);
+  AppendLittleEndian(sized, text.size(), bytes);
   return sized + text;
 }
 

@@ -4,21 +4,16 @@
 #include <cmath>
 #include <cstdint>
 #include <stdexcept>
+#include <string_view>
+
+#include "src/base/little_endian.h"
 
 namespace orvane::effects {
 namespace {
 
-void Put(std::string& out, uint32_t value, int bytes) {
-  for (int i = 0; i < bytes; ++i) out += static_cast<char>((value >> (8 * i)) & 0xFF);
-}
-
 uint32_t Get(const std::string& bytes, size_t at, size_t count) {
   if (at + count > bytes.size()) throw std::runtime_error("the file is cut off");
-  uint32_t value = 0;
-  for (size_t i = 0; i < count; ++i) {
-    value |= static_cast<uint32_t>(static_cast<uint8_t>(bytes[at + i])) << (8 * i);
-  }
-  return value;
+  return static_cast<uint32_t>(FromLittleEndian(std::string_view(bytes).substr(at, count)));
 }
 
 }  // namespace
@@ -28,21 +23,21 @@ std::string WriteWav(const Wav& wav) {
   const auto rate = static_cast<uint32_t>(wav.Rate);
   const auto size = static_cast<uint32_t>(wav.Samples.size() * 2);
   std::string out = "RIFF";
-  Put(out, 36 + size, 4);
+  AppendLittleEndian(out, 36 + size, 4);
   out += "WAVEfmt ";
-  Put(out, 16, 4);
-  Put(out, 1, 2);
-  Put(out, channels, 2);
-  Put(out, rate, 4);
-  Put(out, rate * channels * 2, 4);
-  Put(out, channels * 2, 2);
-  Put(out, 16, 2);
+  AppendLittleEndian(out, 16, 4);
+  AppendLittleEndian(out, 1, 2);
+  AppendLittleEndian(out, channels, 2);
+  AppendLittleEndian(out, rate, 4);
+  AppendLittleEndian(out, rate * channels * 2, 4);
+  AppendLittleEndian(out, channels * 2, 2);
+  AppendLittleEndian(out, 16, 2);
   out += "data";
-  Put(out, size, 4);
+  AppendLittleEndian(out, size, 4);
   for (const float sample : wav.Samples) {
     const auto value =
         static_cast<int16_t>(std::lround(std::clamp(sample, -1.0F, 1.0F) * 32767.0F));
-    Put(out, static_cast<uint16_t>(value), 2);
+    AppendLittleEndian(out, static_cast<uint16_t>(value), 2);
   }
   return out;
 }

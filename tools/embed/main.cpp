@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "src/base/little_endian.h"
 #include "src/platform/whole_file.h"
 #include "tools/paint/png_file.h"
 
@@ -22,11 +23,6 @@ namespace {
 
 constexpr size_t kMostColours = 256;
 constexpr size_t kBytesPerLine = 32;
-
-void Append16(std::string& bytes, size_t value) {
-  bytes += static_cast<char>(value & 0xFF);
-  bytes += static_cast<char>(value >> 8 & 0xFF);
-}
 
 void Append24(std::string& bytes, uint32_t colour) {
   for (int shift = 16; shift >= 0; shift -= 8) bytes += static_cast<char>(colour >> shift & 0xFF);
@@ -37,9 +33,9 @@ std::string Pack(const paint::Image& image) {
   for (const uint32_t pixel : image.Pixels) palette.try_emplace(pixel, palette.size());
   const bool indexed = palette.size() <= kMostColours;
   std::string bytes;
-  Append16(bytes, static_cast<size_t>(image.Width));
-  Append16(bytes, static_cast<size_t>(image.Height));
-  Append16(bytes, indexed ? palette.size() : 0);
+  AppendLittleEndian(bytes, static_cast<size_t>(image.Width), 2);
+  AppendLittleEndian(bytes, static_cast<size_t>(image.Height), 2);
+  AppendLittleEndian(bytes, indexed ? palette.size() : 0, 2);
   if (indexed) {
     std::vector<uint32_t> colours(palette.size());
     for (const auto& [colour, index] : palette) colours[index] = colour;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "src/base/little_endian.h"
 #include "src/platform/whole_file.h"
 #include "tools/paint/png_file.h"
 
@@ -15,10 +16,6 @@ namespace {
 
 constexpr int kLargest = 256;  // kept as a PNG file, smaller ones as plain pixels
 
-void Append(std::string& bytes, size_t value, int count) {
-  for (int i = 0; i < count; ++i) bytes += static_cast<char>(value >> 8 * i & 0xFF);
-}
-
 // A picture as pixels of 32 bits, rows from the bottom up, behind the header that says so; then a
 // mask that leaves nothing out.
 std::string Pixels(const paint::Image& image) {
@@ -26,15 +23,15 @@ std::string Pixels(const paint::Image& image) {
   const auto width = static_cast<size_t>(image.Width);
   const auto height = static_cast<size_t>(image.Height);
   std::string bytes;
-  Append(bytes, header_size, 4);
-  Append(bytes, width, 4);
-  Append(bytes, 2 * height, 4);  // with the mask
-  Append(bytes, 1, 2);           // plane
-  Append(bytes, 32, 2);          // bits for each pixel
-  Append(bytes, 0, 24);          // no compression, and no more to say
+  AppendLittleEndian(bytes, header_size, 4);
+  AppendLittleEndian(bytes, width, 4);
+  AppendLittleEndian(bytes, 2 * height, 4);  // with the mask
+  AppendLittleEndian(bytes, 1, 2);           // plane
+  AppendLittleEndian(bytes, 32, 2);          // bits for each pixel
+  AppendLittleEndian(bytes, 0, 24);          // no compression, and no more to say
   for (size_t row = height; row-- > 0;) {
     for (size_t column = 0; column < width; ++column) {
-      Append(bytes, 0xFF000000 | image.Pixels[row * width + column], 4);
+      AppendLittleEndian(bytes, 0xFF000000 | image.Pixels[row * width + column], 4);
     }
   }
   const size_t mask_row = (width + 31) / 32 * 4;
@@ -47,22 +44,22 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
   constexpr size_t entry_size = 16;
   std::string head;
   std::string pictures;
-  Append(head, 0, 2);
-  Append(head, 1, 2);  // an icon
-  Append(head, files.size(), 2);
+  AppendLittleEndian(head, 0, 2);
+  AppendLittleEndian(head, 1, 2);  // an icon
+  AppendLittleEndian(head, files.size(), 2);
   for (const std::string& file : files) {
     const paint::Image image = paint::ReadPng(file);
     if (image.Width != image.Height || image.Width > kLargest) {
       throw std::runtime_error(file + ": not a square of up to 256 pixels");
     }
     const std::string bytes = image.Width == kLargest ? ReadWholeFile(file).value() : Pixels(image);
-    Append(head, static_cast<size_t>(image.Width % kLargest), 1);
-    Append(head, static_cast<size_t>(image.Height % kLargest), 1);
-    Append(head, 0, 2);  // no palette
-    Append(head, 1, 2);  // plane
-    Append(head, 32, 2);
-    Append(head, bytes.size(), 4);
-    Append(head, head_size + files.size() * entry_size + pictures.size(), 4);
+    AppendLittleEndian(head, static_cast<size_t>(image.Width % kLargest), 1);
+    AppendLittleEndian(head, static_cast<size_t>(image.Height % kLargest), 1);
+    AppendLittleEndian(head, 0, 2);  // no palette
+    AppendLittleEndian(head, 1, 2);  // plane
+    AppendLittleEndian(head, 32, 2);
+    AppendLittleEndian(head, bytes.size(), 4);
+    AppendLittleEndian(head, head_size + files.size() * entry_size + pictures.size(), 4);
     pictures += bytes;
   }
   if (!WriteWholeFile(target, head + pictures)) throw std::runtime_error(target + ": cannot write");

@@ -1,31 +1,28 @@
 #include "src/frontend/shared/texts/catalogue.h"
 
-#include <cstdint>
 #include <stdexcept>
+
+#include "src/base/little_endian.h"
 
 namespace orvane {
 namespace {
 
-constexpr uint32_t kMagic = 0x950412DE;
+constexpr size_t kMagic = 0x950412DE;
 constexpr size_t kWord = 4;
 
-// A little-endian number of four bytes.
-uint32_t WordAt(std::string_view bytes, size_t at) {
-  if (at > bytes.size() || bytes.size() - at < kWord) throw std::runtime_error("catalogue cut off");
-  uint32_t word = 0;
-  for (size_t i = 0; i < kWord; ++i) {
-    word |= static_cast<uint32_t>(static_cast<unsigned char>(bytes[at + i])) << 8 * i;
-  }
-  return word;
+std::string_view PartAt(std::string_view bytes, size_t at, size_t size) {
+  if (at > bytes.size() || bytes.size() - at < size) throw std::runtime_error("catalogue cut off");
+  return bytes.substr(at, size);
+}
+
+size_t WordAt(std::string_view bytes, size_t at) {
+  return static_cast<size_t>(FromLittleEndian(PartAt(bytes, at, kWord)));
 }
 
 // The text that an entry of a table of lengths and places tells.
 std::string_view TextAt(std::string_view bytes, size_t entry) {
   const size_t length = WordAt(bytes, entry);
-  const size_t at = WordAt(bytes, entry + kWord);
-  if (at > bytes.size() || bytes.size() - at < length)
-    throw std::runtime_error("catalogue cut off");
-  return bytes.substr(at, length);
+  return PartAt(bytes, WordAt(bytes, entry + kWord), length);
 }
 
 }  // namespace

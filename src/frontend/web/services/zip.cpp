@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 
+#include "src/base/little_endian.h"
+
 // Of the library nothing but what inflates.
 #define STB_IMAGE_IMPLEMENTATION
 #define STB_IMAGE_STATIC
@@ -50,31 +52,25 @@ uint32_t SumOf(std::string_view bytes) {
   return ~sum;
 }
 
-void Put(std::string& out, size_t bytes, size_t value) {
-  for (size_t i = 0; i < bytes; ++i) out += static_cast<char>(value >> (8 * i) & 0xFF);
-}
-
 // What stands of a file before its bytes and in the list at the end alike.
 std::string About(const std::string& name, const std::string& bytes) {
   std::string out;
-  Put(out, 2, kVersion);
-  Put(out, 2, kNamesAreUtf8);
-  Put(out, 2, kStored);
-  Put(out, 2, 0);  // midnight
-  Put(out, 2, kFirstDay);
-  Put(out, 4, SumOf(bytes));
-  Put(out, 4, bytes.size());
-  Put(out, 4, bytes.size());
-  Put(out, 2, name.size());
-  Put(out, 2, 0);  // nothing more
+  AppendLittleEndian(out, kVersion, 2);
+  AppendLittleEndian(out, kNamesAreUtf8, 2);
+  AppendLittleEndian(out, kStored, 2);
+  AppendLittleEndian(out, 0, 2);  // midnight
+  AppendLittleEndian(out, kFirstDay, 2);
+  AppendLittleEndian(out, SumOf(bytes), 4);
+  AppendLittleEndian(out, bytes.size(), 4);
+  AppendLittleEndian(out, bytes.size(), 4);
+  AppendLittleEndian(out, name.size(), 2);
+  AppendLittleEndian(out, 0, 2);  // nothing more
   return out;
 }
 
-// A number with its lowest byte first; the bytes are there.
+// The number at a place; the bytes are there.
 uint32_t Number(std::string_view bytes, size_t at, size_t size) {
-  uint32_t value = 0;
-  for (size_t i = size; i-- > 0;) value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
-  return value;
+  return static_cast<uint32_t>(FromLittleEndian(bytes.substr(at, size)));
 }
 
 // A part of the bytes, if they reach so far.
@@ -128,27 +124,27 @@ std::string WriteZip(const NamedFiles& files) {
   std::string list;
   for (const auto& [name, bytes] : files) {
     const std::string about = About(name, bytes);
-    Put(list, 4, kEntryMark);
-    Put(list, 2, kVersion);
+    AppendLittleEndian(list, kEntryMark, 4);
+    AppendLittleEndian(list, kVersion, 2);
     list += about;
-    Put(list, 2, 0);  // no comment
-    Put(list, 2, 0);  // the first disk
-    Put(list, 2, 0);  // bytes, not text
-    Put(list, 4, 0);  // a file like others
-    Put(list, 4, out.size());
+    AppendLittleEndian(list, 0, 2);  // no comment
+    AppendLittleEndian(list, 0, 2);  // the first disk
+    AppendLittleEndian(list, 0, 2);  // bytes, not text
+    AppendLittleEndian(list, 0, 4);  // a file like others
+    AppendLittleEndian(list, out.size(), 4);
     list += name;
-    Put(out, 4, kFileMark);
+    AppendLittleEndian(out, kFileMark, 4);
     out.append(about).append(name).append(bytes);
   }
   const size_t begin = out.size();
   out += list;
-  Put(out, 4, kEndMark);
-  Put(out, 4, 0);  // one disk
-  Put(out, 2, files.size());
-  Put(out, 2, files.size());
-  Put(out, 4, list.size());
-  Put(out, 4, begin);
-  Put(out, 2, 0);  // no comment
+  AppendLittleEndian(out, kEndMark, 4);
+  AppendLittleEndian(out, 0, 4);  // one disk
+  AppendLittleEndian(out, files.size(), 2);
+  AppendLittleEndian(out, files.size(), 2);
+  AppendLittleEndian(out, list.size(), 4);
+  AppendLittleEndian(out, begin, 4);
+  AppendLittleEndian(out, 0, 2);  // no comment
   return out;
 }
 

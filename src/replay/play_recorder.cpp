@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "src/base/byte_sum.h"
 #include "src/game/program.h"
 #include "src/replay/sums.h"
 #include "src/ui/controls.h"

@@ -1,6 +1,6 @@
 #include "src/replay/reader.h"
 
-#include "src/replay/sums.h"
+#include "src/base/byte_sum.h"
 
 namespace orvane {
 namespace {

@@ -3,6 +3,7 @@
 #include <deque>
 #include <utility>
 
+#include "src/base/byte_sum.h"
 #include "src/replay/sums.h"
 #include "src/ui/controls.h"
 

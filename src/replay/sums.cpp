@@ -2,8 +2,10 @@
 
 #include <cmath>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "src/base/byte_sum.h"
 #include "src/core/state_table.h"
 #include "src/game/program.h"
 #include "src/ui/controls.h"
@@ -14,28 +16,19 @@ namespace {
 
 class Sum {
  public:
-  uint64_t Value() const { return value_; }
+  uint64_t Value() const { return sum_.Value(); }
 
-  void Byte(unsigned byte) {
-    constexpr uint64_t prime = 0x100000001B3;
-    value_ = (value_ ^ byte) * prime;
-  }
   void Number(int64_t number) {
     const auto bits = static_cast<uint64_t>(number);
-    for (int shift = 0; shift < 64; shift += 8) Byte(static_cast<unsigned>(bits >> shift & 0xFF));
+    for (int shift = 0; shift < 64; shift += 8)
+      sum_.Add(static_cast<uint32_t>(bits >> shift & 0xFF));
   }
-  // A number of 32 bits in one step: for pixels, of which there are many.
-  void Word(uint32_t word) {
-    constexpr uint64_t prime = 0x100000001B3;
-    value_ = (value_ ^ word) * prime;
-  }
-  void Bytes(std::string_view bytes) {
-    for (const char byte : bytes) Byte(static_cast<unsigned char>(byte));
-  }
+  // In one step, as there are many.
+  void Pixel(Colour colour) { sum_.Add(colour); }
   // Its length too, so that one text cannot go over into the next.
   void Text(std::string_view text) {
     Number(static_cast<int64_t>(text.size()));
-    Bytes(text);
+    sum_.Add(text);
   }
 
   // Fields of the state.
@@ -52,7 +45,7 @@ class Sum {
   }
 
  private:
-  uint64_t value_ = 0xCBF29CE484222325;
+  ByteSum sum_;
 };
 
 void AddRows(Sum& sum, const ListValues& list) {
@@ -137,18 +130,12 @@ void AddState(Sum& sum, Program& program) {
 void AddPixels(Sum& sum, const Surface& surface) {
   for (int y = 0; y < surface.Height(); ++y) {
     const Colour* row = surface.Row(y);
-    for (int x = 0; x < surface.Width(); ++x) sum.Word(row[x]);
+    for (int x = 0; x < surface.Width(); ++x) sum.Pixel(row[x]);
   }
-  for (const Colour colour : surface.Shown()) sum.Word(colour);
+  for (const Colour colour : surface.Shown()) sum.Pixel(colour);
 }
 
 }  // namespace
-
-uint64_t SumOfBytes(std::string_view bytes) {
-  Sum sum;
-  sum.Bytes(bytes);
-  return sum.Value();
-}
 
 uint64_t SumOfState(Program& program) {
   Sum sum;

@@ -1,14 +1,11 @@
-// Sums over what a program has come to, equal on every system: FNV-1a, of 64 bits.
+// Sums over what a program has come to, equal on every system.
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
 namespace orvane {
 
 class Program;
-
-uint64_t SumOfBytes(std::string_view bytes);
 
 // Over the state, the screens with their controls, the boxes, and whether and how the program has
 // ended.

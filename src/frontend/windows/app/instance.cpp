@@ -1,10 +1,10 @@
 #include "src/frontend/shared/instance.h"
 
 #include <array>
-#include <cstdint>
 #include <cstdio>
 #include <system_error>
 
+#include "src/base/byte_sum.h"
 #include "src/frontend/windows/app/message_window.h"
 #include "src/platform/windows/wide_text.h"
 
@@ -22,21 +22,15 @@ std::wstring OneSpelling(const std::filesystem::path& folder) {
   return spelling;
 }
 
-// The hash of Fowler, Noll and Vo: names of the system must be short, and without "\".
-uint64_t Hash(const std::wstring& text) {
-  uint64_t hash = 0xCBF29CE484222325;
-  for (const wchar_t letter : text) {
-    for (const unsigned byte : {letter & 0xFFU, unsigned{letter} >> 8}) {
-      hash = (hash ^ byte) * 0x100000001B3;
-    }
-  }
-  return hash;
-}
-
+// Names of the system must be short, and without "\".
 std::string NameOf(const std::filesystem::path& folder) {
+  ByteSum sum;
+  for (const wchar_t letter : OneSpelling(folder)) {
+    for (const unsigned byte : {letter & 0xFFU, unsigned{letter} >> 8}) sum.Add(byte);
+  }
   std::array<char, 32> name{};
-  const auto hash = static_cast<unsigned long long>(Hash(OneSpelling(folder)));
-  std::snprintf(name.data(), name.size(), "Orvane-%016llx", hash);
+  std::snprintf(name.data(), name.size(), "Orvane-%016llx",
+                static_cast<unsigned long long>(sum.Value()));
   return name.data();
 }
 

@@ -6,6 +6,7 @@
 
 #include "src/base/byte_sum.h"
 #include "src/game/program.h"
+#include "src/platform/clock_seed.h"
 #include "src/replay/sums.h"
 #include "src/ui/controls.h"
 
@@ -165,25 +166,16 @@ float PlayRecorder::ChanceTap::Draw() {
 }
 
 void PlayRecorder::NoteSeed(float value, const SeededDraws& source, uint64_t drawn) {
-  constexpr size_t clock = 2;
-  constexpr size_t counter = 3;
-  const SeededDraws::Words before = expected_.LastSeed();
-  SeededDraws::Words words = source.LastSeed();
+  const SeededDraws::Words words = source.LastSeed();
+  const std::optional<uint32_t> delay = DelayBetween(expected_.LastSeed(), words);
   expected_.Seed(words);
   for (uint64_t i = 0; i < drawn; ++i) expected_.Draw();
   next_ = expected_.Draw();
   seedings_ = source.Seedings();
   // The seeds of the clock differ by the time that has passed, which is short.
-  if (words.size() == counter + 1 && before.size() == words.size() && drawn == 0 &&
-      SameDraw(next_, value)) {
-    SeededDraws::Words next = before;
-    const uint32_t delay = words[clock] - next[clock];
-    next[clock] += delay;
-    ++next[counter];
-    if (delay <= kMostDelay && next == words) {
-      next_ = expected_.Draw();
-      return out_.Byte(kNextSeed | delay);
-    }
+  if (delay && *delay <= kMostDelay && drawn == 0 && SameDraw(next_, value)) {
+    next_ = expected_.Draw();
+    return out_.Byte(kNextSeed | *delay);
   }
   Put(Mark::Seed);
   out_.Number(words.size());

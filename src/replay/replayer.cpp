@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "src/base/byte_sum.h"
+#include "src/platform/clock_seed.h"
 #include "src/replay/sums.h"
 #include "src/ui/controls.h"
 
@@ -143,12 +144,9 @@ class Replayer::Given : public SoundDevice, public Chance, public Storage {
 
   // The last seed, so much later.
   SeededDraws::Words NextWords(uint64_t delay) const {
-    constexpr size_t clock = 2;
-    SeededDraws::Words words = draws_.LastSeed();
-    if (words.size() != clock + 2) replayer_.Differ("a seed that follows none");
-    words[clock] += static_cast<uint32_t>(delay);
-    ++words[clock + 1];
-    return words;
+    auto words = SeedAfter(draws_.LastSeed(), static_cast<uint32_t>(delay));
+    if (!words) replayer_.Differ("a seed that follows none");
+    return *std::move(words);
   }
 
   void Finish(const Waiting& over, const std::string& failure) {

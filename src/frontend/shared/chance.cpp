@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include "src/platform/clock_seed.h"
+
 namespace orvane {
 namespace {
 
@@ -22,12 +24,9 @@ PlayersChance::PlayersChance(std::optional<uint32_t> seed)
 
 void PlayersChance::Reseed() {
   if (fixed_) return;
-  // The clock as it was first and what has passed since, so that one seed is close to the next and
-  // takes little room in a record. The game reseeds several times within one tick of a coarse
-  // clock; the counter tells them apart.
-  const auto first = static_cast<uint64_t>(first_);
-  draws_.Seed({static_cast<uint32_t>(first), static_cast<uint32_t>(first >> 32),
-               static_cast<uint32_t>(Milliseconds() - first_), ++reseeds_});
+  // The game reseeds several times within one tick of a coarse clock; the count tells them apart.
+  draws_.Seed(ClockSeed(static_cast<uint64_t>(first_),
+                        static_cast<uint32_t>(Milliseconds() - first_), ++reseeds_));
 }
 
 }  // namespace orvane

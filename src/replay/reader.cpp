@@ -137,7 +137,7 @@ bool ReplayReader::ReadNote(ReplayStep& step) {
   if (!IsNote(byte)) return false;
   in_.Byte();
   if (byte >= kNextSeed) {
-    step.Notes.push_back({.What = Mark::Seed, .Number = (byte & kMostDelay) + 1});
+    step.Notes.push_back({.What = Mark::Seed, .Later = byte & kMostDelay});
   } else {
     step.Notes.push_back(NoteOf(MarkOf(byte)));
   }
@@ -154,7 +154,7 @@ ReplayNote ReplayReader::NoteOf(Mark mark) {
       for (uint64_t left = in_.Number(); left > 0; --left) {
         note.Words.push_back(static_cast<uint32_t>(in_.Number()));
       }
-      note.Sum = in_.Number();
+      note.Drawn = in_.Number();
       break;
     case Mark::Draw:
       note.Value = in_.Float();

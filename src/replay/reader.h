@@ -18,13 +18,14 @@ namespace orvane {
 // What the program was given by its services. Which fields count is told in format.h.
 struct ReplayNote {
   Mark What = Mark::Draws;
-  uint64_t Number = 0;  // of draws, of the command, the length of a file; of a seed that
-                        // follows the last one, how much later it is and one
-  uint64_t Sum = 0;     // of a file; of a seed, how often was drawn since
+  uint64_t Number = 0;  // of draws, of the command, the length of a file
+  uint64_t Sum = 0;     // of a file
   float Value = 0;
-  std::string Name{};  // of a file or a pattern
-  std::string Text{};  // a reply, the bytes of a file, what failed
-  SeededDraws::Words Words{};
+  std::string Name{};               // of a file or a pattern
+  std::string Text{};               // a reply, the bytes of a file, what failed
+  std::optional<uint32_t> Later{};  // of a seed that follows the last one, by how many ms
+  SeededDraws::Words Words{};       // of any other
+  uint64_t Drawn = 0;               // of a seed, how often was drawn since
   std::vector<std::string> Names{};
 };
 

@@ -135,16 +135,16 @@ class Replayer::Given : public SoundDevice, public Chance, public Storage {
       const ReplayNote taken = std::move(note);
       chance_.pop_front();
       if (taken.What == Mark::Draw) return taken.Value;
-      draws_.Seed(taken.Number > 0 ? NextWords(taken.Number - 1) : taken.Words);
-      for (uint64_t i = 0; i < taken.Sum; ++i) draws_.Draw();
-      if (taken.Number > 0) break;
+      draws_.Seed(taken.Later ? NextWords(*taken.Later) : taken.Words);
+      for (uint64_t i = 0; i < taken.Drawn; ++i) draws_.Draw();
+      if (taken.Later) break;
     }
     return draws_.Draw();
   }
 
   // The last seed, so much later.
-  SeededDraws::Words NextWords(uint64_t delay) const {
-    auto words = SeedAfter(draws_.LastSeed(), static_cast<uint32_t>(delay));
+  SeededDraws::Words NextWords(uint32_t delay) const {
+    auto words = SeedAfter(draws_.LastSeed(), delay);
     if (!words) replayer_.Differ("a seed that follows none");
     return *std::move(words);
   }

@@ -226,20 +226,18 @@ Screen& Replayer::FindScreen() const {
   return *screen;
 }
 
-Control& Replayer::FindControl() const {
+template <class Type>
+Type& Replayer::Find() const {
   Control* control = FindScreen().Find(step_->Control);
   if (control == nullptr) Differ("no control " + step_->Screen + "." + step_->Control);
-  return *control;
+  auto* found = dynamic_cast<Type*>(control);
+  if (found == nullptr) Differ(step_->Control + " of another kind");
+  return *found;
 }
 
 void Replayer::TakeEvent() {
   using Kind = PlayEvent::Kind;
   const ReplayStep& step = *step_;
-  const auto control = [&]<class Type>(Type* /*type*/) -> Type& {
-    auto* found = dynamic_cast<Type*>(&FindControl());
-    if (found == nullptr) Differ(step.Control + " of another kind");
-    return *found;
-  };
   const auto direction = [&] {
     if (step.Number < 0 || step.Number > 3) Differ("a key that is none");
     return static_cast<Direction>(step.Number);
@@ -247,7 +245,7 @@ void Replayer::TakeEvent() {
   Program& program = *program_;
   switch (step.Kind) {
     case Kind::Tick: {
-      Timer& timer = control(static_cast<Timer*>(nullptr));
+      Timer& timer = Find<Timer>();
       if (!timer.Ticks() || timer.InTick) Differ(step.Screen + "." + step.Control + " off");
       return program.Tick(timer);
     }
@@ -256,25 +254,25 @@ void Replayer::TakeEvent() {
     case Kind::KeyUp:
       return program.KeyUp(direction());
     case Kind::Click:
-      refused_ = program.Click(FindControl());
+      refused_ = program.Click(Find());
       return;
     case Kind::ClickItem:
-      refused_ = program.ClickItem(control(static_cast<MenuItem*>(nullptr)));
+      refused_ = program.ClickItem(Find<MenuItem>());
       return;
     case Kind::ClickAt:
-      refused_ = program.ClickAt(FindControl(), step.X, step.Y);
+      refused_ = program.ClickAt(Find(), step.X, step.Y);
       return;
     case Kind::Choose:
-      refused_ = program.Choose(FindControl(), step.Number);
+      refused_ = program.Choose(Find(), step.Number);
       return;
     case Kind::SelectTab:
-      refused_ = program.SelectTab(control(static_cast<TabStrip*>(nullptr)), step.Number);
+      refused_ = program.SelectTab(Find<TabStrip>(), step.Number);
       return;
     case Kind::EnterText:
-      refused_ = program.EnterText(control(static_cast<TextBox*>(nullptr)), step.Text);
+      refused_ = program.EnterText(Find<TextBox>(), step.Text);
       return;
     case Kind::Slide:
-      refused_ = program.Slide(control(static_cast<Slider*>(nullptr)), step.Number);
+      refused_ = program.Slide(Find<Slider>(), step.Number);
       return;
     case Kind::Press:
       refused_ = program.Press(FindScreen());

@@ -69,7 +69,9 @@ class Replayer {
   void Compare();
   [[noreturn]] void Differ(const std::string& what) const;
   Screen& FindScreen() const;
-  Control& FindControl() const;
+  // The control of the step; Differs where there is none of that name and type.
+  template <class Type = Control>
+  Type& Find() const;
 
   ReplayReader reader_;
   std::unique_ptr<Given> given_;

@@ -12,6 +12,8 @@
 
 #include <string_view>
 
+#include "src/game/play_event.h"
+
 namespace orvane {
 
 constexpr std::string_view kReplayHead = "orvane replay 1\n";
@@ -63,6 +65,28 @@ enum class Mark : unsigned {
   WholeSum,  // the last: the sum of all
   Contents,  // the bytes of a file that was read, for where the game folder has another one
 };
+
+// What belongs to an event, behind the names of its screen and control.
+enum class Payload { None, Number, Point, Text };
+
+constexpr Payload PayloadOf(PlayEvent::Kind kind) {
+  switch (kind) {
+    case PlayEvent::Kind::KeyDown:
+    case PlayEvent::Kind::KeyUp:
+    case PlayEvent::Kind::Choose:
+    case PlayEvent::Kind::SelectTab:
+    case PlayEvent::Kind::Slide:
+    case PlayEvent::Kind::Answer:
+    case PlayEvent::Kind::End:
+      return Payload::Number;
+    case PlayEvent::Kind::ClickAt:
+      return Payload::Point;
+    case PlayEvent::Kind::EnterText:
+      return Payload::Text;
+    default:
+      return Payload::None;
+  }
+}
 
 // Names of screens and controls, and texts of replies, are numbered as they come.
 

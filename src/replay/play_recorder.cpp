@@ -82,9 +82,8 @@ void PlayRecorder::PutTick(const PlayEvent& event) {
 }
 
 void PlayRecorder::Comes(const PlayEvent& event) {
-  using Kind = PlayEvent::Kind;
   if (!Records()) return;
-  if (event.What == Kind::Tick) return PutTick(event);
+  if (event.What == PlayEvent::Kind::Tick) return PutTick(event);
   BeginEvent();
   const Mark mark = MarkOf(event.What);
   if (event.On != nullptr) {
@@ -93,22 +92,16 @@ void PlayRecorder::Comes(const PlayEvent& event) {
     Put(mark);
   }
   if (event.Where != nullptr) PutName(event.Where->Name());
-  switch (event.What) {
-    case Kind::KeyDown:
-    case Kind::KeyUp:
-    case Kind::Choose:
-    case Kind::SelectTab:
-    case Kind::Slide:
-    case Kind::Answer:
-    case Kind::End:
+  switch (PayloadOf(event.What)) {
+    case Payload::None:
+      return;
+    case Payload::Number:
       return out_.Signed(event.Number);
-    case Kind::ClickAt:
+    case Payload::Point:
       out_.Double(event.X);
       return out_.Double(event.Y);
-    case Kind::EnterText:
+    case Payload::Text:
       return out_.Text(event.Text);
-    default:
-      return;
   }
 }
 

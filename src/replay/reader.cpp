@@ -105,24 +105,18 @@ void ReplayReader::ReadEvent(Mark mark, ReplayStep& step) {
   step.Kind = static_cast<PlayEvent::Kind>(mark);
   if (NamesControl(mark) || NamesScreen(mark)) step.Screen = Name();
   if (NamesControl(mark)) step.Control = Name();
-  switch (mark) {
-    case Mark::KeyDown:
-    case Mark::KeyUp:
-    case Mark::Choose:
-    case Mark::SelectTab:
-    case Mark::Slide:
-    case Mark::Answer:
-    case Mark::End:
+  switch (PayloadOf(step.Kind)) {
+    case Payload::None:
+      return;
+    case Payload::Number:
       step.Number = static_cast<int>(in_.Signed());
       return;
-    case Mark::ClickAt:
+    case Payload::Point:
       step.X = in_.Double();
       step.Y = in_.Double();
       return;
-    case Mark::EnterText:
+    case Payload::Text:
       step.Text = in_.Text();
-      return;
-    default:
       return;
   }
 }

@@ -6,8 +6,6 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <stdexcept>
@@ -64,11 +62,28 @@ void WriteLiteral(std::ostream& out, const std::string& bytes) {
   }
 }
 
-std::string WholeFile(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::string bytes{std::istreambuf_iterator<char>(in), {}};
-  if (!in) throw std::runtime_error(path.string() + ": cannot read");
-  return bytes;
+std::string Read(const std::filesystem::path& path) {
+  const auto bytes = ReadWholeFile(path);
+  if (!bytes) throw std::runtime_error(path.string() + ": cannot read");
+  return *bytes;
+}
+
+// A source file with a routine that returns what is embedded.
+struct Source {
+  const char* Origin;
+  const char* Header;   // which declares the routine
+  const char* Type;     // of each thing that it returns
+  const char* Routine;  // its name
+};
+
+void Write(const std::string& target, const Source& source, const std::string& rows) {
+  std::filesystem::create_directories(std::filesystem::path(target).parent_path());
+  std::ostringstream out;
+  out << "// Made by orvane-embed from the " << source.Origin << ".\n#include \"" << source.Header
+      << "\"\n\nnamespace orvane {\n\nstd::vector<" << source.Type << "> " << source.Routine
+      << "() {\n  return {\n"
+      << rows << "  };\n}\n\n}  // namespace orvane\n";
+  if (!WriteWholeFile(target, out.str())) throw std::runtime_error(target + ": cannot write");
 }
 
 void RunFiles(const std::filesystem::path& folder, const std::string& target) {
@@ -76,52 +91,40 @@ void RunFiles(const std::filesystem::path& folder, const std::string& target) {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
     const auto name = entry.path().lexically_relative(folder);
     if (!entry.is_regular_file() || name.begin()->string() == "Sound") continue;
-    files[name.generic_string()] = WholeFile(entry.path());
+    files[name.generic_string()] = Read(entry.path());
   }
-  std::filesystem::create_directories(std::filesystem::path(target).parent_path());
-  std::ostringstream out;
-  out << "// Made by orvane-embed from the game folder.\n#include "
-         "\"src/frontend/web/content.h\"\n\n"
-         "namespace orvane {\n\nstd::vector<ContentFile> AllContentFiles() {\n  return {\n";
+  std::ostringstream rows;
   for (const auto& [name, bytes] : files) {
-    out << "      {\"" << name << "\", ";
-    WriteLiteral(out, bytes);
-    out << ", " << bytes.size() << "},\n";
+    rows << "      {\"" << name << "\", ";
+    WriteLiteral(rows, bytes);
+    rows << ", " << bytes.size() << "},\n";
   }
-  out << "  };\n}\n\n}  // namespace orvane\n";
-  if (!WriteWholeFile(target, out.str())) throw std::runtime_error(target + ": cannot write");
+  Write(target, {"game folder", "src/frontend/web/content.h", "ContentFile", "AllContentFiles"},
+        rows.str());
 }
 
 void RunTexts(const std::string& target, const std::vector<std::string>& catalogues) {
-  std::filesystem::create_directories(std::filesystem::path(target).parent_path());
-  std::ofstream out(target);
-  out << "// Made by orvane-embed from the catalogues.\n#include "
-         "\"src/frontend/shared/texts/catalogue.h\"\n\n"
-         "namespace orvane {\n\nstd::vector<CatalogueData> AllCatalogues() {\n  return {\n";
+  std::ostringstream rows;
   for (const std::string& catalogue : catalogues) {
-    const std::string bytes = WholeFile(catalogue);
-    out << "      {\"" << std::filesystem::path(catalogue).stem().string() << "\", {";
-    WriteLiteral(out, bytes);
-    out << ", " << bytes.size() << "}},\n";
+    const std::string bytes = Read(catalogue);
+    rows << "      {\"" << std::filesystem::path(catalogue).stem().string() << "\", {";
+    WriteLiteral(rows, bytes);
+    rows << ", " << bytes.size() << "}},\n";
   }
-  out << "  };\n}\n\n}  // namespace orvane\n";
-  out.close();
-  if (!out) throw std::runtime_error(target + ": cannot write");
+  Write(target,
+        {"catalogues", "src/frontend/shared/texts/catalogue.h", "CatalogueData", "AllCatalogues"},
+        rows.str());
 }
 
 void Run(const std::string& target, const std::vector<std::string>& files) {
-  std::filesystem::create_directories(std::filesystem::path(target).parent_path());
-  std::ostringstream out;
-  out << "// Made by orvane-embed from the picture sheets.\n#include \"src/core/sheet_data.h\"\n\n"
-         "namespace orvane {\n\nstd::vector<SheetData> AllSheetData() {\n  return {\n";
+  std::ostringstream rows;
   for (const std::string& file : files) {
-    const std::string bytes = Pack(paint::ReadPng(file));
-    out << "      {\"" << std::filesystem::path(file).stem().string() << "\", ";
-    WriteLiteral(out, bytes);
-    out << "},\n";
+    rows << "      {\"" << std::filesystem::path(file).stem().string() << "\", ";
+    WriteLiteral(rows, Pack(paint::ReadPng(file)));
+    rows << "},\n";
   }
-  out << "  };\n}\n\n}  // namespace orvane\n";
-  if (!WriteWholeFile(target, out.str())) throw std::runtime_error(target + ": cannot write");
+  Write(target, {"picture sheets", "src/core/sheet_data.h", "SheetData", "AllSheetData"},
+        rows.str());
 }
 
 }  // namespace

@@ -57,9 +57,8 @@ class Button : public QPushButton {
 }  // namespace
 
 ButtonView::ButtonView(CommandButton& model, QWidget* parent, Events& events)
-    : ControlView(model, new Button(parent)),
+    : ControlView(model, new Button(parent), events),
       model_(model),
-      events_(events),
       widget_(static_cast<QPushButton*>(Widget())) {
   QObject::connect(widget_, &QPushButton::clicked, widget_, [&model, &events] {
     events.Send([&model](Program& program) { program.Click(model); });
@@ -69,7 +68,7 @@ ButtonView::ButtonView(CommandButton& model, QWidget* parent, Events& events)
 void ButtonView::FollowValues(bool all) {
   if (!all && seen_ == model_.Caption) return;
   seen_ = model_.Caption;
-  static_cast<Button*>(widget_)->SetCaption(events_.Texts().Of(model_, seen_));
+  static_cast<Button*>(widget_)->SetCaption(Shown(seen_));
 }
 
 }  // namespace orvane

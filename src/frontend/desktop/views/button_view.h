@@ -16,7 +16,6 @@ class ButtonView : public ControlView {
 
  private:
   CommandButton& model_;
-  Events& events_;
   QPushButton* widget_;
   std::string seen_;
 };

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "src/frontend/shared/events.h"
+
 namespace orvane {
 namespace {
 
@@ -31,6 +33,10 @@ QRect ControlView::Box(const Place& place) const {
   const int border = model_.Parent() != nullptr ? model_.Parent()->Border() : 0;
   return {Round(place.Left) + border, Round(place.Top) + border, Round(place.Width),
           Round(place.Height)};
+}
+
+std::string ControlView::Shown(std::string_view text) const {
+  return events_.Texts().Of(model_, text);
 }
 
 void ControlView::FollowCommon(bool all) {

@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QWidget>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "src/ui/controls.h"
 
@@ -13,8 +15,9 @@ class Events;
 
 class ControlView {
  public:
-  // `widget` belongs to its parent widget.
-  ControlView(Control& model, QWidget* widget) : model_(model), widget_(widget) {}
+  // `widget` belongs to its parent widget; `events` outlive the view.
+  ControlView(Control& model, QWidget* widget, const Events& events)
+      : model_(model), widget_(widget), events_(events) {}
   virtual ~ControlView() = default;
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
@@ -44,11 +47,15 @@ class ControlView {
   // Where the widget goes for the model's place, in the coordinates of what holds it.
   virtual QRect Box(const Place& place) const;
 
+  // What is shown for one of the control's texts, in the language that the player has chosen.
+  std::string Shown(std::string_view text) const;
+
  private:
   void FollowCommon(bool all);
 
   Control& model_;
   QWidget* widget_;
+  const Events& events_;
   CommonValues seen_;
 };
 

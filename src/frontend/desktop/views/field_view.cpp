@@ -6,7 +6,7 @@
 namespace orvane {
 
 FieldView::FieldView(TextBox& model, QWidget* parent, Events& events)
-    : ControlView(model, new QLineEdit(parent)),
+    : ControlView(model, new QLineEdit(parent), events),
       model_(model),
       widget_(static_cast<QLineEdit*>(Widget())) {
   // The fields are as low as the game lays them out; the text needs the height that is left.

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "src/frontend/desktop/paint/text_paint.h"
-#include "src/frontend/shared/events.h"
 
 namespace orvane {
 namespace {
@@ -42,15 +41,14 @@ class FrameWidget : public QGroupBox {
 }  // namespace
 
 FrameView::FrameView(Frame& model, QWidget* parent, Events& events)
-    : ControlView(model, new FrameWidget(parent)),
+    : ControlView(model, new FrameWidget(parent), events),
       model_(model),
-      events_(events),
       widget_(static_cast<QGroupBox*>(Widget())) {}
 
 void FrameView::FollowValues(bool all) {
   if (!all && seen_ == model_.Caption) return;
   seen_ = model_.Caption;
-  widget_->setTitle(ToQt(events_.Texts().Of(model_, seen_)));
+  widget_->setTitle(ToQt(Shown(seen_)));
 }
 
 }  // namespace orvane

@@ -16,7 +16,6 @@ class FrameView : public ControlView {
 
  private:
   Frame& model_;
-  Events& events_;
   QGroupBox* widget_;
   std::string seen_;
 };

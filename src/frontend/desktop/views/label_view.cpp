@@ -6,7 +6,6 @@
 
 #include "src/frontend/desktop/paint/fonts.h"
 #include "src/frontend/desktop/paint/text_paint.h"
-#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/text_fit.h"
 
 namespace orvane {
@@ -73,15 +72,14 @@ class LabelWidget : public QLabel {
 };
 
 LabelView::LabelView(Label& model, QWidget* parent, Events& events)
-    : ControlView(model, new LabelWidget(parent)),
+    : ControlView(model, new LabelWidget(parent), events),
       model_(model),
-      events_(events),
       widget_(static_cast<LabelWidget*>(Widget())) {}
 
 void LabelView::FollowValues(bool all) {
   if (!all && Same(seen_, model_)) return;
   seen_ = model_;
-  widget_->Show(seen_, ToQt(events_.Texts().Of(model_, seen_.Caption)));
+  widget_->Show(seen_, ToQt(Shown(seen_.Caption)));
 }
 
 QRect LabelView::Box(const Place& place) const {

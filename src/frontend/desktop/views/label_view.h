@@ -17,7 +17,6 @@ class LabelView : public ControlView {
 
  private:
   Label& model_;
-  Events& events_;
   LabelWidget* widget_;
   LabelValues seen_;
 };

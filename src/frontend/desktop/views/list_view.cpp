@@ -60,11 +60,6 @@ class ListWidget : public QListWidget {
   // The highlight may have left the row that the game knows.
   bool TakeStale() { return std::exchange(stale_, false); }
 
-  void SetRows(const std::vector<std::string>& rows) {
-    clear();
-    for (const std::string& row : rows) addItem(ToQt(events_.Texts().Of(model_, row)));
-  }
-
   void Select(int row) {
     if (row >= 0 && row < count()) return setCurrentRow(row);
     setCurrentRow(-1);
@@ -126,14 +121,16 @@ class ListWidget : public QListWidget {
 };
 
 ListView::ListView(Control& model, ListValues& values, QWidget* parent, Events& events)
-    : ControlView(model, new ListWidget(parent, model, events)),
+    : ControlView(model, new ListWidget(parent, model, events), events),
       values_(values),
-      events_(events),
       widget_(static_cast<ListWidget*>(Widget())) {}
 
 void ListView::FollowValues(bool all) {
   const bool rows_changed = all || seen_.Rows != values_.Rows;
-  if (rows_changed) widget_->SetRows(values_.Rows);
+  if (rows_changed) {
+    widget_->clear();
+    for (const std::string& row : values_.Rows) widget_->addItem(ToQt(Shown(row)));
+  }
   const bool stale = widget_->TakeStale();
   if (rows_changed || stale || seen_.ListIndex != values_.ListIndex) {
     widget_->Select(values_.ListIndex);

@@ -16,7 +16,6 @@ class ListView : public ControlView {
 
  private:
   ListValues& values_;
-  Events& events_;
   ListWidget* widget_;
   ListValues seen_;
 };

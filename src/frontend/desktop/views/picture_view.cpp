@@ -76,7 +76,7 @@ class PictureWidget : public QWidget, public Spoken {
 };
 
 PictureView::PictureView(PictureBox& model, QWidget* parent, Events& events)
-    : ControlView(model, new PictureWidget(model, parent, events)),
+    : ControlView(model, new PictureWidget(model, parent, events), events),
       model_(model),
       widget_(static_cast<PictureWidget*>(Widget())) {}
 

@@ -8,7 +8,7 @@
 namespace orvane {
 
 SliderView::SliderView(Slider& model, QWidget* parent, Events& events)
-    : ControlView(model, new QSlider(Qt::Horizontal, parent)),
+    : ControlView(model, new QSlider(Qt::Horizontal, parent), events),
       model_(model),
       widget_(static_cast<QSlider*>(Widget())) {
   widget_->setTickPosition(QSlider::TicksBelow);

@@ -38,7 +38,7 @@ class TabsWidget : public QWidget {
 }  // namespace
 
 TabsView::TabsView(TabStrip& model, QWidget* parent, Events& events)
-    : ControlView(model, new TabsWidget(parent)), model_(model), events_(events) {
+    : ControlView(model, new TabsWidget(parent), events), model_(model) {
   for (int pane = 0; pane < model.TabCount(); ++pane) panes_.push_back(new QWidget(Widget()));
   bar_ = new QTabBar(Widget());
   bar_->setDrawBase(false);
@@ -59,7 +59,7 @@ QWidget* TabsView::Ground(int pane) const {
 void TabsView::FollowValues(bool /*all*/) {
   const QSignalBlocker quiet(bar_);
   for (int tab = 0; tab < bar_->count(); ++tab) {
-    const std::string text = events_.Texts().Of(model_, model_.TabCaption(tab));
+    const std::string text = Shown(model_.TabCaption(tab));
     const QString caption = ToQtCaption(text);
     if (bar_->tabText(tab) != caption) {
       bar_->setTabText(tab, caption);

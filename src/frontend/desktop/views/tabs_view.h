@@ -25,7 +25,6 @@ class TabsView : public ControlView {
 
  private:
   TabStrip& model_;
-  Events& events_;
   QTabBar* bar_;
   std::vector<QWidget*> panes_;
 };

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "src/frontend/shared/preferences.h"
 #include "src/frontend/windows/app/front.h"
-#include "src/frontend/windows/app/preferences.h"
 #include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
 #include "src/platform/windows/wide_text.h"

@@ -1,4 +1,4 @@
-#include "src/frontend/desktop/app/preferences.h"
+#include "src/frontend/shared/preferences.h"
 
 #include <QSettings>
 #include <QString>

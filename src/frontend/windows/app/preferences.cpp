@@ -1,4 +1,4 @@
-#include "src/frontend/windows/app/preferences.h"
+#include "src/frontend/shared/preferences.h"
 
 #include <filesystem>
 #include <system_error>

@@ -4,9 +4,9 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <exception>
 #include <utility>
 
+#include "src/frontend/shared/events.h"
 #include "src/frontend/shared/texts/lettered_sheets.h"
 
 namespace orvane {
@@ -47,13 +47,7 @@ int WebGame::HeldFor() const {
 
 void WebGame::Send(const std::function<void(Program&)>& event) {
   if (HeldFor() > 0 || program_->HasEnded()) return;
-  // The game handles the errors that bad data can lead to; what else may come, such as want of
-  // memory, ends it with its box.
-  try {
-    event(*program_);
-  } catch (const std::exception& failure) {
-    program_->Break(failure.what());
-  }
+  ActOn(*program_, event);
 }
 
 int WebGame::Wait() {
@@ -75,11 +69,7 @@ int WebGame::Serve(double most) {
 }
 
 void WebGame::Kept(int number, const std::string& failure) {
-  try {
-    files_.Kept(number, failure);
-  } catch (const std::exception& error) {
-    program_->Break(error.what());
-  }
+  ActOn(*program_, [&](Program& /*program*/) { files_.Kept(number, failure); });
 }
 
 bool WebGame::TakeKey(uint32_t code, bool is_press, bool repeats, bool types) {

@@ -183,7 +183,7 @@ void WriteNature(const Control& control, const Standing& standing, std::string& 
   json.Add("edge", control.Border());
   json.Add("spoken", SpokenName(control));
   if (control.Kind() == ControlKind::Menu) {
-    json.Add("isLine", static_cast<const MenuItem&>(control).Caption == "-");
+    json.Add("isLine", static_cast<const MenuItem&>(control).IsSeparator());
   }
   if (control.Kind() == ControlKind::Picture) {
     json.Add("takesClicks", bool(static_cast<const PictureBox&>(control).OnClick));

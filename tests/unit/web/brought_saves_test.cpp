@@ -31,6 +31,7 @@ TEST(BroughtSavesTest, ASaveGoesWhereItIsWanted) {
 TEST(BroughtSavesTest, WithoutASlotTheNameTells) {
   EXPECT_EQ(ReadBrought("Save05.SAV", Save(3), "").Saves, (NamedFiles{{"Save05.SAV", Save(3)}}));
   EXPECT_THAT(ReadBrought("save.txt", Save(3), "").Problem, HasSubstr("save.txt"));
+  EXPECT_THAT(ReadBrought(".sav", Save(3), "").Problem, HasSubstr(".sav"));
 }
 
 TEST(BroughtSavesTest, AnArchiveBringsItsSavesWithoutTheirFolders) {

@@ -1,19 +1,10 @@
 #include "src/frontend/web/services/brought_saves.h"
 
-#include <algorithm>
-#include <cctype>
-
 #include "src/frontend/web/services/save_check.h"
+#include "src/platform/storage.h"
 
 namespace orvane {
 namespace {
-
-bool IsSaveName(const std::string& name) {
-  constexpr std::string_view ending = ".sav";
-  if (name.size() < ending.size()) return false;
-  return std::equal(ending.begin(), ending.end(), name.end() - ending.size(),
-                    [](char want, char has) { return std::tolower(has) == want; });
-}
 
 std::string WithoutFolders(const std::string& name) {
   return name.substr(name.find_last_of('/') + 1);  // none: from the beginning
@@ -31,7 +22,8 @@ BroughtSaves ReadBrought(const std::string& name, std::string_view bytes, const 
     if (!files) return refuse(name + "：ファイルが壊れています。");
     saves = *files;
   }
-  std::erase_if(saves, [](const auto& file) { return !IsSaveName(file.first); });
+  std::erase_if(
+      saves, [](const auto& file) { return !MatchesPattern(WithoutFolders(file.first), "*.sav"); });
   if (saves.empty()) return refuse(name + "：セーブデータが入っていません。");
   for (auto& [path, content] : saves) {
     const std::string problem = SaveProblem(content);

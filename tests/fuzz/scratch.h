@@ -2,12 +2,11 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
 #include <string>
-#include <system_error>
 
 #include "src/platform/path_text.h"
 #include "src/platform/temporary_folder.h"
+#include "src/platform/whole_file.h"
 
 namespace orvane::fuzz {
 
@@ -16,15 +15,12 @@ class ScratchFolder {
   ScratchFolder() : path_(MakeTemporaryFolder("orvane-fuzz-")) {
     std::filesystem::create_directories(path_ / "Sound");
   }
-  ~ScratchFolder() {
-    std::error_code error;
-    std::filesystem::remove_all(path_, error);
-  }
+  ~ScratchFolder() { RemoveFolder(path_); }
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
   void Write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path_ / PathOf(name), std::ios::binary) << bytes;
+    WriteWholeFile(path_ / PathOf(name), bytes);
   }
   std::string Path() const { return TextOf(path_); }
 

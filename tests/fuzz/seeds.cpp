@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <initializer_list>
 #include <string>
 
@@ -30,7 +29,7 @@ struct Folders {
   void Write(const std::string& target, const std::string& name, const std::string& bytes) const {
     const std::filesystem::path folder = Corpora / PathOf(target);
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / PathOf(name), std::ios::binary) << bytes;
+    if (!WriteWholeFile(folder / PathOf(name), bytes)) std::exit(EXIT_FAILURE);
   }
 };
 

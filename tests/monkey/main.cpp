@@ -9,12 +9,13 @@
 #include <cinttypes>
 #include <cstdint>
 #include <cstdio>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "src/platform/arguments.h"
 #include "src/platform/path_text.h"
+#include "src/platform/whole_file.h"
+#include "tests/game_files.h"
 #include "tests/monkey/life.h"
 
 namespace {
@@ -70,11 +71,6 @@ struct Tally {
   }
 };
 
-void Keep(const std::string& replay, const std::string& file) {
-  std::ofstream out(PathOf(file), std::ios::binary);
-  out.write(replay.data(), static_cast<std::streamsize>(replay.size()));
-}
-
 }  // namespace
 
 int main(int count, char** words) {
@@ -88,7 +84,7 @@ int main(int count, char** words) {
         stderr);
     return 2;
   }
-  const monkey::Files folder = monkey::ReadGameFolder(settings.Folder);
+  const monkey::Files folder = test::ReadGameFiles(PathOf(settings.Folder));
   const auto begin = std::chrono::steady_clock::now();
   uint64_t actions = 0;
   uint64_t lives = 0;
@@ -103,7 +99,7 @@ int main(int count, char** words) {
       const std::string file = settings.Out + "/monkey-" + std::to_string(seed) + ".replay";
       std::printf("seed %" PRIu64 ", action %d: %s; see %s\n", seed, life.Actions(), fault.what(),
                   file.c_str());
-      Keep(life.Replay(), file);
+      if (!WriteWholeFile(PathOf(file), life.Replay())) std::printf("it cannot be written\n");
       return 1;
     }
     actions += static_cast<uint64_t>(life.Actions());

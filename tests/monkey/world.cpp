@@ -1,27 +1,11 @@
 #include "tests/monkey/world.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 #include "src/core/save_file.h"
-#include "src/platform/path_text.h"
-#include "src/platform/whole_file.h"
 
 namespace orvane::monkey {
-
-namespace files = std::filesystem;
-
-Files ReadGameFolder(const std::string& folder) {
-  Files found;
-  const files::path root = PathOf(folder);
-  for (const auto& entry : files::recursive_directory_iterator(root)) {
-    const std::string name = TextOf(entry.path().lexically_relative(root).generic_string());
-    if (!entry.is_regular_file() || name.starts_with("Sound/")) continue;
-    found[name] = ReadWholeFile(entry.path()).value_or("");
-  }
-  return found;
-}
 
 std::string WildSound::Send(const std::string& command) {
   if (!command.starts_with("status")) return {};

@@ -1,5 +1,4 @@
-// What surrounds the program that the monkey plays: services that are not to be foreseen, and the
-// files of a game folder.
+// What surrounds the program that the monkey plays: services that are not to be foreseen.
 #pragma once
 
 #include <cstddef>
@@ -13,9 +12,6 @@
 namespace orvane::monkey {
 
 using Files = std::map<std::string, std::string>;
-
-// All files of a game folder but its sounds.
-Files ReadGameFolder(const std::string& folder);
 
 // Answers as devices of all kinds do: it plays, it has stopped, it is not there.
 class WildSound : public SoundDevice {

@@ -1,7 +1,5 @@
 #include "tests/windows/front_end.h"
 
-#include <vector>
-
 namespace orvane::test {
 namespace {
 
@@ -13,11 +11,7 @@ Translator& UsualTexts() {
 }
 
 Zoom ChooseZoom(const Opening& opening, Program& program) {
-  std::vector<Extent> windows;
-  for (const Screen* each : program.TheStage().Screens()) {
-    windows.push_back({double(each->Width), double(each->Height)});
-  }
-  const Zoom zoom(TheScreen(), opening.Scale, windows);
+  const Zoom zoom(TheScreen(), opening.Scale, InsidesOf(program.TheStage()));
   SetScale(zoom.ScaleFor({}), zoom.TheScreen());
   return zoom;
 }

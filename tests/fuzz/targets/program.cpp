@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <map>
 #include <string>
 #include <vector>
@@ -12,9 +11,9 @@
 #include "src/frontend/shared/chance.h"
 #include "src/platform/path_text.h"
 #include "src/platform/quiet_services.h"
-#include "src/platform/whole_file.h"
 #include "src/ui/timer_queue.h"
 #include "tests/fuzz/harness.h"
+#include "tests/game_files.h"
 
 namespace orvane::fuzz {
 namespace {
@@ -24,18 +23,6 @@ constexpr int kMostActions = 200;
 constexpr int kMostTicks = 2000;  // in all
 
 using Files = std::map<std::string, std::string>;
-
-// The game folder as the build has made it, but for its sounds.
-Files ReadGameFolder() {
-  Files files;
-  const std::filesystem::path folder = PathOf(ORVANE_GAME_FOLDER);
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-    const std::string name = TextOf(entry.path().lexically_relative(folder));
-    if (!entry.is_regular_file() || name.starts_with("Sound")) continue;
-    files[name] = ReadWholeFile(entry.path()).value_or("");
-  }
-  return files;
-}
 
 // Puts something into a file, or in its place.
 void Spoil(Input& input, Files& files) {
@@ -161,7 +148,7 @@ void Player::Act(Input& input) {
 }  // namespace
 
 void Try(Input& input) {
-  static const Files whole = ReadGameFolder();
+  static const Files whole = test::ReadGameFiles(PathOf(ORVANE_GAME_FOLDER));
   QuietServices quiet;
   quiet.Files.Files = whole;
   const int faults = input.Below(kMostFaults);

@@ -4,11 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <string>
 
 #include "src/platform/path_text.h"
-#include "src/platform/whole_file.h"
+#include "tests/game_files.h"
 #include "tests/unit/web/paper_page.h"
 
 namespace orvane {
@@ -20,12 +19,7 @@ using testing::Not;
 class WebGameTest : public testing::Test {
  protected:
   WebGameTest() {
-    const std::filesystem::path folder = PathOf(ORVANE_GAME_FOLDER);
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-      if (!entry.is_regular_file()) continue;
-      const std::string name = TextOf(entry.path().lexically_relative(folder));
-      game_.Files().Files[name] = ReadWholeFile(entry.path()).value_or("");
-    }
+    game_.Files().Files = test::ReadGameFiles(PathOf(ORVANE_GAME_FOLDER));
     game_.Begin();
   }
 

@@ -3,15 +3,12 @@
 # or comes out otherwise, is told apart.
 #   replays.sh PLAYER [LAUNCHER...]   a launcher starts the player where the system cannot
 set -u
+# shellcheck source=tests/faults.sh
+. "$(dirname "$(realpath "$0")")/../faults.sh"
 player=("${@:2}" "$1")
 cd "$(dirname "$(realpath "$0")")" || exit 1
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-faults=0
-fault() {
-  echo "$1"
-  faults=$((faults + 1))
-}
 # A path as the player reads it.
 path_of() { if command -v winepath >/dev/null && [[ ${player[*]} == *.exe ]]; then winepath -w "$1"; else echo "$1"; fi; }
 # Runs the player; fails unless it ends with a status.
@@ -58,4 +55,4 @@ printf '\x55' >>"$scratch/other"
 expect_status 1 --replay "$(path_of "$scratch/other")"
 echo "no replay" >"$scratch/other"
 expect_status 2 --replay "$(path_of "$scratch/other")"
-[ "$faults" -eq 0 ]
+no_faults "replays: they come out the same"

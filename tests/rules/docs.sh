@@ -3,13 +3,9 @@
 # every such variable that a program or script reads; and docs/balance.md holds the text of its frame.
 #   docs.sh SOURCE_FOLDER
 set -u
+# shellcheck source=tests/faults.sh
+. "$(dirname "$(realpath "$0")")/../faults.sh"
 cd "$1" || exit 2
-faults=0
-
-fault() {
-  echo "$1"
-  faults=$((faults + 1))
-}
 
 mapfile -t documents < <(find . \( -name build -o -name 'build-*' -o -name .git -o -name node_modules \) -prune -o \
   \( -name '*.md' -o -path './share/*.6' \) -type f -print | sed 's|^\./||' | sort)
@@ -84,5 +80,4 @@ if [ -f tools/balance_frame.md ]; then
     fault "docs/balance.md: not the text of tools/balance_frame.md"
 fi
 
-[ "$faults" -eq 0 ] && echo "docs: what they name is there"
-[ "$faults" -eq 0 ]
+no_faults "docs: what they name is there"

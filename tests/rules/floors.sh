@@ -7,13 +7,9 @@
 # would share it. (clang-tidy finds global variables.)
 #   floors.sh SOURCE_FOLDER
 set -u
+# shellcheck source=tests/faults.sh
+. "$(dirname "$(realpath "$0")")/../faults.sh"
 cd "$1/src" || exit 2
-faults=0
-
-fault() {
-  echo "$1"
-  faults=$((faults + 1))
-}
 
 # What each floor may include of ours, itself aside.
 may_include() {
@@ -125,5 +121,4 @@ while read -r line; do
   fault "$line: a line of more than $longest_line letters"
 done < <(LC_ALL=C.UTF-8 grep -noHE ".{$((longest_line + 1)),}" "${scripts[@]}" 2>/dev/null | cut -d: -f1,2)
 
-[ "$faults" -eq 0 ] && echo "floors: no include runs up"
-[ "$faults" -eq 0 ]
+no_faults "floors: no include runs up"

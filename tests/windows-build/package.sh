@@ -3,16 +3,12 @@
 # removes the game by its installer: saves stay, nothing else does.
 #   package.sh BUILD-FOLDER
 set -u
+# shellcheck source=tests/faults.sh
+. "$(dirname "$(realpath "$0")")/../faults.sh"
 build=$1
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-faults=0
-
-fault() {
-  echo "$1"
-  faults=$((faults + 1))
-}
 
 "$here/../../tools/windows/pack.sh" "$build" || exit 1
 zip=$(echo "$build"/orvane-*-windows.zip)
@@ -55,5 +51,4 @@ expected=$(for slot in 01 02 03 04 05 06 07 08 09 10; do echo -n "./game/Save$sl
 [ "${left/.\/uninstall.exe /}" = "$expected" ] || fault "uninstalled it leaves $left"
 [ "$(cat "$place/game/Save01.sav")" = mine ] || fault "the uninstaller has touched a save"
 [ ! -e "$menu/Programs/Orvane.lnk" ] || fault "the entry of the start menu stays"
-[ "$faults" -eq 0 ] && echo "packed, installed, renewed and removed"
-[ "$faults" -eq 0 ]
+no_faults "packed, installed, renewed and removed"

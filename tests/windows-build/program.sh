@@ -3,14 +3,10 @@
 # Windows makes it, and does not tell where or when it was built.
 #   program.sh PROGRAM SOURCE-FOLDER
 set -u
+# shellcheck source=tests/faults.sh
+. "$(dirname "$(realpath "$0")")/../faults.sh"
 program=$1
 sources=$2
-faults=0
-
-fault() {
-  echo "$1"
-  faults=$((faults + 1))
-}
 
 own=" advapi32 comctl32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 setupapi shell32 user32 uxtheme version winmm "
 headers=$(x86_64-w64-mingw32-objdump -p "$program")
@@ -26,5 +22,4 @@ x86_64-w64-mingw32-objdump -h "$program" | grep -q '\.reloc' || fault "it cannot
 grep -q 'Time/Date.*1970$' <<<"$headers" || fault "it tells when it was built"
 grep -qF "$sources" "$program" && fault "it tells where it was built"
 grep -qF "${HOME:-/root}/" "$program" && fault "it names the home of who built it"
-[ "$faults" -eq 0 ] && echo "imports: $(tr '\n' ' ' <<<"$imports")"
-[ "$faults" -eq 0 ]
+no_faults "imports: $(tr '\n' ' ' <<<"$imports")"

@@ -19,7 +19,7 @@ passes() {
 
 tree() {
   rm -rf "$trial/src"
-  for floor in base platform ui core field battle screens ending game sound frontend/shared frontend/script \
+  for floor in base platform ui core field battle screens ending game replay sound frontend/shared frontend/script \
     frontend/desktop frontend/web frontend/windows; do
     mkdir -p "$trial/src/$floor"
     printf '#include <string>\n' >"$trial/src/$floor/a.h"
@@ -39,6 +39,9 @@ refuses "the system's header past the one way to it" "$here/floors.sh" "$trial"
 tree
 echo '#include "src/battle/a.h"' >>"$trial/src/core/a.cpp"
 refuses "an include that runs up" "$here/floors.sh" "$trial"
+tree
+echo '#include "src/replay/a.h"' >>"$trial/src/game/a.cpp"
+refuses "a game that knows its replays" "$here/floors.sh" "$trial"
 tree
 echo '#include "src/field/a.h"' >>"$trial/src/battle/a.cpp"
 refuses "an include across" "$here/floors.sh" "$trial"

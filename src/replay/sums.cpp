@@ -150,10 +150,8 @@ uint64_t SumOfAll(Program& program) {
     if (!screen->IsVisible()) continue;
     if (screen->OwnSurface != nullptr) AddPixels(sum, *screen->OwnSurface);
     for (const Control* control : screen->Controls()) {
-      // Sheets that are only drawn from lie out of sight.
-      const bool is_seen = control->Kind() == ControlKind::Picture && IsShown(*control) &&
-                           PlaceOnScreen(*control).Top < screen->Height;
-      if (is_seen) AddPixels(sum, static_cast<const PictureBox*>(control)->Picture);
+      if (control->Kind() != ControlKind::Picture || !IsInView(*control)) continue;
+      AddPixels(sum, static_cast<const PictureBox*>(control)->Picture);
     }
   }
   return sum.Value();

@@ -70,6 +70,10 @@ bool IsShown(const Control& control) {
   return true;
 }
 
+bool IsInView(const Control& control) {
+  return IsShown(control) && PlaceOnScreen(control).Top < control.Owner().Height;
+}
+
 bool IsEnabled(const Control& control) {
   for (const Control* each = &control; each != nullptr; each = each->Parent()) {
     if (!each->Enabled) return false;

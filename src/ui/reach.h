@@ -20,6 +20,9 @@ Place PlaceOnScreen(const Control& control);
 // It and all that hold it are visible, and it stands on an open pane. Says nothing of its screen.
 bool IsShown(const Control& control);
 
+// The same, and it does not lie below its screen's window, as sheets do that are only drawn from.
+bool IsInView(const Control& control);
+
 // It and all that hold it are enabled.
 bool IsEnabled(const Control& control);
 

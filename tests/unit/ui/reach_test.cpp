@@ -1,4 +1,4 @@
-// Where a press is the screen's own.
+// What is in view, and where a press is the screen's own.
 #include "src/ui/reach.h"
 
 #include <gtest/gtest.h>
@@ -29,6 +29,21 @@ TEST(Bare, IsWhatOnlyTextsOfTheScreensOwnStandOn) {
   EXPECT_FALSE(IsBare(card, {120, 20})) << "a text on a picture is the picture's";
   card.Button.Visible = false;
   EXPECT_TRUE(IsBare(card, {80, 20}));
+}
+
+TEST(InView, IsNotWhatIsHiddenOrLiesBelowTheWindow) {
+  Stage stage;
+  Card card(stage);
+  EXPECT_TRUE(IsInView(card.Picture));
+  EXPECT_TRUE(IsInView(card.OnPicture));
+  card.Picture.Visible = false;
+  EXPECT_FALSE(IsInView(card.OnPicture));
+  card.Picture.Visible = true;
+  card.Picture.At.Top = 95;
+  EXPECT_TRUE(IsInView(card.Picture));
+  EXPECT_FALSE(IsInView(card.OnPicture)) << "it begins at 105 of 100";
+  card.Picture.At.Top = 100;
+  EXPECT_FALSE(IsInView(card.Picture));
 }
 
 }  // namespace

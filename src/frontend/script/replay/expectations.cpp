@@ -83,7 +83,7 @@ void ExpectScreen(std::string& text, const Screen& screen) {
       ExpectValue(text, path + ".Enabled", flag(static_cast<const Timer*>(control)->IsEnabled()));
     }
     if (!screen.IsVisible() || !IsShown(*control)) continue;
-    if (control->Kind() == ControlKind::Picture && PlaceOnScreen(*control).Top < screen.Height) {
+    if (control->Kind() == ControlKind::Picture && IsInView(*control)) {
       ExpectPixels(text, path, static_cast<const PictureBox*>(control)->Picture);
     }
     if (control->Kind() == ControlKind::Label) {

@@ -54,10 +54,7 @@ void ShownTexts::LookAt(const Screen& screen) {
   const auto& controls = screen.Controls();
   for (size_t i = 0; i < controls.size(); ++i) {
     const Control& control = *controls[i];
-    if (!control.Visible || control.Kind() == ControlKind::Picture ||
-        control.Kind() == ControlKind::Timer || !IsShown(control)) {
-      continue;
-    }
+    if (!IsShown(control)) continue;
     std::vector<std::string> texts = TextsOf(control);
     std::vector<std::string>& last = last_[&control];
     if (texts == last) continue;

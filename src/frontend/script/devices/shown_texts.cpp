@@ -30,13 +30,13 @@ ShownTexts::ShownTexts() {
   if (file != nullptr) file_ = PathOf(file);
 }
 
+void ShownTexts::Begin() {
+  last_.clear();
+  last_box_ = 0;
+}
+
 void ShownTexts::Look(Program& program) {
   if (file_.empty()) return;
-  if (program_ != &program) {
-    last_.clear();
-    last_box_ = 0;
-  }
-  program_ = &program;
   const Stage& stage = program.TheStage();
   for (const Screen* screen : stage.Screens()) {
     if (screen->IsVisible()) LookAt(*screen);

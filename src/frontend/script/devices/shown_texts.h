@@ -18,6 +18,8 @@ namespace orvane {
 class ShownTexts {
  public:
   ShownTexts();
+  // A program has been made: what the last one showed says nothing of it.
+  void Begin();
   // Does nothing where the variable is not set.
   void Look(Program& program);
 
@@ -28,7 +30,6 @@ class ShownTexts {
   std::filesystem::path file_;
   std::unordered_set<std::string> noted_;
   std::unordered_map<const Control*, std::vector<std::string>> last_;
-  const Program* program_ = nullptr;
   int last_box_ = 0;
 };
 

@@ -48,6 +48,7 @@ void Session::MakeProgram() {
   }
   program_ = std::make_unique<Program>(play_ ? play_->TheServices() : services);
   if (play_) play_->Watch(*program_);
+  shown_.Begin();
   names_ = std::make_unique<Names>(program_->TheState(), program_->TheStage());
   timers_ = std::make_unique<TimerQueue>(program_->TheStage(), Pacing::AsAsked);
 }

@@ -1,8 +1,9 @@
 #include "src/frontend/web/list_keys.h"
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
+
+#include "src/base/text.h"
 
 namespace orvane {
 namespace {
@@ -13,19 +14,7 @@ constexpr double kRestMs = 1000;  // after which letters begin a new word
 bool BeginsWith(std::string_view row, std::string_view word) {
   const size_t blanks = row.find_first_not_of(' ');
   if (blanks == std::string_view::npos) return false;
-  row.remove_prefix(blanks);
-  if (row.size() < word.size()) return false;
-  return std::equal(word.begin(), word.end(), row.begin(),
-                    [](unsigned char one, unsigned char other) {
-                      return std::tolower(one) == std::tolower(other);
-                    });
-}
-
-// One sign, which may take several bytes.
-bool IsLetter(std::string_view key) {
-  constexpr unsigned char more = 0x80;  // what bytes behind the first begin with
-  return !key.empty() && std::all_of(key.begin() + 1, key.end(),
-                                     [](unsigned char byte) { return (byte & 0xC0) == more; });
+  return LowerCase(row.substr(blanks)).starts_with(LowerCase(word));
 }
 
 }  // namespace
@@ -44,7 +33,7 @@ std::optional<int> ListKeys::Take(const std::vector<std::string>& rows, int row,
   }
   if (time - typed_at_ > kRestMs) typed_.clear();
   const bool begins = typed_.empty();
-  if (!IsLetter(key) || (begins && key == " ")) return std::nullopt;
+  if (CharCount(key) != 1 || (begins && key == " ")) return std::nullopt;
   typed_ += key;
   typed_at_ = time;
   // The first letter goes on to the next row that begins so; more may stay where it is.

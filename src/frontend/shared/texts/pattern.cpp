@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "src/base/text.h"
+
 namespace orvane {
 namespace {
 
@@ -19,13 +21,6 @@ PlaceKind KindOf(std::string_view name) {
 bool IsNumber(std::string_view text) {
   if (!text.empty() && text.front() == '-') text.remove_prefix(1);
   return !text.empty() && std::all_of(text.begin(), text.end(), IsDigit);
-}
-
-// Without the blanks at both ends: the game pads names to a fixed width.
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
 }
 
 }  // namespace
@@ -88,7 +83,7 @@ bool TextPattern::Match(std::string_view text, size_t piece, Found& found) const
     if (own.Kind == PlaceKind::Number && !IsNumber(part) && part != "-") return false;
     if (own.Kind == PlaceKind::Number && part == "-") continue;
     if (!Match(text.substr(length), piece + 1, found)) continue;
-    found[own.Words] = Trimmed(part);
+    found[own.Words] = Trim(part);  // the game pads names to a fixed width
     return true;
   }
   return false;

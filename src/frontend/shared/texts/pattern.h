@@ -40,7 +40,7 @@ class TextPattern {
     bool IsPlace = false;
     PlaceKind Kind = PlaceKind::Text;
   };
-  using Found = std::map<std::string, std::string_view>;
+  using Found = std::map<std::string, std::string>;
 
   static std::vector<Piece> PiecesOf(std::string_view text);
   bool Match(std::string_view text, size_t piece, Found& found) const;

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "src/base/little_endian.h"
-#include "src/platform/whole_file.h"
+#include "tools/files.h"
 #include "tools/paint/png_file.h"
 
 namespace orvane {
@@ -62,12 +62,6 @@ void WriteLiteral(std::ostream& out, const std::string& bytes) {
   }
 }
 
-std::string Read(const std::filesystem::path& path) {
-  const auto bytes = ReadWholeFile(path);
-  if (!bytes) throw std::runtime_error(path.string() + ": cannot read");
-  return *bytes;
-}
-
 // A source file with a routine that returns what is embedded.
 struct Source {
   const char* Origin;
@@ -83,7 +77,7 @@ void Write(const std::string& target, const Source& source, const std::string& r
       << "\"\n\nnamespace orvane {\n\nstd::vector<" << source.Type << "> " << source.Routine
       << "() {\n  return {\n"
       << rows << "  };\n}\n\n}  // namespace orvane\n";
-  if (!WriteWholeFile(target, out.str())) throw std::runtime_error(target + ": cannot write");
+  WriteFile(target, out.str());
 }
 
 void RunFiles(const std::filesystem::path& folder, const std::string& target) {
@@ -91,7 +85,7 @@ void RunFiles(const std::filesystem::path& folder, const std::string& target) {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
     const auto name = entry.path().lexically_relative(folder);
     if (!entry.is_regular_file() || name.begin()->string() == "Sound") continue;
-    files[name.generic_string()] = Read(entry.path());
+    files[name.generic_string()] = ReadFile(entry.path());
   }
   std::ostringstream rows;
   for (const auto& [name, bytes] : files) {
@@ -106,7 +100,7 @@ void RunFiles(const std::filesystem::path& folder, const std::string& target) {
 void RunTexts(const std::string& target, const std::vector<std::string>& catalogues) {
   std::ostringstream rows;
   for (const std::string& catalogue : catalogues) {
-    const std::string bytes = Read(catalogue);
+    const std::string bytes = ReadFile(catalogue);
     rows << "      {\"" << std::filesystem::path(catalogue).stem().string() << "\", {";
     WriteLiteral(rows, bytes);
     rows << ", " << bytes.size() << "}},\n";

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "src/base/little_endian.h"
-#include "src/platform/whole_file.h"
+#include "tools/files.h"
 #include "tools/paint/png_file.h"
 
 namespace orvane {
@@ -52,7 +52,7 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
     if (image.Width != image.Height || image.Width > kLargest) {
       throw std::runtime_error(file + ": not a square of up to 256 pixels");
     }
-    const std::string bytes = image.Width == kLargest ? ReadWholeFile(file).value() : Pixels(image);
+    const std::string bytes = image.Width == kLargest ? ReadFile(file) : Pixels(image);
     AppendLittleEndian(head, static_cast<size_t>(image.Width % kLargest), 1);
     AppendLittleEndian(head, static_cast<size_t>(image.Height % kLargest), 1);
     AppendLittleEndian(head, 0, 2);  // no palette
@@ -62,7 +62,7 @@ void Run(const std::string& target, const std::vector<std::string>& files) {
     AppendLittleEndian(head, head_size + files.size() * entry_size + pictures.size(), 4);
     pictures += bytes;
   }
-  if (!WriteWholeFile(target, head + pictures)) throw std::runtime_error(target + ": cannot write");
+  WriteFile(target, head + pictures);
 }
 
 }  // namespace

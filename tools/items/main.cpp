@@ -3,27 +3,20 @@
 //   orvane-items check TABLE.csv            prints what is wrong; exit 1 when anything is
 #include <cstdio>
 #include <exception>
-#include <optional>
 #include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "src/platform/whole_file.h"
+#include "tools/files.h"
 #include "tools/items/item_table.h"
 
 namespace orvane::items {
 namespace {
 
-std::string ReadFile(const std::string& file) {
-  std::optional<std::string> text = ReadWholeFile(file);
-  if (!text) throw std::runtime_error(file + ": cannot read");
-  return *std::move(text);
-}
-
 std::vector<Item> ReadTableFile(const std::string& file) {
+  const std::string text = ReadFile(file);
   try {
-    return ReadTable(ReadFile(file));
+    return ReadTable(text);
   } catch (const std::runtime_error& error) {
     throw std::runtime_error(file + ": " + error.what());
   }
@@ -44,9 +37,7 @@ int Run(const std::vector<std::string>& words) {
     std::printf("%s: 50 items, no fault\n", words[1].c_str());
     return 0;
   }
-  if (!WriteWholeFile(words[2], WriteRecords(items))) {
-    throw std::runtime_error(words[2] + ": cannot write");
-  }
+  WriteFile(words[2], WriteRecords(items));
   return 0;
 }
 

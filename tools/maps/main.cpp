@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tools/files.h"
 #include "tools/maps/check.h"
 #include "tools/maps/distances.h"
 #include "tools/maps/picture.h"

@@ -1,12 +1,9 @@
 #include "tools/maps/tile_map.h"
 
-#include <optional>
 #include <stdexcept>
-#include <utility>
 
 #include "src/base/error.h"
 #include "src/core/map_file.h"
-#include "src/platform/whole_file.h"
 
 namespace orvane::maps {
 
@@ -32,16 +29,6 @@ TileMap ReadDat(std::string_view text) {
                                  : "the map holds what is not a number of 16 bits");
   }
   return TileMap(tiles);
-}
-
-std::string ReadFile(const std::string& file) {
-  std::optional<std::string> text = ReadWholeFile(file);
-  if (!text) throw std::runtime_error(file + ": cannot read");
-  return *std::move(text);
-}
-
-void WriteFile(const std::string& file, std::string_view text) {
-  if (!WriteWholeFile(file, std::string(text))) throw std::runtime_error(file + ": cannot write");
 }
 
 }  // namespace orvane::maps

@@ -45,10 +45,4 @@ std::string WriteDat(const TileMap& map);
 // holds anything but numbers of 16 bits before the 480th.
 TileMap ReadDat(std::string_view text);
 
-// A whole file as bytes; throws std::runtime_error when it cannot be read.
-std::string ReadFile(const std::string& file);
-
-// Writes a whole file; throws std::runtime_error when it cannot be written.
-void WriteFile(const std::string& file, std::string_view text);
-
 }  // namespace orvane::maps

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "tools/files.h"
 #include "tools/maps/tmx_file.h"
 
 namespace orvane::maps {

@@ -9,7 +9,6 @@
 #include <exception>
 #include <set>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,8 +25,8 @@
 #include "src/platform/folder_storage.h"
 #include "src/platform/path_text.h"
 #include "src/platform/quiet_services.h"
-#include "src/platform/whole_file.h"
 #include "src/ui/controls.h"
+#include "tools/files.h"
 #include "tools/items/item_table.h"
 #include "tools/texts/literals.h"
 #include "tools/texts/template.h"
@@ -105,12 +104,6 @@ void AddTables(State& state, Template& texts) {
   }
 }
 
-std::string Read(const std::string& file) {
-  const auto bytes = ReadWholeFile(PathOf(file));
-  if (!bytes) throw std::runtime_error(file + ": cannot read");
-  return *bytes;
-}
-
 // The messages of a template, each on one line.
 std::vector<std::string> Messages(const std::string& bytes) {
   std::istringstream lines(bytes);
@@ -156,7 +149,7 @@ void AddLiterals(const std::vector<std::string>& sources, const std::set<std::st
                  Template& texts) {
   std::vector<std::pair<std::string, std::string>> found;
   for (const std::string& source : sources) {
-    const std::string words = Read(source);
+    const std::string words = ReadFile(PathOf(source));
     for (const std::string& text : source.ends_with(".html") ? PageTexts(words) : Literals(words)) {
       if (!texts.Has(text) && !IsPart(text, parts, texts)) found.emplace_back(text, source);
     }
@@ -173,7 +166,7 @@ Template Collected(const std::string& folder, const std::string& table) {
   Program program({services.Sound, services.Luck, files});
   AddScreens(program.TheStage(), texts);
   AddTables(program.TheState(), texts);
-  for (const items::Item& item : items::ReadTable(Read(table))) {
+  for (const items::Item& item : items::ReadTable(ReadFile(PathOf(table)))) {
     texts.Add(item.Name, "An item, in lists and in the line of what is worn: at most 18 letters.");
   }
   return texts;
@@ -191,7 +184,7 @@ int main(int count, char** words) {
   try {
     Template texts = Collected(words[1], words[2]);
     std::set<std::string> parts;
-    for (const std::string& text : Messages(Read(words[3]))) AddParts(text, parts);
+    for (const std::string& text : Messages(orvane::ReadFile(words[3]))) AddParts(text, parts);
     AddLiterals({words + 4, words + count}, parts, texts);
     std::fputs(texts.Written().c_str(), stdout);
   } catch (const std::exception& error) {

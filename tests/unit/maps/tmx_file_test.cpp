@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "tools/files.h"
 #include "tools/maps/tileset.h"
 #include "tools/maps/world.h"
 

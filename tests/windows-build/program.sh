@@ -12,7 +12,7 @@ fault() {
   faults=$((faults + 1))
 }
 
-own=" advapi32 comctl32 gdi32 imm32 kernel32 msvcrt ole32 oleaut32 setupapi shell32 user32 uxtheme version winmm "
+own=" advapi32 comctl32 gdi32 imm32 kernel32 msvcrt ole32 oleacc oleaut32 setupapi shell32 user32 uxtheme version winmm "
 headers=$(x86_64-w64-mingw32-objdump -p "$program")
 imports=$(sed -nE 's/^[[:space:]]*DLL Name: (.*)\.(dll|DLL|drv)$/\1/p' <<<"$headers" | tr '[:upper:]' '[:lower:]')
 [ "$(wc -w <<<"$imports")" -ge 5 ] || fault "its imports cannot be read"

@@ -6,6 +6,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -13,6 +14,9 @@
 #include "src/frontend/windows/system/windows_api.h"
 #include "src/platform/folder_storage.h"
 #include "src/platform/quiet_services.h"
+
+// After the system's first header.
+#include <imm.h>
 
 namespace orvane {
 namespace {
@@ -82,6 +86,24 @@ class FrontTest : public testing::Test {
     GetClassNameW(window, kind.data(), static_cast<int>(kind.size()));
     if (std::wstring_view(kind.data()) == L"Edit") *reinterpret_cast<HWND*>(field) = window;
     return TRUE;
+  }
+  static std::wstring TextOf(HWND field) {
+    std::array<wchar_t, 64> text{};
+    GetWindowTextW(field, text.data(), static_cast<int>(text.size()));
+    return text.data();
+  }
+  // What an input method asks of the system: to show these letters as those that are composed, and
+  // to take them as they are.
+  static void Compose(HWND field, std::wstring letters) {
+    const HIMC context = ImmGetContext(field);
+    const auto bytes = static_cast<DWORD>(letters.size() * sizeof(wchar_t));
+    EXPECT_TRUE(ImmSetCompositionStringW(context, SCS_SETSTR, letters.data(), bytes, nullptr, 0));
+    ImmReleaseContext(field, context);
+  }
+  static void EndComposing(HWND field) {
+    const HIMC context = ImmGetContext(field);
+    EXPECT_TRUE(ImmNotifyIME(context, NI_COMPOSITIONSTR, CPS_COMPLETE, 0));
+    ImmReleaseContext(field, context);
   }
   static SIZE Inside() {
     RECT inside;
@@ -165,6 +187,35 @@ TEST_F(FrontTest, AnInputMethodWritesIntoAField) {
     });
     After(800, [this] {
       EXPECT_EQ(static_cast<TextBox&>(On("InputName", "Text1(0)")).Text, "龍の");
+      front_.SessionEnds();
+    });
+  });
+  Run();
+}
+
+TEST_F(FrontTest, AnInputMethodComposesInAField) {
+  auto& model = static_cast<TextBox&>(On("InputName", "Text1(0)"));
+  After(200, [&] {
+    front_.Send([this](Program& program) { program.Click(On("Main", "Command1")); });
+    After(300, [&] {
+      const HWND field = Field();
+      ASSERT_NE(field, nullptr);
+      SendMessageW(field, EM_SETSEL, 0, -1);
+      Compose(field, L"りゅう");
+      EXPECT_EQ(TextOf(field), L"りゅう");
+      model.Text = "カイ";
+      front_.Send([](Program& /*program*/) {});
+      EXPECT_EQ(TextOf(field), L"りゅう") << "what is composed is not the game's yet";
+      Compose(field, L"龍");
+      EXPECT_EQ(TextOf(field), L"龍");
+      EndComposing(field);
+    });
+    After(800, [&] {
+      EXPECT_EQ(model.Text, "龍");
+      EXPECT_EQ(TextOf(Field()), L"龍");
+      model.Text = "カイ";
+      front_.Send([](Program& /*program*/) {});
+      EXPECT_EQ(TextOf(Field()), L"カイ") << "nothing is composed any more";
       front_.SessionEnds();
     });
   });

@@ -1,6 +1,6 @@
 #!/bin/bash
 # The game for Windows in English, under wine: by an option, by a variable, and chosen by a right click, which the next
-# start remembers; the title, a dialog, a box, the field and a battle.
+# start remembers; the title, a dialog, a box, the field and a battle; and where no face has Japanese letters.
 #   language.sh BUILT SCREENSHOTS SCRIPT_PLAYER
 set -u
 
@@ -43,6 +43,39 @@ quit_in_english() {
   game_ends "after the question in English"
 }
 
+# is_wide WIDTH: the first window, or the box before it.
+is_wide() {
+  local left top width height
+  measure Orvane
+  [ "$width" = "$1" ]
+}
+is_box() { has_window Orvane && ! is_wide 496; }
+
+# On a system whose faces have no Japanese letters a box says so, unless the game is in English.
+lack_faces() {
+  export FONTCONFIG_FILE=$run_folder/faces.conf
+  cat >"$FONTCONFIG_FILE" <<END
+<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir><cachedir>$run_folder/faces</cachedir></fontconfig>
+END
+  /usr/lib/wine/wineserver -k
+  /usr/lib/wine/wineserver -w
+  WINEPREFIX=$run_folder/bare
+  (wine wineboot -i) >/dev/null 2>&1 || fail "wine does not start without faces"
+  start_game --scale 1
+  wait_for 20 "the box about faces" is_box
+  sleep 0.3
+  shot no-faces
+  keys Return
+  wait_for 10 "the title without faces" is_wide 496
+  stop_game
+  start_game --scale 1 --language en
+  wait_for 20 "the English title without faces" is_wide 496
+  shot no-faces-english
+  stop_game
+}
+
 # A save among the slots, and a battle in the field.
 fight_in_english() {
   menu $file_menu 1
@@ -81,4 +114,5 @@ start_game --scale 1 --seed 26
 see_title
 fight_in_english
 stop_game
+lack_faces
 echo "under wine: in English by an option, a variable and a choice, which is remembered; Japanese by default"

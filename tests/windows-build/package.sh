@@ -44,11 +44,24 @@ install || fault "the installer fails over an installed game"
 [ "$(cat "$place/game/Save01.sav")" = mine ] || fault "the installer has overwritten a save"
 cmp "$place/game/Item.dat" "$build/bin/game/Item.dat" || fault "the installer has not renewed Item.dat"
 
+# What a game that is not this one keeps among the local data is not the uninstaller's.
+local=$(find "$ORVANE_WINE/drive_c/users" -type d -path '*/AppData/Local' -not -path '*/Public/*' | head -n 1)
+mkdir -p "$local/Orvane/game"
+echo en >"$local/Orvane/language.txt"
+echo other >"$local/Orvane/game/Save01.sav"
+
 # Given its folder it removes the game by itself, not by a copy that goes on behind it.
-"$here/wine.sh" "$place/uninstall.exe" /S "_?=Z:${place//\//\\}" || fault "the uninstaller fails"
+cp "$place/uninstall.exe" "$work"
+uninstall() { "$here/wine.sh" "$work/uninstall.exe" /S "_?=Z:${place//\//\\}"; }
+uninstall || fault "the uninstaller fails"
 left=$(cd "$place" && find . -type f | sort | tr '\n' ' ')
 expected=$(for slot in 01 02 03 04 05 06 07 08 09 10; do echo -n "./game/Save$slot.sav "; done)
 [ "${left/.\/uninstall.exe /}" = "$expected" ] || fault "uninstalled it leaves $left"
 [ "$(cat "$place/game/Save01.sav")" = mine ] || fault "the uninstaller has touched a save"
 [ ! -e "$menu/Programs/Orvane.lnk" ] || fault "the entry of the start menu stays"
+[ ! -e "$local/Orvane/language.txt" ] || fault "the choice of the language stays"
+[ "$(cat "$local/Orvane/game/Save01.sav")" = other ] || fault "the uninstaller has touched another game's save"
+rm -r "$local/Orvane/game"
+uninstall || fault "the uninstaller fails where little is left"
+[ ! -e "$local/Orvane" ] || fault "an empty folder stays among the local data"
 no_faults "packed, installed, renewed and removed"

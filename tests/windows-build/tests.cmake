@@ -17,7 +17,7 @@ set_property(TEST ${tests} system-begins system-ends APPEND PROPERTY
 # Those in windows, each on a display and in a system of its own.
 file(GLOB windows_test_sources CONFIGURE_DEPENDS unit/windows/*.cpp)
 add_executable(orvane-windows-unit ${windows_test_sources})
-target_link_libraries(orvane-windows-unit PRIVATE orvane-windows oleacc oleaut32 GTest::gtest_main)
+target_link_libraries(orvane-windows-unit PRIVATE orvane-windows imm32 GTest::gtest_main)
 target_compile_definitions(orvane-windows-unit PRIVATE ORVANE_GAME_FOLDER="${ORVANE_GAME_FOLDER}")
 orvane_compile_fast(orvane-windows-unit)
 set(shots ${CMAKE_BINARY_DIR}/screenshots)

@@ -85,6 +85,10 @@ Section "Uninstall"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\Orvane.lnk"
+  ; What the player has chosen goes with the program. A game folder beside it holds saves of copies that could not be
+  ; written beside themselves, and stays.
+  Delete "$LOCALAPPDATA\Orvane\language.txt"
+  RMDir "$LOCALAPPDATA\Orvane"
   DeleteRegKey HKCU "${LIST_KEY}"
   DeleteRegKey HKCU "${OWN_KEY}"
 SectionEnd

@@ -1,22 +1,94 @@
 #include "src/frontend/windows/access/speech.h"
 
-// The identifiers of the interfaces are made here. After the system's first header.
-// clang-format off
-#include <initguid.h>
-#include <oleacc.h>
-// clang-format on
+#include <memory>
 
+#include "src/frontend/windows/access/forwarding_object.h"
 #include "src/platform/windows/wide_text.h"
 
 namespace orvane {
 namespace {
 
-constexpr DWORD kWindow = static_cast<DWORD>(OBJID_CLIENT);
+// What is told of a window; what is empty, or 0, the system tells.
+struct Told {
+  std::wstring Name;
+  std::wstring Description;
+  LONG Role = 0;
+};
 
-void SetText(IAccPropServices* services, HWND window, const MSAAPROPID& property,
-             const std::string& text) {
-  if (services == nullptr || text.empty()) return;
-  services->SetHwndPropStr(window, kWindow, CHILDID_SELF, property, Wide(text).c_str());
+BSTR Copy(const std::wstring& text) {
+  return SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+}
+
+bool IsSelf(const VARIANT& child) {
+  return child.vt == VT_I4 && child.lVal == CHILDID_SELF;
+}
+
+// Readers may keep it longer than the window lasts.
+class ToldObject : public ForwardingObject {
+ public:
+  ToldObject(IAccessible* own, std::shared_ptr<const Told> told)
+      : ForwardingObject(own), told_(std::move(told)) {}
+
+  HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* name) override {
+    if (!IsSelf(child) || told_->Name.empty()) return ForwardingObject::get_accName(child, name);
+    *name = Copy(told_->Name);
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR* description) override {
+    if (!IsSelf(child) || told_->Description.empty()) {
+      return ForwardingObject::get_accDescription(child, description);
+    }
+    *description = Copy(told_->Description);
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE get_accRole(VARIANT child, VARIANT* role) override {
+    if (!IsSelf(child) || told_->Role == 0) return ForwardingObject::get_accRole(child, role);
+    role->vt = VT_I4;
+    role->lVal = told_->Role;
+    return S_OK;
+  }
+
+ private:
+  std::shared_ptr<const Told> told_;
+};
+
+// The answer to a reader's question; 0 where the system is to answer.
+LRESULT Answer(HWND window, WPARAM w, const std::shared_ptr<const Told>& told) {
+  IAccessible* own = ForwardingObject::SystemsOwn(window);
+  if (own == nullptr) return 0;
+  IAccessible* object = new ToldObject(own, told);
+  const LRESULT answer = LresultFromObject(__uuidof(IAccessible), w, object);
+  object->Release();
+  return answer;
+}
+
+constexpr UINT_PTR kSubclass = 1;
+constexpr const wchar_t* kProperty = L"OrvaneTold";
+
+using SharedTold = std::shared_ptr<Told>;
+
+LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR /*id*/,
+                         DWORD_PTR data) {
+  auto* told = reinterpret_cast<SharedTold*>(data);
+  if (message == WM_NCDESTROY) {
+    RemovePropW(window, kProperty);
+    RemoveWindowSubclass(window, &Receive, kSubclass);
+    delete told;
+  } else if (message == WM_GETOBJECT && static_cast<LONG>(l) == OBJID_CLIENT) {
+    if (const LRESULT answer = Answer(window, w, *told)) return answer;
+  }
+  return DefSubclassProc(window, message, w, l);
+}
+
+// From the first call on the window answers by it.
+Told& Of(HWND window) {
+  auto* told = static_cast<SharedTold*>(GetPropW(window, kProperty));
+  if (told == nullptr) {
+    told = new SharedTold(std::make_shared<Told>());
+    SetPropW(window, kProperty, told);
+    SetWindowSubclass(window, &Receive, kSubclass, reinterpret_cast<DWORD_PTR>(told));
+  }
+  return **told;
 }
 
 LONG NumberOf(Speech::Role role) {
@@ -34,32 +106,26 @@ LONG NumberOf(Speech::Role role) {
 }  // namespace
 
 Speech::Speech() {
-  void* made = nullptr;
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  const HRESULT result =
-      CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC, IID_IAccPropServices, &made);
-  if (SUCCEEDED(result)) services_ = static_cast<IAccPropServices*>(made);
 }
 
 Speech::~Speech() {
-  if (services_ != nullptr) services_->Release();
   CoUninitialize();
 }
 
-void Speech::SetName(HWND window, const std::string& name) const {
-  SetText(services_, window, PROPID_ACC_NAME, name);
+void Speech::SetName(HWND window, const std::string& name) {
+  std::wstring& told = Of(window).Name;
+  const bool is_new = told.empty();
+  told = Wide(name);
+  if (!is_new) NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
 }
 
-void Speech::SetDescription(HWND window, const std::string& description) const {
-  SetText(services_, window, PROPID_ACC_DESCRIPTION, description);
+void Speech::SetDescription(HWND window, const std::string& description) {
+  Of(window).Description = Wide(description);
 }
 
-void Speech::SetRole(HWND window, Role role) const {
-  if (services_ == nullptr) return;
-  VARIANT number{};
-  number.vt = VT_I4;
-  number.lVal = NumberOf(role);
-  services_->SetHwndProp(window, kWindow, CHILDID_SELF, PROPID_ACC_ROLE, number);
+void Speech::SetRole(HWND window, Role role) {
+  Of(window).Role = NumberOf(role);
 }
 
 bool Speech::IsHeard() {

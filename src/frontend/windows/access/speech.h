@@ -1,15 +1,15 @@
-// What screen readers are told of windows whose text does not say it.
+// What screen readers are told of windows whose kind and text do not say it.
 #pragma once
 
 #include <string>
 
 #include "src/frontend/windows/system/windows_api.h"
 
-struct IAccPropServices;  // the system's
-
 namespace orvane {
 
-// Tells by the system's own annotations; where it takes none, nothing happens.
+// Readers ask a window by a message. What has been set here they get as the answer, all else from
+// the system's own description of the window. While one of these lives, readers in other processes
+// can ask.
 class Speech {
  public:
   Speech();
@@ -17,12 +17,13 @@ class Speech {
   Speech(const Speech&) = delete;
   Speech& operator=(const Speech&) = delete;
 
-  // What a window is called, or what is to be known about it besides; nothing for an empty text.
-  void SetName(HWND window, const std::string& name) const;
-  void SetDescription(HWND window, const std::string& description) const;
+  // What a window of this thread is called, or what is to be known about it besides; an empty text
+  // leaves it to the system.
+  static void SetName(HWND window, const std::string& name);
+  static void SetDescription(HWND window, const std::string& description);
 
   enum class Role { Picture, Button, Group };
-  void SetRole(HWND window, Role role) const;
+  static void SetRole(HWND window, Role role);
 
   // Whether a screen reader runs. Looked after once a second.
   bool IsHeard();
@@ -30,7 +31,6 @@ class Speech {
   static void Alert(HWND window);
 
  private:
-  IAccPropServices* services_ = nullptr;
   unsigned long long looked_ = 0;  // when, in ms of the system's clock
   bool heard_ = false;
 };

@@ -47,7 +47,7 @@ int RunGame(const Options& options, Translator& texts) {
     ShowProblem(problem);
     return EXIT_FAILURE;
   }
-  if (const std::string hint = Fonts::Hint(); !hint.empty()) ShowProblem(hint);
+  if (const std::string hint = Fonts::Hint(); texts.IsOwn() && !hint.empty()) ShowProblem(hint);
   SoundEngine sound;
   PlayersChance chance(options.Seed);
   FolderStorage files(home.Folder);

@@ -110,7 +110,8 @@ std::string Fonts::Hint() {
   return "日本語のフォントがないため、文字が正しく表示されません。設定の「オプション機能」から"
          "「日本語補助フォント」を追加してください。\n\n"
          "No installed font has Japanese letters, so texts show as boxes. Add the optional feature "
-         "\"Japanese Supplemental Fonts\" in the system's settings.";
+         "\"Japanese Supplemental Fonts\" in the system's settings, or play in English: click the "
+         "game with the right button.";
 }
 
 }  // namespace orvane

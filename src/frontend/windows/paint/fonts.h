@@ -21,7 +21,7 @@ class Fonts {
   // less. It lasts as long as this.
   HFONT Get(const Font& font, int pixels, double squeeze = 1);
 
-  // What to tell the player of this system's faces, or nothing.
+  // What to tell a player of the game in Japanese of this system's faces, or nothing.
   static std::string Hint();
 
  private:

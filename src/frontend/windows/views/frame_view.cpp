@@ -47,7 +47,7 @@ void FrameGround::PaintGround(HDC context, const RECT& /*part*/) {
 FrameView::FrameView(Frame& model, Ground& ground, const Setting& setting)
     : View(model, setting), model_(model), ground_(ground, setting) {
   Adopt(ground_.Handle());
-  setting.TheSpeech.SetRole(Handle(), Speech::Role::Group);
+  Speech::SetRole(Handle(), Speech::Role::Group);
 }
 
 void FrameView::FollowValues(bool all) {

@@ -94,7 +94,7 @@ LRESULT PictureGround::Take(UINT message, WPARAM w, LPARAM l) {
 PictureView::PictureView(PictureBox& model, const Ground& ground, const Setting& setting)
     : View(model, setting), model_(model), ground_(model, ground, setting) {
   Adopt(ground_.Handle());
-  setting.TheSpeech.SetRole(Handle(), model.OnClick ? Speech::Role::Button : Speech::Role::Picture);
+  Speech::SetRole(Handle(), model.OnClick ? Speech::Role::Button : Speech::Role::Picture);
 }
 
 Ground* PictureView::GroundOf(int /*pane*/) {
@@ -109,12 +109,11 @@ void PictureView::FollowValues(bool all) {
 }
 
 void PictureView::Announce() {
-  Speech& speech = TheSetting().TheSpeech;
-  if (!speech.IsHeard()) return;
+  if (!TheSetting().TheSpeech.IsHeard()) return;
   const std::string text = SpokenText(model_, TheSetting().TheEvents.Texts());
   if (text == told_) return;
   told_ = text;
-  speech.SetDescription(Handle(), text);
+  Speech::SetDescription(Handle(), text);
   // A text that has gone is no reason to interrupt the player.
   if (!text.empty()) Speech::Alert(Handle());
 }

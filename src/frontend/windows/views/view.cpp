@@ -37,6 +37,11 @@ void View::MakeControl(const Ground& ground, const wchar_t* kind, DWORD style, D
   SetWindowSubclass(handle_, &View::Receive, kSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
+void View::Adopt(HWND window) {
+  handle_ = window;
+  SetPropW(handle_, kProperty, this);
+}
+
 bool View::TakeBefore(UINT /*message*/, WPARAM /*w*/, LPARAM /*l*/, LRESULT& /*result*/) {
   return false;
 }

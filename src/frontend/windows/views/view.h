@@ -66,7 +66,7 @@ class View {
   // Makes the system's control of this class on a ground.
   void MakeControl(const Ground& ground, const wchar_t* kind, DWORD style, DWORD extended = 0);
   // The window is one that has been made already.
-  void Adopt(HWND window) { handle_ = window; }
+  void Adopt(HWND window);
 
   // Messages of the system's control, before it gets them. True with the result where it is not to
   // have one.

@@ -60,13 +60,17 @@ void NameForReaders(const View& view, const Setting& setting) {
   const Translator& texts = setting.TheEvents.Texts();
   const Control& control = view.Model();
   if (control.Kind() == ControlKind::Label) {
-    setting.TheSpeech.SetDescription(view.Handle(), texts.Of(SpokenMeaning(control)));
+    const std::string meaning = texts.Of(SpokenMeaning(control));
+    if (!meaning.empty()) Speech::SetDescription(view.Handle(), meaning);
     return;
   }
   const std::string name = texts.Of(SpokenName(control));
-  setting.TheSpeech.SetName(view.Handle(), name);
-  // Pictures have no other use for the text of their windows.
-  if (control.Kind() == ControlKind::Picture) SetWindowTextW(view.Handle(), Wide(name).c_str());
+  if (control.Kind() == ControlKind::Picture) {
+    // It has no other use for the text of its window.
+    SetWindowTextW(view.Handle(), Wide(name).c_str());
+  } else if (!name.empty()) {
+    Speech::SetName(view.Handle(), name);
+  }
 }
 
 }  // namespace orvane

@@ -28,12 +28,11 @@ void ClientArea::Follow(bool all) {
 }
 
 void ClientArea::Announce() {
-  Speech& speech = setting_.TheSpeech;
-  if (!speech.IsHeard()) return;
+  if (!setting_.TheSpeech.IsHeard()) return;
   const std::string text = SpokenText(screen_, setting_.TheEvents.Texts());
   if (text == told_) return;
   told_ = text;
-  speech.SetDescription(Handle(), text);
+  Speech::SetDescription(Handle(), text);
   if (!text.empty()) Speech::Alert(Handle());
 }
 

@@ -44,6 +44,12 @@ TEST(BroughtSavesTest, AnArchiveBringsItsSavesWithoutTheirFolders) {
   EXPECT_EQ(ReadBrought("one.zip", one, "Save03.sav").Saves, (NamedFiles{{"Save03.sav", Save(1)}}));
 }
 
+TEST(BroughtSavesTest, HiddenCompanionsOfSavesAreLeftOut) {
+  const std::string archive =
+      WriteZip({{"mine/Save01.sav", Save(1)}, {"__MACOSX/mine/._Save01.sav", "of another kind"}});
+  EXPECT_EQ(ReadBrought("all.zip", archive, "").Saves, (NamedFiles{{"Save01.sav", Save(1)}}));
+}
+
 TEST(BroughtSavesTest, AllAreTakenOrNone) {
   const std::string archive = WriteZip({{"Save01.sav", Save(1)}, {"Save02.sav", "short"}});
   const BroughtSaves brought = ReadBrought("all.zip", archive, "");

@@ -10,6 +10,12 @@ std::string WithoutFolders(const std::string& name) {
   return name.substr(name.find_last_of('/') + 1);  // none: from the beginning
 }
 
+// Archives of some systems hold a hidden companion of each file, named as the file is.
+bool IsSave(const std::string& path) {
+  const std::string name = WithoutFolders(path);
+  return MatchesPattern(name, "*.sav") && !name.starts_with('.');
+}
+
 }  // namespace
 
 BroughtSaves ReadBrought(const std::string& name, std::string_view bytes, const std::string& slot) {
@@ -22,8 +28,7 @@ BroughtSaves ReadBrought(const std::string& name, std::string_view bytes, const 
     if (!files) return refuse(name + "：ファイルが壊れています。");
     saves = *files;
   }
-  std::erase_if(
-      saves, [](const auto& file) { return !MatchesPattern(WithoutFolders(file.first), "*.sav"); });
+  std::erase_if(saves, [](const auto& file) { return !IsSave(file.first); });
   if (saves.empty()) return refuse(name + "：セーブデータが入っていません。");
   for (auto& [path, content] : saves) {
     const std::string problem = SaveProblem(content);

@@ -1,7 +1,6 @@
 #include "src/ui/surface.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -43,11 +42,6 @@ namespace {
 
 size_t Area(int width, int height) {
   return static_cast<size_t>(std::max(0, width)) * static_cast<size_t>(std::max(0, height));
-}
-
-uint64_t NextRevision() {
-  static std::atomic<uint64_t> last = 0;
-  return ++last;
 }
 
 Surface::Pixels Sized(Surface::Pixels pixels, size_t size) {
@@ -102,12 +96,12 @@ void Surface::Refresh() {
     CopyUnshown();
   }
   published_ = std::exchange(unshown_, {});
-  revision_before_ = std::exchange(revision_, NextRevision());
+  revision_.Advance();
 }
 
 Bounds Surface::ChangedSince(uint64_t revision) const {
-  if (revision == revision_) return {};
-  if (revision == revision_before_) return published_;
+  if (revision == revision_.Now) return {};
+  if (revision == revision_.Before) return published_;
   return {0, 0, width_, height_};
 }
 

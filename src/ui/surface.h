@@ -42,6 +42,21 @@ struct Bounds {
   void Include(const Bounds& other);
 };
 
+// Counts what a surface shows: where it was counted otherwise elsewhere, it goes on here.
+struct RevisionCount {
+  uint64_t Now = 0;
+  uint64_t Before = 0;  // from which Refresh led to Now; Now where something else did
+
+  RevisionCount() = default;
+  RevisionCount(const RevisionCount&) = default;
+  ~RevisionCount() = default;
+  RevisionCount& operator=(const RevisionCount& /*other*/) {
+    Before = ++Now;
+    return *this;
+  }
+  void Advance() { Before = Now++; }
+};
+
 // A width x height picture with a backing store that is drawn on and a published copy that is
 // shown. Copies of a Surface share their pixels until one of them is drawn on.
 class Surface {
@@ -78,9 +93,9 @@ class Surface {
 
   // The published pixels, none before the first Refresh; they stay in place until the next.
   const Pixels& Shown() const;
-  // What is shown has another number after every Refresh that changed something, which what other
-  // surfaces show does not have; 0 before the first.
-  uint64_t Revision() const { return revision_; }
+  // Grows with every Refresh that changed something, and when another surface is put in this one's
+  // place.
+  uint64_t Revision() const { return revision_.Now; }
   // Outside, what is shown is as it was at that revision: a part, if that was the one before, or
   // else all.
   Bounds ChangedSince(uint64_t revision) const;
@@ -100,8 +115,7 @@ class Surface {
   std::shared_ptr<SharedPixels> shown_;  // the same as pixels_ where nothing was drawn since
   Bounds unshown_;                       // outside, nothing differs from what is shown
   Bounds touched_;
-  uint64_t revision_ = 0;
-  uint64_t revision_before_ = 0;
+  RevisionCount revision_;
   Bounds published_;  // what the last Refresh has changed
 };
 

@@ -161,6 +161,23 @@ TEST_F(FrontTest, AnInputMethodComposesInAField) {
   Run();
 }
 
+TEST_F(FrontTest, TicksGoOnUnderABox) {
+  Begin();
+  int before = 0;
+  After(200, [&] {
+    front_.Send([](Program& program) {
+      program.TheStage().Ask({"text", "title", BoxButtons::Ok}, [](BoxAnswer /*answer*/) {});
+    });
+    before = ticks_;
+    After(1000, [&] {
+      EXPECT_TRUE(program_.TheStage().BoxStands());
+      EXPECT_GE(ticks_ - before, 15) << "of about 30";
+      front_.SessionEnds();
+    });
+  });
+  Run();
+}
+
 TEST_F(FrontTest, TicksGoOnWhileAWindowIsMoved) {
   Begin();
   int before = 0;

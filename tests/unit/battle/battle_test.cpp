@@ -124,5 +124,13 @@ TEST_F(BattleTest, ASpellIsMasteredByTheWomansTable) {
   EXPECT_EQ(state_.MagicDamage[0], 100);
 }
 
+TEST_F(BattleTest, NoActionPlaysNothing) {
+  for (const int kind : {-1, 0, 99}) {
+    EXPECT_EQ(CallsOf(kind, 6), "") << kind;
+    ActionTick(battle_);
+    EXPECT_EQ(int{state_.ActionState}, 6) << "its frames do not run";
+  }
+}
+
 }  // namespace
 }  // namespace orvane

@@ -31,7 +31,7 @@ TEST_F(FolderStorageTest, ItsNameHasNoSeparatorAtTheEnd) {
   EXPECT_EQ(FolderStorage(folder_).FolderName(), name);
   EXPECT_EQ(FolderStorage(PathOf(name + "/")).FolderName(), name);
   EXPECT_EQ(FolderStorage(PathOf(name + "//")).FolderName(), name);
-  EXPECT_EQ(FolderStorage("/").FolderName(), "/");
+  EXPECT_EQ(FolderStorage(PathOf("/")).FolderName(), "/");
 }
 
 TEST_F(FolderStorageTest, ReadsFilesAndNoFolders) {

@@ -30,9 +30,9 @@ const char* ErrorKindName(ErrorKind kind) {
     case ErrorKind::File:
       return "file";
     case ErrorKind::Type:
-      return "type";
+      break;
   }
-  return "";
+  return "type";
 }
 
 }  // namespace orvane

@@ -78,7 +78,7 @@ void WriteSave(Game& game, const std::string& file, const Handler& then) {
   game.services.Files.Replace(file, bytes, [&game, file, then](const std::string& failure) {
     game.stage.Resume([file, then, failure] {
       if (!failure.empty()) throw RunError(ErrorKind::File, file + ": " + failure);
-      if (then) then();
+      then();
     });
   });
 }

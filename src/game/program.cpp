@@ -131,7 +131,6 @@ Refusal Program::Reach(Screen& screen) {
   if (!TheStage().TakesInput(screen))
     return "a box or a modal screen stands before " + screen.Name();
   Run([&] { TheStage().Activate(screen); });
-  if (HasEnded()) return "the program has ended";
   return TheStage().TakesInput(screen) ? Refusal() : screen.Name() + " has gone";
 }
 

@@ -17,13 +17,10 @@ std::string FolderStorage::FolderName() const {
 }
 
 std::optional<std::string> FolderStorage::Read(const std::string& name) const {
-  if (!Exists(name)) return std::nullopt;
-  return ReadWholeFile(path_ / PathOf(name));
-}
-
-bool FolderStorage::Exists(const std::string& name) const {
+  const std::filesystem::path file = path_ / PathOf(name);
   std::error_code failed;
-  return std::filesystem::is_regular_file(path_ / PathOf(name), failed);
+  if (!std::filesystem::is_regular_file(file, failed)) return std::nullopt;
+  return ReadWholeFile(file);
 }
 
 std::vector<std::string> FolderStorage::List(const std::string& pattern) const {

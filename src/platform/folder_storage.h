@@ -17,7 +17,6 @@ class FolderStorage : public Storage {
 
   std::string FolderName() const override;
   std::optional<std::string> Read(const std::string& name) const override;
-  bool Exists(const std::string& name) const override;
   std::vector<std::string> List(const std::string& pattern) const override;
   // Tells its outcome within the call.
   void Replace(const std::string& name, const std::string& bytes, Outcome outcome) override;

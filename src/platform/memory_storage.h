@@ -15,7 +15,6 @@ class MemoryStorage : public Storage {
  public:
   std::string FolderName() const override { return "memory"; }
   std::optional<std::string> Read(const std::string& name) const override;
-  bool Exists(const std::string& name) const override { return Files.contains(name); }
   std::vector<std::string> List(const std::string& pattern) const override;
   void Replace(const std::string& name, const std::string& bytes, Outcome outcome) override;
 

@@ -25,8 +25,6 @@ class Storage {
   // what is written into it by other hands may show. Null if it is missing or cannot be read.
   virtual std::shared_ptr<const std::string> Open(const std::string& name) const;
 
-  virtual bool Exists(const std::string& name) const = 0;
-
   // Names of the files in the game folder itself that match a pattern with "*", sorted. Letters
   // match in both cases.
   virtual std::vector<std::string> List(const std::string& pattern) const = 0;

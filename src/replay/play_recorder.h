@@ -76,7 +76,6 @@ class PlayRecorder : public PlayWatcher {
     std::string FolderName() const override { return files_.FolderName(); }
     std::optional<std::string> Read(const std::string& name) const override;
     std::shared_ptr<const std::string> Open(const std::string& name) const override;
-    bool Exists(const std::string& name) const override;
     std::vector<std::string> List(const std::string& pattern) const override;
     void Replace(const std::string& name, const std::string& bytes, Outcome outcome) override;
 

@@ -63,7 +63,6 @@ class Replayer::Given : public SoundDevice, public Chance, public Storage {
     if (found == files_.end()) replayer_.Differ("a read of " + name + ", which was not recorded");
     return found->second;
   }
-  bool Exists(const std::string& name) const override { return Read(name).has_value(); }
   std::vector<std::string> List(const std::string& pattern) const override {
     const auto found = listed_.find(pattern);
     if (found == listed_.end()) replayer_.Differ("a list of " + pattern + " that was not recorded");

@@ -41,7 +41,6 @@ void JobThread::Run() {
     }
     if (leaving_.stop_requested()) break;
     if (!job) {
-      if (jobs_.empty()) continue;
       job = std::move(jobs_.front());
       jobs_.pop_front();
     }

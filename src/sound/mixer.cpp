@@ -70,8 +70,9 @@ void Mixer::Carry(Message& message) {
       channel.Held = message.Opened;
       if (const auto* clip = std::get_if<std::shared_ptr<const Clip>>(&message.Opened)) {
         channel.Effect.emplace(*clip, rate_);
-      } else if (const auto* piece = std::get_if<std::shared_ptr<const Piece>>(&message.Opened)) {
-        channel.Music.emplace(*piece, FreeBank(), rate_);
+      } else {
+        channel.Music.emplace(std::get<std::shared_ptr<const Piece>>(message.Opened), FreeBank(),
+                              rate_);
       }
       break;
     case Message::Kind::Play:

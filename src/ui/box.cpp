@@ -9,9 +9,9 @@ bool Offers(BoxButtons buttons, BoxAnswer answer) {
     case BoxButtons::OkCancel:
       return answer == BoxAnswer::Ok || answer == BoxAnswer::Cancel;
     case BoxButtons::YesNo:
-      return answer == BoxAnswer::Yes || answer == BoxAnswer::No;
+      break;
   }
-  return false;
+  return answer == BoxAnswer::Yes || answer == BoxAnswer::No;
 }
 
 BoxAnswer AnswerOfClosing(BoxButtons buttons) {

@@ -132,7 +132,7 @@ void Stage::RunDue() {
   while (!due_.empty() && IsRunning()) {
     const Handler follow = std::move(due_.front());
     due_.pop_front();
-    if (follow) follow();
+    follow();
   }
 }
 

@@ -40,6 +40,11 @@ void DrawGround(BattleScreen& battle, const Rect& target, const Rect& area) {
   }
 }
 
+// A rectangle of cells in pixels, by the size of one cell.
+Rect InPixels(const Rect& cells, int width, int height) {
+  return {width * cells.X, height * cells.Y, width * cells.Width, height * cells.Height};
+}
+
 const Cell& BigCellOf(const State& state) {
   return state.BossFight == kTrue ? kRoundBossCell : kBigCell;
 }
@@ -84,11 +89,9 @@ void DrawEffect(BattleScreen& battle, int column, int row, const Rect& target) {
 }
 
 void RedrawCells(BattleScreen& battle, const Rect& cells) {
-  DrawGround(battle,
-             {kSceneCellWidth * cells.X, kSceneCellHeight * cells.Y, kSceneCellWidth * cells.Width,
-              kSceneCellHeight * cells.Height},
-             {kSheetCellWidth * cells.X, kSheetCellHeight * cells.Y, kSheetCellWidth * cells.Width,
-              kSheetCellHeight * cells.Height});
+  const Rect target = InPixels(cells, kSceneCellWidth, kSceneCellHeight);
+  const Rect area = InPixels(cells, kSheetCellWidth, kSheetCellHeight);
+  DrawGround(battle, target, area);
 }
 
 Rect SlotCells(int slot) {

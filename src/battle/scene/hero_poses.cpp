@@ -28,8 +28,9 @@ constexpr Rect kHeroCells[] = {{10, 4, 2, 2}, {10, 6, 2, 2}};
 void DrawHeroAt(BattleScreen& battle, int hero, int x, int frame) {
   const Surface& sheet = hero == 0 ? battle.ManSheet.Picture : battle.WomanSheet.Picture;
   const int column = frame % 3 * kCellWidth;
-  DrawSprite(battle, {x, kLineY[hero], kWidth, kHeight}, sheet,
-             {kMasks + column, kFacingRow, column, kFacingRow, kCellWidth, kCellHeight});
+  const Rect target{x, kLineY[hero], kWidth, kHeight};
+  const Cell cell{kMasks + column, kFacingRow, column, kFacingRow, kCellWidth, kCellHeight};
+  DrawSprite(battle, target, sheet, cell);
 }
 
 void DrawHeroes(BattleScreen& battle) {

@@ -109,10 +109,10 @@ Synth::~Synth() = default;
 Patch Synth::Parts::Resolve(const Patch& patch) const {
   fluid_sfont_t* font = fluid_synth_get_sfont_by_id(Voices, Font);
   const int bank = patch.Bank == kDrumBank ? kDrumBank : 0;
-  for (const Patch& choice : {patch, Patch{bank, patch.Program}, Patch{bank, 0}}) {
+  for (const Patch& choice : {patch, Patch{bank, patch.Program}}) {
     if (fluid_sfont_get_preset(font, choice.Bank, choice.Program) != nullptr) return choice;
   }
-  return patch;
+  return {bank, 0};
 }
 
 void Synth::Parts::Select(int channel, const Patch& patch) const {
@@ -197,8 +197,6 @@ void Synth::Send(int bank, const SongEvent& event) {
       break;
     case 14:
       fluid_synth_pitch_bend(parts_->Voices, channel, bend);
-      break;
-    default:
       break;
   }
 }

@@ -44,7 +44,6 @@ void Try(Input& input) {
   static const ScratchFolder scratch;
   FolderStorage folder(PathOf(scratch.Path()));
   folder.Read(name);
-  folder.Exists(name);
   const auto listed = folder.List(pattern);
   Require(std::is_sorted(listed.begin(), listed.end()), "names are listed in order");
 }

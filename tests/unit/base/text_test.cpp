@@ -15,6 +15,20 @@ TEST(Text, CountsCharactersAndNotBytes) {
   EXPECT_EQ(LeftChars("アキラ", 9), "アキラ");
 }
 
+TEST(Text, ABrokenByteCountsAsOneCharacter) {
+  EXPECT_EQ(CharCount("\xE3\x81"), 2) << "the end cuts a character";
+  EXPECT_EQ(CharCount("\xE3"
+                      "ab"),
+            3)
+      << "a character is cut by the next";
+  EXPECT_EQ(LeftChars("\xE3"
+                      "ab",
+                      2),
+            "\xE3"
+            "a");
+  EXPECT_EQ(CharCount("\x81\x81"), 2) << "there is no beginning";
+}
+
 TEST(Text, TrimTakesBlanksAtBothEnds) {
   EXPECT_EQ(Trim("  なし  "), "なし");
   EXPECT_EQ(Trim("    "), "");
@@ -51,6 +65,14 @@ TEST(Cp932, WhatItLacksBecomesAQuestionMark) {
   EXPECT_EQ(FromCp932("\x81"), "？") << "half a character";
   EXPECT_EQ(FromCp932("\x81\x20"), "？ ") << "the byte after it stands for itself";
   EXPECT_EQ(FromCp932("\xFF"), "？");
+}
+
+TEST(Cp932, AByteThatIsNoCharacterBecomesAQuestionMark) {
+  EXPECT_EQ(ToCp932("\xE3"), "\x81\x48");
+  EXPECT_EQ(ToCp932("\x81"
+                    "A"),
+            "\x81\x48"
+            "A");
 }
 
 TEST(Cp932, ABadByteNeverTakesTheNextOneWithIt) {

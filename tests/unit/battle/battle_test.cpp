@@ -7,6 +7,8 @@
 #include "src/battle/flow/turn_engine.h"
 #include "src/battle/rules/enemy_table.h"
 #include "src/battle/rules/rewards.h"
+#include "src/battle/scene/spell_animation.h"
+#include "src/battle/scene/technique_animation.h"
 #include "src/battle/skill_table.h"
 #include "src/core/game.h"
 #include "src/platform/quiet_services.h"
@@ -122,6 +124,30 @@ TEST_F(BattleTest, ASpellIsMasteredByTheWomansTable) {
   state_.MagicMaster[0] = 30;
   CallsOf(Action::Spell, 26);
   EXPECT_EQ(state_.MagicDamage[0], 100);
+}
+
+TEST_F(BattleTest, NoActionPlaysNothing) {
+  for (const int kind : {-1, 0, 99}) {
+    EXPECT_EQ(CallsOf(kind, 6), "") << kind;
+    ActionTick(battle_);
+    EXPECT_EQ(int{state_.ActionState}, 6) << "its frames do not run";
+  }
+}
+
+TEST_F(BattleTest, ARowBehindTheLastSkillHasNoPicture) {
+  battle_.Scene.Picture.Refresh();
+  for (auto* play : {PlayTechniqueFrame, PlaySpellFrame}) {
+    const auto drawn = [&](int row) {
+      battle_.Skills.ListIndex = row;
+      const Surface::Pixels before = battle_.Scene.Picture.Shown();
+      for (int frame = 6; frame <= 24; ++frame) play(battle_, frame);
+      return before != battle_.Scene.Picture.Shown();
+    };
+    EXPECT_FALSE(drawn(11));
+    EXPECT_EQ(battle_.HeroActionName.Caption, "");
+    EXPECT_TRUE(drawn(1));
+    EXPECT_NE(battle_.HeroActionName.Caption, "");
+  }
 }
 
 }  // namespace

@@ -106,5 +106,14 @@ TEST(MapName, IsARoomsOwnForARoom) {
   EXPECT_EQ(MapFile({0, 0, kLastBookRoom}), "Mapdata/BookF.dat");
 }
 
+TEST_F(MapFileTest, NothingBeforeACommaIsZero) {
+  Write(",5,," + Numbers(477, ","));
+  Read();
+  EXPECT_EQ(int{tiles[0][0]}, 0);
+  EXPECT_EQ(int{tiles[0][1]}, 5);
+  EXPECT_EQ(int{tiles[0][2]}, 0);
+  EXPECT_EQ(int{tiles[0][4]}, 1);
+}
+
 }  // namespace
 }  // namespace orvane

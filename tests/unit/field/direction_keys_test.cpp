@@ -129,5 +129,22 @@ TEST(Walkable, CountsTheCodesAtTheEdgesOfTheRanges) {
   EXPECT_EQ(walkable, 114);
 }
 
+TEST(DirectionKeys, AKeyThatWasStoppedDoesNotComeBackAfterItself) {
+  SharedState state;
+  After("UR", state);
+  state.KeyRight = kFalse;  // as the warning of a full bag does; LastKey stays
+  EXPECT_EQ(After("U", state), "U1");
+  EXPECT_EQ(After("u", state), "0") << "it was the one displaced last, and does not drive again";
+}
+
+TEST(DirectionKeys, ALastKeyThatIsNoneIsNotFollowed) {
+  for (const int last : {-1, 5}) {
+    SharedState state;
+    After("U", state);
+    state.LastKey = last;
+    EXPECT_EQ(After("u", state), "0");
+  }
+}
+
 }  // namespace
 }  // namespace orvane

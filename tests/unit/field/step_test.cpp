@@ -190,5 +190,20 @@ TEST(Step, BeginsWhereAFreshRecordHasTheParty) {
   EXPECT_EQ((record.SaveY - 1) * kTileSize, kGameStart.Y);
 }
 
+TEST(Party, IsTheSameOnlyWhereEverythingIs) {
+  const Party party{3, 2, 192, 96, kSpringRoom, true, 10, 20};
+  EXPECT_EQ(party, party);
+  for (const Party& other : {Party{4, 2, 192, 96, kSpringRoom, true, 10, 20},
+                             Party{3, 3, 192, 96, kSpringRoom, true, 10, 20},
+                             Party{3, 2, 196, 96, kSpringRoom, true, 10, 20},
+                             Party{3, 2, 192, 92, kSpringRoom, true, 10, 20},
+                             Party{3, 2, 192, 96, kLastBookRoom, true, 10, 20},
+                             Party{3, 2, 192, 96, kSpringRoom, false, 10, 20},
+                             Party{3, 2, 192, 96, kSpringRoom, true, 11, 20},
+                             Party{3, 2, 192, 96, kSpringRoom, true, 10, 21}}) {
+    EXPECT_NE(party, other) << Told(other);
+  }
+}
+
 }  // namespace
 }  // namespace orvane

@@ -97,5 +97,19 @@ TEST_F(PlayerFolderTest, TellsWhatIsWrong) {
             std::string::npos);
 }
 
+TEST_F(PlayerFolderTest, TellsWhichFolderWithinCannotBeMade) {
+  Write(own_ / "Sound", "a file where a folder should be");
+  EXPECT_NE(Prepare().find("cannot make the folder"), std::string::npos);
+  EXPECT_NE(Prepare().find("Sound"), std::string::npos);
+}
+
+TEST_F(PlayerFolderTest, TellsWhichFileCannotBeRead) {
+  std::error_code no_such_links;
+  fs::create_symlink(base_ / "nothing", installed_ / "Sound" / "Round3.mid", no_such_links);
+  if (no_such_links) GTEST_SKIP() << "no links here";
+  EXPECT_NE(Prepare().find("cannot read"), std::string::npos);
+  EXPECT_NE(Prepare().find("Round3.mid"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace orvane

@@ -386,5 +386,48 @@ TEST(BitBlt, LeavesOutWhatLiesFarOutside) {
   EXPECT_EQ(Painted(target, 1), 12) << "one column lies inside both";
 }
 
+TEST(Surface, NothingIsShownBeforeTheFirstRefresh) {
+  Surface surface(3, 2, 0x123456);
+  EXPECT_EQ(surface.ShownAt(2, 1), 0u);
+  EXPECT_TRUE(surface.Shown().empty());
+  surface.Refresh();
+  EXPECT_EQ(surface.ShownAt(2, 1), 0x123456u);
+}
+
+TEST(StretchBlt, ASizeOfNothingDrawsNothing) {
+  const Surface source(4, 4, 0x123456);
+  Surface target(4, 4, 0xFFFFFF);
+  for (const Rect& none :
+       {Rect{0, 0, 0, 4}, Rect{0, 0, 4, 0}, Rect{0, 0, -1, 4}, Rect{0, 0, 4, -1}}) {
+    StretchBlt(target, none, source, {0, 0, 2, 2}, Blit::Copy);
+    StretchBlt(target, {0, 0, 4, 4}, source, none, Blit::Copy);
+  }
+  EXPECT_EQ(Painted(target, 0xFFFFFF), 16);
+}
+
+TEST(FillBox, IsClippedAtEveryEdgeAndMayLieOutside) {
+  Surface target(4, 4, 0);
+  FillBox(target, -9, 1, -1, 2, 1);
+  FillBox(target, 4, 1, 9, 2, 1);
+  FillBox(target, 1, -9, 2, -1, 1);
+  FillBox(target, 1, 4, 2, 9, 1);
+  EXPECT_EQ(Painted(target, 1), 0);
+  FillBox(target, 9, 9, 2, 3, 1);
+  EXPECT_EQ(Painted(target, 1), 2);
+}
+
+TEST(DrawCircle, OutsideOrWithoutARadiusItDrawsNothing) {
+  Surface target(8, 8, 0);
+  DrawCircle(target, 4, 4, -1, 1);
+  DrawCircle(target, 4, 4, std::numeric_limits<int>::max(), 1);
+  DrawCircle(target, -4, 4, 3, 1);
+  DrawCircle(target, 12, 4, 3, 1);
+  DrawCircle(target, 4, -4, 3, 1);
+  DrawCircle(target, 4, 12, 3, 1);
+  EXPECT_EQ(Painted(target, 1), 0);
+  DrawCircle(target, 4, 4, 0, 1);
+  EXPECT_EQ(Painted(target, 1), 1);
+}
+
 }  // namespace
 }  // namespace orvane

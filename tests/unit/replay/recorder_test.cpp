@@ -1,0 +1,237 @@
+// What a record takes down of events, chance and files, and when it takes down nothing.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "src/replay/replayer.h"
+#include "src/replay/sums.h"
+#include "tests/unit/replay/recorded_play.h"
+
+namespace orvane {
+namespace {
+
+// A generator of which some draws are dictated, as scripts do.
+class HalfDictated : public Chance {
+ public:
+  explicit HalfDictated(std::optional<uint32_t> seed) : luck_(seed) {}
+  float Draw() override { return ++drawn_ % Every == 0 ? 0.25F : luck_.Draw(); }
+  void Reseed() override { luck_.Reseed(); }
+  const SeededDraws* Source() const override { return luck_.Source(); }
+
+  int Every = 3;
+
+ private:
+  PlayersChance luck_;
+  int drawn_ = 0;
+};
+
+class RecorderTest : public testing::Test {
+ protected:
+  // What the record says of the play when it is played again; empty where nothing differs.
+  std::string Difference(const std::string& bytes) const {
+    const FolderStorage built(ORVANE_GAME_FOLDER);
+    Replayer replayer(bytes, built);
+    try {
+      while (replayer.Next() != nullptr) {
+      }
+      return {};
+    } catch (const ReplayDiffers& difference) {
+      return difference.what();
+    }
+  }
+  std::string Difference() {
+    play_.TheRecorder->Close(true);
+    return Difference(play_.TheRecorder->Bytes());
+  }
+  // Starts with another chance than the play's own.
+  void StartWith(Chance& luck) {
+    play_.TheRecorder = std::make_unique<PlayRecorder>(Services{play_.Sound, luck, play_.Files});
+    play_.TheProgram = std::make_unique<Program>(play_.TheRecorder->TheServices());
+    play_.TheRecorder->Watch(*play_.TheProgram);
+    play_.TheProgram->SetWatcher(play_.TheRecorder.get());
+  }
+
+  test::RecordedPlay play_;
+};
+
+TEST_F(RecorderTest, EveryKindOfEventIsTakenDown) {
+  play_.Start();
+  play_.Begin();
+  Program& program = *play_.TheProgram;
+  EXPECT_EQ(program.ClickItem(static_cast<MenuItem&>(play_.On("Main", "m33"))), "");
+  EXPECT_EQ(program.Slide(static_cast<Slider&>(play_.On("Custom", "Slider1")), 7), "");
+  EXPECT_EQ(program.Activate(play_.ScreenOf("Main")), "");
+  EXPECT_EQ(program.Activate(play_.ScreenOf("Custom")), "");
+  EXPECT_EQ(program.Click(play_.On("Custom", "Command1")), "");
+  EXPECT_EQ(program.ClickAt(play_.On("Main", "Picture1"), 3.5, 2.25), "");
+  EXPECT_EQ(program.Press(play_.ScreenOf("Main")), "");
+  EXPECT_EQ(program.Click(play_.On("Main", "m21")), "");
+  EXPECT_EQ(program.SelectTab(static_cast<TabStrip&>(play_.On("Wepon", "SSTab1")), 1), "");
+  EXPECT_EQ(program.Close(play_.ScreenOf("Wepon")), "");
+  program.Click(play_.On("Main", "m14"));
+  program.Answer(BoxAnswer::Ok);
+  EXPECT_TRUE(program.HasEnded());
+  EXPECT_EQ(Difference(), "");
+}
+
+TEST_F(RecorderTest, ASaveThatIsKeptLaterIsTakenDownAsAnEvent) {
+  for (const std::string failure : {"", "no room"}) {
+    play_.Start();
+    play_.Begin();
+    play_.Files.AnswersLater = true;
+    play_.Save();
+    EXPECT_FALSE(play_.TheProgram->TheStage().TimeRuns());
+    play_.Files.Failure = failure;
+    play_.Files.Settle();
+    EXPECT_EQ(play_.TheProgram->Error().has_value(), !failure.empty());
+    EXPECT_EQ(Difference(), "");
+    play_.Files.AnswersLater = false;
+    play_.Files.Failure.clear();
+  }
+}
+
+TEST_F(RecorderTest, ASaveAfterTheEndOfTheRecordStillComesAbout) {
+  for (const bool later : {false, true}) {
+    play_.Start();
+    play_.Begin();
+    play_.Files.AnswersLater = later;
+    play_.TheRecorder->Close(false);
+    const std::string closed = play_.TheRecorder->Bytes();
+    play_.Walk(Direction::Right, 5);
+    play_.Save();
+    if (later) play_.Files.Settle();
+    EXPECT_TRUE(play_.TheProgram->TheStage().TimeRuns());
+    play_.TheRecorder->Close(false);
+    EXPECT_EQ(play_.TheRecorder->Bytes(), closed);
+    play_.Files.AnswersLater = false;
+  }
+}
+
+TEST_F(RecorderTest, AListOfFilesIsTakenDownAgainOnlyWhenItHasChanged) {
+  play_.Start();
+  play_.Begin();
+  const auto look = [this] {
+    const size_t before = play_.TheRecorder->Bytes().size();
+    play_.TheProgram->Click(play_.On("Main", "m12"));
+    play_.TheProgram->Close(play_.ScreenOf("Save"));
+    return play_.TheRecorder->Bytes().size() - before;
+  };
+  look();
+  const size_t same = look();
+  EXPECT_EQ(look(), same);
+  play_.Files.Files["Save07.sav"] = "";
+  EXPECT_GT(look(), same);
+  EXPECT_EQ(look(), same);
+  EXPECT_EQ(Difference(), "");
+}
+
+TEST_F(RecorderTest, AFileIsTakenDownAgainOnlyWhenItHasChanged) {
+  play_.Start();
+  play_.TheProgram->Click(play_.On("Main", "m11"));
+  const auto look = [this](int row) {
+    const size_t before = play_.TheRecorder->Bytes().size();
+    play_.TheProgram->Choose(play_.On("Load", "File1"), row);
+    return play_.TheRecorder->Bytes().size() - before;
+  };
+  look(0);
+  const size_t same = look(0);
+  EXPECT_LT(same, 100u);
+  std::string& save = play_.Files.Files["Save01.sav"];
+  save[4] = static_cast<char>(save[4] ^ 1);
+  EXPECT_GT(look(0), save.size()) << "another sum";
+  EXPECT_EQ(look(0), same);
+  save += "and more";
+  EXPECT_GT(look(0), save.size()) << "another length";
+  EXPECT_EQ(look(0), same);
+  EXPECT_EQ(Difference(), "");
+}
+
+TEST_F(RecorderTest, ARecordThatGrowsBeyondAllMeasureIsNotWhole) {
+  play_.Files.Files["Save01.sav"].resize(size_t{33} << 20);
+  play_.Start();
+  play_.TheProgram->Click(play_.On("Main", "m11"));
+  EXPECT_TRUE(play_.TheRecorder->IsWhole());
+  play_.TheProgram->Choose(play_.On("Load", "File1"), 0);
+  play_.TheProgram->Close(play_.ScreenOf("Load"));
+  EXPECT_FALSE(play_.TheRecorder->IsWhole());
+  const size_t size = play_.TheRecorder->Bytes().size();
+  play_.TheProgram->Click(play_.On("Main", "m14"));
+  EXPECT_EQ(play_.TheRecorder->Bytes().size(), size);
+}
+
+TEST_F(RecorderTest, MeddlingAfterTheEndLeavesTheRecordWhole) {
+  play_.Start();
+  play_.TheRecorder->Close(false);
+  play_.TheProgram->Enter({});
+  EXPECT_TRUE(play_.TheRecorder->IsWhole());
+}
+
+TEST_F(RecorderTest, OfMoreTimersThanTheFormatCountsThereIsNoRecord) {
+  class ManyTimers : public Screen {
+   public:
+    explicit ManyTimers(Stage& stage) : Screen(stage, "Many", "", 10, 10) {
+      for (int i = 0; i <= static_cast<int>(kMostTimers); ++i) {
+        Timers.push_back(std::make_unique<Timer>(*this, "Timer" + std::to_string(i), 10, 30));
+      }
+    }
+    std::vector<std::unique_ptr<Timer>> Timers;
+  };
+  Stage stage;
+  ManyTimers many(stage);
+  PlayRecorder recorder(Services{play_.Sound, play_.Luck, play_.Files});
+  for (int i = 0; i < static_cast<int>(kMostTimers); ++i) {
+    recorder.Comes(
+        {.What = PlayEvent::Kind::Tick, .On = many.Timers[static_cast<size_t>(i)].get()});
+    EXPECT_TRUE(recorder.IsWhole());
+  }
+  recorder.Comes({.What = PlayEvent::Kind::Tick, .On = many.Timers.back().get()});
+  EXPECT_FALSE(recorder.IsWhole());
+}
+
+TEST_F(RecorderTest, DrawsThatAreDictatedInBetweenAreTakenDown) {
+  for (const auto seed : {std::optional<uint32_t>(), std::optional<uint32_t>(7)}) {
+    for (const int every : {1, 2, 3, 5}) {
+      HalfDictated luck(seed);
+      luck.Every = every;
+      StartWith(luck);
+      play_.Begin();
+      play_.Walk(Direction::Right, 20);
+      play_.Walk(Direction::Left, 20);
+      EXPECT_EQ(Difference(), "") << "every " << every;
+      play_.TheProgram.reset();
+    }
+  }
+}
+
+TEST_F(RecorderTest, AGeneratorThatWasDrawnFromBeforeGoesOnWhereItStood) {
+  PlayersChance luck(7);
+  for (int i = 0; i < 5; ++i) luck.Draw();
+  StartWith(luck);
+  play_.Begin();
+  play_.Walk(Direction::Right, 20);
+  EXPECT_EQ(Difference(), "");
+  play_.TheProgram.reset();
+}
+
+TEST_F(RecorderTest, LongDelaysBetweenTwoSeedsAreTakenDownInFull) {
+  // The clock's seeds differ by more than the short form holds.
+  class SlowClock : public Chance {
+   public:
+    float Draw() override { return draws_.Draw(); }
+    void Reseed() override { draws_.Seed({1, 2, clock_ += 1000, ++count_}); }
+    const SeededDraws* Source() const override { return &draws_; }
+
+   private:
+    SeededDraws draws_;
+    uint32_t clock_ = 0;
+    uint32_t count_ = 0;
+  };
+  SlowClock luck;
+  StartWith(luck);
+  play_.Begin();
+  play_.Walk(Direction::Right, 20);
+  EXPECT_EQ(Difference(), "");
+  play_.TheProgram.reset();
+}
+
+}  // namespace
+}  // namespace orvane

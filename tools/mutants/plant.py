@@ -7,8 +7,8 @@ COMPILE_COMMANDS tells. Each fault stands beside the right code and is chosen wh
 `Is(17) ? a <= b : a < b`. So one build holds all of them. LIST, a JSON file, tells where each one is and what it
 changes. MOST faults are planted at most, drawn by SEED, none within another, and only in those files or folders.
 """
+import hashlib
 import json
-import random
 import re
 import sys
 from collections import Counter
@@ -146,11 +146,18 @@ class File:
 
 
 def choose(faults, most, seed):
-    """Draws the faults to plant, of each kind alike and none within another."""
-    chance = random.Random(seed)
-    chance.shuffle(faults)
-    by_kind = {}
+    """Draws the faults to plant, of each kind alike and none within another.
+
+    Each has its own lot, which follows from what it is: a change elsewhere draws no others.
+    """
+    alike = Counter()
+    lots = {}
     for fault in faults:
+        what = " ".join(str(fault[part]) for part in ("file", "routine", "kind", "right", "planted"))
+        alike[what] += 1
+        lots[id(fault)] = hashlib.sha256(f"{seed} {alike[what]} {what}".encode()).digest()
+    by_kind = {}
+    for fault in sorted(faults, key=lambda fault: lots[id(fault)]):
         by_kind.setdefault(fault["kind"], []).append(fault)
     chosen, taken = [], {}
     while len(chosen) < most and any(by_kind.values()):
@@ -210,7 +217,7 @@ def main():
     total = len(faults)
     if only:
         faults = [fault for fault in faults if fault["file"].startswith(tuple(only))]
-    chosen = choose(faults, int(most), int(seed))
+    chosen = choose(faults, int(most), seed)
     chosen = [fault for fault in chosen if (fault["file"], fault["begin"], fault["kind"]) not in refused]
     plant(root, chosen)
     Path(target).write_text(json.dumps(dict(possible=total, refused=sorted(refused), faults=chosen), indent=1))

@@ -189,7 +189,7 @@ test("the title's controls stand in their places, faces and colours", function()
       expect(get("Main." .. name .. "." .. property), face[i], name .. "." .. property)
     end
   end
-  for _, hidden in ipairs { "Picture2", "Picture3", "Picture4", "Picture5", "Picture6" } do
+  for _, hidden in ipairs { "Picture2", "Picture3", "Picture4", "Picture5", "Picture6", "Picture9", "Label8" } do
     expect(get("Main." .. hidden .. ".Visible"), false, hidden)
   end
 end)

@@ -128,6 +128,14 @@ TEST(StretchBlt, NoSizeDrawsNothing) {
   EXPECT_EQ(Painted(target, 0xFFFFFF), 16);
 }
 
+TEST(StretchBlt, TheSmallestSizesDraw) {
+  Surface target(4, 4, 0xFFFFFF);
+  StretchBlt(target, {1, 0, 1, 4}, Surface(4, 1), {0, 0, 4, 1}, Blit::Copy);
+  EXPECT_EQ(Painted(target, 0), 4) << "one column of one row";
+  StretchBlt(target, {0, 3, 4, 1}, Surface(1, 4), {0, 0, 1, 4}, Blit::Copy);
+  EXPECT_EQ(Painted(target, 0), 7) << "and one row of one column";
+}
+
 TEST(StretchBlt, WithinOneSurfaceACopyIsRead) {
   Surface surface = Numbered(8, 8);
   const Surface before = surface;
@@ -143,6 +151,9 @@ TEST(FillBox, TakesBothCornersInAnyOrder) {
   EXPECT_EQ(Painted(surface, 0xAA), 4 * 3);
   EXPECT_EQ(surface.At(5, 6), 0xAAu);
   EXPECT_EQ(surface.At(2, 4), 0xAAu);
+  FillBox(surface, 7, 1, 7, 1, 0xDD);
+  FillBox(surface, 0, 8, 0, 9, 0xDD);
+  EXPECT_EQ(Painted(surface, 0xDD), 3) << "both corners belong to it";
   FillBox(surface, -5, -5, 100, 100, 0xBB);
   EXPECT_EQ(Painted(surface, 0xBB), 100);
   FillBox(surface, 10, 0, 20, 9, 0xCC);

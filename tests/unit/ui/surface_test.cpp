@@ -209,15 +209,15 @@ TEST(DrawCircle, OfTheSmallestIsAPointAndACross) {
     EXPECT_EQ(surface.At(x, y), 2u);
 }
 
-TEST(DrawCircle, LiesWithinHalfAPixelOfTheCircle) {
+TEST(DrawCircle, TakesThePixelNextToTheCircleInEachRow) {
   for (int radius = 1; radius <= 60; ++radius) {
     Surface surface(140, 130, 0);
     DrawCircle(surface, 70, 65, radius, 1);
-    for (int y = 0; y < surface.Height(); ++y) {
-      for (int x = 0; x < surface.Width(); ++x) {
-        if (surface.At(x, y) == 0) continue;
-        EXPECT_NEAR(std::hypot(x - 70, y - 65), radius, 0.501) << radius << ": " << x << ", " << y;
-      }
+    for (int y = 0;; ++y) {
+      const int x = static_cast<int>(std::lround(std::sqrt(radius * radius - y * y)));
+      if (y > x) break;
+      EXPECT_EQ(surface.At(70 + x, 65 + y), 1u) << radius << ": " << x << ", " << y;
+      EXPECT_EQ(surface.At(70 - y, 65 - x), 1u) << radius << ": " << y << ", " << x;
     }
   }
 }

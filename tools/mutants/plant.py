@@ -155,6 +155,7 @@ def choose(faults, most, seed):
     for fault in faults:
         what = " ".join(str(fault[part]) for part in ("file", "routine", "kind", "right", "planted"))
         alike[what] += 1
+        fault["which"] = alike[what]
         lots[id(fault)] = hashlib.sha256(f"{seed} {alike[what]} {what}".encode()).digest()
     by_kind = {}
     for fault in sorted(faults, key=lambda fault: lots[id(fault)]):

@@ -78,7 +78,8 @@ def all_tests(build):
 
 def name_of(fault):
     """Tells a fault from others, wherever its line moves."""
-    return f"{fault['file']} {fault['routine']}: {fault['right']} -> {fault['planted'] or 'nothing'}"
+    which = f" (number {fault['which']} of this kind)" if fault["which"] > 1 else ""
+    return f"{fault['file']} {fault['routine']}: {fault['right']} -> {fault['planted'] or 'nothing'}{which}"
 
 
 def place_of(fault):

@@ -1,20 +1,22 @@
 """Plants small faults in the sources of the rules.
 
-usage: plant.py SOURCES COMPILE_COMMANDS MOST SEED LIST
+usage: plant.py SOURCES BUILT COMPILE_COMMANDS MOST SEED LIST [FILE ...]
 
-SOURCES is a copy of the repository's root; its files are rewritten. Each fault stands beside the right code and is
-chosen when the program runs: `Planted(17) ? a <= b : a < b`. So one build holds all of them. LIST, a JSON file, tells
-where each one is and what it changes. MOST faults are planted at most, drawn by SEED, none within another.
+SOURCES is a copy of the repository's root; its files are rewritten. It is to be built in the folder BUILT, as
+COMPILE_COMMANDS tells. Each fault stands beside the right code and is chosen when the program runs:
+`Is(17) ? a <= b : a < b`. So one build holds all of them. LIST, a JSON file, tells where each one is and what it
+changes. MOST faults are planted at most, drawn by SEED, none within another, and only in those files or folders.
 """
+import hashlib
 import json
-import random
 import re
 import sys
 from collections import Counter
 from pathlib import Path
 
-from clang.cindex import CursorKind, Index, TokenKind
+from clang.cindex import CursorKind, Index
 
+HEADER = Path(__file__).resolve().with_name("planted.h")
 FLOORS = ("field", "battle", "screens", "core", "ui")
 OTHER = {
     "<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==",
@@ -90,7 +92,12 @@ class File:
         for child in cursor.get_children():
             if cursor.kind == CursorKind.COMPOUND_STMT and child.kind in STATEMENTS:
                 self.add("dropped statement", child, routine, "", statement=True)
-            self.body(child, routine)
+            # What a variable is made with begins with its name, and is no expression.
+            if cursor.kind == CursorKind.VAR_DECL and child.extent.start.offset == cursor.location.offset:
+                for part in child.get_children():
+                    self.body(part, routine)
+            else:
+                self.body(child, routine)
 
     def fault_of(self, cursor, routine):
         children = list(cursor.get_children())
@@ -101,7 +108,7 @@ class File:
         elif cursor.kind == CursorKind.UNARY_OPERATOR:
             text = self.text(*self.span(cursor))
             if text.startswith(("!", "-")) and not text.startswith(("--", "!=")):
-                self.add("sign", cursor, routine, f"({text[1:]})")
+                self.add("sign", cursor, routine, f"!({text})" if text[0] == "!" else text[1:])
         elif cursor.kind in CALLED:
             sides = children if cursor.kind != CursorKind.CALL_EXPR else list(cursor.get_arguments())
             operator = len(sides) == 2 and self.operator_between(*sides)
@@ -116,7 +123,10 @@ class File:
 
     def operator_between(self, left, right):
         between = self.text(self.span(left)[1], self.span(right)[0]).strip()
-        return between if between in OTHER else None
+        texts = "basic_string" in left.type.get_canonical().spelling + right.type.get_canonical().spelling
+        if between not in OTHER or (texts and between.startswith("+")):
+            return None
+        return between
 
     def swap(self, cursor, sides, routine):
         if cursor.spelling in ("min", "max"):
@@ -136,11 +146,19 @@ class File:
 
 
 def choose(faults, most, seed):
-    """Draws the faults to plant, of each kind alike and none within another."""
-    chance = random.Random(seed)
-    chance.shuffle(faults)
-    by_kind = {}
+    """Draws the faults to plant, of each kind alike and none within another.
+
+    Each has its own lot, which follows from what it is: a change elsewhere draws no others.
+    """
+    alike = Counter()
+    lots = {}
     for fault in faults:
+        what = " ".join(str(fault[part]) for part in ("file", "routine", "kind", "right", "planted"))
+        alike[what] += 1
+        fault["which"] = alike[what]
+        lots[id(fault)] = hashlib.sha256(f"{seed} {alike[what]} {what}".encode()).digest()
+    by_kind = {}
+    for fault in sorted(faults, key=lambda fault: lots[id(fault)]):
         by_kind.setdefault(fault["kind"], []).append(fault)
     chosen, taken = [], {}
     while len(chosen) < most and any(by_kind.values()):
@@ -172,19 +190,21 @@ def plant(root, faults):
             else:
                 new = f"({chosen} ? ({fault['planted']}) : ({right}))"
             text = text[:fault["begin"]] + new.encode() + text[fault["end"]:]
-        path.write_bytes(text)
+        path.write_bytes(f'#include "{HEADER}"\n#line 1\n'.encode() + text)
 
 
 def main():
-    root, commands, most, seed, target = sys.argv[1:]
+    root, built, commands, most, seed, target, *only = sys.argv[1:]
     root = Path(root).resolve()
     refused = set()
     if Path(target).exists():  # those that a compiler has refused before
         refused = {tuple(spot) for spot in json.loads(Path(target).read_text()).get("refused", [])}
     flags = {}
     for command in json.loads(Path(commands).read_text()):
-        words = command["command"].split()
-        flags[command["file"]] = [word for word in words[1:] if word.startswith(("-I", "-D", "-std", "-isystem"))]
+        # The folder of what is built may hold faults already.
+        words = command["command"].replace(built, str(root)).split()[1:]
+        file = command["file"].replace(built, str(root))
+        flags[file] = [word for word in words if word.startswith(("-I", "-D", "-std", "-isystem"))]
     faults = []
     for floor in FLOORS:
         for path in sorted((root / "src" / floor).rglob("*.cpp")):
@@ -196,8 +216,10 @@ def main():
                 raise SystemExit(f"{path}: {errors[0]}")
             faults += File(root, path, unit).faults
     total = len(faults)
-    faults = [fault for fault in faults if (fault["file"], fault["begin"], fault["kind"]) not in refused]
-    chosen = choose(faults, int(most), int(seed))
+    if only:
+        faults = [fault for fault in faults if fault["file"].startswith(tuple(only))]
+    chosen = choose(faults, int(most), seed)
+    chosen = [fault for fault in chosen if (fault["file"], fault["begin"], fault["kind"]) not in refused]
     plant(root, chosen)
     Path(target).write_text(json.dumps(dict(possible=total, refused=sorted(refused), faults=chosen), indent=1))
     print(f"{len(chosen)} of {total} faults planted:", dict(Counter(fault["kind"] for fault in chosen)))

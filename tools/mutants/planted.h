@@ -1,6 +1,5 @@
 // Whether a planted fault is in force: the one that ORVANE_PLANTED names. With ORVANE_REACHED, a
-// file, notes there which were asked for. Put before every source file of the build with planted
-// faults.
+// file, notes there which were asked for. The source files that faults are planted in begin with it.
 #pragma once
 
 #include <array>

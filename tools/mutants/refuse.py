@@ -2,8 +2,8 @@
 
 usage: refuse.py SOURCES LIST BUILD_LOG
 
-Marks in LIST every fault on a line for which BUILD_LOG tells an error, to be left out at the next planting. Fails when
-there is an error but no fault to blame.
+Marks in LIST every fault on a line for which BUILD_LOG tells an error, or the last one before it, to be left out at the
+next planting. Fails when there is an error but no fault to blame.
 """
 import json
 import re
@@ -11,24 +11,27 @@ import sys
 from pathlib import Path
 
 
+def to_blame(faults, file, line):
+    before = [fault for fault in faults if fault["file"] == file and fault["line"] <= line]
+    on_it = [fault for fault in before if line <= fault["last"]]
+    return on_it or before[-1:]
+
+
 def main():
     root, target, log = sys.argv[1:]
-    root = Path(root).resolve()
     listed = json.loads(Path(target).read_text())
-    errors = set()
-    for file, line in re.findall(r"^(\S+?):(\d+):\d+: (?:fatal )?error:", Path(log).read_text(), re.M):
-        path = Path(file)
-        if path.is_absolute() and path.is_relative_to(root):
-            errors.add((str(path.relative_to(root)), int(line)))
-    bad = [fault for fault in listed["faults"]
-           if any(file == fault["file"] and fault["line"] <= line <= fault["last"] for file, line in errors)]
+    text = Path(log).read_text()
+    bad = []
+    # A compiler's path may begin anywhere above the sources.
+    for file, line in set(re.findall(rf"^\S*\b{Path(root).name}/(src/\S+?):(\d+):\d+: (?:fatal )?error:", text, re.M)):
+        bad += to_blame(listed["faults"], file, int(line))
     if not bad:
         raise SystemExit("the build fails, and no fault is to blame")
     refused = {tuple(spot) for spot in listed["refused"]}
     refused |= {(fault["file"], fault["begin"], fault["kind"]) for fault in bad}
+    print(f"{len(refused) - len(listed['refused'])} faults are no programs")
     listed["refused"] = sorted(refused)
     Path(target).write_text(json.dumps(listed, indent=1))
-    print(f"{len(bad)} faults are no programs")
 
 
 if __name__ == "__main__":

@@ -144,6 +144,19 @@ test("the pane names the hero who acts, and either hero may go first", function(
   tabs(true, false)
 end)
 
+test("the way back from the bag hides a target list while the other hero is free, and leaves it else", function()
+  skilled()
+  click("Battle.Command4")
+  set("Battle.List2.Visible", true)
+  choose("Battle.List3", 0)
+  visible()
+  steps.strike()
+  click("Battle.Command4")
+  set("Battle.List2.Visible", true)
+  choose("Battle.List3", 0)
+  visible("List2")
+end)
+
 test("while a list is open no pane can be opened", function()
   skilled()
   for _, case in ipairs { { "Command1", "List2" }, { "Command3", "List1" }, { "Command4", "List3" } } do

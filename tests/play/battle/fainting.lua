@@ -131,6 +131,27 @@ test("when both have fainted the sounds are closed, the box stands and the progr
   for n = 1, 10 do expect(sent[8 + n], "close snd" .. n) end
 end)
 
+test("under the box of the end no pane can be opened, and no skill of a fainted hero's open pane", function()
+  phase(1)
+  set("HP[0]", 1)
+  steps.enemy_attack(0)
+  click("Battle.Command1")
+  choose("Battle.List2", 1)
+  tick("Battle.Timer1", 15)
+  set("HP[1]", 1)
+  local looked
+  answer(function()
+    steps.state { ["Battle.SSTab1.Tab"] = 1, ["Battle.SSTab1.TabEnabled(0)"] = false, ["Battle.SSTab1.TabEnabled(1)"] = false,
+      ["Battle.Command1.Enabled"] = true, ["Battle.Command2.Enabled"] = false, ["Battle.Command3.Enabled"] = false,
+      ["Battle.Command4.Enabled"] = true, HeroesActed = 1 }
+    looked = true
+    return "OK"
+  end)
+  steps.enemy_attack(1)
+  expect(looked, true)
+  expect(ended(), true)
+end)
+
 test("an attack left in the phase is played out though both have fainted", function()
   dragon_phase(3, 0)
   set("HeroFainted[0]", -1)

@@ -24,11 +24,12 @@ test("the screen's controls stand where they belong", function()
     end
   end
   for hero = 0, 1 do
-    local values = { Label3 = { 48, 40 }, Label4 = { 48, 64 }, Label8 = { 176, 40 }, Label9 = { 176, 56 },
-      Label10 = { 176, 72 }, Label12 = { 248, 80 } }
+    local values = { Label3 = { 48, 40, 73, 17 }, Label4 = { 48, 64, 73, 17 }, Label8 = { 176, 40, 41, 17 },
+      Label9 = { 176, 56, 41, 17 }, Label10 = { 176, 72, 41, 17 }, Label12 = { 248, 80, 25, 17 } }
     for name, place in pairs(values) do
-      expect(get(("Battle.%s(%d).Left"):format(name, hero)), place[1], name)
-      expect(get(("Battle.%s(%d).Top"):format(name, hero)), place[2], name)
+      for i, property in ipairs { "Left", "Top", "Width", "Height" } do
+        expect(get(("Battle.%s(%d).%s"):format(name, hero, property)), place[i], name .. "." .. property)
+      end
     end
   end
   steps.state {
@@ -50,7 +51,8 @@ test("the numbers are white and hidden, the panel and the name panels hidden", f
     expect(get("Battle.Label16(" .. i .. ").Visible"), false)
     expect(get("Battle.Label16(" .. i .. ").ForeColor"), "FFFFFF")
   end
-  for _, name in ipairs { "Picture9", "Picture10", "Picture13", "List1", "List2", "List3", "List4" } do
+  for _, name in ipairs { "Picture9", "Picture10", "Picture13", "List1", "List2", "List3", "List4", "Label22(0)", "Label22(1)",
+    "Label25(0)", "Label25(1)" } do
     expect(get("Battle." .. name .. ".Visible"), false, name)
   end
 end)

@@ -6,11 +6,13 @@ local on = ground.on
 test("a recovery point heals both heroes, and the panel tells it after the click", function()
   on(135)
   for hero = 0, 1 do set("HP[" .. hero .. "]", 5); set("MP[" .. hero .. "]", 1) end
+  set("MaxHP[2]", 77)
   click("Main.Picture1")
   expect(get("Main.Label5(0).Caption"), "HP ：5/120")
   tick("Main.Timer1")
   expect(get("HP[0]"), 120)
   expect(get("HP[1]"), 80)
+  expect(get("HP[2]"), 0, "nobody's")
   expect(get("MP[0]"), 10)
   expect(get("MP[1]"), 30)
   expect(get("RecoveryShown"), -1)

@@ -56,6 +56,35 @@ test("the map's tiles come from their places of the sheet", function()
   expect(pixel("Main.Picture1", 5 * 16, 5 * 16), "AA0000")
 end)
 
+test("a sheet that has changed is drawn on the next tick", function()
+  steps.plain_world()
+  tick("Main.Timer1")
+  paint("Main.Picture4", "AA0000")
+  tick("Main.Timer1")
+  expect(pixel("Main.Picture1", 5 * 16, 5 * 16), "AA0000")
+end)
+
+test("the spare column and row of the map are not drawn", function()
+  steps.plain_world()
+  paint("Main.Picture4", "AA0000")
+  for column = 0, 30 do set(("MapTile[%d][16]"):format(column), 7) end
+  for row = 0, 16 do set(("MapTile[30][%d]"):format(row), 7) end
+  paint("Main.Picture1", "FEDCBA")
+  tick("Main.Timer1")
+  expect(pixel("Main.Picture1", 479, 255), "AA0000")
+  expect(pixel("Main.Picture1", 480, 100), "FEDCBA")
+  expect(pixel("Main.Picture1", 100, 256), "FEDCBA")
+end)
+
+test("each step tells the tiles under and around the feet", function()
+  steps.plain_world()
+  local around = { Here = { 6, 6, 101 }, Up = { 6, 5, 102 }, Down = { 6, 7, 103 }, Left = { 5, 6, 104 }, Right = { 7, 6, 105 } }
+  for _, cell in pairs(around) do set(("MapTile[%d][%d]"):format(cell[1], cell[2]), cell[3]) end
+  steps.put(100, 100)
+  tick("Main.Timer1")
+  for name, cell in pairs(around) do expect(get("Tile" .. name), cell[3], name) end
+end)
+
 test("reading a map redraws nothing by itself", function()
   steps.plain_world()
   write_map("Mapdata/map4-3.dat", 8)

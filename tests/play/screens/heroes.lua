@@ -142,6 +142,26 @@ test("the faces are drawn over themselves, 80 pixels square, each pixel repeated
   end
 end)
 
+test("the faces are those of the heroes, their corner in the corner", function()
+  opened()
+  for face, own in pairs { Picture1 = "Main.Picture7", Picture2 = "Main.Picture8" } do
+    local width, height = picture_size("Chardata." .. face)
+    for y = 0, height - 1 do
+      for x = 0, width - 1 do
+        local here, there = pixel("Chardata." .. face, x, y), pixel(own, x * 48 // 80, y * 48 // 80)
+        if here ~= there then expect(here, there, ("%s at %d, %d"):format(face, x, y)) end
+      end
+    end
+  end
+end)
+
+test("the spare skill of the record is none that is shown", function()
+  opened { ["WazaKnown[10]"] = -1, ["MagicKnown[10]"] = -1 }
+  expect(ended(), false)
+  expect(caption "Label21(9)", "")
+  expect(pcall(caption, "Label21(10)"), false)
+end)
+
 test("either button and the window's close control lead back to the walk", function()
   for _, way in ipairs { "Command1", "Command2", "close" } do
     opened()

@@ -249,6 +249,16 @@ test("the question for the hero shows the thing and how both stand", function()
   expect(get("ItemUse.Label2(1).Caption"), "MP:3/30")
 end)
 
+test("the question knows two heroes, and no third", function()
+  opened()
+  pick(potion)
+  click("Item.Command1")
+  for _, name in ipairs { "Command1", "Label1", "Label2" } do
+    expect(pcall(get, "ItemUse." .. name .. "(1).Caption"), true)
+    expect(pcall(get, "ItemUse." .. name .. "(2).Caption"), false)
+  end
+end)
+
 test("a potion gives its value in HP and a tenth of it, rounded down, in MP", function()
   for hero = 0, 1 do
     opened { ["HP[0]"] = 5, ["HP[1]"] = 5, ["MP[0]"] = 1, ["MP[1]"] = 1 }
@@ -319,9 +329,9 @@ test("an exact 32767 is no overflow", function()
 end)
 
 test("a thing number beyond the file is a nameless row that can be discarded but not used", function()
-  opened(nil, { 6, 60, -3 })
+  opened(nil, { 6, 60, -3, 0 })
   pick(0)
-  for row = 1, 2 do
+  for row = 1, 3 do
     pick(row)
     expect(trimmed(get("Item.List1.List(" .. row .. ")")), "")
     expect(get("ItemRec.Kind"), 0)

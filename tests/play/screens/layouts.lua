@@ -59,20 +59,32 @@ test("the message window's controls stand in their places and colours", function
   expect(get("Main.Label6(1).FontName"), "ＭＳ Ｐゴシック")
 end)
 
-test("the gear screen's controls stand in their places", function()
+test("the gear screen's controls stand in their places, the same for both heroes", function()
   steps.plain_world()
   click("Main.m21")
-  expect_layout("Wepon", {
+  local rows = {
+    { "Label5", 32, 24, 113, 17, "アイテムリスト" },
     { "List1", 8, 48, 137, 172 },
     { "SSTab1", 160, 8, 305, 225 },
-    { "Label5", nil, nil, nil, nil, "アイテムリスト" },
-    { "Command1", nil, nil, nil, nil, "装備 >>" },
-    { "Command3", nil, nil, nil, nil, "装備 >>" },
-    { "Command2", nil, nil, nil, nil, "<< すべて　　はずす" },
-    { "Command4", nil, nil, nil, nil, "<< すべて　　はずす" },
-    { "Command5", nil, nil, nil, nil, "閉じる" },
-    { "Command6", nil, nil, nil, nil, "閉じる" },
-  })
+    { "Picture1", 240, 144, 50, 50 }, { "Picture2", 240, 144, 50, 50 },
+  }
+  for _, names in ipairs { { "Command1", "Command2", "Command5" }, { "Command3", "Command4", "Command6" } } do
+    rows[#rows + 1] = { names[1], 8, 40, 89, 33, "装備 >>" }
+    rows[#rows + 1] = { names[2], 8, 88, 89, 41, "<< すべて　　はずす" }
+    rows[#rows + 1] = { names[3], 8, 184, 89, 25, "閉じる" }
+  end
+  local captions = {
+    Label1 = { "武器 ：", "防具 ：", "本  ：" }, Label6 = { "武器 ：", "防具 ：", " 本  ：" },
+    Label3 = { "攻撃力 ：", "守備力 ：", "精神力 ：" }, Label8 = { "攻撃力 ：", "守備力 ：", "精神力 ：" },
+  }
+  for row = 0, 2 do
+    local at, worn, numbers = "(" .. row .. ")", 40 + 24 * row, 128 + 24 * row
+    for _, name in ipairs { "Label1", "Label6" } do rows[#rows + 1] = { name .. at, 112, worn, 65, 17, captions[name][row + 1] } end
+    for _, name in ipairs { "Label2", "Label7" } do rows[#rows + 1] = { name .. at, 160, worn, 137, 17 } end
+    for _, name in ipairs { "Label3", "Label8" } do rows[#rows + 1] = { name .. at, 112, numbers, 65, 17, captions[name][row + 1] } end
+    for _, name in ipairs { "Label4", "Label9" } do rows[#rows + 1] = { name .. at, 180, numbers, 117, 17 } end
+  end
+  expect_layout("Wepon", rows)
 end)
 
 test("the bag's controls stand in their places", function()
@@ -115,21 +127,21 @@ test("the character data's areas stand in their places, the skills 24 pixels apa
     { "Frame7", 176, 40, 217, 41, "次のレベルまであと" }, { "Frame8", 176, 40, 217, 41, "次のレベルまであと" },
     { "Frame2", 176, 96, 217, 289, "技" }, { "Frame6", 176, 96, 217, 289, "魔法" },
     { "Command1", 152, 400, 81, 25, "閉じる" }, { "Command2", 152, 400, 81, 25, "閉じる" },
-    { "Label16(0)", 16, 16 }, { "Label16(1)", 8, 16 },
+    { "Label16(0)", 16, 16, 129, 17 }, { "Label16(1)", 8, 16, 129, 17 },
   }
   for row = 0, 9 do
     local at, top = "(" .. row .. ")", 48 + 24 * row
-    for _, names in ipairs { "Label21", "Label24" } do rows[#rows + 1] = { names .. at, 8, top } end
-    for _, counts in ipairs { "Label23", "Label28" } do rows[#rows + 1] = { counts .. at, 120, top, 41 } end
-    for _, masters in ipairs { "Label22", "Label27" } do rows[#rows + 1] = { masters .. at, 152, top, 57 } end
+    for _, names in ipairs { "Label21", "Label24" } do rows[#rows + 1] = { names .. at, 8, top, 105, 17 } end
+    for _, counts in ipairs { "Label23", "Label28" } do rows[#rows + 1] = { counts .. at, 120, top, 41, 17 } end
+    for _, masters in ipairs { "Label22", "Label27" } do rows[#rows + 1] = { masters .. at, 152, top, 57, 17 } end
   end
   for row = 0, 8 do
-    rows[#rows + 1] = { "Label10(" .. row .. ")", 64, get("Chardata.Label10(0).Top") + 16 * row }
-    rows[#rows + 1] = { "Label11(" .. row .. ")", 64, get("Chardata.Label10(0).Top") + 16 * row }
+    rows[#rows + 1] = { "Label10(" .. row .. ")", 64, 24 + 16 * row, 65, 16 }
+    rows[#rows + 1] = { "Label11(" .. row .. ")", 64, 24 + 16 * row, 65, 16 }
   end
   for row = 0, 2 do
-    rows[#rows + 1] = { "Label14(" .. row .. ")", 48 }
-    rows[#rows + 1] = { "Label15(" .. row .. ")", 48 }
+    rows[#rows + 1] = { "Label14(" .. row .. ")", 48, 16 + 20 * row, 109, 17 }
+    rows[#rows + 1] = { "Label15(" .. row .. ")", 48, 16 + 20 * row, 109, 17 }
   end
   expect_layout("Chardata", rows)
 end)
@@ -177,7 +189,7 @@ test("the title's controls stand in their places, faces and colours", function()
       expect(get("Main." .. name .. "." .. property), face[i], name .. "." .. property)
     end
   end
-  for _, hidden in ipairs { "Picture2", "Picture3", "Picture4", "Picture5", "Picture6" } do
+  for _, hidden in ipairs { "Picture2", "Picture3", "Picture4", "Picture5", "Picture6", "Picture9", "Label8" } do
     expect(get("Main." .. hidden .. ".Visible"), false, hidden)
   end
 end)

@@ -56,6 +56,17 @@ test("twenty clicks end the opening on line 21 and the party walks", function()
   expect(get("Main.m11.Enabled"), false)
 end)
 
+test("while the opening is not done a click is the opening's, whatever else is set", function()
+  for _, flag in ipairs { "BossFight", "LastBossDown" } do
+    start()
+    steps.enter_names()
+    set(flag, -1)
+    set("StoryNo", 22)
+    click("Main.Picture1")
+    steps.state { StoryNo = 23, Round = 1, [flag] = -1 }
+  end
+end)
+
 test("the hero is not drawn during a scene", function()
   start()
   steps.enter_names()

@@ -4,6 +4,7 @@
 
 #include "src/battle/battle_screen.h"
 #include "src/battle/flow/battle_setup.h"
+#include "src/battle/flow/command_input.h"
 #include "src/battle/flow/turn_engine.h"
 #include "src/battle/rules/enemy_table.h"
 #include "src/battle/rules/rewards.h"
@@ -88,11 +89,34 @@ TEST_F(BattleTest, EveryFrameOfAnItemSeeds) {
   EXPECT_EQ(CallsOf(Action::Item, 50), "s");
 }
 
+TEST_F(BattleTest, EveryFrameOfASpellThatScattersItsPicturesSeedsOnce) {
+  state_.MagicX = state_.MagicY = 100;
+  battle_.Skills.ListIndex = 3;
+  EXPECT_EQ(CallsOf(Action::Heal, 8), "s" + std::string(12, 'd'));
+  battle_.Skills.ListIndex = 8;
+  EXPECT_EQ(CallsOf(Action::Heal, 8), "s" + std::string(24, 'd'));
+  battle_.Skills.ListIndex = 10;
+  EXPECT_EQ(CallsOf(Action::Spell, 8), "s" + std::string(33, 'd'));
+  battle_.Skills.ListIndex = 9;
+  EXPECT_EQ(CallsOf(Action::Spell, 8), "") << "this one draws nothing";
+}
+
 TEST_F(BattleTest, TheFireDrawsNothingInTheFirstRoundAndKeepsItsDamage) {
   state_.BreathDamage[0] = 77;
   EXPECT_EQ(CallsOf(Action::BossSpecial, 36), "ss");
   EXPECT_EQ(state_.BreathDamage[0], 77);
   EXPECT_EQ(battle_.HeroNumbers[0].Caption, "77");
+}
+
+TEST_F(BattleTest, TheTargetsOfASkillAreNamedByAFreshTable) {
+  state_.EnemyName[3] = "another";
+  state_.ActionKind = Action::Technique;
+  state_.EnemyAlive[0] = state_.WazaKnown[0] = kTrue;
+  state_.MP[0] = 100;
+  battle_.Skills.ListIndex = 1;
+  SkillChosen(battle_);
+  EXPECT_EQ(state_.EnemyName[3].Trimmed(), "月の使者");
+  EXPECT_EQ(battle_.Targets.List(1), state_.EnemyName[3].Full() + "(1)");
 }
 
 // The two tables of mastery counts hold the same numbers; different rules read them.

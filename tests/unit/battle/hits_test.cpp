@@ -105,6 +105,8 @@ TEST_F(Hits, ABreathHitsBoth) {
   EXPECT_EQ(state_.HP[kMan], 0);
   EXPECT_EQ(state_.HP[kWoman], 1);
   EXPECT_EQ(HitByBreath(state_), (Slots{kMan, kWoman}));
+  EXPECT_EQ(state_.HP[kMan], 0) << "and not below";
+  EXPECT_EQ(state_.HP[kWoman], 0);
 }
 
 TEST_F(Hits, AHitSettlesTheNumbersOfBoth) {

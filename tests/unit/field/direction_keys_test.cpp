@@ -90,6 +90,62 @@ TEST(DirectionKeys, APressClearsItsOwnWaitingFlag) {
   EXPECT_EQ(After("U", state), "U0");
 }
 
+TEST(DirectionKeys, ThreeKeysDisplaceOneAnotherInTheirOrder) {
+  EXPECT_EQ(After("DLR"), "Rdl3");
+  EXPECT_EQ(After("RLD"), "Dlr3");
+  EXPECT_EQ(After("LUR"), "Rul1");
+  EXPECT_EQ(After("RUL"), "Lur1");
+}
+
+TEST(DirectionKeys, OfFourKeysTheLastDisplacedComesBackAndThenTheOthersFromUpToRight) {
+  EXPECT_EQ(After("UDLR"), "Rudl3");
+  EXPECT_EQ(After("UDLRr"), "Lud1");
+  EXPECT_EQ(After("UDLRrl"), "Ud2");
+  EXPECT_EQ(After("UDLRrlu"), "D2") << "none waits: the number stays";
+  EXPECT_EQ(After("UDLRrlud"), "0");
+  EXPECT_EQ(After("DLRU"), "Udlr4");
+  EXPECT_EQ(After("DLRUu"), "Rdl2");
+  EXPECT_EQ(After("DLRUur"), "Dl3");
+  EXPECT_EQ(After("DLRUurd"), "L3");
+  EXPECT_EQ(After("DLRUurdl"), "0");
+  EXPECT_EQ(After("RLUD"), "Dulr1");
+  EXPECT_EQ(After("RLUDd"), "Ulr3");
+  EXPECT_EQ(After("RLUDdu"), "Lr4");
+  EXPECT_EQ(After("RLUDdul"), "R4");
+  EXPECT_EQ(After("RUDL"), "Ludr2");
+  EXPECT_EQ(After("RUDLl"), "Dur1");
+  EXPECT_EQ(After("RUDLld"), "Ur4");
+}
+
+TEST(DirectionKeys, ReleasingTheLastDisplacedOfFourPassesItsPlaceOn) {
+  EXPECT_EQ(After("UDLRl"), "Rud1");
+  EXPECT_EQ(After("UDLRlu"), "Rd2");
+  EXPECT_EQ(After("UDLRlud"), "R0");
+  EXPECT_EQ(After("DLRUr"), "Udl2");
+  EXPECT_EQ(After("DLRUrd"), "Ul3");
+  EXPECT_EQ(After("ULRDr"), "Dul1");
+  EXPECT_EQ(After("ULRDru"), "Dl3");
+  EXPECT_EQ(After("RLDUd"), "Ulr3");
+  EXPECT_EQ(After("RLDUdl"), "Ur4");
+}
+
+TEST(DirectionKeys, ReleasingAnotherOfFourLeavesTheLastDisplaced) {
+  EXPECT_EQ(After("UDLRu"), "Rdl3");
+  EXPECT_EQ(After("UDLRd"), "Rul3");
+  EXPECT_EQ(After("UDLRud"), "Rl3");
+  EXPECT_EQ(After("UDLRudr"), "L3");
+  EXPECT_EQ(After("LDRUl"), "Udr4");
+  EXPECT_EQ(After("LDRUld"), "Ur4");
+  EXPECT_EQ(After("LDRUldu"), "R4");
+}
+
+TEST(DirectionKeys, AKeyPressedAgainIsTheNewest) {
+  EXPECT_EQ(After("UDLRrR"), "Rudl3");
+  EXPECT_EQ(After("UDLRuU"), "Udlr4");
+  EXPECT_EQ(After("URDrR"), "Rud2");
+  EXPECT_EQ(After("UDLRlLl"), "Rud1");
+}
+
 TEST(DirectionKeys, AStoppedHeroWaitsForTheNextPress) {
   SharedState state;
   After("UR", state);
@@ -97,6 +153,17 @@ TEST(DirectionKeys, AStoppedHeroWaitsForTheNextPress) {
   state.LastKey = 0;
   EXPECT_EQ(After("r", state), "u0");
   EXPECT_EQ(After("u", state), "0");
+}
+
+TEST(DirectionKeys, AKeyThatWaitsSinceTheHeroStoppedComesBackAfterANewOne) {
+  SharedState state;
+  After("ULR", state);
+  state.KeyRight = kFalse;
+  state.LastKey = 0;
+  EXPECT_EQ(After("D", state), "Dul0") << "no key drove that it could displace";
+  EXPECT_EQ(After("d", state), "ul0") << "and so none comes back";
+  EXPECT_EQ(After("UD", state), "Dul1");
+  EXPECT_EQ(After("d", state), "Ul3");
 }
 
 TEST(DirectionKeys, TheSpriteFollows) {
@@ -111,6 +178,19 @@ TEST(DirectionKeys, TheSpriteFollows) {
   EXPECT_EQ(int{state.HeroSpriteY}, 96);
   After("l", state);
   EXPECT_EQ(int{state.HeroSpriteY}, 64);
+  After("dr", state);
+  EXPECT_EQ(int{state.HeroSpriteY}, 0);
+}
+
+TEST(DirectionKeys, OneDirectionDrives) {
+  for (const auto& [press, direction] :
+       {std::pair{"U", Direction::Up}, std::pair{"D", Direction::Down},
+        std::pair{"L", Direction::Left}, std::pair{"R", Direction::Right}}) {
+    SharedState state;
+    EXPECT_EQ(DrivingDirection(state), std::nullopt);
+    After(press, state);
+    EXPECT_EQ(DrivingDirection(state), direction) << press;
+  }
 }
 
 TEST(Walkable, CountsTheCodesAtTheEdgesOfTheRanges) {

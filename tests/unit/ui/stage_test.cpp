@@ -190,6 +190,20 @@ TEST_F(StageTest, WhatIsCoveredWhollyCannotBeClicked) {
   EXPECT_EQ(ControlAt(first, {150, 50}), nullptr);
 }
 
+TEST_F(StageTest, WhatLiesBesideTheWindowCannotBeClicked) {
+  stage.Show(first);
+  first.List.At.Left = 199;
+  EXPECT_TRUE(CanClick(first.List)) << "one column is left";
+  first.List.At.Left = 200;
+  EXPECT_FALSE(CanClick(first.List));
+  first.List.At = {10, 99, 90, 90};
+  EXPECT_TRUE(CanClick(first.List)) << "one row is left";
+  first.List.At.Top = 100;
+  EXPECT_FALSE(CanClick(first.List));
+  first.List.At = {-90, -90, 90, 90};
+  EXPECT_FALSE(CanClick(first.List));
+}
+
 class TimerTest : public StageTest {
  protected:
   // Serves all ticks until `until` and returns when they came.
@@ -277,6 +291,27 @@ TEST_F(TimerTest, ATickThatAskedIsNotOverBeforeTheAnswer) {
   EXPECT_EQ(queue.FirstDue(50), nullptr) << "what follows has asked again";
   stage.Answer(BoxAnswer::Ok);
   EXPECT_EQ(queue.FirstDue(50), &first.Clock);
+}
+
+TEST_F(TimerTest, ABoxThatNoTickAskedHoldsNoTimer) {
+  stage.Load(first);
+  first.Clock.SetEnabled(true);
+  Serve(0);
+  stage.Tick(first.Clock);
+  stage.Ask({"asked by a click"});
+  stage.Tick(first.Clock);
+  EXPECT_EQ(queue.FirstDue(50), &first.Clock);
+}
+
+TEST_F(TimerTest, OfTwoThatAreDueAtOnceTheOneMadeFirstTicks) {
+  stage.Load(first);
+  stage.Load(second);
+  second.Clock.SetEnabled(true);
+  first.Clock.SetEnabled(true);
+  Serve(0);
+  EXPECT_EQ(queue.FirstDue(10), &first.Clock);
+  queue.Begin(first.Clock, 10);
+  EXPECT_EQ(queue.FirstDue(10), &second.Clock);
 }
 
 TEST_F(TimerTest, NothingTicksWhileTimeStands) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 #include <limits>
 #include <random>
 
@@ -124,8 +125,19 @@ TEST(StretchBlt, ARectangleThatHangsOverItsSheetIsClippedThere) {
 TEST(StretchBlt, NoSizeDrawsNothing) {
   Surface target(4, 4, 0xFFFFFF);
   StretchBlt(target, {0, 0, 0, 4}, Surface(4, 4), {0, 0, 4, 4}, Blit::Copy);
+  StretchBlt(target, {0, 0, 4, 0}, Surface(4, 4), {0, 0, 4, 4}, Blit::Copy);
+  StretchBlt(target, {0, 0, 4, 4}, Surface(4, 4), {0, 0, 0, 4}, Blit::Copy);
   StretchBlt(target, {0, 0, 4, 4}, Surface(4, 4), {0, 0, 4, 0}, Blit::Copy);
+  StretchBlt(target, {3, 3, -2, -2}, Surface(4, 4), {0, 0, 4, 4}, Blit::Copy);
   EXPECT_EQ(Painted(target, 0xFFFFFF), 16);
+}
+
+TEST(StretchBlt, TheSmallestSizesDraw) {
+  Surface target(4, 4, 0xFFFFFF);
+  StretchBlt(target, {1, 0, 1, 4}, Surface(4, 1), {0, 0, 4, 1}, Blit::Copy);
+  EXPECT_EQ(Painted(target, 0), 4) << "one column of one row";
+  StretchBlt(target, {0, 3, 4, 1}, Surface(1, 4), {0, 0, 1, 4}, Blit::Copy);
+  EXPECT_EQ(Painted(target, 0), 7) << "and one row of one column";
 }
 
 TEST(StretchBlt, WithinOneSurfaceACopyIsRead) {
@@ -143,6 +155,9 @@ TEST(FillBox, TakesBothCornersInAnyOrder) {
   EXPECT_EQ(Painted(surface, 0xAA), 4 * 3);
   EXPECT_EQ(surface.At(5, 6), 0xAAu);
   EXPECT_EQ(surface.At(2, 4), 0xAAu);
+  FillBox(surface, 7, 1, 7, 1, 0xDD);
+  FillBox(surface, 0, 8, 0, 9, 0xDD);
+  EXPECT_EQ(Painted(surface, 0xDD), 3) << "both corners belong to it";
   FillBox(surface, -5, -5, 100, 100, 0xBB);
   EXPECT_EQ(Painted(surface, 0xBB), 100);
   FillBox(surface, 10, 0, 20, 9, 0xCC);
@@ -183,6 +198,49 @@ TEST(DrawCircle, IsClipped) {
   EXPECT_EQ(Painted(surface, 2), 0);
 }
 
+TEST(DrawCircle, OfTheSmallestIsAPointAndACross) {
+  Surface surface(9, 9, 0);
+  DrawCircle(surface, 4, 4, 0, 1);
+  EXPECT_EQ(Painted(surface, 1), 1);
+  EXPECT_EQ(surface.At(4, 4), 1u);
+  DrawCircle(surface, 4, 4, 1, 2);
+  EXPECT_EQ(Painted(surface, 2), 4);
+  for (const auto& [x, y] : {std::pair{3, 4}, {5, 4}, {4, 3}, {4, 5}})
+    EXPECT_EQ(surface.At(x, y), 2u);
+}
+
+TEST(DrawCircle, TakesThePixelNextToTheCircleInEachRow) {
+  for (int radius = 1; radius <= 60; ++radius) {
+    Surface surface(140, 130, 0);
+    DrawCircle(surface, 70, 65, radius, 1);
+    for (int y = 0;; ++y) {
+      const int x = static_cast<int>(std::lround(std::sqrt(radius * radius - y * y)));
+      if (y > x) break;
+      EXPECT_EQ(surface.At(70 + x, 65 + y), 1u) << radius << ": " << x << ", " << y;
+      EXPECT_EQ(surface.At(70 - y, 65 - x), 1u) << radius << ": " << y << ", " << x;
+    }
+  }
+}
+
+TEST(DrawCircle, IsTheSameOnAWideSurface) {
+  Surface square(30, 30, 0);
+  Surface wide(30, 8, 0);
+  DrawCircle(square, 24, 4, 3, 1);
+  DrawCircle(wide, 24, 4, 3, 1);
+  for (int y = 0; y < 8; ++y) {
+    for (int x = 0; x < 30; ++x) EXPECT_EQ(wide.At(x, y), square.At(x, y)) << x << ", " << y;
+  }
+  EXPECT_GT(Painted(wide, 1), 0);
+}
+
+TEST(DrawCircle, BeyondTheLargestIsNotDrawn) {
+  Surface surface(10, 10, 0);
+  DrawCircle(surface, 5 - kLargestRadius - 1, 5, kLargestRadius + 1, 1);
+  EXPECT_EQ(Painted(surface, 0), 100);
+  DrawCircle(surface, 5 - kLargestRadius, 5, kLargestRadius, 1);
+  EXPECT_EQ(surface.At(5, 5), 1u);
+}
+
 TEST(Surface, ShowsOnlyWhatHasBeenPublished) {
   Surface surface(4, 4, 7);
   surface.Refresh();
@@ -221,6 +279,36 @@ TEST(Surface, TellsWhereItHasBeenDrawnOn) {
   EXPECT_EQ(touched.Top, 3);
   EXPECT_EQ(touched.Right, 13);
   EXPECT_EQ(touched.Bottom, 8);
+}
+
+TEST(Surface, IsTouchedWithinItsEdgesAlone) {
+  const auto touched = [](const auto& draw) {
+    Surface surface(12, 10);
+    surface.TakeTouched();
+    FillBox(surface, 5, 6, 5, 6, 1);
+    draw(surface);
+    const Bounds part = surface.TakeTouched();
+    return std::array{part.Left, part.Top, part.Right, part.Bottom};
+  };
+  const std::array box{5, 6, 6, 7};
+  const Surface source(8, 8);
+  EXPECT_EQ(touched([](Surface& surface) { DrawCircle(surface, 10, 8, 5, 1); }),
+            (std::array{5, 3, 12, 10}));
+  EXPECT_EQ(
+      touched([&](Surface& surface) { BitBlt(surface, 50, 2, 4, 4, source, 0, 0, Blit::Copy); }),
+      box);
+  EXPECT_EQ(
+      touched([&](Surface& surface) { BitBlt(surface, 2, 50, 4, 4, source, 0, 0, Blit::Copy); }),
+      box);
+  EXPECT_EQ(touched([&](Surface& surface) {
+              StretchBlt(surface, {50, 2, 4, 4}, source, {0, 0, 8, 8}, Blit::Copy);
+            }),
+            box);
+  EXPECT_EQ(touched([&](Surface& surface) {
+              StretchBlt(surface, {2, 50, 4, 4}, source, {0, 0, 8, 8}, Blit::Copy);
+            }),
+            box);
+  EXPECT_EQ(touched([](Surface& surface) { FillBox(surface, 20, 0, 30, 4, 1); }), box);
 }
 
 TEST(Surface, RefreshShowsTheChangedPartAlone) {

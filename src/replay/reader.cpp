@@ -6,6 +6,8 @@ namespace orvane {
 namespace {
 
 constexpr unsigned kLastMark = static_cast<unsigned>(Mark::Contents);
+// The game seeds anew far sooner; so many draws take less than a second.
+constexpr uint64_t kMostDrawn = 50'000'000;
 
 Mark MarkOf(unsigned byte) {
   if (byte > kLastMark) throw BrokenReplay("it holds what this version does not know");
@@ -149,6 +151,7 @@ ReplayNote ReplayReader::NoteOf(Mark mark) {
         note.Words.push_back(static_cast<uint32_t>(in_.Number()));
       }
       note.Drawn = in_.Number();
+      if (note.Drawn > kMostDrawn) throw BrokenReplay("a seed in it was drawn from too often");
       break;
     case Mark::Draw:
       note.Value = in_.Float();

@@ -44,6 +44,14 @@ TEST(BrokenReplay, BehindANewTimerComesAnEvent) {
   EXPECT_EQ(Refusal(WrittenReplay(named).Put(Mark::EndHold)), "none");
 }
 
+TEST(BrokenReplay, NoSeedIsDrawnFromForEver) {
+  const auto drawn = [](uint64_t times) {
+    return WrittenReplay().Put(Mark::Seed).Number(1).Number(26).Number(times);
+  };
+  EXPECT_EQ(Refusal(drawn(50'000'000)), "none");
+  EXPECT_EQ(Refusal(drawn(50'000'001)), "a seed in it was drawn from too often");
+}
+
 // What the replay of a program that starts with its item file says of the difference.
 class DifferentReplay : public testing::Test {
  protected:

@@ -32,6 +32,32 @@ test("the second hero walks out on her own line", function()
   stands(365, 140, 40, 56, man[0], ground)
 end)
 
+test("what is restored behind a hero is the ground of that place", function()
+  for hero = 0, 1 do
+    steps.arena()
+    plain_sheets(4)
+    local width, height = picture_size("Battle.Picture7")
+    for x = 0, width - 1, 4 do
+      for y = 0, height - 1, 4 do paint("Battle.Picture7", ("%02X%02X80"):format(x % 256, y % 256), x, y, 4, 4) end
+    end
+    steps.battle_with(4, 1)
+    tab("Battle.SSTab1", hero)
+    local places, before = {}, {}
+    for x = hero == 0 and 408 or 426, 431 do
+      for y = 132, 263 do
+        places[#places + 1] = { x, y }
+        before[#places] = pixel(scene, x, y)
+      end
+    end
+    commit()
+    tick("Battle.Timer1", 2)
+    for i, place in ipairs(places) do
+      local now = pixel(scene, place[1], place[2])
+      if now ~= before[i] then at(place[1], place[2], before[i], "hero " .. hero) end
+    end
+  end
+end)
+
 test("after a stroke the first hero steps back in two frames and stands at rest", function()
   battle(4, 2)
   commit()

@@ -13,6 +13,7 @@ test("the first spell of spirit 5 deals 100, and 129 once mastered", function()
     reckon(0.99, 0.99)
     expect(get("MagicDamage[1]"), damage)
     expect(get("Battle.Label15(1).Caption"), tostring(damage))
+    for slot = 0, 4 do expect(get("Battle.Label15(" .. slot .. ").Visible"), slot == 1, "slot " .. slot) end
     steps.play_to(48)
     expect(lost(2), 0, "not before the last frame")
     tick("Battle.Timer1")
@@ -72,6 +73,7 @@ test("every damage spell is its cost, half the spirit and a draw by level, times
         local wanted = math.floor((cost + 6.5 + 6) * (mastered and mastery or 1) * (row * 3 + 5))
         expect(get("MagicDamage[4]"), wanted, "spell " .. row)
         expect(get("Battle.Label15(4).Caption"), ("%d"):format(wanted))
+        for slot = 0, 4 do expect(get("Battle.Label15(" .. slot .. ").Visible"), slot == 4, "slot " .. slot) end
       end
     end
   end

@@ -86,26 +86,28 @@ test("the third technique breaks in four frames and flies off in four shards", f
 end)
 
 test("the fourth technique lifts two rocks, and ends its first sound by closing it", function()
-  local scene = begin(4, 2)
-  canvas.cell(2, 0, red)
-  canvas.cell(3, 0, green)
-  local x, y = 60, 180
-  canvas.play(function(c, sent)
-    home(scene)
-    local wanted = ""
-    if c < 16 then
-      scene:rect(x - 20, y + 20 - (c - 6) * 10, 64, 64, red)
-      wanted = plays(9, true)
-    else
-      scene:rect(x + 20, y + 20 - (c - 16) * 10, 64, 64, green)
-      if c == 16 then wanted = "close snd9|play snd10 from 0" end
-      if c == 24 then wanted = [[open "PATH\Sound\Bom.wav" alias snd9]] end
-    end
-    scene:check("frame " .. c)
-    expect(sent, wanted, "frame " .. c)
-    expect(sound_mode("snd9"), c < 16 and "playing" or c < 24 and "" or "stopped", "frame " .. c)
-  end)
-  expect_redrawn()
+  for target, place in ipairs { { 30, 90 }, { 60, 180 } } do
+    local scene = begin(4, target)
+    canvas.cell(2, 0, red)
+    canvas.cell(3, 0, green)
+    local x, y = table.unpack(place)
+    canvas.play(function(c, sent)
+      home(scene)
+      local wanted = ""
+      if c < 16 then
+        scene:rect(x - 20, y + 20 - (c - 6) * 10, 64, 64, red)
+        wanted = plays(9, true)
+      else
+        scene:rect(x + 20, y + 20 - (c - 16) * 10, 64, 64, green)
+        if c == 16 then wanted = "close snd9|play snd10 from 0" end
+        if c == 24 then wanted = [[open "PATH\Sound\Bom.wav" alias snd9]] end
+      end
+      scene:check("frame " .. c)
+      expect(sent, wanted, "frame " .. c)
+      expect(sound_mode("snd9"), c < 16 and "playing" or c < 24 and "" or "stopped", "frame " .. c)
+    end)
+    expect_redrawn()
+  end
 end)
 
 -- The fifth technique's leap: what frame `c` adds.

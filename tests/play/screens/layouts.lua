@@ -215,6 +215,7 @@ test("the status panel and the story's line stand in their places", function()
     expect(get(label .. "FontName"), "ＭＳ Ｐゴシック", name)
     expect(get(label .. "FontSize"), 9.75, name)
     expect(get(label .. "FontBold"), true, name)
+    expect(get(label .. "ForeColor"), "000000", name)
   end
 end)
 

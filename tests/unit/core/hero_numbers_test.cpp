@@ -30,6 +30,18 @@ TEST(HeroNumbers, ASumOfItsOwnLeavesTheOtherAlone) {
   EXPECT_EQ(record.Defence[0], 5);
 }
 
+TEST(HeroNumbers, TheThirdPlaceIsNobodys) {
+  GameRecord record;
+  record.BaseAttack[2] = record.BaseDefence[2] = 5;
+  record.HP[2] = record.MP[2] = 7;
+  SumUp(record);
+  Settle(record);
+  EXPECT_EQ(record.Attack[2], 0);
+  EXPECT_EQ(record.Defence[2], 0);
+  EXPECT_EQ(record.HP[2], 7);
+  EXPECT_EQ(record.MP[2], 7);
+}
+
 TEST(HeroNumbers, ASumBeyondSixteenBitsThrows) {
   GameRecord record;
   record.BaseAttack[1] = 32767;

@@ -10,6 +10,17 @@ namespace {
 
 using test::ProgramTest;
 
+TEST_F(ProgramTest, TheTitleIsItsSheetThreeHalvesAsWideAndTwiceAsHigh) {
+  Start();
+  const Surface& field = static_cast<PictureBox&>(On("Main", "Picture1")).Picture;
+  const Surface& sheet = Sheet("title");
+  int strange = 0;
+  for (int y = 0; y < field.Height(); ++y) {
+    for (int x = 0; x < 480; ++x) strange += field.At(x, y) == sheet.At(x * 2 / 3, y / 2) ? 0 : 1;
+  }
+  EXPECT_EQ(strange, 0);
+}
+
 TEST_F(ProgramTest, ASaveThatIsAnsweredLaterHoldsEverythingUp) {
   quiet_.Files.AnswersLater = true;
   AskToSave();

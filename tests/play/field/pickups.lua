@@ -37,6 +37,21 @@ test("the bag is counted anew at a find", function()
   expect(get("ItemCount"), 4, "three things, and the new one")
 end)
 
+test("the spare slot behind the bag is none of it: it is not counted, and takes nothing", function()
+  on(36)
+  set("Items[20]", 99)
+  tick("Main.Timer1")
+  expect(get("ItemCount"), 4)
+  for slot = 0, 19 do expect(get("Items[" .. slot .. "]"), slot < 3 and 47 or slot == 3 and 1 or 99) end
+  on(36)
+  full_bag()
+  set("Items[20]", 99)
+  set("ItemCount", 19)
+  tick("Main.Timer1")
+  expect(get("Items[20]"), 99)
+  steps.state { ["TreasureLeft[0]"] = 0, ItemCount = 20 }
+end)
+
 test("an opened chest stays as it is, and gives nothing more", function()
   on(36)
   tick("Main.Timer1")

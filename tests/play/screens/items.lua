@@ -232,6 +232,15 @@ test("the screen keeps its buttons over a close with a row selected, and asks an
   expect(enabled(2), false)
 end)
 
+test("the first row is a row like any other when the screen comes up again", function()
+  opened(nil, { 6 })
+  pick(0)
+  activate("Main")
+  activate("Item")
+  expect(enabled(1), true)
+  expect(enabled(2), true)
+end)
+
 test("the question for the hero shows the thing and how both stand", function()
   opened { ["HP[0]"] = 5, ["MP[1]"] = 3 }
   pick(potion)

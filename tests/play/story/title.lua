@@ -313,6 +313,8 @@ test("a cancelled name entry leaves the title as it was and keeps no name", func
   expect(get("GameStarted"), 0)
   expect(get("Main.Command1.Visible"), true)
   expect(get("HeroName[0]"), (" "):rep(8))
+  expect(get("InputName.Text1(0).Text"), "")
+  expect(get("InputName.Text1(1).Text"), "")
   set("HP[0]", 5)
   set("Main.Timer1.Enabled", true)
   click("Main.Command1")

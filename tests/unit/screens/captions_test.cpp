@@ -2,9 +2,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "src/battle/battle_screen.h"
 #include "src/core/game.h"
 #include "src/platform/quiet_services.h"
+#include "src/screens/equipment.h"
 #include "src/screens/heroes.h"
 
 namespace orvane {
@@ -36,8 +39,16 @@ class CaptionsTest : public testing::Test {
   QuietServices quiet_;
   Game game_{quiet_.All()};
   HeroesScreen heroes_{game_};
+  EquipmentScreen equipment_{game_};
   BattleScreen battle_{game_};
 };
+
+// The panes on which these controls stand, each once.
+std::set<int> PanesOf(const Screen& screen, std::initializer_list<const char*> names) {
+  std::set<int> panes;
+  for (const char* name : names) panes.insert(screen.Find(name)->Pane());
+  return panes;
+}
 
 TEST_F(CaptionsTest, BothHeroesNumbersAreCaptionedAlike) {
   for (const Frame* frame : {&heroes_.ManStatus, &heroes_.WomanStatus}) {
@@ -77,6 +88,25 @@ TEST_F(CaptionsTest, TheNumbersOfSkillsStandAtTheRight) {
     EXPECT_EQ(heroes_.WomanSkillCounts[skill].Alignment, Align::Right);
     EXPECT_EQ(heroes_.WomanSkillMasters[skill].Alignment, Align::Right);
   }
+}
+
+TEST_F(CaptionsTest, EachHeroHasAPane) {
+  EXPECT_THAT(PanesOf(heroes_, {"Picture1", "Frame3", "Frame1", "Frame7", "Frame2", "Command1"}),
+              ElementsAre(0));
+  EXPECT_THAT(PanesOf(heroes_, {"Picture2", "Frame4", "Frame5", "Frame8", "Frame6", "Command2"}),
+              ElementsAre(1));
+  EXPECT_THAT(PanesOf(equipment_, {"Picture1", "Command1", "Command2", "Command5", "Label1(0)",
+                                   "Label2(1)", "Label3(2)", "Label4(0)"}),
+              ElementsAre(0));
+  EXPECT_THAT(PanesOf(equipment_, {"Picture2", "Command3", "Command4", "Command6", "Label6(0)",
+                                   "Label7(1)", "Label8(2)", "Label9(0)"}),
+              ElementsAre(1));
+  EXPECT_THAT(PanesOf(battle_, {"Picture4", "Label3(0)", "Label4(0)", "Label8(0)", "Label9(0)",
+                                "Label10(0)", "Label12(0)"}),
+              ElementsAre(0));
+  EXPECT_THAT(PanesOf(battle_, {"Picture5", "Label3(1)", "Label4(1)", "Label8(1)", "Label9(1)",
+                                "Label10(1)", "Label12(1)"}),
+              ElementsAre(1));
 }
 
 TEST_F(CaptionsTest, BothPanesOfABattleAreCaptionedAlike) {

@@ -244,6 +244,33 @@ TEST_F(TimerTest, EnablingRestartsTheInterval) {
   EXPECT_EQ(Serve(20), (std::vector<double>{18}));
 }
 
+TEST_F(TimerTest, EnablingARunningOneChangesNothing) {
+  stage.Load(first);
+  first.Clock.SetEnabled(true);
+  Serve(8);
+  first.Clock.SetEnabled(true);
+  EXPECT_EQ(Serve(25), (std::vector<double>{10, 20}));
+}
+
+TEST_F(TimerTest, ANewIntervalBeginsAtOnce) {
+  stage.Load(first);
+  first.Clock.SetEnabled(true);
+  Serve(8);
+  first.Clock.SetInterval(20);
+  EXPECT_EQ(Serve(50), (std::vector<double>{28, 48}));
+}
+
+TEST_F(TimerTest, OneThatIsOnByDesignBeginsWithItsScreen) {
+  first.Clock.SetEnabled(true);
+  stage.KeepDesigns();
+  stage.Load(first);
+  EXPECT_EQ(Serve(15), (std::vector<double>{10}));
+  stage.Unload(first);
+  Serve(100);
+  stage.Load(first);
+  EXPECT_EQ(Serve(115), (std::vector<double>{110}));
+}
+
 TEST_F(TimerTest, DisablingActsAtOnceFromWithinTheTick) {
   stage.Load(first);
   first.Clock.SetEnabled(true);

@@ -119,7 +119,7 @@ def main():
     with ThreadPoolExecutor(jobs) as pool, open(verdicts_file, "w", encoding="utf-8") as file:
         list(pool.map(Test.measure, tests))
         tests = sorted((test for test in tests if test.reached), key=lambda test: test.seconds)
-        reached = set().union(*(test.reached for test in tests))
+        reached = set().union(*(test.reached for test in tests)) & {fault["number"] for fault in faults}
         print(f"{len(tests)} tests come to {len(reached)} of {len(faults)} faults, in "
               f"{sum(test.seconds for test in tests):.0f} s", flush=True)
 

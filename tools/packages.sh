@@ -18,6 +18,7 @@ sound_packages=(opus-tools lame vorbis-tools) # for the sounds that are rendered
 windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev libstb-dev fluidr3mono-gm-soundfont dpkg-dev zip nsis)
 windows_check_packages=(wine64 libgtest-dev unzip)
 thorough_packages=("clang-$clang_version" "clang-tidy-$clang_version" "libclang-rt-$clang_version-dev")
+coverage_packages=(gcovr)
 mutants_packages=("python3-clang-$clang_version" rsync)
 
 # What dnf, zypper and pacman call them, as far as known; "-" comes along with another.

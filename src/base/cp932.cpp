@@ -34,8 +34,8 @@ unsigned char TrailByte(int index) {
   return static_cast<unsigned char>(index < 63 ? 0x40 + index : 0x80 + index - 63);
 }
 
+// Of a character that is not ASCII's.
 std::string Utf8(char32_t code) {
-  if (code < 0x80) return {static_cast<char>(code)};
   if (code < 0x800)
     return {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 0x3F))};
   return {static_cast<char>(0xE0 | code >> 12), static_cast<char>(0x80 | (code >> 6 & 0x3F)),

@@ -39,7 +39,7 @@ PlayRecorder::PlayRecorder(const Services& services)
 }
 
 void PlayRecorder::Stop() {
-  whole_ = closed_ && whole_;
+  if (!closed_) whole_ = false;
 }
 
 void PlayRecorder::BeginEvent() {

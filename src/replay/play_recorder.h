@@ -63,7 +63,6 @@ class PlayRecorder : public PlayWatcher {
     ChanceTap(PlayRecorder& recorder, Chance& chance) : recorder_(recorder), luck_(chance) {}
     float Draw() override;
     void Reseed() override { luck_.Reseed(); }
-    const SeededDraws* Source() const override { return luck_.Source(); }
 
    private:
     PlayRecorder& recorder_;

@@ -25,7 +25,7 @@ bool IsNote(unsigned byte) {
 }
 
 bool NamesControl(Mark mark) {
-  return mark == Mark::Timer || (mark >= Mark::Click && mark <= Mark::Slide);
+  return mark >= Mark::Click && mark <= Mark::Slide;
 }
 
 bool NamesScreen(Mark mark) {

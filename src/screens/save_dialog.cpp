@@ -5,13 +5,14 @@
 namespace orvane {
 
 SaveDialog::SaveDialog(Game& game, const std::string& name, const std::string& verb)
-    : Screen(game.stage, name, "ファイルの" + verb, 241, 233),
+    : Screen(game.stage, name, "", 241, 233),
       Request(*this, "Label1", {8, 8, 185, 17}, {verb + "するファイルの選択", Rgb(128, 64, 64)}),
       Files(*this, "File1", {8, 32, 137, 54}),
       OKButton(*this, "OKButton", {152, 56, 81, 25}, {verb}),
       PartyFrame(*this, "Frame1", {8, 88, 225, 137}, {verb + "するデータ"}),
       RoundLabel(PartyFrame, "Label4", {72, 48, 81, 17}, {"", 0, {}, Align::Centre}),
       game_(game) {
+  Caption = "ファイルの" + verb;
   Files.Pattern = "*.sav";
   Files.OnClick = [this] { Open(); };
   Faces.Add(0, PartyFrame, Place{8, 32, 48, 48}, PictureValues{Sheet("face_man")});

@@ -44,7 +44,8 @@ int ChannelOf(std::string_view alias) {
 std::vector<std::uint8_t> ReadSound(const std::string& path) {
   const std::filesystem::path file = PathOf(path);
   std::error_code error;
-  if (std::filesystem::file_size(file, error) > kMostBytes || error) return {};
+  // Of a file that has gone it is the largest number.
+  if (std::filesystem::file_size(file, error) > kMostBytes) return {};
   const std::string bytes = ReadWholeFile(file).value_or("");
   return {bytes.begin(), bytes.end()};
 }

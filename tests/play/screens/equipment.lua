@@ -209,6 +209,18 @@ test("a book that the other hero wears is refused, its second copy too, until it
   expect(enabled(1), false)
 end)
 
+test("an empty row is refused whatever book the other hero wears", function()
+  opened()
+  tab("Wepon.SSTab1", 1)
+  pick(book)
+  click("Wepon.Command3")
+  tab("Wepon.SSTab1", 0)
+  pick(tome)
+  expect(enabled(1), true)
+  pick(empty)
+  expect(enabled(1), false)
+end)
+
 test("a weapon of the name of a worn one can be worn, for only books are compared", function()
   opened()
   click("Wepon.Command5")

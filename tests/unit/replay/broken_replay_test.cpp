@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "src/core/new_game.h"
+#include "src/core/save_file.h"
 #include "src/platform/folder_storage.h"
 #include "src/platform/memory_storage.h"
 #include "src/replay/replayer.h"
@@ -128,6 +130,26 @@ TEST_F(DifferentReplay, TellsAControlThatIsOfAnotherKind) {
 
 TEST_F(DifferentReplay, TellsATickOfATimerThatIsOff) {
   EXPECT_THAT(Difference(start_.Tick("Main", "Timer1")), HasSubstr("Main.Timer1 off"));
+}
+
+TEST_F(DifferentReplay, TellsATickOfATimerThatWaitsForItsBox) {
+  // A save of a party with a full bag that stands on a chest.
+  GameRecord record;
+  FreshRecord(record);
+  record.ItemCount = 20;
+  record.SaveMapA = record.SaveMapB = 3;
+  record.SaveX = 192;
+  record.SaveY = 96;
+  std::string map = Map();
+  map.replace(2 * (12 * kMapRows + 6), 1, "36");
+  start_.Put(Mark::ClickItem).Name("Main").Name("m11");
+  start_.Put(Mark::Names).Name("*.sav").Number(1).Name("Save01.sav");
+  start_.Put(Mark::Choose).Name("Load").Name("File1").Signed(0);
+  start_.File("Save01.sav", PackRecord(record));
+  start_.Put(Mark::Click).Name("Load").Name("OKButton").File("Mapdata/map3-3.dat", map);
+  start_.Tick("Main", "Timer1");
+  EXPECT_EQ(Difference(start_), "none");
+  EXPECT_THAT(Difference(start_.Byte(kTicks)), HasSubstr("Main.Timer1 off"));
 }
 
 TEST_F(DifferentReplay, TellsAnEventAfterTheEnd) {

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <deque>
+
 #include "src/replay/replayer.h"
 #include "src/replay/sums.h"
 #include "tests/unit/replay/recorded_play.h"
@@ -226,6 +228,112 @@ TEST_F(RecorderTest, LongDelaysBetweenTwoSeedsAreTakenDownInFull) {
     uint32_t count_ = 0;
   };
   SlowClock luck;
+  StartWith(luck);
+  play_.Begin();
+  play_.Walk(Direction::Right, 20);
+  EXPECT_EQ(Difference(), "");
+  play_.TheProgram.reset();
+}
+
+TEST_F(RecorderTest, SixteenTicksAreOneByte) {
+  Stage stage;
+  class Clock : public Screen {
+   public:
+    explicit Clock(Stage& stage) : Screen(stage, "Clock", "", 10, 10) {}
+    Timer Ticks{*this, "Timer1", 10, 30};
+  };
+  Clock clock(stage);
+  PlayRecorder recorder(Services{play_.Sound, play_.Luck, play_.Files});
+  const PlayEvent tick{.What = PlayEvent::Kind::Tick, .On = &clock.Ticks};
+  recorder.Comes(tick);
+  const size_t first = recorder.Bytes().size();
+  for (int i = 1; i < 16; ++i) recorder.Comes(tick);
+  EXPECT_EQ(recorder.Bytes().size(), first);
+  for (int i = 0; i < 16; ++i) recorder.Comes(tick);
+  EXPECT_EQ(recorder.Bytes().size(), first + 1);
+}
+
+// Draws that come from the generator in between, where none is dictated.
+class Dictated : public HalfDictated {
+ public:
+  Dictated() : HalfDictated(7) { Every = 1 << 20; }
+  float Draw() override {
+    if (Next.empty()) return HalfDictated::Draw();
+    const std::optional<float> draw = Next.front();
+    Next.pop_front();
+    return draw ? *draw : HalfDictated::Draw();
+  }
+
+  std::deque<std::optional<float>> Next;
+};
+
+TEST_F(RecorderTest, ABattleComesOutTheSameWithDrawsOfBothKindsInOneEvent) {
+  Dictated luck;
+  StartWith(luck);
+  play_.Begin();
+  // The roll that leads into a battle, the generator's kind, a dictated count.
+  luck.Next = {100.5F / 150, std::nullopt, 0.99F};
+  play_.Walk(Direction::Right, 1);
+  ASSERT_TRUE(play_.ScreenOf("Battle").IsVisible());
+  EXPECT_EQ(play_.TheProgram->Click(play_.On("Battle", "Command1")), "");
+  EXPECT_EQ(play_.TheProgram->Choose(play_.On("Battle", "List2"), 1), "");
+  for (int tick = 0; tick < 12; ++tick) {
+    luck.Next = {std::nullopt, 0.5F};
+    play_.TheProgram->Tick(play_.TimerOf("Battle", "Timer1"));
+  }
+  EXPECT_EQ(Difference(), "");
+  play_.TheProgram.reset();
+}
+
+TEST_F(RecorderTest, SeedsAndDrawsThatNobodySawAreMadeGoodAtTheNextDraw) {
+  for (const int way : {0, 1, 2}) {
+    PlayersChance luck{{}};
+    StartWith(luck);
+    play_.Begin();
+    play_.Walk(Direction::Right, 3);
+    if (way > 0) luck.Reseed();
+    if (way > 1) luck.Reseed();
+    luck.Draw();
+    play_.Walk(Direction::Left, 3);
+    luck.Reseed();
+    luck.Reseed();
+    play_.Walk(Direction::Right, 3);
+    EXPECT_EQ(Difference(), "") << way;
+    play_.TheProgram.reset();
+  }
+}
+
+TEST_F(RecorderTest, WhatStandsModalAtTheEndIsPartOfTheSum) {
+  play_.Start();
+  const uint64_t before = SumOfState(*play_.TheProgram);
+  play_.TheProgram->Click(play_.On("Main", "Command1"));
+  ASSERT_TRUE(play_.ScreenOf("InputName").IsModal());
+  EXPECT_NE(SumOfState(*play_.TheProgram), before);
+  EXPECT_EQ(Difference(), "");
+}
+
+TEST_F(RecorderTest, AStartThatFailsIsARecordToo) {
+  play_.Files.Files.erase("Item.dat");
+  play_.Start();
+  EXPECT_EQ(play_.TheProgram->TheStage().Active(), nullptr);
+  EXPECT_TRUE(play_.TheProgram->Error().has_value());
+  EXPECT_EQ(Difference(), "");
+}
+
+TEST_F(RecorderTest, AGeneratorThatIsDrawnFromAsItIsSeededComesOutTheSame) {
+  class Eager : public Chance {
+   public:
+    float Draw() override { return luck_.Draw(); }
+    void Reseed() override {
+      luck_.Reseed();
+      luck_.Draw();
+    }
+    const SeededDraws* Source() const override { return luck_.Source(); }
+
+   private:
+    PlayersChance luck_{{}};
+  };
+  Eager luck;
   StartWith(luck);
   play_.Begin();
   play_.Walk(Direction::Right, 20);

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <filesystem>
 #include <thread>
 
 #include "src/platform/whole_file.h"
@@ -23,7 +24,7 @@ class FileForDevice {
  public:
   explicit FileForDevice(const std::string& driver) {
     SetVariable("SDL_AUDIODRIVER", driver);
-    SetVariable("SDL_DISKAUDIOFILE", folder_.Path() + "/Sound/device.raw");
+    PutBack();
   }
   ~FileForDevice() {
     SetVariable("SDL_AUDIODRIVER", "");
@@ -31,6 +32,9 @@ class FileForDevice {
   }
   FileForDevice(const FileForDevice&) = delete;
   FileForDevice& operator=(const FileForDevice&) = delete;
+
+  // The device plays into the file again, after it was another.
+  void PutBack() const { SetVariable("SDL_DISKAUDIOFILE", folder_.Path() + "/Sound/device.raw"); }
 
   // The samples that were played.
   size_t Samples() const {
@@ -66,6 +70,41 @@ TEST(Device, OneThatMakesNoSoundIsNone) {
     const FileForDevice file(driver);
     EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) {}), nullptr) << driver;
   }
+}
+
+TEST(Device, OneThatCannotBeOpenedIsNone) {
+  const FileForDevice file("disk");
+  SetVariable("SDL_DISKAUDIOFILE", "/no/such/folder/device.raw");
+  EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) {}), nullptr);
+}
+
+TEST(Device, OneThatWasPulledOutIsLookedForUntilThereIsOne) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no such device here";
+  const FileForDevice file("disk");
+  const auto output = [&] {
+    SetVariable("SDL_DISKAUDIOFILE", "/dev/full");
+    auto opened = OpenDevice(
+        kRate, [](float* out, size_t count, auto) { std::fill_n(out, 2 * count, 0.25F); });
+    SetVariable("SDL_DISKAUDIOFILE", "/no/such/folder/device.raw");
+    return opened;
+  }();
+  if (!output) GTEST_SKIP() << "SDL cannot play into a file here";
+  // It has looked for another at least once, and there was none.
+  std::this_thread::sleep_for(milliseconds(2500));
+  EXPECT_EQ(file.Samples(), 0u);
+  file.PutBack();
+  for (int i = 0; i < 1000 && file.Samples() == 0; ++i)
+    std::this_thread::sleep_for(milliseconds(10));
+  EXPECT_GT(file.Samples(), 0u);
+}
+
+// A system without a sound card has much to say about it, and nobody wants to hear.
+TEST(Device, WhereTheSystemHasNoneNothingIsSaid) {
+  if (std::filesystem::exists("/dev/snd")) GTEST_SKIP() << "there is one here";
+  const FileForDevice file("alsa");
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) {}), nullptr);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(SoundEngineTest, PlaysToTheDeviceOrToTheClockWhereThereIsNone) {

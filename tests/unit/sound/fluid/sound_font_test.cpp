@@ -5,8 +5,13 @@
 
 #include <array>
 #include <filesystem>
+#include <future>
+#include <stop_token>
+#include <thread>
 
 #include "src/platform/whole_file.h"
+#include "src/sound/song_player.h"
+#include "src/sound/synth.h"
 #include "tests/unit/sound/engine.h"
 
 namespace orvane {
@@ -174,6 +179,125 @@ TEST_F(SoundEngineFontTest, AFontThatIsNoneIsSilence) {
   engine.Send(PlayCommand("bgm1"));
   EXPECT_EQ(LevelOf(Pull(engine, 1)), 0);
   EXPECT_EQ(Status(engine, "bgm1"), "playing");
+}
+
+TEST_F(EventTest, BankNumbersAreNoControllers) {
+  const Heard plain = SecondHalf({0xb0, 3, 0});
+  for (const std::uint8_t bank : {std::uint8_t{0}, std::uint8_t{32}}) {
+    EXPECT_NEAR(SecondHalf({0xb0, bank, 1}).Level, plain.Level, plain.Level / 100);
+  }
+}
+
+// The orchestra by itself, with pieces that ask for instruments.
+class OrchestraTest : public SoundEngineFontTest {
+ protected:
+  // A piece that chooses these instruments in turn on its first channel.
+  static std::unique_ptr<Piece> Choosing(const std::vector<int>& programs) {
+    Bytes events;
+    for (const int program : programs) {
+      const Bytes choice{0, 0xc0, static_cast<std::uint8_t>(program), 0, 0x90, 60, 100};
+      events.insert(events.end(), choice.begin(), choice.end());
+    }
+    auto piece = std::make_unique<Piece>();
+    piece->Notes = *ReadSong(Join({MidiHeader(0, 1, 96), MidiTrack(events)}));
+    return piece;
+  }
+  // How loud a note of an instrument is on bank 0.
+  double LevelOfNote(Synth& synth, int program) const {
+    synth.Clear(0);
+    return LevelOnTop(synth, program);
+  }
+  double LevelOnTop(Synth& synth, int program) const {
+    synth.Send(0, {0, 0xc0, static_cast<std::uint8_t>(program), 0});
+    synth.Send(0, {0, 0x90, 60, 100});
+    std::vector<float> heard;
+    for (int i = 0; i < 100; ++i) {
+      Block block{};
+      synth.Render(block);
+      heard.insert(heard.end(), block.begin(), block.end());
+    }
+    synth.Send(0, {0, 0x80, 60, 0});
+    return LevelOf(heard);
+  }
+};
+
+TEST_F(OrchestraTest, WhatNobodyPreparedIsSilent) {
+  const auto synth = Synth::Load("", kRate);
+  synth->Begin(0, *Choosing({16}));
+  EXPECT_LT(LevelOfNote(*synth, 16), 0.00001);
+}
+
+TEST_F(OrchestraTest, WhatHasNotBeenReadWhenItIsAskedToStopStaysUnread) {
+  const auto synth = Synth::Load("", kRate);
+  std::stop_source leaving;
+  leaving.request_stop();
+  synth->Prepare(*Choosing({16}), leaving.get_token());
+  synth->Begin(0, *Choosing({16}));
+  EXPECT_LT(LevelOfNote(*synth, 16), 0.00001);
+}
+
+TEST_F(OrchestraTest, AnInstrumentThatPlaysGoesOnWhenOthersHaveTakenItsPlace) {
+  const auto synth = Synth::Load("", kRate);
+  synth->Prepare(*Choosing({16}));
+  synth->Begin(0, *Choosing({16}));
+  EXPECT_GT(LevelOfNote(*synth, 16), 0.001);
+  std::vector<int> others;
+  for (int program = 40; program < 70; ++program) others.push_back(program);
+  synth->Prepare(*Choosing(others));
+  EXPECT_GT(LevelOnTop(*synth, 16), 0.001) << "it is the channel's already";
+  EXPECT_GT(LevelOnTop(*synth, 20), 0.001) << "for one that was not prepared another plays";
+}
+
+TEST_F(OrchestraTest, DrumsThatTheFontLacksAreItsFirst) {
+  const Bytes events{0, 0xc9, 100, 0, 0x99, 38, 120};
+  folder_.Write("Round3.mid", Join({MidiHeader(0, 1, 96), MidiTrack(events, 96)}));
+  SoundEngine engine(ForCaller());
+  Open(engine, "Round3.mid", "bgm3");
+  engine.WaitUntilReady();
+  engine.Send(PlayCommand("bgm3"));
+  EXPECT_GT(LevelOf(Pull(engine, 0.2)), 0.001);
+}
+
+TEST_F(OrchestraTest, BanksThatTheFontLacksAreItsFirst) {
+  const Bytes events{0,    0xb0, 0, 5, 0, 0xc0, 16, 0,    0x90, 60, 100,
+                     0x20, 0xb0, 0, 6, 0, 0xc0, 16, 0x10, 0x90, 62, 100};
+  folder_.Write("Round4.mid", Join({MidiHeader(0, 1, 96), MidiTrack(events, 96)}));
+  SoundEngine engine(ForCaller());
+  Open(engine, "Round4.mid", "bgm4");
+  engine.WaitUntilReady();
+  engine.Send(PlayCommand("bgm4"));
+  EXPECT_GT(LevelOf(Pull(engine, 0.2)), 0.001);
+}
+
+TEST_F(OrchestraTest, APieceWaitsWhileItsInstrumentsAreRead) {
+  const auto synth = Synth::Load("", kRate);
+  auto piece = std::make_shared<Piece>();
+  piece->Notes = *ReadSong(SimpleSong(1));
+  piece->Ready = true;
+  synth->Prepare(*piece);
+  SongPlayer player(piece, 0, kRate);
+  player.Start();
+  const auto sounds = [&] {
+    player.Step(synth.get());
+    Block block{};
+    for (int i = 0; i < 20; ++i) synth->Render(block);
+    return LevelOf({block.begin(), block.end()}) > 0.0001;
+  };
+  {
+    // Another thread reads, as far as the player can tell.
+    std::promise<void> taken;
+    std::promise<void> read;
+    std::thread reader([&] {
+      const auto turn = synth->Turn();
+      taken.set_value();
+      read.get_future().wait();
+    });
+    taken.get_future().wait();
+    EXPECT_FALSE(sounds());
+    read.set_value();
+    reader.join();
+  }
+  EXPECT_TRUE(sounds());
 }
 
 }  // namespace

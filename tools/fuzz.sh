@@ -23,7 +23,7 @@ fi
 largest_of() {
   case $1 in
     engine) echo 20000 ;;
-    song | clip | map) echo 8000 ;;
+    song | clip | map | replay) echo 8000 ;;
     *) echo 4000 ;;
   esac
 }

@@ -1,6 +1,6 @@
 // Makes what the fuzzers begin with: the files of the game folder, each in the form in which its
 // target takes it, and a few things to do.
-//   orvane-fuzz-seeds GAME_FOLDER FOLDER
+//   orvane-fuzz-seeds GAME_FOLDER REPLAYS FOLDER
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -10,6 +10,7 @@
 #include "src/base/little_endian.h"
 #include "src/core/new_game.h"
 #include "src/core/save_file.h"
+#include "src/frontend/web/services/zip.h"
 #include "src/platform/path_text.h"
 #include "src/platform/whole_file.h"
 
@@ -21,6 +22,7 @@ constexpr size_t kMostBytes = 4000;  // of a sound: a fuzzer is quick with small
 
 struct Folders {
   std::filesystem::path Game;
+  std::filesystem::path Replays;
   std::filesystem::path Corpora;
 
   std::string Read(const std::string& name) const {
@@ -86,6 +88,22 @@ void WriteSaves(const Folders& folders) {
   }
 }
 
+void WriteArchives(const Folders& folders) {
+  const std::string save = PackRecord(Played(2));
+  folders.Write("archive", "one", WriteZip({{"Save01.sav", save}}));
+  folders.Write("archive", "more", WriteZip({{"mine/Save01.sav", save}, {"read me", "words"}}));
+}
+
+// The kept ones, and the beginning of each, which is quicker.
+void WriteReplays(const Folders& folders) {
+  for (const char* name : {"first_round.replay", "last_stage.replay"}) {
+    const std::string bytes = ReadWholeFile(folders.Replays / name).value_or("");
+    if (bytes.empty()) std::exit(EXIT_FAILURE);
+    folders.Write("replay", name, bytes);
+    folders.Write("replay", std::string("begin_") + name, bytes.substr(0, 1000));
+  }
+}
+
 void WriteFiles(const Folders& folders) {
   for (const auto& entry : std::filesystem::directory_iterator(folders.Game / "Mapdata")) {
     const std::string name = TextOf(entry.path().filename());
@@ -143,9 +161,11 @@ void WriteActions(const Folders& folders) {
 }  // namespace
 
 int main(int count, char** words) {
-  if (count != 3) return EXIT_FAILURE;
-  const Folders folders{PathOf(words[1]), PathOf(words[2])};
+  if (count != 4) return EXIT_FAILURE;
+  const Folders folders{PathOf(words[1]), PathOf(words[2]), PathOf(words[3])};
   WriteSaves(folders);
+  WriteArchives(folders);
+  WriteReplays(folders);
   WriteFiles(folders);
   WriteSounds(folders);
   WriteActions(folders);

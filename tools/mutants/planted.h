@@ -1,5 +1,6 @@
 // Whether a planted fault is in force: the one that ORVANE_PLANTED names. With ORVANE_REACHED, a
-// file, notes there which were asked for. The source files that faults are planted in begin with it.
+// file, notes there which were asked for. The source files that faults are planted in begin with
+// it.
 #pragma once
 
 #include <array>

@@ -10,6 +10,7 @@
 #include "src/base/little_endian.h"
 #include "src/core/new_game.h"
 #include "src/core/save_file.h"
+#include "src/frontend/web/services/save_check.h"
 #include "src/frontend/web/services/zip.h"
 #include "src/platform/path_text.h"
 #include "src/platform/whole_file.h"
@@ -67,6 +68,8 @@ std::string ShortEffect(const std::string& wave) {
 GameRecord Played(int round) {
   GameRecord record;
   FreshRecord(record);
+  record.HeroName[0] = "カイ";
+  record.HeroName[1] = "リナ";
   for (int hero = 0; hero < 2; ++hero) {
     record.SaveName[hero] = record.HeroName[hero];
     record.SaveLevel[hero] = record.Level[hero];
@@ -81,6 +84,7 @@ GameRecord Played(int round) {
 void WriteSaves(const Folders& folders) {
   for (int round = 1; round <= 4; ++round) {
     const std::string save = PackRecord(Played(round));
+    if (!SaveProblem(save).empty()) std::exit(EXIT_FAILURE);  // what is refused is no beginning
     for (const char* target : {"save", "import"}) {
       folders.Write(target, "round" + std::to_string(round), save);
       folders.Write(target, "short" + std::to_string(round), save.substr(0, 100));

@@ -57,6 +57,7 @@ class DeviceOutput : public Output {
     if (device_ != 0) Watch();
     SDL_CloseAudioDevice(device_);
     if (started) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    SDL_TLSCleanup();  // as SDL does it in threads of its own
   }
 
   SDL_AudioDeviceID OpenDefault() {

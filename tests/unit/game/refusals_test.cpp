@@ -169,6 +169,11 @@ TEST_F(Refusals, ASliderGoesFromItsLeastToItsMost) {
   EXPECT_EQ(Speed().Value, 30);
 }
 
+TEST_F(Refusals, NobodyGoesBackFromAHiddenScreen) {
+  Begin();
+  EXPECT_EQ(program_->GoBack(ScreenOf("Item")), "Item is hidden");
+}
+
 TEST_F(Refusals, EnterNeedsAButtonForIt) {
   Begin();
   EXPECT_EQ(program_->Confirm(ScreenOf("Main")), "Main has no button for Enter");

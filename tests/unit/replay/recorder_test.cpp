@@ -91,6 +91,20 @@ TEST_F(RecorderTest, ASaveThatIsKeptLaterIsTakenDownAsAnEvent) {
   }
 }
 
+TEST_F(RecorderTest, ASaveThatWaitsAtTheEndOfTheRecordStillComesAbout) {
+  play_.Start();
+  play_.Begin();
+  play_.Files.AnswersLater = true;
+  play_.Save();
+  EXPECT_FALSE(play_.TheProgram->TheStage().TimeRuns());
+  play_.TheRecorder->Close(false);
+  const std::string closed = play_.TheRecorder->Bytes();
+  play_.Files.Settle();
+  EXPECT_TRUE(play_.TheProgram->TheStage().TimeRuns());
+  play_.TheRecorder->Close(false);
+  EXPECT_EQ(play_.TheRecorder->Bytes(), closed);
+}
+
 TEST_F(RecorderTest, ASaveAfterTheEndOfTheRecordStillComesAbout) {
   for (const bool later : {false, true}) {
     play_.Start();

@@ -3,7 +3,7 @@
 namespace orvane {
 
 PlayLog::PlayLog(const std::string& path, int rate)
-    : file_(std::fopen(path.c_str(), "w")), rate_(rate) {}
+    : file_(std::fopen(path.c_str(), "wb")), rate_(rate) {}
 
 void PlayLog::Begin(double delay) {
   const std::scoped_lock lock(mutex_);

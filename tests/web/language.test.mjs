@@ -4,7 +4,7 @@ import { mkdirSync } from 'node:fs';
 import { join } from 'node:path';
 import { until } from './lib/game_page.mjs';
 import { seen } from './lib/places.mjs';
-import { begin } from './lib/steps.mjs';
+import { begin, save } from './lib/steps.mjs';
 import { both, inBrowsers } from './lib/tests.mjs';
 
 const japanese = /[\p{Script=Hiragana}\p{Script=Katakana}\p{Script=Han}]/u;
@@ -35,6 +35,7 @@ inBrowsers('English in the middle of a game, and back', both, async ({ name, ope
   mkdirSync(seen, { recursive: true });
   const look = (picture) => game.page.screenshot({ path: join(seen, `${name}-language-${picture}.png`) });
   await begin(game);
+  await save(game, 0);
   await walkIntoFight(game);
   await until('a command', () => game.page.evaluate(() => document.querySelector('[data-name=Battle] [data-name=Command1]')?.disabled === false), 30000);
   const before = await textsOf(game);
@@ -56,4 +57,5 @@ inBrowsers('English in the middle of a game, and back', both, async ({ name, ope
   const last = await game.page.$eval('.end:not([hidden])', (element) => element.textContent);
   assert.match(last, /Sorry/);
   assert.match(last, /Start again/);
+  assert.match(last, /Export Save01\.sav/);
 });

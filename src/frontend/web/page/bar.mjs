@@ -28,13 +28,13 @@ function showLast(state, name) {
   document.getElementById('desktop').replaceChildren();
   document.querySelectorAll('dialog').forEach((dialog) => dialog.remove());
   document.exitFullscreen?.call(document).catch(() => {});
-  const page = document.getElementById(name);
-  page.hidden = false;
+  const page = Object.assign(document.getElementById(name), { hidden: false });
+  const caption = document.getElementById('take').textContent; // said while the game could still say it
   const row = page.querySelector('.choices');
   row.firstElementChild.onclick = () => location.reload();
   row.firstElementChild.focus();
   // One by one, since what packs them together may be what has failed.
-  for (const [name, bytes] of kept()) makeButton('push', row, `${name}を書き出す`, () => hand(name, bytes));
+  for (const [name, bytes] of kept()) makeButton('push', row, caption.replace('{file}', name), () => hand(name, bytes));
   return page;
 }
 

@@ -3,6 +3,16 @@ local phases = require "lib.phases"
 local caption, phase, dragon_phase = phases.caption, phases.phase, phases.dragon_phase
 local last_phase = phases.last_phase
 
+-- The first hero faints; the second strikes, up to the frame that hits.
+local function strike_of_the_second()
+  phase(1)
+  set("HP[0]", 1)
+  steps.enemy_attack(0)
+  click("Battle.Command1")
+  choose("Battle.List2", 1)
+  tick("Battle.Timer1", 15)
+end
+
 test("a hero at 0 faints, and the phase's end shuts the pane and counts the round's first action", function()
   phase(2)
   set("HP[0]", 16)
@@ -132,12 +142,7 @@ test("when both have fainted the sounds are closed, the box stands and the progr
 end)
 
 test("under the box of the end no pane can be opened, and no skill of a fainted hero's open pane", function()
-  phase(1)
-  set("HP[0]", 1)
-  steps.enemy_attack(0)
-  click("Battle.Command1")
-  choose("Battle.List2", 1)
-  tick("Battle.Timer1", 15)
+  strike_of_the_second()
   set("HP[1]", 1)
   local looked
   answer(function()
@@ -180,12 +185,7 @@ test("a special that fells both ends the game", function()
 end)
 
 test("with the second hero alone the phase's end opens her spells though the pane did not change", function()
-  phase(1)
-  set("HP[0]", 1)
-  steps.enemy_attack(0)
-  click("Battle.Command1")
-  choose("Battle.List2", 1)
-  tick("Battle.Timer1", 15)
+  strike_of_the_second()
   expect(get("Battle.SSTab1.Tab"), 1)
   tick("Battle.Timer1", 17)
   for n = 1, 4 do expect(get("Battle.Command" .. n .. ".Enabled"), false) end

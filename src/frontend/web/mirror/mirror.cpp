@@ -243,6 +243,7 @@ std::string Mirror::BoxesNow() const {
   {
     Json list(out, Json::Form::List);
     for (const StandingBox& box : stage_.Boxes()) {
+      const Box shown = texts_.Of(box.Shown);
       std::string choices;
       {
         Json each(choices, Json::Form::List);
@@ -260,8 +261,8 @@ std::string Mirror::BoxesNow() const {
       {
         Json json(entry, Json::Form::Object);
         json.Add("number", box.Number);
-        json.Add("text", ShownText(texts_.Of(box.Shown)));
-        json.Add("title", texts_.Of(box.Shown.Title));
+        json.Add("text", ShownText(shown));
+        json.Add("title", shown.Title);
         json.AddRaw("choices", choices);
         json.Add("closing", static_cast<int>(AnswerOfClosing(box.Shown.Buttons)));
       }

@@ -26,7 +26,8 @@ class Synth {
   Synth& operator=(const Synth&) = delete;
 
   // For any thread that may wait: reads what a piece needs and keeps it, with what the pieces last
-  // asked for need, in memory. What has not been read when it is asked to stop stays unread.
+  // asked for need, in memory. What is not wholly read when it is asked to stop stays unread,
+  // and may do so for good: only who leaves asks for it.
   void Prepare(const Piece& piece, const std::stop_token& stop = {});
 
   // The rest is the audio thread's. It gets its turn to send only if nothing is just being read,

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <vector>
 
+#include "src/sound/fluid/font_file.h"
 #include "src/sound/fluid/sound_font.h"
 
 namespace orvane {
@@ -48,7 +49,7 @@ struct Synth::Parts {
     std::array<int, 16> Expression{};
   };
 
-  Parts() = default;
+  explicit Parts(const std::string& font) : File(font) {}
   Parts(const Parts&) = delete;
   Parts& operator=(const Parts&) = delete;
   ~Parts() {
@@ -60,11 +61,12 @@ struct Synth::Parts {
   Patch Resolve(const Patch& patch) const;
   void Select(int channel, const Patch& patch) const;
   // Reads an instrument that the font has and keeps it in memory, and with it the ones last asked
-  // for, `most` in all.
+  // for, `most` in all. Nothing of it stays if the reading is stopped.
   void Keep(const Patch& wanted, size_t most);
   // Whether a channel can play an instrument that the font has without reading anything.
   bool IsReady(int channel, const Patch& patch) const;
 
+  FontFile File;
   fluid_settings_t* Settings = nullptr;
   fluid_synth_t* Voices = nullptr;
   int Font = FLUID_FAILED;
@@ -79,7 +81,7 @@ std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
   for (int level = 0; level < LAST_LOG_LEVEL; ++level) {
     fluid_set_log_function(level, nullptr, nullptr);  // sound never complains
   }
-  auto fluid = std::make_unique<Parts>();
+  auto fluid = std::make_unique<Parts>(path);
   fluid->Settings = new_fluid_settings();
   if (fluid->Settings == nullptr) return nullptr;
   fluid_settings_setnum(fluid->Settings, "synth.sample-rate", rate);
@@ -91,7 +93,7 @@ std::unique_ptr<Synth> Synth::Load(const std::string& font, int rate) {
   fluid_settings_setint(fluid->Settings, "synth.lock-memory", 0);
   fluid->Voices = new_fluid_synth(fluid->Settings);
   if (fluid->Voices == nullptr) return nullptr;
-  fluid->Font = fluid_synth_sfload(fluid->Voices, path.c_str(), 0);
+  fluid->Font = fluid->File.LoadInto(fluid->Voices, fluid->Settings);
   if (fluid->Font == FLUID_FAILED) return nullptr;
   return std::unique_ptr<Synth>(new Synth(std::move(fluid)));
 }
@@ -130,6 +132,10 @@ void Synth::Parts::Keep(const Patch& wanted, size_t most) {
   int channel = kPlayChannels;
   while (std::find(Keepers.begin(), Keepers.end(), channel) != Keepers.end()) ++channel;
   Select(channel, wanted);
+  if (File.IsStopped()) {  // it may lack samples, and must not be played
+    fluid_synth_unset_program(Voices, channel);
+    return;
+  }
   Keepers.push_back(channel);
   Kept.push_back(wanted);
   while (Kept.size() > most) {
@@ -159,6 +165,7 @@ void Synth::Prepare(const Piece& piece, const std::stop_token& stop) {
   for (const Patch& patch : wanted) {
     if (stop.stop_requested()) return;
     const std::scoped_lock turn(turn_);
+    parts_->File.StopBy(stop);
     parts_->Keep(patch, std::max(kUsualKeepers, wanted.size()));
   }
 }

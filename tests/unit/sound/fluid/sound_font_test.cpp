@@ -236,6 +236,36 @@ TEST_F(OrchestraTest, WhatHasNotBeenReadWhenItIsAskedToStopStaysUnread) {
   EXPECT_LT(LevelOfNote(*synth, 16), 0.00001);
 }
 
+TEST_F(OrchestraTest, WhatIsBeingReadWhenItIsAskedToStopIsNotPlayed) {
+  Piece drums;
+  drums.Notes = *ReadSong(Join({MidiHeader(0, 1, 96), MidiTrack({0, 0xc9, 0})}));
+  // How loud all drums are together.
+  const auto level = [&](Synth& synth) {
+    synth.Begin(0, drums);
+    synth.Send(0, {0, 0xc9, 0, 0});
+    for (std::uint8_t drum = 35; drum < 82; ++drum) synth.Send(0, {0, 0x99, drum, 120});
+    Block block{};
+    synth.Render(block);
+    return LevelOf({block.begin(), block.end()});
+  };
+  const auto untouched = Synth::Load("", kRate);
+  untouched->Prepare(drums);
+  const double whole = level(*untouched);
+  EXPECT_GT(whole, 0.01);
+  for (int moment = 0; moment <= 100; moment += 10) {
+    const auto synth = Synth::Load("", kRate);
+    std::stop_source leaving;
+    std::thread hand([&] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(moment));
+      leaving.request_stop();
+    });
+    synth->Prepare(drums, leaving.get_token());
+    hand.join();
+    const double heard = level(*synth);
+    EXPECT_TRUE(heard < 0.0001 || heard == whole) << heard << " after " << moment << " ms";
+  }
+}
+
 TEST_F(OrchestraTest, AnInstrumentThatPlaysGoesOnWhenOthersHaveTakenItsPlace) {
   const auto synth = Synth::Load("", kRate);
   synth->Prepare(*Choosing({16}));

@@ -13,8 +13,9 @@ namespace orvane {
 // A colour as 0xRRGGBB.
 using Colour = uint32_t;
 
-// The pixels of copies of a surface, until one of them is drawn on. Those of a sheet are made when
-// they are first looked at, from whichever thread that is: most plays see few of the sheets.
+// The pixels of copies of a surface, until one of them is drawn on. Those of a sheet, and of what
+// has one colour, are made when they are first looked at, from whichever thread that is: most plays
+// see few of the sheets and screens.
 class SharedPixels {
  public:
   using Pixels = std::vector<Colour>;

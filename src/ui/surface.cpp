@@ -52,7 +52,8 @@ Surface::Pixels Sized(Surface::Pixels pixels, size_t size) {
 }  // namespace
 
 Surface::Surface(int width, int height, Colour colour)
-    : Surface(width, height, Pixels(Area(width, height), colour)) {}
+    : Surface(width, height,
+              [size = Area(width, height), colour] { return Pixels(size, colour); }) {}
 
 Surface::Surface(int width, int height, Pixels pixels)
     : Surface(width, height,

@@ -64,7 +64,7 @@ class Surface {
   using Pixels = SharedPixels::Pixels;
 
   Surface() : Surface(0, 0) {}
-  // Negative sizes count as 0.
+  // Negative sizes count as 0. Takes memory for its pixels when they are first looked at.
   Surface(int width, int height, Colour colour = 0);
   // `pixels` holds width * height colours, row by row.
   Surface(int width, int height, Pixels pixels);

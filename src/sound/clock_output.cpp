@@ -12,7 +12,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 // Nobody hears it: often enough for a piece to be known to end within a tick of the field.
-constexpr auto kPause = std::chrono::milliseconds(20);
+constexpr auto kPause = std::chrono::milliseconds(33);
 // What a machine that was asleep has missed beyond this is left out.
 constexpr double kMostBehind = 0.5;
 

@@ -43,7 +43,7 @@ tick_error() {
 
 open_display 1400x1120
 make_folder
-judge "start to title, best of three" "$(start_time --folder "$folder" --scale "$scale")" ms 60 1000
+judge "start to title, best of five" "$(start_time --folder "$folder" --scale "$scale")" ms 60 1000
 export ORVANE_TICKS=$shots/ticks.txt
 start_game --folder "$folder" --scale "$scale" --seed 26
 see_title

@@ -9,9 +9,17 @@ function Scene.new(model) return setmetatable({ m = model, rects = {} }, Scene) 
 -- Nothing is known of what stands there.
 function Scene:forget() self.rects = {} end
 
+-- What lies under it with all its points is gone.
 function Scene:rect(x, y, width, height, colour)
-  if x <= 0 and y <= 0 and x + width >= 432 and y + height >= 264 then self:forget() end
-  self.rects[#self.rects + 1] = { x, y, x + width, y + height, colour }
+  local right, bottom = x + width, y + height
+  if x <= 0 and y <= 0 and right >= 432 and bottom >= 264 then self:forget() end
+  local seen = {}
+  for _, rect in ipairs(self.rects) do
+    local covered = not rect.ring and rect[1] >= x and rect[2] >= y and rect[3] <= right and rect[4] <= bottom
+    if not covered then seen[#seen + 1] = rect end
+  end
+  seen[#seen + 1] = { x, y, right, bottom, colour }
+  self.rects = seen
 end
 
 -- A white circle's outline.

@@ -41,8 +41,9 @@ local function room_file(a, b, code, round)
   return "Book" .. round
 end
 
--- The dragon's strip on map 4,1: stepping there starts the fight.
-local function in_strip(id, column, row) return id == "4,1" and (column == 14 or column == 15) and row <= 7 end
+-- The dragon's strip on its map: stepping there starts the fight.
+local strip_map = "4,1"
+local function in_strip(column, row) return (column == 14 or column == 15) and row <= 7 end
 
 local function add_map(w, id, file)
   local index = #w.ids + 1
@@ -168,26 +169,30 @@ end
 function world.field(w, name, cells)
   local field = w.fields[name]
   if field then return field end
-  field = { direction = {}, distance = {} }
+  local direction, distance, from = {}, {}, w.from
+  field = { direction = direction, distance = distance }
   w.fields[name] = field
+  local closed_map = name ~= "dragon" and w.index[strip_map] or nil
   local queue, head = {}, 1
   for _, cell in ipairs(cells or w.goals[name]) do
-    field.distance[cell], field.direction[cell] = 0, 0
+    distance[cell], direction[cell] = 0, 0
     queue[#queue + 1] = cell
   end
   while queue[head] do
     local cell = queue[head]
     head = head + 1
-    for _, packed in ipairs(w.from[cell] or {}) do
+    for _, packed in ipairs(from[cell] or {}) do
       local before = packed // 8
-      local at = before % 480
-      local barred = name ~= "dragon" and in_strip(w.ids[before // 480], at // 16, at % 16)
-      -- A party that has met enemies at the strip's foot may turn back.
-      if barred and at % 16 == 7 and packed % 8 == down then barred = false end
-      if not field.distance[before] and not barred then
-        field.distance[before] = field.distance[cell] + 1
-        field.direction[before] = packed % 8
-        queue[#queue + 1] = before
+      if not distance[before] then
+        local at = before % 480
+        local barred = before // 480 == closed_map and in_strip(at // 16, at % 16)
+        -- A party that has met enemies at the strip's foot may turn back.
+        if barred and at % 16 == 7 and packed % 8 == down then barred = false end
+        if not barred then
+          distance[before] = distance[cell] + 1
+          direction[before] = packed % 8
+          queue[#queue + 1] = before
+        end
       end
     end
   end

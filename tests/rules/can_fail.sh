@@ -115,6 +115,8 @@ documents() {
   printf '`ORVANE_KNOWN`\n' >"$trial/CONTRIBUTING.md"
   printf 'A\n{table}\nB\n' >"$trial/tools/balance_frame.md"
   printf 'A\n| 1 |\nB\n' >"$trial/docs/balance.md"
+  printf 'D\non {machine}.\n{table}\nE\n' >"$trial/tools/performance_frame.md"
+  printf 'D\non a small one.\n| 2 |\nE\n' >"$trial/docs/performance.md"
   printf '[a](docs/balance.md) `core/a.cpp` src/{core}/a.* ORVANE_KNOWN\n' >"$trial/README.md"
 }
 refuses_in() {
@@ -132,6 +134,10 @@ refuses_in README.md '`none.cpp`'
 refuses_in README.md 'ORVANE_NONE'
 refuses_in src/core/a.cpp 'char* G() { return getenv("ORVANE_NEW"); }'
 refuses_in tools/balance_frame.md 'C'
+refuses_in tools/performance_frame.md 'C'
+documents
+sed -i 's/^D$/F/' "$trial/tools/performance_frame.md"
+refuses "another text above a table" "$here/docs.sh" "$trial"
 rm -rf "$trial/docs" "$trial/tools"
 
 no_faults "the rules can fail"

@@ -1,6 +1,7 @@
 #!/bin/bash
 # What the documents name is there: links, paths of this tree, and variables ORVANE_*; CONTRIBUTING.md tells of
-# every such variable that a program or script reads; and docs/balance.md holds the text of its frame.
+# every such variable that a program or script reads; and pages with a measured table
+# hold the text of their frames.
 #   docs.sh SOURCE_FOLDER
 set -u
 # shellcheck source=tests/faults.sh
@@ -72,12 +73,18 @@ done < <({
   grep -rhoE '\$\{ORVANE_[A-Z0-9_]+' tests tools check play --include='*.sh' --include=check --include=play
 } | grep -oE 'ORVANE_[A-Z0-9_]+' | sort -u)
 
-if [ -f tools/balance_frame.md ]; then
-  before=$(sed '/^{table}$/,$d' tools/balance_frame.md)
-  after=$(sed '1,/^{table}$/d' tools/balance_frame.md)
-  page=$(cat docs/balance.md)
-  [[ $page == "$before"* && $page == *"$after" ]] ||
-    fault "docs/balance.md: not the text of tools/balance_frame.md"
-fi
+# holds_frame PAGE FRAME: the page is the frame's text with a table, and with the machine's name where it has one.
+holds_frame() {
+  local page above start end below
+  page=$(cat "$1")
+  above=$(sed '/^{table}$/,$d' "$2")
+  below=$(sed '1,/^{table}$/d' "$2")
+  start=${above%%"{machine}"*} end=${above#*"{machine}"}
+  [[ $page == "$start"* && $page == *"$end"* && $page == *"$below" ]] || fault "$1: not the text of $2"
+}
+for frame in tools/*_frame.md; do
+  name=${frame#tools/}
+  holds_frame "docs/${name%_frame.md}.md" "$frame"
+done
 
 no_faults "docs: what they name is there"

@@ -3,10 +3,12 @@
 #include <cmath>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <optional>
+#include <stdexcept>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "src/platform/whole_file.h"
 #include "tools/effects/loudness.h"
@@ -38,8 +40,9 @@ std::string ReadAll(const std::string& file) {
   return *std::move(text);
 }
 
-void WriteAll(const std::filesystem::path& file, const std::string& bytes) {
-  std::ofstream(file, std::ios::binary) << bytes;
+void Save(const std::filesystem::path& file, const std::string& bytes) {
+  if (orvane::WriteWholeFile(file, bytes)) return;
+  throw std::runtime_error("no way to write " + file.filename().string());
 }
 
 void SaveRendering(const std::filesystem::path& file, const Rendering& rendering) {
@@ -49,7 +52,7 @@ void SaveRendering(const std::filesystem::path& file, const Rendering& rendering
     wav.Samples.push_back(rendering.Left[i]);
     wav.Samples.push_back(rendering.Right[i]);
   }
-  WriteAll(file, orvane::effects::WriteWav(wav));
+  Save(file, orvane::effects::WriteWav(wav));
 }
 
 float Peak(const Rendering& rendering) {
@@ -99,7 +102,7 @@ int CheckFile(const std::string& file, const Options& options, std::vector<Loudn
   std::vector<std::string> faults = orvane::music::CheckPiece(name, midi);
   std::cout << orvane::music::Describe(name, piece);
   const std::filesystem::path folder(options.Pictures);
-  if (!options.Pictures.empty()) WriteAll(folder / (name + ".png"), orvane::music::DrawRoll(piece));
+  if (!options.Pictures.empty()) Save(folder / (name + ".png"), orvane::music::DrawRoll(piece));
   if (options.Frictions) {
     for (const std::string& friction : orvane::music::Frictions(piece)) {
       std::cout << "  friction " << friction << "\n";

@@ -89,9 +89,10 @@ const Surface::Pixels& Surface::Shown() const {
 void Surface::Refresh() {
   if (!shown_) unshown_ = {0, 0, width_, height_};
   if (unshown_.IsEmpty()) return;
-  // What is a copy of another's is shown as it is, so that a sheet is not read to be shown out of
-  // sight. What is drawn on has a second store, so that each change is copied alone.
-  if (pixels_.use_count() > 1) {
+  // What is drawn on again and again has a second store, so that each change is copied alone. What
+  // is a copy of another's, or shown for the first time, is shown as it is: a sheet is not read to
+  // be shown out of sight, and what is drawn once has one store.
+  if (pixels_.use_count() > 1 || shown_.use_count() != 1) {
     shown_ = pixels_;
   } else {
     CopyUnshown();
@@ -108,10 +109,6 @@ Bounds Surface::ChangedSince(uint64_t revision) const {
 
 void Surface::CopyUnshown() {
   const Pixels& drawn = pixels_->Get();
-  if (shown_.use_count() != 1) {
-    shown_ = std::make_shared<SharedPixels>(drawn);
-    return;
-  }
   const int width = unshown_.Right - unshown_.Left;
   for (int y = unshown_.Top; y < unshown_.Bottom; ++y) {
     const size_t from = Offset(y) + static_cast<size_t>(unshown_.Left);

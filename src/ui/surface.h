@@ -104,7 +104,7 @@ class Surface {
   friend class SurfaceWriter;
 
   Surface(int width, int height, std::shared_ptr<SharedPixels> pixels);
-  // Brings what is shown up to what is drawn.
+  // Brings the second store up to what is drawn.
   void CopyUnshown();
 
   size_t Offset(int y) const { return static_cast<size_t>(y) * static_cast<size_t>(width_); }

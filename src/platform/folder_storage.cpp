@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <system_error>
 
-#include "src/platform/durable_file.h"
 #include "src/platform/path_text.h"
 #include "src/platform/whole_file.h"
 
@@ -35,7 +34,7 @@ std::vector<std::string> FolderStorage::List(const std::string& pattern) const {
 }
 
 void FolderStorage::Replace(const std::string& name, const std::string& bytes, Outcome outcome) {
-  outcome(ReplaceFileDurably(path_ / PathOf(name), bytes));
+  outcome(replace_(path_ / PathOf(name), bytes));
 }
 
 }  // namespace orvane

@@ -2,18 +2,25 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "src/platform/durable_file.h"
 #include "src/platform/storage.h"
 
 namespace orvane {
 
 class FolderStorage : public Storage {
  public:
-  explicit FolderStorage(std::filesystem::path path) : path_(std::move(path)) {}
+  // How a file is replaced: as ReplaceFileDurably does it, and with its answers.
+  using ReplaceFile =
+      std::function<std::string(const std::filesystem::path& path, const std::string& bytes)>;
+
+  explicit FolderStorage(std::filesystem::path path, ReplaceFile replace = &ReplaceFileDurably)
+      : path_(std::move(path)), replace_(std::move(replace)) {}
 
   std::string FolderName() const override;
   std::optional<std::string> Read(const std::string& name) const override;
@@ -23,6 +30,7 @@ class FolderStorage : public Storage {
 
  private:
   std::filesystem::path path_;
+  ReplaceFile replace_;
 };
 
 }  // namespace orvane

@@ -20,9 +20,16 @@ void Disk::Put(const std::string& name, const std::string& bytes) {
   flushed_names_[name] = number;
 }
 
-std::string Disk::Read(const std::string& name) const {
+std::optional<std::string> Disk::Held(const std::string& name) const {
   const auto found = names_.find(name);
-  return found == names_.end() ? std::string() : files_.at(found->second).Now;
+  if (found == names_.end()) return std::nullopt;
+  return files_.at(found->second).Now;
+}
+
+std::map<std::string, std::string> Disk::Files() const {
+  std::map<std::string, std::string> files;
+  for (const auto& [name, number] : names_) files[name] = files_.at(number).Now;
+  return files;
 }
 
 std::string Disk::NameOf(int file) const {

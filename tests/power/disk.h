@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -22,8 +23,10 @@ class Disk {
   // Makes a file that has always been there.
   void Put(const std::string& name, const std::string& bytes);
   bool Has(const std::string& name) const { return names_.contains(name); }
-  // What a program reads now; empty where there is no such file.
-  std::string Read(const std::string& name) const;
+  // What a program reads now; nothing where there is no such file.
+  std::optional<std::string> Held(const std::string& name) const;
+  // All files, as a program sees them now, by their names.
+  std::map<std::string, std::string> Files() const;
   // What an open file is called now.
   std::string NameOf(int file) const;
   // Bytes that there is room for.

@@ -1,8 +1,6 @@
-// Saving on a disk whose power fails: at any step, with any call failing, and with any part of what
-// was not flushed on the disk.
+// The steps of a POSIX system on the disk in memory.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -10,12 +8,9 @@
 #include "src/platform/posix/replace_steps.h"
 #include "tests/power/cuts.h"
 
-namespace orvane {
+namespace orvane::power {
 namespace {
 
-using power::Trouble;
-
-// The steps on the disk in memory.
 class DiskSteps : public ReplaceSteps {
  public:
   explicit DiskSteps(Trouble& trouble) : trouble_(trouble) {}
@@ -24,8 +19,9 @@ class DiskSteps : public ReplaceSteps {
     return Begin() ? EACCES : 0;
   }
   int Create(const std::string& name, std::optional<unsigned> /*mode*/, int& file) override {
+    folder_ = name.substr(0, name.rfind('/') + 1);
     if (Begin()) return AnyError();
-    file = trouble_.On.Create(name);
+    file = trouble_.On.Create(OnDisk(name));
     return 0;
   }
   int Write(int file, const char* bytes, size_t size, size_t& written) override {
@@ -45,11 +41,11 @@ class DiskSteps : public ReplaceSteps {
   int Close(int /*file*/) override { return Begin() ? AnyError() : 0; }
   int Rename(const std::string& from, const std::string& to) override {
     if (Begin()) return AnyError();
-    trouble_.On.Rename(from, to);
+    trouble_.On.Rename(OnDisk(from), OnDisk(to));
     return 0;
   }
   int FlushFolder(const std::string& folder) override {
-    EXPECT_EQ(folder, "folder/");
+    EXPECT_EQ(folder, folder_);
     const bool fails = Begin();
     // A system that does not know this call brings names to the disk by itself.
     const bool unknown = fails && trouble_.Random() % 2 == 0;
@@ -59,12 +55,15 @@ class DiskSteps : public ReplaceSteps {
   }
   int Delete(const std::string& name) override {
     if (Begin()) return AnyError();
-    if (!trouble_.On.Has(name)) return ENOENT;
-    trouble_.On.Delete(name);
+    if (!trouble_.On.Has(OnDisk(name))) return ENOENT;
+    trouble_.On.Delete(OnDisk(name));
     return 0;
   }
 
  private:
+  // The disk has one folder, and knows its files by their own names.
+  static std::string OnDisk(const std::string& name) { return name.substr(name.rfind('/') + 1); }
+
   bool Begin() {
     trouble_.Step();
     return trouble_.StepFails();
@@ -75,20 +74,18 @@ class DiskSteps : public ReplaceSteps {
   }
 
   Trouble& trouble_;
+  std::string folder_;  // of the file that is written
 };
 
-TEST(PowerCut, EverySlotHoldsTheOldOrTheNewRecordWhole) {
-  const power::CutCount count = power::RunSeries(
-      4000, [](const std::string& name, const std::string& bytes, Trouble& trouble) {
-        DiskSteps steps(trouble);
-        return ReplaceFileBySteps(PathOf(name), bytes, steps);
-      });
-  EXPECT_GT(count.Cuts, 2000);
-  EXPECT_GT(count.Old, 100);
-  EXPECT_GT(count.New, 100);
-  EXPECT_GT(count.Done, 10000);
-  EXPECT_GT(count.Refused, 1000);
+}  // namespace
+
+const std::vector<Way>& Ways() {
+  static const std::vector<Way> ways = {
+      {"POSIX", [](const std::filesystem::path& path, const std::string& bytes, Trouble& trouble) {
+         DiskSteps steps(trouble);
+         return ReplaceFileBySteps(path, bytes, steps);
+       }}};
+  return ways;
 }
 
-}  // namespace
-}  // namespace orvane
+}  // namespace orvane::power

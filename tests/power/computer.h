@@ -1,0 +1,43 @@
+// A computer with the game folder on a disk whose power fails. Programs read the files where a
+// folder of the system's shows what is on the disk now; what they replace goes to the disk by the
+// system's own way.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <random>
+#include <string>
+
+#include "src/platform/folder_storage.h"
+#include "tests/power/cuts.h"
+
+namespace orvane::power {
+
+class Computer {
+ public:
+  // The disk holds these files. The folder shows them beside what it holds; it outlives the
+  // computer, which clears away what it has shown.
+  Computer(const std::filesystem::path& folder, const Way& way, Disk& disk, Trouble& trouble);
+  ~Computer();
+  Computer(const Computer&) = delete;
+  Computer& operator=(const Computer&) = delete;
+
+  // The storage that the desktop's programs are given.
+  FolderStorage& Files() { return files_; }
+  // The bytes that the last file was to be replaced by.
+  const std::string& Asked() const { return asked_; }
+
+  // The power fails and comes back.
+  void LosePower();
+
+ private:
+  void Show();
+
+  std::filesystem::path folder_;
+  Disk& disk_;
+  std::map<std::string, std::string> shown_;
+  std::string asked_;
+  FolderStorage files_;
+};
+
+}  // namespace orvane::power

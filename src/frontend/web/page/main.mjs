@@ -18,12 +18,7 @@ function pauseFor(reason, on) {
 }
 
 async function start() {
-  const page = {
-    keep: async (number, name, bytes) => game.send('Kept', number, await saves.keep([[name, bytes]])),
-    ...sound,
-    pad: keys.pad,
-    countLines,
-  };
+  const page = { keep: saves.keepFor(game), ...sound, pad: keys.pad, countLines };
   const [mine, sounds] = await Promise.all([turn, table, game.load(program, page)]);
   startWords(wishes.get('language'));
   if (!mine) await waitForTurn();

@@ -50,6 +50,9 @@ export async function keep(changes) {
   return '';
 }
 
+// The same for one file of the game, which is told how it went by the number that it has asked under.
+export const keepFor = (game) => async (number, name, bytes) => game.send('Kept', number, await keep([[name, bytes]]));
+
 // Hands a file to the player.
 export function hand(name, bytes) {
   const link = document.createElement('a');

@@ -115,6 +115,7 @@ class PlayedSeries {
   // Starts the game, which lists the slots and nothing else, and reads what the disk holds; loads
   // one that has been read.
   void Start(bool looks_at_all) {
+    player_.reset();
     std::filesystem::remove(folder_ / kReplayAfterError);
     player_.emplace(computer_->Files(), folder_ / kReplayAfterError);
     std::vector<std::string> slots;
@@ -200,7 +201,8 @@ class PlayedSeries {
 };
 
 TEST_F(PlayedPowerCut, EverySlotLoadsTheOldOrTheNewGameWhole) {
-  const int series = 300 / static_cast<int>(Ways().size());
+  // The system with several ways is one that is stood in for, slowly.
+  const int series = Ways().size() == 1 ? 300 : 75;
   for (const Way& way : Ways()) {
     CutCount count;
     for (int seed = 1; seed <= series && !HasFailure(); ++seed) {

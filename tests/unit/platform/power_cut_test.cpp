@@ -85,18 +85,18 @@ class Series {
 };
 
 TEST(PowerCut, EverySlotHoldsTheOldOrTheNewRecordWhole) {
-  constexpr int kSeries = 3000;
+  const int series = 3000 / static_cast<int>(Ways().size());
   for (const Way& way : Ways()) {
     CutCount count;
-    for (int seed = 1; seed <= kSeries && !HasFailure(); ++seed) {
+    for (int seed = 1; seed <= series && !HasFailure(); ++seed) {
       SCOPED_TRACE(std::string(way.Name) + ", series " + std::to_string(seed));
       Series(static_cast<std::uint32_t>(seed), way).Run(count);
     }
-    EXPECT_GT(count.Cuts, 1500);
-    EXPECT_GT(count.Old, 100);
-    EXPECT_GT(count.New, 100);
-    EXPECT_GT(count.Done, 7500);
-    EXPECT_GT(count.Refused, 750);
+    EXPECT_GT(count.Cuts, series / 2);
+    EXPECT_GT(count.Old, series / 10);
+    EXPECT_GT(count.New, series / 20);
+    EXPECT_GT(count.Done, series * 5 / 2);
+    EXPECT_GT(count.Refused, series / 4);
   }
 }
 

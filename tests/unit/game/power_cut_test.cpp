@@ -201,8 +201,7 @@ class PlayedSeries {
 };
 
 TEST_F(PlayedPowerCut, EverySlotLoadsTheOldOrTheNewGameWhole) {
-  // The system with several ways is one that is stood in for, slowly.
-  const int series = Ways().size() == 1 ? 300 : 75;
+  const int series = ORVANE_PLAYED_CUTS / static_cast<int>(Ways().size());
   for (const Way& way : Ways()) {
     CutCount count;
     for (int seed = 1; seed <= series && !HasFailure(); ++seed) {

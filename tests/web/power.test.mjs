@@ -60,6 +60,32 @@ test('a power cut leaves every slot with the old or the new record, whole', asyn
   assert.ok(count.done > 1000 && count.refused > 300 && count.cuts > 500, JSON.stringify(count));
 });
 
+test('saves that are under way together come in their order', async () => {
+  const count = { done: 0, refused: 0, untold: 0 };
+  for (let seed = 1; seed <= 300; ++seed) {
+    const random = chance(seed);
+    const world = makeDatabase(random, new Map());
+    const { saves } = await openSaves(world);
+    const wishes = Array.from({ length: 4 }, () => [slots[random(2)], anyRecord(random)]);
+    const answers = wishes.map(() => null);
+    const works = wishes.map(async (wish, i) => (answers[i] = await saves.keep([wish])));
+    await Promise.race([Promise.all(works), after(40)]);
+    const told = new Map(wishes.filter((_, i) => answers[i] === ''));
+    for (const [name, bytes] of saves.kept()) assert.equal(text(bytes), text(told.get(name)));
+    assert.equal(saves.kept().size, told.size);
+    // What lasts is that, or what came after it and nobody was told of.
+    for (const name of slots) {
+      const mine = wishes.map(([wished, bytes], i) => ({ bytes: text(bytes), answer: answers[i], isIts: wished === name })).filter(({ isIts }) => isIts);
+      const last = mine.findLastIndex(({ answer }) => answer === '');
+      const may = mine.filter(({ answer }, i) => i === last || (i > last && answer === null)).map(({ bytes }) => bytes);
+      if (last < 0) may.push('nothing');
+      assert.ok(may.includes(text(world.lasting.get(name))), `series ${seed}: ${name}`);
+    }
+    for (const answer of answers) count[answer === '' ? 'done' : answer === null ? 'untold' : 'refused'] += 1;
+  }
+  assert.ok(count.done > 600 && count.refused > 50 && count.untold > 30, JSON.stringify(count));
+});
+
 // In workers, of which each gives back at its end what its pages have taken.
 const inWorker = (workerData) =>
   new Promise((done, failed) => {

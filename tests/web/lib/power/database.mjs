@@ -23,6 +23,7 @@ export function makeDatabase(random, lasting, breaks = true) {
   const seen = new Map(lasting);
   const late = []; // complete, but not yet on the disk
   let isDown = false;
+  let turn = Promise.resolve(); // transactions that write come one after the other
   const settle = (request, result) => queueMicrotask(() => isDown || request.onsuccess?.(result));
   const flush = () => {
     for (const change of late.splice(0)) change();
@@ -40,7 +41,7 @@ export function makeDatabase(random, lasting, breaks = true) {
       getAll: () => ({ set onsuccess(then) { settle({ onsuccess: then }); }, get result() { return [...seen.keys()].sort().map((key) => seen.get(key)); } }),
     });
     if (mode !== 'readwrite') return work;
-    after(1 + random(3)).then(() => {
+    turn = turn.then(() => after(1 + random(3))).then(() => {
       if (isDown) return;
       if (breaks && random(10) === 0) {
         work.error = [new DOMException('full', 'QuotaExceededError'), new DOMException('broken', 'UnknownError'), null][random(3)];

@@ -44,9 +44,9 @@ Sight Look(const Edges& from, const Edges& box, Direction direction) {
     case Direction::Up:
       return {box.Bottom < from.MiddleY() ? -way_y : 0, off_column, std::abs(way_x)};
     case Direction::Down:
-      return {box.Top > from.MiddleY() ? way_y : 0, off_column, std::abs(way_x)};
+      break;
   }
-  return {};
+  return {box.Top > from.MiddleY() ? way_y : 0, off_column, std::abs(way_x)};
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ PlaceKind KindOf(std::string_view name) {
 }
 
 bool IsNumber(std::string_view text) {
-  if (!text.empty() && text.front() == '-') text.remove_prefix(1);
+  if (text.starts_with('-')) text.remove_prefix(1);
   return !text.empty() && std::all_of(text.begin(), text.end(), IsDigit);
 }
 

@@ -123,11 +123,11 @@ std::vector<std::string> Translator::SourcesOf(std::string_view text) const {
   if (exact != texts_.end()) return {std::string(exact->first)};
   for (const Pattern& pattern : patterns_) {
     std::vector<std::string> sources = {std::string(pattern.Source)};
-    const auto shown = pattern.Form.Apply(bare, [this, &sources](std::string_view part) {
+    const auto note = [this, &sources](std::string_view part) {
       for (std::string& each : SourcesOf(part)) sources.push_back(std::move(each));
       return std::string();
-    });
-    if (shown) return sources;
+    };
+    if (pattern.Form.Apply(bare, note)) return sources;
   }
   return {};
 }

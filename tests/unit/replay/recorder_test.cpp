@@ -4,6 +4,7 @@
 
 #include <deque>
 
+#include "src/frontend/shared/chance.h"
 #include "src/replay/replayer.h"
 #include "src/replay/sums.h"
 #include "tests/unit/replay/recorded_play.h"
@@ -14,15 +15,14 @@ namespace {
 // A generator of which some draws are dictated, as scripts do.
 class HalfDictated : public Chance {
  public:
-  explicit HalfDictated(std::optional<uint32_t> seed) : luck_(seed) {}
-  float Draw() override { return ++drawn_ % Every == 0 ? 0.25F : luck_.Draw(); }
+  HalfDictated(Chance& luck, int every) : luck_(luck), every_(every) {}
+  float Draw() override { return ++drawn_ % every_ == 0 ? 0.25F : luck_.Draw(); }
   void Reseed() override { luck_.Reseed(); }
   const SeededDraws* Source() const override { return luck_.Source(); }
 
-  int Every = 3;
-
  private:
-  PlayersChance luck_;
+  Chance& luck_;
+  int every_;
   int drawn_ = 0;
 };
 
@@ -204,10 +204,11 @@ TEST_F(RecorderTest, OfMoreTimersThanTheFormatCountsThereIsNoRecord) {
 }
 
 TEST_F(RecorderTest, DrawsThatAreDictatedInBetweenAreTakenDown) {
-  for (const auto seed : {std::optional<uint32_t>(), std::optional<uint32_t>(7)}) {
-    for (const int every : {1, 2, 3, 5}) {
-      HalfDictated luck(seed);
-      luck.Every = every;
+  for (const int every : {1, 2, 3, 5}) {
+    test::SteadyClockChance steady;
+    PlayersChance fixed(7);
+    for (Chance* source : {static_cast<Chance*>(&steady), static_cast<Chance*>(&fixed)}) {
+      HalfDictated luck(*source, every);
       StartWith(luck);
       play_.Begin();
       play_.Walk(Direction::Right, 20);
@@ -229,19 +230,8 @@ TEST_F(RecorderTest, AGeneratorThatWasDrawnFromBeforeGoesOnWhereItStood) {
 }
 
 TEST_F(RecorderTest, LongDelaysBetweenTwoSeedsAreTakenDownInFull) {
-  // The clock's seeds differ by more than the short form holds.
-  class SlowClock : public Chance {
-   public:
-    float Draw() override { return draws_.Draw(); }
-    void Reseed() override { draws_.Seed({1, 2, clock_ += 1000, ++count_}); }
-    const SeededDraws* Source() const override { return &draws_; }
-
-   private:
-    SeededDraws draws_;
-    uint32_t clock_ = 0;
-    uint32_t count_ = 0;
-  };
-  SlowClock luck;
+  constexpr uint32_t more_than_the_short_form_holds = 1000;
+  test::SteadyClockChance luck(more_than_the_short_form_holds);
   StartWith(luck);
   play_.Begin();
   play_.Walk(Direction::Right, 20);
@@ -268,14 +258,14 @@ TEST_F(RecorderTest, SixteenTicksAreOneByte) {
 }
 
 // Draws that come from the generator in between, where none is dictated.
-class Dictated : public HalfDictated {
+class Dictated : public PlayersChance {
  public:
-  Dictated() : HalfDictated(7) { Every = 1 << 20; }
+  Dictated() : PlayersChance(7) {}
   float Draw() override {
-    if (Next.empty()) return HalfDictated::Draw();
+    if (Next.empty()) return PlayersChance::Draw();
     const std::optional<float> draw = Next.front();
     Next.pop_front();
-    return draw ? *draw : HalfDictated::Draw();
+    return draw ? *draw : PlayersChance::Draw();
   }
 
   std::deque<std::optional<float>> Next;
@@ -301,7 +291,7 @@ TEST_F(RecorderTest, ABattleComesOutTheSameWithDrawsOfBothKindsInOneEvent) {
 
 TEST_F(RecorderTest, SeedsAndDrawsThatNobodySawAreMadeGoodAtTheNextDraw) {
   for (const int way : {0, 1, 2}) {
-    PlayersChance luck{{}};
+    test::SteadyClockChance luck;
     StartWith(luck);
     play_.Begin();
     play_.Walk(Direction::Right, 3);
@@ -345,7 +335,7 @@ TEST_F(RecorderTest, AGeneratorThatIsDrawnFromAsItIsSeededComesOutTheSame) {
     const SeededDraws* Source() const override { return luck_.Source(); }
 
    private:
-    PlayersChance luck_{{}};
+    test::SteadyClockChance luck_;
   };
   Eager luck;
   StartWith(luck);

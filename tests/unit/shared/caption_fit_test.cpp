@@ -20,6 +20,7 @@ TEST(CaptionFit, BreaksAtTheLastBlankOfEitherWidth) {
 TEST(CaptionFit, LeavesAloneWhatHasNoBlankWithin) {
   EXPECT_EQ(InTwoLines("閉じる"), "閉じる");
   EXPECT_EQ(InTwoLines(" 閉じる"), " 閉じる");
+  EXPECT_EQ(InTwoLines("閉じる "), "閉じる ");
   EXPECT_EQ(InTwoLines(""), "");
 }
 

@@ -45,6 +45,7 @@ TEST(Enlarge, BeyondThePictureItsLastPixelsGoOn) {
   const std::vector<uint32_t> wanted = {kWhite, kWhite};
   EXPECT_EQ(Enlarge(pixels, 2, 1, 1.5, {2, 1, 2, 1}), wanted);
   EXPECT_TRUE(Enlarge(pixels, 0, 1, 2, {0, 0, 2, 2}).empty());
+  EXPECT_TRUE(Enlarge(pixels, 1, 0, 2, {0, 0, 2, 2}).empty());
 }
 
 }  // namespace

@@ -87,6 +87,17 @@ TEST_F(FocusOrderTest, TheLastThatLostTheKeyboardIsTheFirstToHaveItAgain) {
 TEST_F(FocusOrderTest, GoesToTheTabsWhenItsPaneHasClosed) {
   desk_.Tabs.OpenTab = 1;
   EXPECT_EQ(order_.Follow(&desk_.First), &desk_.Tabs);
+  desk_.Tabs.Enabled = false;
+  EXPECT_EQ(order_.Follow(&desk_.First), &desk_.Things) << "the tabs are of no use";
+}
+
+TEST_F(FocusOrderTest, WhatGoesOnTheOpenPaneLeavesTheTabsAlone) {
+  desk_.First.Enabled = false;
+  EXPECT_EQ(order_.Follow(&desk_.First), &desk_.Things);
+}
+
+TEST_F(FocusOrderTest, BeginsAnewWhereNothingHadTheKeyboard) {
+  EXPECT_EQ(order_.Follow(nullptr), &desk_.Things);
 }
 
 TEST_F(FocusOrderTest, TabsOfWhichNoneCanBeOpenedAreOfNoUse) {

@@ -78,6 +78,15 @@ TEST_F(HeldKeysTest, WhatWasPressedInAnotherProgramIsStrayAsLongAsItRepeats) {
   EXPECT_TRUE(again.IsStray);
 }
 
+TEST_F(HeldKeysTest, ARepeatWithoutAPressIsStray) {
+  Press(100, field_);
+  Release(150, field_);
+  const auto again = Press(600, field_, true);
+  EXPECT_TRUE(again.Repeats);
+  EXPECT_TRUE(again.IsStray) << "nobody saw where it was pressed";
+  EXPECT_TRUE(held_.IsDown(kEnterCode));
+}
+
 TEST_F(HeldKeysTest, APressThatTheKeyboardKnewBeforeItsEventCameCounts) {
   keyboard_->set(kEnterCode);
   held_.Look();

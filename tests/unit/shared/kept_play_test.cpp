@@ -20,8 +20,12 @@ class KeptPlayTest : public testing::Test {
   }
 
   void Start(const std::optional<std::filesystem::path>& record) {
+    Start(record, folder_ / kReplayAfterError);
+  }
+  void Start(const std::optional<std::filesystem::path>& record,
+             const std::filesystem::path& after_error) {
     kept_ = std::make_unique<KeptPlay>(Services{play_.Sound, play_.Luck, play_.Files}, record,
-                                       folder_ / kReplayAfterError);
+                                       after_error);
     play_.TheProgram = std::make_unique<Program>(kept_->TheServices());
     kept_->Watch(*play_.TheProgram);
   }
@@ -41,7 +45,10 @@ class KeptPlayTest : public testing::Test {
     is_closed_ = replayer.IsClosed();
     return replayer.Events();
   }
-  const Box& LastBox() { return play_.TheProgram->TheStage().Boxes().back().Shown; }
+  Box LastBox() {
+    const auto& boxes = play_.TheProgram->TheStage().Boxes();
+    return boxes.empty() ? Box() : boxes.back().Shown;
+  }
 
   std::filesystem::path folder_;
   std::unique_ptr<KeptPlay> kept_;  // outlives the program
@@ -66,12 +73,61 @@ TEST_F(KeptPlayTest, NamesTheFileAfterAnErrorInItsBoxButNotInItsText) {
   EXPECT_TRUE(is_closed_);
 }
 
+TEST_F(KeptPlayTest, NamesTheFileThatTookThePlayFromTheBeginning) {
+  Start(folder_ / "mine");
+  play_.Begin();
+  Fail();
+  EXPECT_THAT(ShownText(LastBox()), testing::HasSubstr(TextOf(folder_ / "mine")));
+  EXPECT_FALSE(std::filesystem::exists(folder_ / kReplayAfterError));
+}
+
 TEST_F(KeptPlayTest, NamesNoFileThatCannotBeWritten) {
   std::filesystem::remove_all(folder_);
   Start({});
   play_.Begin();
   Fail();
   EXPECT_EQ(ShownText(LastBox()), play_.TheProgram->TextOfError());
+}
+
+TEST_F(KeptPlayTest, NamesNoFileOnADiskThatIsFull) {
+  const std::filesystem::path full = "/dev/full";
+  if (!std::filesystem::exists(full)) GTEST_SKIP() << "this system has no such file";
+  Start({}, full);
+  play_.Begin();
+  Fail();
+  EXPECT_EQ(ShownText(LastBox()), play_.TheProgram->TextOfError());
+}
+
+TEST_F(KeptPlayTest, NamesNoFileWhereThereIsNoPlaceForOne) {
+  Start({}, {});
+  play_.Begin();
+  Fail();
+  EXPECT_EQ(ShownText(LastBox()), play_.TheProgram->TextOfError());
+  EXPECT_TRUE(std::filesystem::is_empty(folder_));
+}
+
+TEST_F(KeptPlayTest, IsAsItWasWhenTheErrorCameWhateverFollows) {
+  Start({});
+  play_.Begin();
+  Fail();
+  const std::string bytes = ReadWholeFile(folder_ / kReplayAfterError).value_or("");
+  play_.TheProgram->Tick(play_.TimerOf("Main", "Timer1"));
+  play_.TheProgram->Answer(BoxAnswer::Ok);
+  EXPECT_TRUE(play_.TheProgram->HasEnded());
+  EXPECT_EQ(ReadWholeFile(folder_ / kReplayAfterError), bytes);
+}
+
+TEST_F(KeptPlayTest, WhatNoPlayerCouldDoEndsTheFileAndItIsNotNamed) {
+  Start(folder_ / "mine");
+  play_.Begin();
+  const std::string before = ReadWholeFile(folder_ / "mine").value_or("");
+  play_.TheProgram->Enter([] {});
+  EXPECT_FALSE(kept_->IsWhole());
+  play_.Walk(Direction::Right, 5);
+  EXPECT_EQ(ReadWholeFile(folder_ / "mine"), before);
+  Fail();
+  EXPECT_EQ(ShownText(LastBox()), play_.TheProgram->TextOfError());
+  EXPECT_EQ(ReadWholeFile(folder_ / "mine"), before);
 }
 
 TEST_F(KeptPlayTest, TheFileLeadsToEveryEventBeforeItIsOver) {

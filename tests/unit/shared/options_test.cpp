@@ -15,13 +15,14 @@ TEST(Options, WithoutArgumentsLeaveEverythingToTheProgram) {
 }
 
 TEST(Options, AreRead) {
-  const Options options =
-      ReadOptions({"--folder", "/a b", "--scale", "1.5", "--seed", "7", "--record", "/r"});
+  const Options options = ReadOptions(
+      {"--folder", "/a b", "--scale", "1.5", "--seed", "7", "--record", "/r", "--language", "en"});
   EXPECT_EQ(options.Error, "");
   EXPECT_EQ(options.Folder, "/a b");
   EXPECT_EQ(options.Scale, 1.5);
   EXPECT_EQ(options.Seed, 7U);
   EXPECT_EQ(options.Record, "/r");
+  EXPECT_EQ(options.Language, "en");
 }
 
 TEST(Options, OfHelpWantHelp) {
@@ -33,6 +34,7 @@ TEST(Options, OfHelpWantHelp) {
 TEST(Options, ThatNobodyKnowsAreErrors) {
   EXPECT_EQ(ReadOptions({"--fast"}).Error, "unknown option --fast");
   EXPECT_EQ(ReadOptions({"save.sav"}).Error, "unknown option save.sav");
+  EXPECT_EQ(ReadOptions({"--fast", "--slow"}).Error, "unknown option --fast") << "the first";
 }
 
 TEST(Options, WithoutTheirValueAreErrors) {

@@ -145,5 +145,37 @@ TEST_F(PadRulesTest, WhatWasPressedInTheFieldDoesNotRepeatInANewWindow) {
   EXPECT_EQ(hands_.Done, (Deeds{"walk down"}));
 }
 
+TEST_F(PadRulesTest, WhatIsLetGoElsewhereAndPressedAgainWalksOn) {
+  hands_.Reaches = true;
+  Show(With({PadButton::Left}));
+  hands_.Reaches = false;
+  Show({});
+  hands_.Reaches = true;
+  Show(With({PadButton::Left}));
+  EXPECT_EQ(hands_.Done, (Deeds{"walk left"}));
+  Show({});
+  EXPECT_EQ(hands_.Done, (Deeds{"walk left", "halt left"}));
+}
+
+TEST_F(PadRulesTest, ReadsAPadOftenWhileItIsThereAndTheProgramInFront) {
+  class Pad : public PadSource {
+   public:
+    std::optional<PadState> Read() override { return Held; }
+    std::optional<PadState> Held;
+  };
+  Pad pad;
+  hands_.Reaches = true;
+  EXPECT_EQ(rules_.Read(pad, true, now_), kPadSeldomMs) << "none is plugged in";
+  pad.Held = With({PadButton::Up});
+  EXPECT_EQ(rules_.Read(pad, false, now_ + 1), kPadSeldomMs);
+  EXPECT_EQ(hands_.Done, Deeds{}) << "it is for another program";
+  const int often = rules_.Read(pad, true, now_ + 2);
+  EXPECT_GT(often, 0);
+  EXPECT_LT(often, kPadSeldomMs);
+  EXPECT_EQ(hands_.Done, Deeds{"walk up"});
+  rules_.Read(pad, false, now_ + 3);
+  EXPECT_EQ(hands_.Done, (Deeds{"walk up", "halt up"}));
+}
+
 }  // namespace
 }  // namespace orvane

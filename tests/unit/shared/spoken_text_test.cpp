@@ -15,7 +15,10 @@ namespace {
 
 class Page : public Screen {
  public:
-  explicit Page(Stage& stage) : Screen(stage, "Page", "Page", 400, 300) {}
+  explicit Page(Stage& stage) : Screen(stage, "Page", "Page", 400, 300) {
+    Tabs.Captions = {"one", "two"};
+    Tabs.PanesEnabled = {true, true};
+  }
 
   PictureBox Scene{*this, "Scene", {0, 0, 200, 200}};
   Label Words{Scene, "Words", {0, 0, 100, 20}, {"\u3000龍が いる \n"}};
@@ -26,6 +29,13 @@ class Page : public Screen {
   Label Value{*this, "Value", {50, 220, 40, 20}, {"35/40"}};
   Label Nearer{*this, "Nearer", {100, 220, 40, 20}, {"MP ："}};
   Label OtherValue{*this, "OtherValue", {150, 220, 40, 20}, {"7/9"}};
+  Label Farther{*this, "Farther", {80, 220, 10, 20}, {"LV ："}};
+  CommandButton Button{*this, "Button", {130, 220, 10, 20}, {"使う："}};
+  TabStrip Tabs{*this, "Tabs", {0, 250, 200, 50}};
+  Label OnFirst{PaneOf(Tabs, 0), "OnFirst", {10, 10, 40, 20}, {"攻撃："}};
+  Label ValueOnFirst{PaneOf(Tabs, 0), "ValueOnFirst", {60, 10, 40, 20}, {"30"}};
+  Label OnSecond{PaneOf(Tabs, 1), "OnSecond", {20, 10, 40, 20}, {"防御："}};
+  Label ValueOnSecond{PaneOf(Tabs, 1), "ValueOnSecond", {60, 10, 40, 20}, {"20"}};
 };
 
 class SpokenTextTest : public testing::Test {
@@ -67,6 +77,49 @@ TEST_F(SpokenTextTest, ANumberIsToldByTheCaptionBeforeIt) {
   EXPECT_EQ(CaptionBeside(page_.OtherValue), "MP ：");
   EXPECT_EQ(CaptionBeside(page_.Nearer), "") << "a caption needs none";
   EXPECT_EQ(CaptionBeside(page_.Words), "");
+  EXPECT_EQ(CaptionBeside(page_.Button), "") << "a button has its own";
+}
+
+TEST_F(SpokenTextTest, OnAPaneTheCaptionsOfTheOtherDoNotCount) {
+  EXPECT_EQ(CaptionBeside(page_.ValueOnFirst), "攻撃：");
+  EXPECT_EQ(CaptionBeside(page_.ValueOnSecond), "防御：");
+}
+
+TEST_F(SpokenTextTest, OfAScreenIsWhatStandsOnItself) {
+  EXPECT_EQ(SpokenText(page_, own_), "HP ：\n35/40\nMP ：\n7/9\nLV ：");
+}
+
+class SpokenScreens : public testing::Test {
+ protected:
+  Label& LabelOn(const char* screen, const char* name) {
+    return static_cast<Label&>(*program_.TheStage().Find(screen)->Find(name));
+  }
+
+  QuietServices quiet_;
+  Program program_{quiet_.All()};
+  Translator own_;
+};
+
+TEST_F(SpokenScreens, TellWhoseANumberIs) {
+  Screen& battle = *program_.TheStage().Find("Battle");
+  PictureBox& scene = static_cast<PictureBox&>(*battle.Find("Picture1"));
+  program_.TheStage().Show(battle);
+  Label& damage = LabelOn("Battle", "Label15(0)");
+  damage.Visible = true;
+  damage.Caption = "120";
+  EXPECT_EQ(SpokenText(scene, own_), "敵１：120");
+  EXPECT_EQ(SpokenMeaning(damage), "敵１");
+  EXPECT_EQ(SpokenMeaning(*battle.Find("List1")), "");
+}
+
+TEST_F(SpokenScreens, TellTheCreditsWhereTheyAreDrawn) {
+  Screen& ending = *program_.TheStage().Find("Ending");
+  EXPECT_EQ(SpokenText(ending, own_).substr(0, 5), "STAFF");
+  Translator english;
+  english.Choose("en");
+  EXPECT_NE(SpokenText(ending, english), SpokenText(ending, own_));
+  LabelOn("Ending", "Label2(0)").Visible = true;
+  EXPECT_EQ(SpokenText(ending, own_), "Thank you for playing") << "the last card stands";
 }
 
 TEST(SpokenNames, BelongToControlsThatThereAre) {

@@ -123,5 +123,14 @@ TEST_F(SurfaceCopyTest, ASurfaceOfAnotherSizeIsNewAsAWhole) {
   EXPECT_EQ(copy_.Pixels()[0], 0xFF405060);
 }
 
+TEST_F(SurfaceCopyTest, ASurfaceOfAnotherHeightIsNewAsAWholeToo) {
+  surface_.Refresh();
+  Follow();
+  surface_ = Surface(kWidth, kHeight + 1, 0x405060);
+  surface_.Refresh();
+  EXPECT_EQ(Follow(true), (Rect{0, 0, kWidth, kHeight + 1}));
+  EXPECT_EQ(copy_.Height(), kHeight + 1);
+}
+
 }  // namespace
 }  // namespace orvane

@@ -89,6 +89,22 @@ TEST_F(WalkingKeysTest, AWalkThatGoesOnRepeatingMovesNothingInAMenu) {
   EXPECT_TRUE(Press(kLeft, field_, true));
 }
 
+TEST_F(WalkingKeysTest, AnArrowThatWasPressedInAMenuGoesOnRepeatingThere) {
+  reaches_ = false;
+  EXPECT_FALSE(Press(kLeft, battle_));
+  EXPECT_FALSE(Press(kLeft, battle_, true));
+}
+
+TEST_F(WalkingKeysTest, NothingIsSettledWhileKeysReachTheField) {
+  keys_.Follow();
+  Press(kLeft, field_);
+  keyboard_->set(kLeftCode);
+  keys_.Follow();
+  keyboard_->reset(kLeftCode);
+  keys_.Follow();
+  EXPECT_EQ(sent_, "v") << "its release is on the way";
+}
+
 TEST_F(WalkingKeysTest, WhatRepeatsInAnotherWindowThanItsOwnDoesNothing) {
   Press(kEnter, field_);
   EXPECT_TRUE(Press(kEnter, battle_, true));

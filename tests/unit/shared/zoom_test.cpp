@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "src/ui/screen.h"
+#include "src/ui/stage.h"
+
 namespace orvane {
 namespace {
 
@@ -25,6 +28,31 @@ TEST(ChooseScale, CountsTitleBarAndMenu) {
   const std::vector<Extent> windows = {{100, 100}, {100, 200}};
   EXPECT_EQ(ChooseScale({1000, 430}, windows), 2);
   EXPECT_EQ(ChooseScale({1000, 429}, windows), 1);
+}
+
+TEST(ChooseScale, LetsTheWidestDialogFit) {
+  EXPECT_EQ(ChooseScale({800, 2000}, {{100, 100}, {400, 100}}), 2);
+  EXPECT_EQ(ChooseScale({799, 2000}, {{100, 100}, {400, 100}}), 1);
+}
+
+TEST(FirstSpan, IsThatOfTheFirstWindowWithItsMenu) {
+  const Span span = FirstSpan(kWindows);
+  EXPECT_EQ(span.Inside.Width, 496);
+  EXPECT_EQ(span.Inside.Height, 303 + kMenuHeight);
+  EXPECT_EQ(span.Title, kTitleHeight);
+  EXPECT_EQ(FirstSpan({}).Inside.Width, 0) << "of no window";
+}
+
+TEST(InsidesOf, AreThoseOfTheStagesScreensInTheirOrder) {
+  Stage stage;
+  const orvane::Screen first(stage, "First", "", 300, 200);
+  const orvane::Screen second(stage, "Second", "", 100, 400);
+  const std::vector<Extent> insides = InsidesOf(stage);
+  ASSERT_EQ(insides.size(), 2U);
+  EXPECT_EQ(insides[0].Width, 300);
+  EXPECT_EQ(insides[0].Height, 200);
+  EXPECT_EQ(insides[1].Width, 100);
+  EXPECT_EQ(insides[1].Height, 400);
 }
 
 TEST(ChooseScale, StaysWithinItsRange) {

@@ -26,10 +26,19 @@ TEST(LetteredSheets, AreThoseOfTheLanguageWhileTheirScreenIsShown) {
   program.Enter([&] { stage.Show(ending); });
   LetterSheets(stage, texts);
   EXPECT_TRUE(shown.SharesPixelsWith(Sheet("credits_en")));
+  const uint64_t before = shown.Revision();
+  LetterSheets(stage, texts);
+  EXPECT_EQ(shown.Revision(), before) << "it has the right one";
   texts.Choose("ja");
   LetterSheets(stage, texts);
   EXPECT_TRUE(shown.SharesPixelsWith(Sheet("credits")));
   EXPECT_FALSE(HasSheet("credits_xx"));
+}
+
+TEST(LetteredSheets, AreOfNoUseToAStageWithoutTheirScreens) {
+  Stage stage;
+  LetterSheets(stage, Translator());
+  EXPECT_TRUE(stage.Screens().empty());
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "src/frontend/shared/texts/control_texts.h"
 #include "src/ui/controls.h"
 #include "src/ui/screen.h"
 #include "src/ui/stage.h"
@@ -105,6 +104,8 @@ TEST_F(Translations, NameTheLanguages) {
   EXPECT_EQ(texts_.NameOf("xx"), "Exish");
   EXPECT_EQ(texts_.NameOf("ja"), "日本語");
   EXPECT_EQ(texts_.NameOf("yy"), "yy");
+  const std::string nameless = Made({{"薬", "Potion"}});
+  EXPECT_EQ(Translator({{"zz", nameless}}).NameOf("zz"), "zz");
 }
 
 TEST_F(Translations, KeepTheNamesOfHeroes) {
@@ -115,6 +116,22 @@ TEST_F(Translations, KeepTheNamesOfHeroes) {
   EXPECT_EQ(texts_.Of(tabs, "薬"), "薬");
   EXPECT_EQ(texts_.Of(tabs, "気絶"), "Fainted");
   EXPECT_EQ(texts_.Of(label, "薬"), "Potion");
+  Screen settings(stage, "Custom", "", 100, 100);
+  TabStrip others(settings, "SSTab1", {}, {{"", ""}, {true, true}});
+  EXPECT_EQ(texts_.Of(others, "薬"), "Potion") << "of another screen";
+}
+
+TEST_F(Translations, GiveOfAPlaceWithoutANameATextToo) {
+  const std::string bytes = Made({{"薬", "Potion"}, {"{1}と{2}", "{1} and {2}"}});
+  Translator texts({{"zz", bytes}});
+  texts.Choose("zz");
+  EXPECT_EQ(texts.Of("薬と盾"), "Potion and 盾");
+}
+
+TEST_F(Translations, StayWhenTheirLanguageIsChosenAgain) {
+  texts_.Choose("xx");
+  EXPECT_EQ(texts_.Language(), "xx");
+  EXPECT_EQ(texts_.Of("薬"), "Potion");
 }
 
 TEST(Translator, ShowsTheGamesOwnTextsAtFirst) {

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Runs the tests of the rules with coverage counters and tells every line and branch of the floors under the front
-# ends that none of them comes to. Fails unless these are the ones that tools/coverage/left_out.txt names. The page
+# Runs the tests of the rules with coverage counters and tells every line and branch of what every front end stands on
+# that none of them comes to. Fails unless these are the ones that tools/coverage/left_out.txt names. The page
 # build-coverage/coverage.html shows all.
 #   tools/coverage.sh
 set -euo pipefail
@@ -26,6 +26,6 @@ wait $unit
 # out of each. So are those of lines that hold no code but what the compiler adds.
 gcovr --root . --object-directory $build -j "$(nproc)" --gcov-executable "$PWD/tools/coverage/gcov.sh" \
   --exclude-throw-branches --exclude-unreachable-branches \
-  --filter 'src/(base|platform|ui|core|field|battle|screens|ending|game|replay|sound)/' \
+  --filter 'src/(base|platform|ui|core|field|battle|screens|ending|game|replay|sound|frontend/shared)/' \
   --json $build/coverage.json --html-details $build/coverage.html --print-summary $build
 /usr/bin/python3 tools/coverage/judge.py $build/coverage.json tools/coverage/left_out.txt

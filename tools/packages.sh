@@ -9,7 +9,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-d
 play_packages=(qt6-wayland fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 check_packages=(liblua5.4-dev libstb-dev libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev libpango1.0-dev
   xvfb openbox xdotool weston x11-utils fontconfig imagemagick "clang-format-$clang_version" shellcheck lua-check
-  dpkg-dev file desktop-file-utils appstream)
+  dpkg-dev file desktop-file-utils appstream python3)
 web_packages=(g++ cmake ninja-build pkg-config gettext libsdl2-dev libfluidsynth-dev libpng-dev libstb-dev emscripten node-acorn
   nodejs fonttools python3-brotli fonts-ipafont-gothic fonts-ipafont-mincho fluidr3mono-gm-soundfont)
 web_test_packages=(chromium firefox-esr dpkg-dev)
@@ -59,6 +59,7 @@ lua-check                 luacheck                  luacheck                  lu
 opus-tools                opus-tools                opus-tools                opus-tools
 lame                      lame                      lame                      lame
 vorbis-tools              vorbis-tools              vorbis-tools              vorbis-tools
+python3                   python3                   python3                   python
 "
 
 # Installs what is missing of the packages named, as root or by sudo, and says so. Asks the network for

@@ -32,14 +32,14 @@ void JobThread::Finish() {
 void JobThread::Run() {
   const auto wanted = [this] { return leaving_.stop_requested() || !jobs_.empty(); };
   std::unique_lock lock(mutex_);
-  while (!leaving_.stop_requested()) {
+  while (true) {
     std::function<void()> job;
     if (when_idle_) {
       if (!changed_.wait_for(lock, pause_, wanted)) job = std::exchange(when_idle_, nullptr);
     } else {
       changed_.wait(lock, wanted);
     }
-    if (leaving_.stop_requested()) break;
+    if (leaving_.stop_requested()) return;
     if (!job) {
       job = std::move(jobs_.front());
       jobs_.pop_front();

@@ -140,4 +140,65 @@ sed -i 's/^D$/F/' "$trial/tools/performance_frame.md"
 refuses "another text above a table" "$here/docs.sh" "$trial"
 rm -rf "$trial/docs" "$trial/tools"
 
+# The judge of coverage. A file of three lines, of which the first has two branches and the others have the same text:
+# counted LINE BRANCH says how often the second and third line and the second branch were come to.
+counted() {
+  printf 'if (a) b();\nc();\nc();\n' >"$trial/a.cpp"
+  cat >"$trial/report.json" <<JSON
+{"files": [{"file": "a.cpp", "lines": [
+  {"line_number": 1, "count": 1, "branches": [{"count": 1}, {"count": $2}]},
+  {"line_number": 2, "count": $1, "branches": []},
+  {"line_number": 3, "count": $1, "branches": []}]}]}
+JSON
+  : >"$trial/left_out.txt"
+}
+leave_out() { printf '%s\n' "$@" >"$trial/left_out.txt"; }
+judge() { (cd "$trial" && /usr/bin/python3 "$here/../../tools/coverage/judge.py" report.json left_out.txt); }
+# judges_wrong WHAT WORDS: the judge fails and says so in these words.
+judges_wrong() {
+  local said
+  if said=$(judge 2>&1); then fault "not caught: $1"; fi
+  [[ $said == *"$2"* ]] || fault "$1: the judge says $said"
+}
+both=('= Nothing leads there.' 'a.cpp: 2 lines: c();' 'a.cpp: 1 branch: if (a) b();')
+counted 1 1
+passes "everything come to" judge
+counted 0 1
+judges_wrong "lines that are not listed" "2 lines that no test comes to, 0 of them left out by name: c();"
+leave_out "${both[0]}" 'a.cpp: 1 line: c();'
+judges_wrong "one line more than are listed" "2 lines that no test comes to, 1 of them"
+counted 1 0
+judges_wrong "a branch that is not listed" "1 branches that no test comes to, 0 of them left out by name: if (a) b();"
+counted 0 0
+leave_out "${both[@]}"
+passes "what is listed with its reason" judge
+counted 1 0
+leave_out "${both[@]}"
+judges_wrong "listed lines that are come to" "2 lines are left out by name, and 0 are not come to: c();"
+counted 0 1
+leave_out "${both[@]}"
+judges_wrong "a listed branch that is come to" "1 branches are left out by name, and 0 are not come to: if (a) b();"
+counted 0 0
+leave_out "${both[@]}" 'a.cpp: 1 line: gone();'
+judges_wrong "a listed line that has gone" "1 lines are left out by name, and 0 are not come to: gone();"
+leave_out "${both[@]}" 'gone.cpp: 1 branch: if (a) b();'
+judges_wrong "a listed file that has gone" "gone.cpp: 1 branches are left out by name"
+leave_out '= By chance: a moment.' "${both[@]:1}"
+passes "what is left out by chance and not come to" judge
+counted 1 1
+leave_out '= By chance: a moment.' "${both[@]:1}"
+passes "what is left out by chance and come to" judge
+counted 0 1
+leave_out '= By chance: a moment.' 'a.cpp: 1 line: c();'
+judges_wrong "more than chance leaves out" "2 lines that no test comes to, 1 of them"
+leave_out "${both[@]}" "${both[1]}"
+judges_wrong "an entry that stands there twice" "left_out.txt:4: stands there twice"
+leave_out "${both[@]:1}"
+judges_wrong "an entry without a reason" "left_out.txt:1: no entry below a reason"
+leave_out "${both[0]}" 'c();'
+judges_wrong "what is no entry" "left_out.txt:2: no entry below a reason"
+echo '{"files": []}' >"$trial/report.json"
+leave_out
+judges_wrong "a report of nothing" "nothing was counted"
+
 no_faults "the rules can fail"

@@ -9,16 +9,13 @@ follow every change, below the reason why no test comes to them:
     FILE: COUNT lines|branches: TEXT
 
 Lines of a file with the same text count together. What is left out must be there and must be counted in full, neither
-more nor less; only where the reason begins with "By chance" may it be less, since some runs come there. Clocks, threads
-and seeds let one run miss what the next comes to: so few of either sort are told, but do not make it fail.
+more nor less; only where the reason begins with "By chance" may it be less, since some runs come there.
 """
 import json
 import re
 import sys
 from collections import Counter
 from pathlib import Path
-
-SPARE = {"lines": 2, "branches": 10}
 
 
 def read_report(path):
@@ -77,8 +74,8 @@ def main():
             print(f"{file}: {known} {sort} are left out by name, and {found} are not come to: {text}")
     for sort in ("lines", "branches"):
         count = sum(number for key, number in left_out.items() if key[1] == sort)
-        print(f"{total[sort]} {sort}, of which {count} are left out by name; {faults[sort]} are otherwise, {SPARE[sort]} may be")
-    sys.exit(1 if any(faults[sort] > spare for sort, spare in SPARE.items()) else 0)
+        print(f"{total[sort]} {sort}, of which {count} are left out by name; {faults[sort]} are otherwise")
+    sys.exit(1 if faults else 0)
 
 
 main()

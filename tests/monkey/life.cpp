@@ -1,5 +1,6 @@
 #include "tests/monkey/life.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <vector>
@@ -67,6 +68,11 @@ void Life::NoteReached() {
   const Stage& stage = program_->TheStage();
   if (stage.Find("Battle")->IsVisible()) {
     reached_.Battle = true;
+    const bool acts = state.ActionState > 0;
+    reached_.Technique |= acts && state.ActionKind == Action::Technique;
+    reached_.Spell |=
+        acts && (state.ActionKind == Action::Spell || state.ActionKind == Action::Heal);
+    reached_.Thing |= acts && state.ActionKind == Action::Item;
     reached_.Dragon |= state.BossFight == kTrue;
     reached_.LastDragon |= state.LastBossFight == kTrue;
   }
@@ -183,6 +189,10 @@ void Life::Act() {
     --ticks_left_;
     return Do([&](Program& p) { p.Tick(*burst_); });
   }
+  constexpr int between_turns = 3;
+  if (dice_.OnceIn(between_turns) && program_->TheStage().Find("Battle")->IsVisible()) {
+    return TakeTurn();
+  }
   if (begins_.IsStrong && !dice_.OnceIn(begins_.What == Start::Ending ? 5 : 2)) return HurryOn();
   constexpr int between_errands = 40;
   if (dice_.OnceIn(between_errands) && IsHome(*program_)) return RunErrand();
@@ -243,6 +253,46 @@ void Life::RunErrand() {
         ActOn(*control);
       }
     }
+  }
+}
+
+// A hero's turn from its command to its end: chance alone comes to nothing but strokes there.
+void Life::TakeTurn() {
+  constexpr int steps = 60;
+  Stage& stage = program_->TheStage();
+  const Screen& battle = *stage.Find("Battle");
+  Timer& action = *static_cast<Timer*>(battle.Find("Timer1"));
+  if (dice_.OnceIn(2)) {
+    auto& tabs = *static_cast<TabStrip*>(battle.Find("SSTab1"));
+    Do([&](Program& p) { p.SelectTab(tabs, tabs.Tab() ^ 1); });
+  }
+  std::vector<Control*> commands;
+  for (const char* name : {"Command1", "Command2", "Command3", "Command4", "Command5"}) {
+    if (Control* command = battle.Find(name); CanClick(*command)) commands.push_back(command);
+  }
+  if (commands.empty()) return;
+  Control& command = *dice_.OneOf(commands);
+  Do([&](Program& p) { p.Click(command); });
+  for (int i = 0; i < steps && battle.IsVisible() && stage.IsRunning(); ++i) {
+    if (stage.BoxStands()) {
+      Do([&](Program& p) { p.Answer(BoxAnswer::Ok); });
+      continue;
+    }
+    if (action.Ticks()) {
+      Do([&](Program& p) { p.Tick(action); });
+      continue;
+    }
+    std::vector<ListBox*> lists;
+    for (Control* control : battle.Controls()) {
+      if (control->Kind() == ControlKind::List && CanClick(*control)) {
+        lists.push_back(static_cast<ListBox*>(control));
+      }
+    }
+    if (lists.empty()) return;
+    ListBox& list = *dice_.OneOf(lists);
+    const int last = std::max(0, list.ListCount() - 1);
+    const int row = dice_.OnceIn(8) ? 0 : dice_.Between(std::min(1, last), last);  // 0 leads back
+    Do([&](Program& p) { p.Choose(list, row); });
   }
 }
 

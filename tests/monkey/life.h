@@ -33,6 +33,9 @@ class Life {
   // What the life has come to.
   struct Reached {
     bool Battle = false;
+    bool Technique = false;
+    bool Spell = false;
+    bool Thing = false;  // used in a battle
     bool Dragon = false;
     bool LastStage = false;
     bool LastDragon = false;
@@ -55,6 +58,7 @@ class Life {
   void ActOnList(Control& list, int rows);
   void HurryOn();
   void RunErrand();
+  void TakeTurn();
   void Meddle();
   void GoHome();
 

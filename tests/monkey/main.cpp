@@ -57,17 +57,22 @@ Settings Read(const std::vector<std::string>& words) {
 
 // How many lives came how far.
 struct Tally {
-  uint64_t Battles = 0, Dragons = 0, LastStages = 0, LastDragons = 0, Endings = 0;
+  uint64_t Battles = 0, Techniques = 0, Spells = 0, Things = 0, Dragons = 0, LastStages = 0,
+           LastDragons = 0, Endings = 0;
 
   void Add(const monkey::Life::Reached& came) {
     Battles += came.Battle ? 1 : 0;
+    Techniques += came.Technique ? 1 : 0;
+    Spells += came.Spell ? 1 : 0;
+    Things += came.Thing ? 1 : 0;
     Dragons += came.Dragon ? 1 : 0;
     LastStages += came.LastStage ? 1 : 0;
     LastDragons += came.LastDragon ? 1 : 0;
     Endings += came.Ending ? 1 : 0;
   }
   bool HasAll() const {
-    return Battles > 0 && Dragons > 0 && LastStages > 0 && LastDragons > 0 && Endings > 0;
+    return Battles > 0 && Techniques > 0 && Spells > 0 && Things > 0 && Dragons > 0 &&
+           LastStages > 0 && LastDragons > 0 && Endings > 0;
   }
 };
 
@@ -108,9 +113,12 @@ int main(int count, char** words) {
   const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
   std::printf("%" PRIu64 " actions in %" PRIu64 " lives, %.0f actions/s\n", actions, lives,
               static_cast<double>(actions) / took.count());
-  std::printf("lives with a battle %" PRIu64 ", a dragon %" PRIu64 ", the last stage %" PRIu64
-              ", its dragon %" PRIu64 ", the ending %" PRIu64 "\n",
-              tally.Battles, tally.Dragons, tally.LastStages, tally.LastDragons, tally.Endings);
+  std::printf("lives with a battle %" PRIu64 ", a technique %" PRIu64 ", a spell %" PRIu64
+              ", a thing used there %" PRIu64 "\n",
+              tally.Battles, tally.Techniques, tally.Spells, tally.Things);
+  std::printf("lives with a dragon %" PRIu64 ", the last stage %" PRIu64 ", its dragon %" PRIu64
+              ", the ending %" PRIu64 "\n",
+              tally.Dragons, tally.LastStages, tally.LastDragons, tally.Endings);
   // A monkey that gets nowhere finds nothing.
   const bool is_long = actions >= enough;
   return is_long && !tally.HasAll() ? 1 : 0;

@@ -95,7 +95,7 @@ void Surface::Refresh() {
   if (pixels_.use_count() > 1 || shown_.use_count() != 1) {
     shown_ = pixels_;
   } else {
-    CopyUnshown();
+    CopyPart(pixels_->Get(), shown_->Get(), width_, unshown_);
   }
   published_ = std::exchange(unshown_, {});
   revision_.Advance();
@@ -107,12 +107,10 @@ Bounds Surface::ChangedSince(uint64_t revision) const {
   return {0, 0, width_, height_};
 }
 
-void Surface::CopyUnshown() {
-  const Pixels& drawn = pixels_->Get();
-  const int width = unshown_.Right - unshown_.Left;
-  for (int y = unshown_.Top; y < unshown_.Bottom; ++y) {
-    const size_t from = Offset(y) + static_cast<size_t>(unshown_.Left);
-    std::copy_n(drawn.data() + from, width, shown_->Get().data() + from);
+void CopyPart(const Surface::Pixels& from, Surface::Pixels& to, int width, const Bounds& part) {
+  for (int y = part.Top; y < part.Bottom; ++y) {
+    const auto begin = static_cast<std::ptrdiff_t>(y) * width + part.Left;
+    std::copy_n(from.begin() + begin, part.Right - part.Left, to.begin() + begin);
   }
 }
 

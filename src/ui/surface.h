@@ -104,8 +104,6 @@ class Surface {
   friend class SurfaceWriter;
 
   Surface(int width, int height, std::shared_ptr<SharedPixels> pixels);
-  // Brings the second store up to what is drawn.
-  void CopyUnshown();
 
   size_t Offset(int y) const { return static_cast<size_t>(y) * static_cast<size_t>(width_); }
 
@@ -118,6 +116,10 @@ class Surface {
   RevisionCount revision_;
   Bounds published_;  // what the last Refresh has changed
 };
+
+// Copies a part of one store into another. Both have rows of so many pixels, and the part lies
+// within them.
+void CopyPart(const Surface::Pixels& from, Surface::Pixels& to, int width, const Bounds& part);
 
 // Copies `area` of the source, its top left corner at (x, y) of the destination, at scale 1. What
 // lies outside either surface is left out. Source and destination may be the same surface.

@@ -34,6 +34,22 @@ TEST(Surface, CopiesPartWhenOneIsDrawnOn) {
   EXPECT_EQ(other.At(0, 0), 2u);
 }
 
+TEST(CopyPart, LeavesEveryPixelBesideThePartAlone) {
+  constexpr int width = 5;
+  constexpr int height = 6;
+  for (const Bounds& part : {Bounds{1, 2, 4, 4}, {0, 0, 5, 5}, {0, 1, 5, 6}, {4, 5, 5, 6}}) {
+    const Surface::Pixels from(width * height, 1);
+    Surface::Pixels to(width * height, 2);
+    CopyPart(from, to, width, part);
+    for (int i = 0; i < width * height; ++i) {
+      const int x = i % width;
+      const int y = i / width;
+      const bool within = x >= part.Left && x < part.Right && y >= part.Top && y < part.Bottom;
+      EXPECT_EQ(to[static_cast<size_t>(i)], within ? 1u : 2u) << x << ", " << y;
+    }
+  }
+}
+
 TEST(Surface, AnswersNothingOutside) {
   EXPECT_THROW(static_cast<void>(Surface(2, 2).At(2, 0)), RunError);
 }

@@ -1,13 +1,18 @@
 // A sound font that is read by the synthesizer, and not read to its end.
 #include "src/sound/fluid/font_file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <ctime>
 #include <memory>
 #include <stop_token>
+#include <string>
+#include <vector>
 
 #include "src/sound/fluid/sound_font.h"
 #include "tests/unit/sound/sound_files.h"
@@ -60,6 +65,20 @@ TEST_F(FontFileTest, WhatIsNoFontIsNotLoaded) {
   folder.Write("Broken.sf2", {'R', 'I', 'F', 'F'});
   FontFile broken(folder.Path() + "/Sound/Broken.sf2");
   EXPECT_EQ(Load(broken), FLUID_FAILED);
+}
+
+TEST_F(FontFileTest, WhatHasNoPlacesToGoToIsNotLoaded) {
+  const test::Folder folder;
+  const std::string pipe = folder.Path() + "/pipe.sf2";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const int held =
+      open(pipe.c_str(), O_RDWR | O_NONBLOCK);  // so that nobody waits for the other end
+  ASSERT_GE(held, 0);
+  const std::vector<char> noise(4096, 'R');
+  EXPECT_EQ(write(held, noise.data(), noise.size()), static_cast<ssize_t>(noise.size()));
+  FontFile file(pipe);
+  EXPECT_EQ(Load(file), FLUID_FAILED);
+  close(held);
 }
 
 TEST_F(FontFileTest, ReadingStopsBetweenAnyTwoReads) {

@@ -20,13 +20,14 @@ void JobThread::Post(std::function<void()> job) {
   {
     const std::scoped_lock lock(mutex_);
     jobs_.push_back(std::move(job));
+    ++unfinished_;
   }
   changed_.notify_all();
 }
 
 void JobThread::Finish() {
   std::unique_lock lock(mutex_);
-  changed_.wait(lock, [this] { return jobs_.empty() && !busy_; });
+  changed_.wait(lock, [this] { return unfinished_ == 0; });
 }
 
 void JobThread::Run() {
@@ -35,7 +36,10 @@ void JobThread::Run() {
   while (true) {
     std::function<void()> job;
     if (when_idle_) {
-      if (!changed_.wait_for(lock, pause_, wanted)) job = std::exchange(when_idle_, nullptr);
+      if (!changed_.wait_for(lock, pause_, wanted)) {
+        job = std::exchange(when_idle_, nullptr);
+        ++unfinished_;
+      }
     } else {
       changed_.wait(lock, wanted);
     }
@@ -44,12 +48,11 @@ void JobThread::Run() {
       job = std::move(jobs_.front());
       jobs_.pop_front();
     }
-    busy_ = true;
     lock.unlock();
     job();
     job = nullptr;  // what it holds is let go before it counts as done
     lock.lock();
-    busy_ = false;
+    --unfinished_;
     changed_.notify_all();
   }
 }

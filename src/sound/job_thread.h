@@ -35,7 +35,7 @@ class JobThread {
   std::mutex mutex_;
   std::condition_variable changed_;
   std::deque<std::function<void()>> jobs_;
-  bool busy_ = false;
+  int unfinished_ = 0;  // jobs that wait, or run
   std::stop_source leaving_;
   std::thread thread_;  // last: it runs as soon as it is made
 };

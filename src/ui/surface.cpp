@@ -92,10 +92,10 @@ void Surface::Refresh() {
   // What is drawn on again and again has a second store, so that each change is copied alone. What
   // is a copy of another's, or shown for the first time, is shown as it is: a sheet is not read to
   // be shown out of sight, and what is drawn once has one store.
-  if (pixels_.use_count() > 1 || shown_.use_count() != 1) {
-    shown_ = pixels_;
-  } else {
+  if (shown_.use_count() == 1) {
     CopyPart(pixels_->Get(), shown_->Get(), width_, unshown_);
+  } else {
+    shown_ = pixels_;
   }
   published_ = std::exchange(unshown_, {});
   revision_.Advance();

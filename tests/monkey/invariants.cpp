@@ -85,7 +85,7 @@ std::string BrokenScreens(const Stage& stage) {
 }
 
 // Which timers may be on at one time.
-std::string BrokenTimers(const Stage& stage) {
+std::string BrokenTimers(const Stage& stage, bool walk_goes_on) {
   const Screen& battle = *stage.Find("Battle");
   const Screen& main = *stage.Find("Main");
   for (const char* name : {"Timer1", "Timer2"}) {
@@ -95,7 +95,7 @@ std::string BrokenTimers(const Stage& stage) {
   }
   // The message of a tile whose step has met a fight too waits behind it, and so does the closing
   // scene of a dragon whose battle's window was closed. The walk stands.
-  if (TimerOf(stage, "Main", "Timer1").Ticks() && !main.IsVisible())
+  if (TimerOf(stage, "Main", "Timer1").Ticks() && !main.IsVisible() && !walk_goes_on)
     return "the walk goes on unseen";
   const Timer& scroll = TimerOf(stage, "Ending", "Timer1");
   if (scroll.Ticks() && !stage.Find("Ending")->IsVisible()) return "the credits roll unseen";
@@ -133,12 +133,12 @@ std::string BrokenPlace(Program& program) {
 
 }  // namespace
 
-std::string Broken(Program& program, bool sound_data) {
+std::string Broken(Program& program, const Known& known) {
   const Stage& stage = program.TheStage();
   if (!stage.IsRunning()) return {};
-  std::vector<std::string> all = {BrokenLists(stage), BrokenScreens(stage), BrokenTimers(stage),
-                                  StuckBattle(stage)};
-  if (sound_data) {
+  std::vector<std::string> all = {BrokenLists(stage), BrokenScreens(stage),
+                                  BrokenTimers(stage, known.WalkGoesOn), StuckBattle(stage)};
+  if (known.DataIsSound) {
     all.insert(all.end(),
                {BrokenGauges(stage), BrokenNumbers(program.TheState()), BrokenPlace(program)});
   }

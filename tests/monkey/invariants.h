@@ -7,8 +7,12 @@
 
 namespace orvane::monkey {
 
-// What does not hold, empty when all does. `sound_data` says that the program began with files and
-// numbers that are in order: more holds then.
-std::string Broken(Program& program, bool sound_data);
+struct Known {
+  bool DataIsSound = true;  // the program began with files and numbers in order: more holds then
+  bool WalkGoesOn = false;  // behind a battle, where a menu's window that closes lets it go
+};
+
+// What does not hold, empty when all does.
+std::string Broken(Program& program, const Known& known);
 
 }  // namespace orvane::monkey

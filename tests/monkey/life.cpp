@@ -41,9 +41,19 @@ Life::Life(uint64_t seed, const Files& folder)
   program_->SetWatcher(&recorder_);
 }
 
+int Life::MenusBesideBattle() const {
+  const Stage& stage = program_->TheStage();
+  if (stage.Find("Main")->IsVisible() || !stage.Find("Battle")->IsVisible()) return 0;
+  const auto& screens = stage.Screens();
+  return static_cast<int>(std::count_if(screens.begin(), screens.end(), [](const Screen* screen) {
+    return screen->IsVisible() && screen->Name() != "Battle";
+  }));
+}
+
 template <class Action>
 void Life::Do(Action action) {
   ++actions_;
+  const int menus = MenusBesideBattle();
   const auto begin = std::chrono::steady_clock::now();
   try {
     action(*program_);
@@ -52,6 +62,8 @@ void Life::Do(Action action) {
   }
   const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
   if (took.count() > kMostSeconds) throw Fault("an action that took seconds");
+  if (MenusBesideBattle() < menus) walk_goes_on_ = true;
+  if (program_->TheStage().Find("Main")->IsVisible()) walk_goes_on_ = false;
   Check();
 }
 
@@ -60,7 +72,8 @@ void Life::Check() {
   if (!disk_.Fault.empty()) throw Fault(disk_.Fault);
   const bool may_fail = !begins_.IsSound || !disk_.Failure.empty();
   if (program_->Error() && !may_fail) throw Fault("a run-time error: " + program_->TextOfError());
-  if (std::string broken = Broken(*program_, begins_.IsSound); !broken.empty()) throw Fault(broken);
+  std::string broken = Broken(*program_, {begins_.IsSound, walk_goes_on_});
+  if (!broken.empty()) throw Fault(broken);
 }
 
 void Life::NoteReached() {

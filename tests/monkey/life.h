@@ -62,6 +62,8 @@ class Life {
   void Meddle();
   void GoHome();
 
+  // The windows of menus that stand beside a battle for which the field has gone.
+  int MenusBesideBattle() const;
   Screen& AnyScreen();
   Timer* TickingTimer();
   std::string AnyText();
@@ -77,6 +79,7 @@ class Life {
   Reached reached_;
   Timer* burst_ = nullptr;  // ticks for a while
   int ticks_left_ = 0;
+  bool walk_goes_on_ = false;  // behind a battle beside which a menu's window has closed
 };
 
 }  // namespace orvane::monkey

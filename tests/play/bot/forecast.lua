@@ -18,6 +18,7 @@ function forecast.against(s, kind, round, rested)
   f.hp, f.mp = copied(rested and s.max_hp or s.hp), copied(rested and s.max_mp or s.mp)
   f.items = copied(s.items)
   f.fainted = { [0] = false, false }
+  f.ladders = nil  -- they were for another enemy
   return f
 end
 

@@ -167,7 +167,10 @@ end
 -- Against one big enemy: the MP are spread over as few rounds as it may fall in, the dearer skills
 -- first. `mp` may be more than is there now, when items will bring more.
 local function against_one(s, hero, mp, other)
-  local steps = ladder(s, hero)
+  -- They stay for as long as `s` does.
+  s.ladders = s.ladders or {}
+  local steps = s.ladders[hero] or ladder(s, hero)
+  s.ladders[hero] = steps
   local dearest
   for rounds = 1, 60 do
     local damage, step = with_budget(steps, mp / rounds)

@@ -15,7 +15,7 @@ function Scene:rect(x, y, width, height, colour)
   if x <= 0 and y <= 0 and right >= 432 and bottom >= 264 then self:forget() end
   local seen = {}
   for _, rect in ipairs(self.rects) do
-    local covered = not rect.ring and rect[1] >= x and rect[2] >= y and rect[3] <= right and rect[4] <= bottom
+    local covered = rect[1] >= x and rect[2] >= y and rect[3] <= right and rect[4] <= bottom
     if not covered then seen[#seen + 1] = rect end
   end
   seen[#seen + 1] = { x, y, right, bottom, colour }
@@ -23,7 +23,10 @@ function Scene:rect(x, y, width, height, colour)
 end
 
 -- A white circle's outline.
-function Scene:ring(x, y, radius) self.rects[#self.rects + 1] = { x, y, ring = radius } end
+function Scene:ring(x, y, radius)
+  local out = radius + 2
+  self.rects[#self.rects + 1] = { x - out, y - out, x + out, y + out, ring = radius }
+end
 
 function Scene:effect(column, row, x, y, size) self:rect(x, y, size, size, sheets.effect(column, row)) end
 
@@ -155,12 +158,14 @@ end
 
 -- The colour that must stand at a point; nil where any is right.
 function Scene:at(x, y)
-  for i = #self.rects, 1, -1 do
-    local rect = self.rects[i]
-    if rect.ring then
-      if math.abs(math.sqrt((x - rect[1]) ^ 2 + (y - rect[2]) ^ 2) - rect.ring) < 1.5 then return nil end
-    elseif x >= rect[1] and x < rect[3] and y >= rect[2] and y < rect[4] then
-      return rect[5]
+  local rects = self.rects
+  for i = #rects, 1, -1 do
+    local rect = rects[i]
+    if x >= rect[1] and x < rect[3] and y >= rect[2] and y < rect[4] then
+      local radius = rect.ring
+      if not radius then return rect[5] end
+      local off_x, off_y = x - (rect[1] + rect[3]) / 2, y - (rect[2] + rect[4]) / 2
+      if math.abs(math.sqrt(off_x ^ 2 + off_y ^ 2) - radius) < 1.5 then return nil end
     end
   end
 end

@@ -8,7 +8,7 @@
 namespace orvane {
 namespace {
 
-constexpr float kNearOne = 0.99999994F;  // the greatest draw
+constexpr float kGreatestDraw = 0.99999994F;
 
 class Formation : public testing::Test {
  protected:
@@ -51,7 +51,7 @@ TEST_F(Formation, EachRoundRollsAmongItsFiveKinds) {
     FixedChance least;
     FormEnemies(state_, least);
     EXPECT_EQ(state_.EnemyKind, 3 + (round - 1) * 5);
-    FixedChance most({kNearOne, 0});
+    FixedChance most({kGreatestDraw, 0});
     FormEnemies(state_, most);
     EXPECT_EQ(state_.EnemyKind, 7 + (round - 1) * 5);
     EXPECT_EQ(most.Drawn, 2U);
@@ -61,7 +61,7 @@ TEST_F(Formation, EachRoundRollsAmongItsFiveKinds) {
 TEST_F(Formation, TheLastRoundKeepsItsKind) {
   state_.Round = 4;
   state_.EnemyKind = 15;
-  FixedChance luck({kNearOne});
+  FixedChance luck({kGreatestDraw});
   FormEnemies(state_, luck);
   EXPECT_EQ(state_.EnemyKind, 15);
   EXPECT_EQ(state_.EnemyCount, 4);
@@ -82,7 +82,7 @@ TEST_F(Formation, AGroupFillsItsSlotsAlone) {
 
 TEST_F(Formation, ABigEnemyStandsAloneInItsSlot) {
   state_.BossFight = kTrue;
-  FixedChance luck({0, kNearOne});
+  FixedChance luck({0, kGreatestDraw});
   FormEnemies(state_, luck);
   EXPECT_EQ(state_.EnemyCount, 1);
   EXPECT_EQ(state_.EnemyAlive[0], kFalse);

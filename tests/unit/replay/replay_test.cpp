@@ -135,7 +135,7 @@ TEST_F(ReplayTest, IsNotWholeOnceSomethingWasDoneThatIsNoEvent) {
 }
 
 TEST_F(ReplayTest, KeepsDrawsThatNoGeneratorMade) {
-  class Dictated : public Chance {
+  class NoGenerator : public Chance {
    public:
     float Draw() override { return value_ = value_ < 0.9F ? value_ + 0.001F : 0; }
     void Reseed() override {}
@@ -143,7 +143,7 @@ TEST_F(ReplayTest, KeepsDrawsThatNoGeneratorMade) {
    private:
     float value_ = 0;
   };
-  Dictated luck;
+  NoGenerator luck;
   PlayRecorder recorder({play_.Sound, luck, play_.Files});
   play_.TheProgram = std::make_unique<Program>(recorder.TheServices());
   recorder.Watch(*play_.TheProgram);

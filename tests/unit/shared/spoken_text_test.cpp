@@ -13,9 +13,9 @@
 namespace orvane {
 namespace {
 
-class Page : public Screen {
+class SpokenPage : public Screen {
  public:
-  explicit Page(Stage& stage) : Screen(stage, "Page", "Page", 400, 300) {
+  explicit SpokenPage(Stage& stage) : Screen(stage, "Page", "Page", 400, 300) {
     Tabs.Captions = {"one", "two"};
     Tabs.PanesEnabled = {true, true};
   }
@@ -46,7 +46,7 @@ class SpokenTextTest : public testing::Test {
   }
 
   Stage stage_;
-  Page page_{stage_};
+  SpokenPage page_{stage_};
   Translator own_;
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 const std::vector<Extent> kWindows = {{496, 303}, {454, 396}, {403, 444}};
 
-ScreenFacts Screen(double width, double height) {
+ScreenFacts Display(double width, double height) {
   return {{width, height}, {width, height}, 1, 1};
 }
 
@@ -95,13 +95,13 @@ TEST(FittingScale, NeverShrinksAWindow) {
 }
 
 TEST(Zoom, StartsWithTheBestScaleOrTheOneGiven) {
-  EXPECT_DOUBLE_EQ(Zoom(Screen(1920, 1080), {}, kWindows).ScaleFor({}), 2);
-  EXPECT_DOUBLE_EQ(Zoom(Screen(1366, 768), {}, kWindows).ScaleFor({}), 1.5);
-  EXPECT_DOUBLE_EQ(Zoom(Screen(1920, 1080), 1.25, kWindows).ScaleFor({}), 1.25);
+  EXPECT_DOUBLE_EQ(Zoom(Display(1920, 1080), {}, kWindows).ScaleFor({}), 2);
+  EXPECT_DOUBLE_EQ(Zoom(Display(1366, 768), {}, kWindows).ScaleFor({}), 1.5);
+  EXPECT_DOUBLE_EQ(Zoom(Display(1920, 1080), 1.25, kWindows).ScaleFor({}), 1.25);
 }
 
 TEST(Zoom, GoesInHalvesAndBackToTheBest) {
-  Zoom zoom(Screen(1920, 1080), 1.25, kWindows);
+  Zoom zoom(Display(1920, 1080), 1.25, kWindows);
   zoom.Enlarge();
   EXPECT_DOUBLE_EQ(zoom.ScaleFor({}), 1.5);
   zoom.Enlarge();
@@ -113,7 +113,7 @@ TEST(Zoom, GoesInHalvesAndBackToTheBest) {
 }
 
 TEST(Zoom, StopsWhereTheFirstWindowWouldNotFitAndAtItsDrawnSize) {
-  Zoom zoom(Screen(1920, 1080), {}, kWindows);
+  Zoom zoom(Display(1920, 1080), {}, kWindows);
   for (int i = 0; i < 10; ++i) zoom.Enlarge();
   EXPECT_DOUBLE_EQ(zoom.ScaleFor({}), 3);
   for (int i = 0; i < 10; ++i) zoom.Reduce();
@@ -121,7 +121,7 @@ TEST(Zoom, StopsWhereTheFirstWindowWouldNotFitAndAtItsDrawnSize) {
 }
 
 TEST(Zoom, GivesWayToAWindowThatIsTooHighForIt) {
-  Zoom zoom(Screen(1920, 1080), {}, kWindows);
+  Zoom zoom(Display(1920, 1080), {}, kWindows);
   zoom.Enlarge();
   zoom.Enlarge();
   EXPECT_DOUBLE_EQ(zoom.ScaleFor({Dialog(496, 303)}), 3);
@@ -129,11 +129,11 @@ TEST(Zoom, GivesWayToAWindowThatIsTooHighForIt) {
 }
 
 TEST(Zoom, DoesNotFallBelowWhatThePlayerAskedForAtTheStart) {
-  EXPECT_DOUBLE_EQ(Zoom(Screen(640, 480), 2, kWindows).ScaleFor({Dialog(403, 444)}), 2);
+  EXPECT_DOUBLE_EQ(Zoom(Display(640, 480), 2, kWindows).ScaleFor({Dialog(403, 444)}), 2);
 }
 
 TEST(Zoom, FillsWhatAWindowHasBeenGivenAndNoMoreThanLetsTheOthersFit) {
-  const Zoom zoom(Screen(1366, 768), {}, kWindows);
+  const Zoom zoom(Display(1366, 768), {}, kWindows);
   const Span tile = {{496, 321}, kTitleHeight, Extent{1362, 744}};
   EXPECT_DOUBLE_EQ(zoom.ScaleFor({tile}), 744.0 / 321);
   EXPECT_DOUBLE_EQ(zoom.ScaleFor({{tile.Inside, kTitleHeight, Extent{680, 744}}}), 680.0 / 496);
@@ -142,7 +142,7 @@ TEST(Zoom, FillsWhatAWindowHasBeenGivenAndNoMoreThanLetsTheOthersFit) {
 }
 
 TEST(Zoom, FillsTheFullScreenWhateverTheScaleOfWindows) {
-  Zoom zoom(Screen(1920, 1080), 1, kWindows);
+  Zoom zoom(Display(1920, 1080), 1, kWindows);
   zoom.SetFullScreen(true);
   EXPECT_DOUBLE_EQ(zoom.ScaleFor({{{480, 270}, 0}}), 4);
   zoom.SetFullScreen(false);

@@ -7,9 +7,10 @@
 namespace orvane {
 namespace {
 
-class Window : public Screen {
+class LoggedWindow : public Screen {
  public:
-  explicit Window(Stage& stage, const std::string& name) : Screen(stage, name, name, 200, 100) {}
+  explicit LoggedWindow(Stage& stage, const std::string& name)
+      : Screen(stage, name, name, 200, 100) {}
 
   std::string Log;
   Timer Clock{*this, "Timer1", 10, 30};
@@ -24,8 +25,8 @@ class StageRefusals : public testing::Test {
   StageRefusals() { stage.KeepDesigns(); }
 
   Stage stage;
-  Window first{stage, "First"};
-  Window second{stage, "Second"};
+  LoggedWindow first{stage, "First"};
+  LoggedWindow second{stage, "Second"};
 };
 
 TEST_F(StageRefusals, WhatIsHiddenIsNotHiddenAgainNorActivated) {

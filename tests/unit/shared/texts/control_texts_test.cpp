@@ -12,9 +12,9 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class Page : public Screen {
+class PageOfAll : public Screen {
  public:
-  explicit Page(Stage& stage) : Screen(stage, "Page", "Page", 400, 300) {
+  explicit PageOfAll(Stage& stage) : Screen(stage, "Page", "Page", 400, 300) {
     Tabs.Captions = {"カイ", "リナ"};
     Things.Rows = {"薬", "剣"};
     Files.Rows = {"Save01.sav"};
@@ -35,7 +35,7 @@ class Page : public Screen {
 
 TEST(ControlTexts, AreCaptionsAndRows) {
   Stage stage;
-  const Page page(stage);
+  const PageOfAll page(stage);
   EXPECT_EQ(TextsOf(page.Words), Texts{"薬"});
   EXPECT_EQ(TextsOf(page.Button), Texts{"戦う"});
   EXPECT_EQ(TextsOf(page.Around), Texts{"使う相手"});
@@ -46,7 +46,7 @@ TEST(ControlTexts, AreCaptionsAndRows) {
 
 TEST(ControlTexts, AreNeitherWhatThePlayerFillsInNorFiles) {
   Stage stage;
-  const Page page(stage);
+  const PageOfAll page(stage);
   for (const Control* control : std::initializer_list<const Control*>{
            &page.Files, &page.Field, &page.Scene, &page.Speed, &page.Ticks}) {
     EXPECT_EQ(TextsOf(*control), Texts{}) << control->Name();

@@ -84,10 +84,10 @@ TEST_F(Translations, GiveTheSameASecondTime) {
 }
 
 TEST_F(Translations, TellWhichTextOfTheCatalogueServes) {
-  using Texts = std::vector<std::string>;
-  EXPECT_EQ(texts_.SourcesOf("剣    (3)"), (Texts{"{item}({number})", "剣"}));
-  EXPECT_EQ(texts_.SourcesOf("薬  "), Texts{"薬"});
-  EXPECT_EQ(texts_.SourcesOf("盾"), Texts{});
+  using Sources = std::vector<std::string>;
+  EXPECT_EQ(texts_.SourcesOf("剣    (3)"), (Sources{"{item}({number})", "剣"}));
+  EXPECT_EQ(texts_.SourcesOf("薬  "), Sources{"薬"});
+  EXPECT_EQ(texts_.SourcesOf("盾"), Sources{});
 }
 
 TEST_F(Translations, ChangeWithTheLanguage) {

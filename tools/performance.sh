@@ -1,7 +1,7 @@
 #!/bin/bash
 # Measures the game and writes what was found to docs/performance.md, whose text is kept in
 # tools/performance_frame.md.
-# usage: tools/performance.sh, from anywhere, after a build with measurements; best on a quiet machine.
+# usage: tools/performance.sh, from anywhere, after a build; best on a quiet machine.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 bin=$root/build/bin
@@ -11,6 +11,7 @@ if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
   export XDG_RUNTIME_DIR=$work
 fi
 
+cmake --build "$root/build" --target orvane-bench >&2
 "$bin/orvane-bench" >"$work/bench.txt" 2>"$work/bench.log"
 "$bin/orvane-script" "$root/tests/play/playthrough.lua" >"$work/journeys.txt"
 "$root/tests/process/measure.sh" "$bin/orvane" "$work/shots" "$bin/orvane-script" >"$work/window.txt"

@@ -12,7 +12,7 @@ namespace {
 constexpr double kDark = 0.6;
 constexpr double kRatherDark = 0.8;
 // How far a channel may be off, of 255.
-constexpr int kShade = 8;
+constexpr int kLikeShade = 8;
 
 // How light each pixel is when the picture is made as large as `size`, each pixel the mean of what
 // lies under it.
@@ -111,8 +111,9 @@ struct Mixed {
     }
   }
   bool IsLike(QRgb other) const {
-    return std::fabs(Red - qRed(other)) <= kShade && std::fabs(Green - qGreen(other)) <= kShade &&
-           std::fabs(Blue - qBlue(other)) <= kShade;
+    return std::fabs(Red - qRed(other)) <= kLikeShade &&
+           std::fabs(Green - qGreen(other)) <= kLikeShade &&
+           std::fabs(Blue - qBlue(other)) <= kLikeShade;
   }
 
   double Red = 0;

@@ -2,7 +2,7 @@
 # Plants small faults in the rules, runs the tests on each, and lists those that no test finds.
 # usage: tools/mutants.sh [MOST] [SEED] [FILE ...], from anywhere: so many faults, 450 if nothing is said, drawn by SEED;
 # in these files or folders alone, as src/ui.
-# All faults are in one build, and each is put in force when a test is run: half an hour on two processors.
+# All faults are in one build, and each is put in force when a test is run: a quarter of an hour on two processors.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 # shellcheck source=tools/packages.sh

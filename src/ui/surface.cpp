@@ -189,15 +189,17 @@ Axis MapAxis(std::int64_t target, int target_size, int target_limit, std::int64_
   // One division for all: from pixel to pixel the quotient grows by the same, and the remainder.
   const std::int64_t step = source_size / target_size;
   const std::int64_t step_rest = source_size % target_size;
-  std::int64_t from = source + begin * source_size / target_size - step;
-  std::int64_t rest = begin * source_size % target_size - step_rest;
-  for (std::int64_t i = begin; i < end; ++i) {
+  std::int64_t from = source + begin * source_size / target_size;
+  std::int64_t rest = begin * source_size % target_size;
+  const auto advance = [&] {
     from += step;
     rest += step_rest;
     if (rest >= target_size) {
       rest -= target_size;
       ++from;
     }
+  };
+  for (std::int64_t i = begin; i < end; ++i, advance()) {
     if (from < 0 || from >= source_limit) {
       if (!axis.Sources.empty()) break;
       continue;

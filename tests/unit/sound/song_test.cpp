@@ -3,9 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <ctime>
-
 #include "src/sound/tempo_map.h"
+#include "tests/unit/sound/processor_time.h"
 #include "tests/unit/sound/sound_files.h"
 
 namespace orvane {
@@ -125,19 +124,11 @@ TEST(Song, PatchesAreNamedOnce) {
   EXPECT_EQ(PatchesOf(*song), expected);
 }
 
-// Seconds of the processor's time that an action takes.
-template <class Action>
-double TimeOf(const Action& action) {
-  const std::clock_t begin = std::clock();
-  action();
-  return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-}
-
 TEST(Song, ManyPatchesTakeNoTime) {
   const auto song = ReadSong(test::RestlessSong(160000));
   ASSERT_TRUE(song);
   std::vector<Patch> patches;
-  EXPECT_LT(TimeOf([&] { patches = PatchesOf(*song); }), 0.1);
+  EXPECT_LT(test::TimeOf([&] { patches = PatchesOf(*song); }), 0.1);
   EXPECT_EQ(patches.size(), 128U * 128U);
   const Patch last{127, 127};
   EXPECT_EQ(patches.back(), last);

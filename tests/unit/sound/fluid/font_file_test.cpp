@@ -8,13 +8,13 @@
 
 #include <algorithm>
 #include <array>
-#include <ctime>
 #include <memory>
 #include <stop_token>
 #include <string>
 #include <vector>
 
 #include "src/sound/fluid/sound_font.h"
+#include "tests/unit/sound/processor_time.h"
 #include "tests/unit/sound/sound_files.h"
 
 namespace orvane {
@@ -42,10 +42,10 @@ class FontFileTest : public testing::Test {
   int Load(FontFile& file) { return file.LoadInto(voices_.get(), settings_.get()); }
   // Processor time that it takes to choose the drums of a font, in seconds.
   double TimeOfDrums(int font) {
-    const std::clock_t begin = std::clock();
-    EXPECT_EQ(fluid_synth_program_select(voices_.get(), kDrumChannel, font, kDrumBank, 0),
-              FLUID_OK);
-    return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    return test::TimeOf([&] {
+      EXPECT_EQ(fluid_synth_program_select(voices_.get(), kDrumChannel, font, kDrumBank, 0),
+                FLUID_OK);
+    });
   }
   // The loudest frame of a drum that is beaten.
   float LoudestDrum() {

@@ -128,7 +128,7 @@ local function find_goals(w)
       w.rests[#w.rests + 1] = "rest " .. id
     end
   end
-  if w.index["4,1"] then w.goals.dragon = { w.index["4,1"] * 480 + 14 * 16 + 5 } end
+  if w.index[strip_map] then w.goals.dragon = { w.index[strip_map] * 480 + 14 * 16 + 5 } end
   if w.index["0,0"] then w.goals.dragon = { w.index["0,0"] * 480 + 14 * 16 + 2 } end
 end
 
@@ -172,7 +172,7 @@ function world.field(w, name, cells)
   local direction, distance, from = {}, {}, w.from
   field = { direction = direction, distance = distance }
   w.fields[name] = field
-  local closed_map = name ~= "dragon" and w.index[strip_map] or nil
+  local closed_map = name ~= "dragon" and w.index[strip_map]
   local queue, head = {}, 1
   for _, cell in ipairs(cells or w.goals[name]) do
     distance[cell], direction[cell] = 0, 0

@@ -7,16 +7,25 @@
 
 namespace orvane::power {
 
+std::optional<std::string> ShakyFolder::Read(const std::string& name) const {
+  if (!name.ends_with(".sav") || !trouble_.StepFails()) return FolderStorage::Read(name);
+  ++failed_reads_;
+  return std::nullopt;
+}
+
 Computer::Computer(const std::filesystem::path& folder, const Way& way, Disk& disk,
                    Trouble& trouble)
     : folder_(folder),
       disk_(disk),
-      files_(folder, [this, &way, &trouble](const auto& path, const std::string& bytes) {
-        asked_ = bytes;
-        const std::string failure = way.Replace(path, bytes, trouble);
-        Show();
-        return failure;
-      }) {
+      files_(
+          folder,
+          [this, &way, &trouble](const auto& path, const std::string& bytes) {
+            asked_ = bytes;
+            const std::string failure = way.Replace(path, bytes, trouble);
+            Show();
+            return failure;
+          },
+          trouble) {
   Show();
 }
 

@@ -5,13 +5,31 @@
 
 #include <filesystem>
 #include <map>
-#include <random>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "src/platform/folder_storage.h"
 #include "tests/power/cuts.h"
 
 namespace orvane::power {
+
+// A folder of the system's whose saves cannot be read now and then.
+class ShakyFolder : public FolderStorage {
+ public:
+  // The trouble outlives it.
+  ShakyFolder(std::filesystem::path path, ReplaceFile replace, Trouble& trouble)
+      : FolderStorage(std::move(path), std::move(replace)), trouble_(trouble) {}
+
+  std::optional<std::string> Read(const std::string& name) const override;
+
+  // How many reads have failed so far.
+  int FailedReads() const { return failed_reads_; }
+
+ private:
+  Trouble& trouble_;
+  mutable int failed_reads_ = 0;
+};
 
 class Computer {
  public:
@@ -23,7 +41,7 @@ class Computer {
   Computer& operator=(const Computer&) = delete;
 
   // The storage that the desktop's programs are given.
-  FolderStorage& Files() { return files_; }
+  ShakyFolder& Files() { return files_; }
   // The bytes that the last file was to be replaced by.
   const std::string& Asked() const { return asked_; }
 
@@ -37,7 +55,7 @@ class Computer {
   Disk& disk_;
   std::map<std::string, std::string> shown_;
   std::string asked_;
-  FolderStorage files_;
+  ShakyFolder files_;
 };
 
 }  // namespace orvane::power

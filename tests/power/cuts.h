@@ -51,6 +51,7 @@ struct CutCount {
   int New = 0;      // and that held the newest one
   int Done = 0;     // saves that were reported done
   int Refused = 0;  // and that were not
+  int Unread = 0;   // records that could not be read
   int Strays = 0;   // files that a cut has left beside the slots
 };
 

@@ -29,15 +29,27 @@ std::vector<std::string> Player::OpenSaves() {
   return static_cast<const FileListBox&>(Of("Load", "File1")).Rows;
 }
 
-std::string Player::Look(int row) {
-  Choose("Load", row);
-  return Record();
+bool Player::GoesOn(const std::string& words) {
+  if (!program_->Error()) return true;
+  EXPECT_THAT(program_->TheStage().Boxes().back().Shown.Text, testing::HasSubstr(words));
+  EXPECT_EQ(program_->Answer(BoxAnswer::Ok), "");
+  EXPECT_TRUE(program_->HasEnded());
+  return false;
 }
 
-void Player::Load() {
+std::optional<std::string> Player::Look(int row) {
+  looked_at_ =
+      static_cast<const FileListBox&>(Of("Load", "File1")).Rows.at(static_cast<std::size_t>(row));
+  Choose("Load", row);
+  return GoesOn(looked_at_) ? std::optional(Record()) : std::nullopt;
+}
+
+bool Player::Load() {
   Click("Load", "OKButton");
+  if (!GoesOn(looked_at_)) return false;
   EXPECT_FALSE(On("Load").IsVisible());
   EXPECT_TRUE(static_cast<const Timer&>(Of("Main", "Timer1")).Ticks());
+  return true;
 }
 
 bool Player::Save(const std::string& slot) {
@@ -47,15 +59,10 @@ bool Player::Save(const std::string& slot) {
   Choose("Save", static_cast<int>(row - names.begin()));
   Click("Save", "OKButton");
   EXPECT_EQ(program_->Answer(BoxAnswer::Yes), "");
-  if (!program_->Error()) {
-    EXPECT_FALSE(On("Save").IsVisible());
-    EXPECT_TRUE(program_->TheStage().TimeRuns());
-    return true;
-  }
-  EXPECT_THAT(program_->TheStage().Boxes().back().Shown.Text, testing::HasSubstr(slot + ": "));
-  EXPECT_EQ(program_->Answer(BoxAnswer::Ok), "");
-  EXPECT_TRUE(program_->HasEnded());
-  return false;
+  if (!GoesOn(slot + ": ")) return false;
+  EXPECT_FALSE(On("Save").IsVisible());
+  EXPECT_TRUE(program_->TheStage().TimeRuns());
+  return true;
 }
 
 std::string Player::Record() const {

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,10 +22,11 @@ class Player {
 
   // Opens the dialog for loading; returns the names that it lists.
   std::vector<std::string> OpenSaves();
-  // Clicks a name there; returns the record that the game has read.
-  std::string Look(int row);
-  // Loads the one looked at last, and is on the field.
-  void Load();
+  // Clicks a name there; returns the record that the game has read. Nothing where it could not: it
+  // then says so in a box, and has ended.
+  std::optional<std::string> Look(int row);
+  // Loads the one looked at last, and is on the field. Whether the game could read it, as above.
+  bool Load();
 
   // Saves into the slot of that name. Whether the game has taken it for done: it then goes on, and
   // otherwise says in a box that it could not, and has ended.
@@ -40,11 +42,14 @@ class Player {
   Control& Of(const char* screen, const char* control) const { return *On(screen).Find(control); }
   void Click(const char* screen, const char* control);
   void Choose(const char* screen, int row);
+  // Whether the game goes on. Otherwise it has said so in a box with these words, and has ended.
+  bool GoesOn(const std::string& words);
 
   NoSound silence_;
   NoChance luck_;
   KeptPlay play_;
   std::unique_ptr<Program> program_;
+  std::string looked_at_;
 };
 
 }  // namespace orvane::power

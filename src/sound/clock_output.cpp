@@ -11,8 +11,11 @@ namespace orvane {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-// Nobody hears it: often enough for a piece to be known to end within a tick of the field.
+// Nobody hears it: often enough for a piece to be known to end within a tick of the field; and
+// where nothing plays, for a command to be taken before long, which then counts from when it was
+// given.
 constexpr auto kPause = std::chrono::milliseconds(33);
+constexpr auto kSilentPause = std::chrono::milliseconds(100);
 // What a machine that was asleep has missed beyond this is left out.
 constexpr double kMostBehind = 0.5;
 
@@ -37,8 +40,9 @@ class ClockOutput : public Output {
     std::vector<float> frames;
     Clock::time_point start = Clock::now();
     double pulled = 0;  // seconds since the start
+    bool plays = true;
     std::unique_lock lock(mutex_);
-    while (!wake_.wait_for(lock, kPause, [this] { return stop_; })) {
+    while (!wake_.wait_for(lock, plays ? kPause : kSilentPause, [this] { return stop_; })) {
       const double passed = std::chrono::duration<double>(Clock::now() - start).count();
       if (passed - pulled > kMostBehind) {
         start = Clock::now() - std::chrono::milliseconds(500);
@@ -50,7 +54,7 @@ class ClockOutput : public Output {
       const auto from = start + std::chrono::duration_cast<Clock::duration>(
                                     std::chrono::duration<double>(pulled));
       lock.unlock();
-      pull_(frames.data(), count, from);
+      plays = pull_(frames.data(), count, from);
       lock.lock();
       pulled += static_cast<double>(count) / rate_;
     }

@@ -121,16 +121,19 @@ bool Mixer::StepMusic(Synth* synth) {
 void Mixer::MixBlock() {
   block_.fill(0);
   Synth* const synth = synth_.load(std::memory_order_acquire);
-  if (StepMusic(synth)) ringing_ = kRingSeconds * rate_ / kBlockFrames;
+  sounds_ = StepMusic(synth);
+  if (sounds_) ringing_ = kRingSeconds * rate_ / kBlockFrames;
   if (synth != nullptr && ringing_ > 0) {
     synth->Render(block_);
     --ringing_;
+    sounds_ = true;
   }
   for (size_t i = 0; i < channels_.size(); ++i) {
     Channel& channel = channels_[i];
     if (channel.Effect) channel.Effect->Mix(block_);
     const bool playing = (channel.Effect && channel.Effect->Playing()) ||
                          (channel.Music && channel.Music->Playing());
+    sounds_ = sounds_ || playing;
     if (!playing) ended_[i].store(channel.Start, std::memory_order_release);
   }
   for (Channel& channel : leaving_) {
@@ -142,10 +145,11 @@ void Mixer::MixBlock() {
     channel = Channel();
   }
   std::erase_if(leaving_, [](const Channel& channel) { return !channel.Effect && !channel.Music; });
+  sounds_ = sounds_ || !leaving_.empty();
   limiter_.Process(block_);
 }
 
-void Mixer::Pull(float* out, size_t frames, TimePoint from) {
+bool Mixer::Pull(float* out, size_t frames, TimePoint from) {
   TakeMessages();
   for (size_t done = 0; frames > 0;) {
     if (used_ == kBlock) {
@@ -163,6 +167,7 @@ void Mixer::Pull(float* out, size_t frames, TimePoint from) {
     done += count;
     frames -= count;
   }
+  return sounds_ || !taken_.empty();
 }
 
 }  // namespace orvane

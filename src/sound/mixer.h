@@ -46,8 +46,9 @@ class Mixer {
 
   // The playing side: writes the next frames, left and right in turn, within -1 to 1. `from` is the
   // time that the first of them stands for: a command that came before it takes effect at once, a
-  // later one as much later, to the block, or in the pulls to come.
-  void Pull(float* out, size_t frames, TimePoint from = TimePoint::max());
+  // later one as much later, to the block, or in the pulls to come. Returns whether anything plays,
+  // dies away or is still to take effect.
+  bool Pull(float* out, size_t frames, TimePoint from = TimePoint::max());
 
  private:
   struct Message {
@@ -93,6 +94,7 @@ class Mixer {
   Block block_{};
   size_t used_ = static_cast<size_t>(kBlockFrames);  // frames of the block that are pulled already
   int ringing_ = 0;                                  // blocks that the last notes may still need
+  bool sounds_ = false;                              // whether the block is more than silence
 };
 
 }  // namespace orvane

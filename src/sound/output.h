@@ -10,9 +10,10 @@ namespace orvane {
 
 // Writes the next frames, left and right in turn, within -1 to 1; `from` is the time that the first
 // of them stands for: what is asked for later than that shall be heard as much later. Called on a
-// thread of the output's own, from its opening until it is destroyed.
+// thread of the output's own, from its opening until it is destroyed. Returns whether anything
+// plays: while nothing does, it may be called more seldom.
 using PullFunction =
-    std::function<void(float* out, std::size_t frames, std::chrono::steady_clock::time_point from)>;
+    std::function<bool(float* out, std::size_t frames, std::chrono::steady_clock::time_point from)>;
 
 class Output {
  public:

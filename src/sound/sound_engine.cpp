@@ -82,11 +82,12 @@ class SoundEngine::Machine {
     jobs_.Post([this] { OpenOutput(); });
   }
 
-  // Without a time all that was asked for takes effect at once.
-  void Pull(float* out, size_t frames, Mixer::TimePoint from = Mixer::TimePoint::max()) {
+  // Without a time all that was asked for takes effect at once. Returns whether anything plays.
+  bool Pull(float* out, size_t frames, Mixer::TimePoint from = Mixer::TimePoint::max()) {
     if (log_) log_->Pulled(frames, from);
-    mixer_.Pull(out, frames, from);
+    const bool plays = mixer_.Pull(out, frames, from);
     if (recorder_) recorder_->Write(out, frames);
+    return plays;
   }
 
   void Note(const std::string& what) {
@@ -122,7 +123,7 @@ class SoundEngine::Machine {
 
 void SoundEngine::Machine::OpenOutput() {
   const PullFunction pull = [this](float* out, size_t frames, Mixer::TimePoint from) {
-    Pull(out, frames, from);
+    return Pull(out, frames, from);
   };
   if (options_.Plays == SoundOptions::Sink::Device) output_ = OpenDevice(SoundEngine::Rate, pull);
   audible_ = output_ != nullptr || recorder_;

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <filesystem>
+#include <mutex>
 #include <thread>
 
 #include "src/platform/path_text.h"
@@ -113,6 +114,7 @@ TEST(ClockOutput, WhatAMachineHasMissedBeyondHalfASecondIsLeftOut) {
     const auto output = OpenClock(1000, [&](float* /*out*/, size_t frames, auto /*from*/) {
       if (calls++ == 0) std::this_thread::sleep_for(milliseconds(1500));
       most = std::max(most.load(), frames);
+      return true;
     });
     EXPECT_EQ(output->Delay(), 0);
     for (int i = 0; i < 1000 && calls < 5; ++i) std::this_thread::sleep_for(milliseconds(10));
@@ -120,6 +122,33 @@ TEST(ClockOutput, WhatAMachineHasMissedBeyondHalfASecondIsLeftOut) {
   EXPECT_GE(calls, 5);
   EXPECT_GT(most, 400u);
   EXPECT_LE(most, 500u);
+}
+
+TEST(ClockOutput, AsksMoreSeldomWhereNothingPlays) {
+  // The shortest time between two pulls of ten.
+  const auto shortest = [](bool plays) {
+    using TimePoint = std::chrono::steady_clock::time_point;
+    std::mutex mutex;
+    std::vector<TimePoint> pulls;
+    {
+      const auto output = OpenClock(1000, [&](float* /*out*/, size_t /*frames*/, auto /*from*/) {
+        const std::scoped_lock lock(mutex);
+        pulls.push_back(std::chrono::steady_clock::now());
+        return plays;
+      });
+      for (int i = 0; i < 1000; ++i) {
+        std::this_thread::sleep_for(milliseconds(10));
+        const std::scoped_lock lock(mutex);
+        if (pulls.size() >= 10) break;
+      }
+    }
+    EXPECT_GE(pulls.size(), 10u);
+    auto found = TimePoint::duration::max();
+    for (size_t i = 1; i < pulls.size(); ++i) found = std::min(found, pulls[i] - pulls[i - 1]);
+    return found;
+  };
+  EXPECT_LT(shortest(true), milliseconds(80));
+  EXPECT_GE(shortest(false), milliseconds(99));
 }
 
 TEST(PlayLog, BeginsOnceAndTellsNothingBefore) {

@@ -120,6 +120,34 @@ TEST(Mixer, SeveralStartsBetweenTwoBlocksAreOne) {
   EXPECT_NEAR(PeakOf(Pull(mixer, 0.2)), 0.3F, 0.01F);
 }
 
+// Whether anything plays behind a pull of so many seconds.
+bool Plays(Mixer& mixer, double seconds, Mixer::TimePoint from = Mixer::TimePoint::max()) {
+  std::vector<float> out(2 * static_cast<size_t>(seconds * kRate));
+  return mixer.Pull(out.data(), out.size() / 2, from);
+}
+
+TEST(Mixer, APullTellsWhetherAnythingPlays) {
+  Mixer mixer(kRate);
+  EXPECT_FALSE(Plays(mixer, 0.1));
+  mixer.Open(9, ToneClip(440, 0.2, 0.5));
+  mixer.Open(0, ReadyPiece(2));
+  EXPECT_FALSE(Plays(mixer, 0.1)) << "both stand";
+  mixer.Play(9);
+  EXPECT_TRUE(Plays(mixer, 0.1));
+  EXPECT_FALSE(Plays(mixer, 0.15)) << "the effect has ended";
+  mixer.Play(9);
+  EXPECT_TRUE(Plays(mixer, 0.1));
+  mixer.Close(9);
+  EXPECT_TRUE(Plays(mixer, 0.002)) << "it dies away";
+  EXPECT_FALSE(Plays(mixer, 0.1));
+  mixer.Play(0);
+  EXPECT_TRUE(Plays(mixer, 3.8)) << "music that only counts";
+  EXPECT_FALSE(Plays(mixer, 0.3)) << "and that has ended";
+  mixer.Play(0);
+  EXPECT_TRUE(Plays(mixer, 0.05, std::chrono::steady_clock::now() - std::chrono::seconds(1)))
+      << "one that is still to begin";
+}
+
 // The first frame that is not silent, of a pull that begins to stand for the time `from`.
 size_t OnsetOf(Mixer& mixer, size_t frames, Mixer::TimePoint from) {
   std::vector<float> out(2 * frames);

@@ -68,6 +68,7 @@ TEST(Device, AsksForFramesUntilItIsClosed) {
       EXPECT_LE(from, std::chrono::steady_clock::now());
       std::fill_n(out, 2 * count, 0.25F);
       frames += count;
+      return false;
     });
     if (!output) GTEST_SKIP() << "SDL cannot play into a file here";
     EXPECT_GT(output->Delay(), 0);
@@ -83,14 +84,14 @@ TEST(Device, AsksForFramesUntilItIsClosed) {
 TEST(Device, OneThatMakesNoSoundIsNone) {
   for (const char* driver : {"dummy", "none such"}) {
     const FileForDevice file(driver);
-    EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) {}), nullptr) << driver;
+    EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) { return true; }), nullptr) << driver;
   }
 }
 
 TEST(Device, OneThatCannotBeOpenedIsNone) {
   const FileForDevice file("disk");
   SetVariable("SDL_DISKAUDIOFILE", "/no/such/folder/device.raw");
-  EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) {}), nullptr);
+  EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) { return true; }), nullptr);
 }
 
 TEST(Device, OneThatWasPulledOutIsLookedForUntilThereIsOne) {
@@ -103,6 +104,7 @@ TEST(Device, OneThatWasPulledOutIsLookedForUntilThereIsOne) {
     auto opened = OpenDevice(kRate, [&](float* out, size_t count, auto) {
       std::fill_n(out, 2 * count, level);
       ++pulls;
+      return false;
     });
     SetVariable("SDL_DISKAUDIOFILE", "/no/such/folder/device.raw");
     return opened;
@@ -123,7 +125,7 @@ TEST(Device, WhereTheSystemHasNoneNothingIsSaid) {
   if (std::filesystem::exists("/dev/snd")) GTEST_SKIP() << "there is one here";
   const FileForDevice file("alsa");
   testing::internal::CaptureStderr();
-  EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) {}), nullptr);
+  EXPECT_EQ(OpenDevice(kRate, [](float*, size_t, auto) { return true; }), nullptr);
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 

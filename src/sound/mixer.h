@@ -94,7 +94,7 @@ class Mixer {
   Block block_{};
   size_t used_ = static_cast<size_t>(kBlockFrames);  // frames of the block that are pulled already
   int ringing_ = 0;                                  // blocks that the last notes may still need
-  bool sounds_ = false;                              // whether the block is more than silence
+  bool sounds_ = false;                              // whether anything plays in the block
 };
 
 }  // namespace orvane

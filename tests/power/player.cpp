@@ -21,12 +21,12 @@ void Player::Click(const char* screen, const char* control) {
 }
 
 void Player::Choose(const char* screen, int row) {
-  EXPECT_EQ(program_->Choose(Of(screen, "File1"), row), "");
+  EXPECT_EQ(program_->Choose(FilesOf(screen), row), "");
 }
 
 std::vector<std::string> Player::OpenSaves() {
   Click("Main", "m11");
-  return static_cast<const FileListBox&>(Of("Load", "File1")).Rows;
+  return FilesOf("Load").Rows;
 }
 
 bool Player::GoesOn(const std::string& words) {
@@ -38,15 +38,13 @@ bool Player::GoesOn(const std::string& words) {
 }
 
 std::optional<std::string> Player::Look(int row) {
-  looked_at_ =
-      static_cast<const FileListBox&>(Of("Load", "File1")).Rows.at(static_cast<std::size_t>(row));
   Choose("Load", row);
-  return GoesOn(looked_at_) ? std::optional(Record()) : std::nullopt;
+  return GoesOn(FilesOf("Load").FileName()) ? std::optional(Record()) : std::nullopt;
 }
 
 bool Player::Load() {
   Click("Load", "OKButton");
-  if (!GoesOn(looked_at_)) return false;
+  if (!GoesOn(FilesOf("Load").FileName())) return false;
   EXPECT_FALSE(On("Load").IsVisible());
   EXPECT_TRUE(static_cast<const Timer&>(Of("Main", "Timer1")).Ticks());
   return true;
@@ -54,7 +52,7 @@ bool Player::Load() {
 
 bool Player::Save(const std::string& slot) {
   Click("Main", "m12");
-  const auto& names = static_cast<const FileListBox&>(Of("Save", "File1")).Rows;
+  const auto& names = FilesOf("Save").Rows;
   const auto row = std::find(names.begin(), names.end(), slot);
   Choose("Save", static_cast<int>(row - names.begin()));
   Click("Save", "OKButton");

@@ -40,6 +40,9 @@ class Player {
  private:
   Screen& On(const char* screen) const { return *program_->TheStage().Find(screen); }
   Control& Of(const char* screen, const char* control) const { return *On(screen).Find(control); }
+  FileListBox& FilesOf(const char* dialog) const {
+    return static_cast<FileListBox&>(Of(dialog, "File1"));
+  }
   void Click(const char* screen, const char* control);
   void Choose(const char* screen, int row);
   // Whether the game goes on. Otherwise it has said so in a box with these words, and has ended.
@@ -49,7 +52,6 @@ class Player {
   NoChance luck_;
   KeptPlay play_;
   std::unique_ptr<Program> program_;
-  std::string looked_at_;
 };
 
 }  // namespace orvane::power

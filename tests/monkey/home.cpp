@@ -53,9 +53,8 @@ class Way {
   bool StepInBattle(const Screen& battle) {
     if (Tick(battle, "Timer1")) return true;
     if (IsShown(*battle.Find("Picture10"))) return Done(program_.Click(*battle.Find("Picture1")));
-    for (Control* control : battle.Controls()) {
-      if (control->Kind() != ControlKind::List || !CanClick(*control)) continue;
-      auto& list = static_cast<ListBox&>(*control);
+    if (const auto lists = UsableOf(battle, ControlKind::List); !lists.empty()) {
+      auto& list = static_cast<ListBox&>(*lists.front());
       return list.Name() == "List2" ? ChooseTarget(list) : Done(program_.Choose(list, 0));
     }
     if (CanClick(*battle.Find("Command1"))) return Done(program_.Click(*battle.Find("Command1")));
@@ -63,12 +62,8 @@ class Way {
     if (Done(program_.SelectTab(tabs, tabs.Tab() ^ 1))) {
       return CanClick(*battle.Find("Command1"));
     }
-    for (Control* control : battle.Controls()) {
-      if (control->Kind() == ControlKind::Button && CanClick(*control)) {
-        return Done(program_.Click(*control));
-      }
-    }
-    return false;
+    const auto buttons = UsableOf(battle, ControlKind::Button);
+    return !buttons.empty() && Done(program_.Click(*buttons.front()));
   }
 
   bool StepInEnding(Screen& ending) {
@@ -95,6 +90,14 @@ class Way {
 };
 
 }  // namespace
+
+std::vector<Control*> UsableOf(const Screen& screen, ControlKind kind) {
+  std::vector<Control*> usable;
+  for (Control* control : screen.Controls()) {
+    if (control->Kind() == kind && CanClick(*control)) usable.push_back(control);
+  }
+  return usable;
+}
 
 bool IsHome(Program& program) {
   const Stage& stage = program.TheStage();

@@ -2,10 +2,14 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "src/game/program.h"
 
 namespace orvane::monkey {
+
+// The controls of one kind on a screen that a player can click now, in the screen's order.
+std::vector<Control*> UsableOf(const Screen& screen, ControlKind kind);
 
 // Whether the party can walk, or the title stands.
 bool IsHome(Program& program);

@@ -295,14 +295,9 @@ void Life::TakeTurn() {
       Do([&](Program& p) { p.Tick(action); });
       continue;
     }
-    std::vector<ListBox*> lists;
-    for (Control* control : battle.Controls()) {
-      if (control->Kind() == ControlKind::List && CanClick(*control)) {
-        lists.push_back(static_cast<ListBox*>(control));
-      }
-    }
+    const auto lists = UsableOf(battle, ControlKind::List);
     if (lists.empty()) return;
-    ListBox& list = *dice_.OneOf(lists);
+    auto& list = static_cast<ListBox&>(*dice_.OneOf(lists));
     const int last = std::max(0, list.ListCount() - 1);
     const int row = dice_.OnceIn(8) ? 0 : dice_.Between(std::min(1, last), last);  // 0 leads back
     Do([&](Program& p) { p.Choose(list, row); });

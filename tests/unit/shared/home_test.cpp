@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "src/platform/temporary_folder.h"
 #include "src/platform/whole_file.h"
 
@@ -15,7 +13,7 @@ class HomeTest : public testing::Test {
  protected:
   HomeTest() : base_(MakeTemporaryFolder("orvane-home-")) {
     std::filesystem::create_directory(base_ / "installed");
-    std::ofstream(base_ / "installed" / "Item.dat") << "items";
+    EXPECT_TRUE(WriteWholeFile(base_ / "installed" / "Item.dat", "items"));
   }
   ~HomeTest() override { RemoveFolder(base_); }
 
